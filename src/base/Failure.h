@@ -1,0 +1,36 @@
+#pragma once
+
+#include <exception>
+#include <string_view>
+
+namespace qismora {
+
+/// A run-time failure of the system, known by its number. Whoever can answer for it catches it; what
+/// no handler takes ends its event and is told to the user.
+class Failure : public std::exception {
+ public:
+  explicit Failure(int number) : Number(number) {}
+
+  const char* what() const noexcept override { return Description().data(); }
+
+  /// The words that belong to the number.
+  std::string_view Description() const noexcept;
+
+  int Number;
+};
+
+inline constexpr int InvalidCall = 5;
+inline constexpr int Overflow = 6;
+inline constexpr int SubscriptOutOfRange = 9;
+inline constexpr int DivisionByZero = 11;
+inline constexpr int TypeMismatch = 13;
+inline constexpr int FileNotFound = 53;
+inline constexpr int FileAlreadyOpen = 55;
+inline constexpr int FileAlreadyExists = 58;
+inline constexpr int InputPastEnd = 62;
+inline constexpr int PermissionDenied = 70;
+inline constexpr int PathFileAccess = 75;
+inline constexpr int PathNotFound = 76;
+inline constexpr int InvalidProperty = 380;
+
+}  // namespace qismora

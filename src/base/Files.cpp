@@ -1,0 +1,93 @@
+#include "base/Files.h"
+
+#include <filesystem>
+#include <random>
+
+#include "base/Failure.h"
+#include "base/Text.h"
+
+namespace qismora {
+
+namespace fs = std::filesystem;
+
+namespace {
+
+/// Runs an operation of the file system; its errors are failures of the system.
+template <class Operation>
+auto Guarded(Operation operation) {
+  try {
+    return operation();
+  } catch (const fs::filesystem_error&) {
+    throw Failure(PathFileAccess);
+  }
+}
+
+}  // namespace
+
+TextFile::TextFile(const std::string& path) : stream_(path, std::ios::binary | std::ios::trunc) {
+  if (!stream_) throw Failure(PathFileAccess);
+}
+
+void TextFile::Print(std::string_view text) {
+  stream_ << text << CRLF;
+  if (!stream_) throw Failure(PathFileAccess);
+}
+
+void TextFile::Close() {
+  stream_.close();
+  if (!stream_) throw Failure(PathFileAccess);
+}
+
+std::string ReadWholeFile(const std::string& path) {
+  std::ifstream stream(path, std::ios::binary);
+  if (!stream) throw Failure(FileNotFound);
+  return {std::istreambuf_iterator<char>(stream), {}};
+}
+
+bool IsFileName(std::string_view name) {
+  return !name.empty() && name != "." && name != ".." &&
+         name.find_first_of(std::string_view("/\\\0", 3)) == std::string_view::npos;
+}
+
+bool FolderHolds(const std::string& folder, std::string_view name) {
+  return Guarded([&] {
+    for (const fs::directory_entry& entry : fs::directory_iterator(folder)) {
+      if (entry.path().filename().string() == name) return true;
+    }
+    return false;
+  });
+}
+
+void RenameFile(const std::string& from, const std::string& to, Replace replace) {
+  Guarded([&] {
+    if (replace == Replace::No && fs::exists(fs::symlink_status(to))) throw Failure(FileAlreadyExists);
+    fs::rename(from, to);
+  });
+}
+
+void CopyWholeFile(const std::string& from, const std::string& to) {
+  Guarded([&] { fs::copy_file(from, to); });
+}
+
+void DeleteFile(const std::string& path) {
+  Guarded([&] { fs::remove(path); });
+}
+
+void WriteSafely(Folders& places, const std::string& path, std::string_view content) {
+  const std::string unfinished =
+      (fs::path(path).parent_path() / Join(".report-", std::to_string(std::random_device()()), ".part")).string();
+  try {
+    std::ofstream stream(unfinished, std::ios::binary | std::ios::trunc);
+    stream << content;
+    stream.close();
+    if (!stream) throw Failure(PathFileAccess);
+    places.WriteThrough(unfinished);
+    RenameFile(unfinished, path, Replace::Yes);
+  } catch (const Failure&) {
+    std::error_code ignored;
+    fs::remove(unfinished, ignored);
+    throw;
+  }
+}
+
+}  // namespace qismora

@@ -1,0 +1,45 @@
+#pragma once
+
+#include <fstream>
+#include <string>
+#include <string_view>
+
+#include "base/Outside.h"
+
+namespace qismora {
+
+/// A text file that is open for output; its content is replaced. What cannot be written is the path failure.
+/// The file is closed when the object goes, with what was printed up to then.
+class TextFile {
+ public:
+  explicit TextFile(const std::string& path);
+
+  /// Writes the text and a line break.
+  void Print(std::string_view text);
+  void Close();
+
+ private:
+  std::ofstream stream_;
+};
+
+/// The whole content of a file.
+std::string ReadWholeFile(const std::string& path);
+
+/// Whether the text names a file in its folder: no separator of any platform, not "." or "..".
+bool IsFileName(std::string_view name);
+
+/// Whether the folder holds an entry of exactly this name.
+bool FolderHolds(const std::string& folder, std::string_view name);
+
+/// Gives a file a new name. A file of that name is the failure 58, unless it may be replaced; then it stands
+/// until the new one is in its place.
+enum class Replace { No, Yes };
+void RenameFile(const std::string& from, const std::string& to, Replace replace);
+
+void CopyWholeFile(const std::string& from, const std::string& to);
+void DeleteFile(const std::string& path);
+
+/// Writes a whole file. An earlier one of the same name stands until the new content is complete on the disk.
+void WriteSafely(Folders& places, const std::string& path, std::string_view content);
+
+}  // namespace qismora

@@ -1,0 +1,118 @@
+#pragma once
+
+#include <cmath>
+#include <compare>
+#include <concepts>
+#include <cstdint>
+#include <limits>
+
+#include "base/Failure.h"
+
+namespace qismora {
+
+/// A signed whole number of fixed width. What leaves its range is the overflow failure, raised at the
+/// operation that leaves it; it never wraps.
+template <std::signed_integral Stored>
+class Whole {
+ public:
+  constexpr Whole() = default;
+  constexpr explicit Whole(std::int64_t value) : value_(Checked(value)) {}
+
+  constexpr std::int64_t Value() const { return value_; }
+
+  Whole& operator+=(Whole other) { return *this = *this + other; }
+  Whole& operator-=(Whole other) { return *this = *this - other; }
+  Whole& operator*=(Whole other) { return *this = *this * other; }
+
+  friend constexpr Whole operator-(Whole a) { return Whole(-a.Value()); }
+  friend constexpr Whole operator+(Whole a, Whole b) { return Whole(a.Value() + b.Value()); }
+  friend constexpr Whole operator-(Whole a, Whole b) { return Whole(a.Value() - b.Value()); }
+  friend constexpr Whole operator*(Whole a, Whole b) { return Whole(a.Value() * b.Value()); }
+
+  // Plain numbers of the source take part as numbers of the same width: 2 * Sons is an Integer.
+  friend constexpr Whole operator+(Whole a, int b) { return a + Whole(b); }
+  friend constexpr Whole operator-(Whole a, int b) { return a - Whole(b); }
+  friend constexpr Whole operator*(Whole a, int b) { return a * Whole(b); }
+  friend constexpr Whole operator*(int a, Whole b) { return Whole(a) * b; }
+
+  friend constexpr bool operator==(Whole, Whole) = default;
+  friend constexpr auto operator<=>(Whole, Whole) = default;
+  friend constexpr bool operator==(Whole a, std::int64_t b) { return a.Value() == b; }
+  friend constexpr auto operator<=>(Whole a, std::int64_t b) { return a.Value() <=> b; }
+
+ private:
+  static constexpr Stored Checked(std::int64_t value) {
+    if (value < std::numeric_limits<Stored>::min() || value > std::numeric_limits<Stored>::max()) {
+      throw Failure(Overflow);
+    }
+    return static_cast<Stored>(value);
+  }
+
+  Stored value_ = 0;
+};
+
+using Integer = Whole<std::int16_t>;
+using Long = Whole<std::int32_t>;
+
+/// An Integer beside a Long is counted as a Long.
+constexpr Long ToLong(Integer value) { return Long(value.Value()); }
+/// A Long as an Integer; beyond its range it is the overflow failure.
+constexpr Integer ToInteger(Long value) { return Integer(value.Value()); }
+
+/// A 64-bit float that is always a number: division by zero and a result beyond the range are
+/// failures, so that no infinity ever enters a case.
+class Double {
+ public:
+  constexpr Double() = default;
+  constexpr Double(double value) : value_(Checked(value)) {}
+  constexpr Double(int value) : value_(value) {}
+  template <std::signed_integral Stored>
+  constexpr Double(Whole<Stored> value) : value_(static_cast<double>(value.Value())) {}
+
+  constexpr double Value() const { return value_; }
+
+  friend constexpr Double operator+(Double a, Double b) { return a.value_ + b.value_; }
+  friend constexpr Double operator-(Double a, Double b) { return a.value_ - b.value_; }
+  friend constexpr Double operator*(Double a, Double b) { return a.value_ * b.value_; }
+  friend constexpr Double operator/(Double a, Double b) {
+    if (b.value_ == 0.0) throw Failure(DivisionByZero);
+    return a.value_ / b.value_;
+  }
+  Double& operator+=(Double other) { return *this = *this + other; }
+
+  friend constexpr bool operator==(Double a, Double b) { return a.value_ == b.value_; }
+  friend constexpr auto operator<=>(Double a, Double b) { return a.value_ <=> b.value_; }
+
+ private:
+  static constexpr double Checked(double value) {
+    constexpr double largest = std::numeric_limits<double>::max();
+    if (!(value >= -largest && value <= largest)) throw Failure(Overflow);
+    return value;
+  }
+
+  double value_ = 0.0;
+};
+
+/// The quotient of two whole numbers is a real number.
+template <std::signed_integral Stored>
+constexpr Double operator/(Whole<Stored> a, Whole<Stored> b) {
+  return Double(a) / Double(b);
+}
+template <std::signed_integral Stored>
+constexpr Double operator/(Whole<Stored> a, int b) {
+  return Double(a) / Double(b);
+}
+
+/// The nearest whole number, a tie going to the even neighbour (2.5 gives 2, 3.5 gives 4).
+/// Beyond the range of the type it is the overflow failure.
+template <class Number>
+Number RoundTo(Double value) {
+  const double whole = std::nearbyint(value.Value());
+  if (!(std::abs(whole) < 0x1p62)) throw Failure(Overflow);
+  return Number(static_cast<std::int64_t>(whole));
+}
+
+static_assert(Integer(32767) == 32767 && Integer(-32768) == -32768);
+static_assert(Long(2147483647) == 2147483647 && Long(-2147483648LL) == -2147483648LL);
+
+}  // namespace qismora

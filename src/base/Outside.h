@@ -1,0 +1,82 @@
+#pragma once
+
+#include <optional>
+#include <string>
+
+namespace qismora {
+
+// The outside world comes in through these ports. Each has one real implementation among the windows and
+// one in memory for tests.
+
+struct DateTime {
+  int Year = 0;
+  int Month = 0;
+  int Day = 0;
+  int Hour = 0;
+  int Minute = 0;
+  int Second = 0;
+
+  bool operator==(const DateTime&) const = default;
+};
+
+/// The local date and time.
+class Clock {
+ public:
+  virtual ~Clock() = default;
+  virtual DateTime Now() = 0;
+};
+
+enum class BoxStyle { Plain, Information, Warning, Critical };
+enum class BoxButtons { Ok, YesNo, YesNoCancel };
+enum class Answer { Ok, Yes, No, Cancel };
+
+/// Modal message boxes. Lines of a text are parted by CRLF; the title is the application's.
+class MessageBoxes {
+ public:
+  virtual ~MessageBoxes() = default;
+  virtual Answer Show(BoxStyle style, BoxButtons buttons, const std::string& text) = 0;
+
+  void Tell(BoxStyle style, const std::string& text) { Show(style, BoxButtons::Ok, text); }
+};
+
+/// The common dialog that asks for the name of a file to save. Nothing when the user cancels.
+class SaveDialog {
+ public:
+  virtual ~SaveDialog() = default;
+  virtual std::optional<std::string> AskPath(const std::string& suggestedName, const std::string& filter) = 0;
+};
+
+/// The per-user settings: texts addressed by application, section and key. A missing one is empty.
+class Settings {
+ public:
+  virtual ~Settings() = default;
+  virtual std::string Read(const std::string& application, const std::string& section, const std::string& key) = 0;
+  virtual void Write(const std::string& application, const std::string& section, const std::string& key,
+                     const std::string& value) = 0;
+};
+
+/// The folders that files go to, without a separator at the end.
+class Folders {
+ public:
+  virtual ~Folders() = default;
+  /// Where reports lie: the current directory, or the user's documents where that cannot be written to.
+  virtual std::string Reports() = 0;
+  /// Where the program's own files lie.
+  virtual std::string Application() = 0;
+  /// Has a closed file written through to the disk, as far as the platform can.
+  virtual void WriteThrough(const std::string& path) { static_cast<void>(path); }
+};
+
+/// All of it, handed to the screens.
+struct Outside {
+  Clock& Time;
+  MessageBoxes& Boxes;
+  SaveDialog& Dialog;
+  Settings& Store;
+  Folders& Places;
+};
+
+/// The application's title: it titles the message boxes, and two of the settings stand under it.
+inline constexpr const char* ApplicationTitle = "Islamic Laws of Inheritance";
+
+}  // namespace qismora

@@ -1,0 +1,159 @@
+#include "base/Text.h"
+
+#include <algorithm>
+#include <array>
+#include <charconv>
+#include <cmath>
+#include <locale>
+#include <span>
+#include <stdexcept>
+
+namespace qismora {
+
+Piece::Piece(int number) {
+  const auto end = std::to_chars(std::begin(digits_), std::end(digits_), number).ptr;
+  words_ = std::string_view(digits_, static_cast<std::size_t>(end - digits_));
+}
+
+std::string JoinPieces(std::initializer_list<Piece> pieces) {
+  std::size_t size = 0;
+  for (const Piece& piece : pieces) size += piece.Words().size();
+  std::string text;
+  text.reserve(size);
+  for (const Piece& piece : pieces) text += piece.Words();
+  return text;
+}
+
+std::string F(Double amount) {
+  const double whole = std::round(amount.Value());
+  // The longest amount has 309 digits and a sign.
+  std::array<char, 320> digits{};
+  const auto end =
+      std::to_chars(digits.data(), digits.data() + digits.size(), std::abs(whole), std::chars_format::fixed, 0)
+          .ptr;
+  std::string text(amount < 0 ? "-" : "");
+  return text.append(digits.data(), end);
+}
+
+std::string GeneralNumber(Double value) {
+  if (value == 0) return "0";
+  std::array<char, 32> digits{};
+  const auto end = std::to_chars(digits.data(), digits.data() + digits.size(), value.Value(),
+                                 std::chars_format::general, 15)
+                       .ptr;
+  std::string text(digits.data(), end);
+  if (const auto exponent = text.find('e'); exponent != std::string::npos) text[exponent] = 'E';
+  return text;
+}
+
+std::string TwoDigits(int number) {
+  return Join(number < 10 ? "0" : "", number);
+}
+
+namespace {
+
+// Letters whose other case is more than one letter; all others change one by one.
+struct Spelling {
+  char32_t Letter;
+  std::string_view Words;
+};
+constexpr Spelling upperSpellings[] = {
+    {U'ß', "SS"},  {U'ŉ', "ʼN"},  {U'ǰ', "J̌"},   {U'ΐ', "Ϊ́"},  {U'ΰ', "Ϋ́"},  {U'և', "ԵՒ"},
+    {U'ẖ', "H̱"}, {U'ẗ', "T̈"}, {U'ẘ', "W̊"},  {U'ẙ', "Y̊"}, {U'ẚ', "Aʾ"}, {U'ﬀ', "FF"},
+    {U'ﬁ', "FI"},  {U'ﬂ', "FL"},  {U'ﬃ', "FFI"}, {U'ﬄ', "FFL"}, {U'ﬅ', "ST"}, {U'ﬆ', "ST"},
+};
+constexpr Spelling lowerSpellings[] = {{U'İ', "i̇"}};
+
+// One letter read from the text, and how many bytes it takes. A byte that is no UTF-8 stands for itself
+// and is kept as it is.
+struct Letter {
+  char32_t Code = 0;
+  std::size_t Bytes = 1;
+  bool Valid = false;
+};
+
+Letter FirstLetter(std::string_view text) {
+  const auto byte = [&](std::size_t i) { return static_cast<unsigned char>(text[i]); };
+  const unsigned char lead = byte(0);
+  if (lead < 0x80) return {lead, 1, true};
+  const std::size_t bytes = lead >= 0xF0 ? 4 : lead >= 0xE0 ? 3 : lead >= 0xC2 ? 2 : 0;
+  if (bytes == 0 || bytes > text.size()) return {};
+  auto code = static_cast<char32_t>(lead & (0xFF >> (bytes + 1)));
+  for (std::size_t i = 1; i < bytes; ++i) {
+    if ((byte(i) & 0xC0) != 0x80) return {};
+    code = (code << 6) | (byte(i) & 0x3F);
+  }
+  return {code, bytes, true};
+}
+
+void AppendLetter(std::string& text, char32_t code) {
+  const auto tail = [&](int shift) { text += static_cast<char>(0x80 | ((code >> shift) & 0x3F)); };
+  if (code < 0x80) {
+    text += static_cast<char>(code);
+  } else if (code < 0x800) {
+    text += static_cast<char>(0xC0 | (code >> 6));
+    tail(0);
+  } else if (code < 0x10000) {
+    text += static_cast<char>(0xE0 | (code >> 12));
+    tail(6);
+    tail(0);
+  } else {
+    text += static_cast<char>(0xF0 | (code >> 18));
+    tail(12);
+    tail(6);
+    tail(0);
+  }
+}
+
+const std::ctype<wchar_t>& Letters() {
+  static const std::locale unicode = [] {
+    try {
+      return std::locale("C.UTF-8");
+    } catch (const std::runtime_error&) {
+      return std::locale::classic();
+    }
+  }();
+  return std::use_facet<std::ctype<wchar_t>>(unicode);
+}
+
+template <class OneByOne>
+std::string ChangeCase(std::string_view text, std::span<const Spelling> spellings, OneByOne change) {
+  std::string changed;
+  changed.reserve(text.size());
+  while (!text.empty()) {
+    const Letter letter = FirstLetter(text);
+    const auto* spelling = std::ranges::find(spellings.data(), spellings.data() + spellings.size(), letter.Code,
+                                             &Spelling::Letter);
+    if (!letter.Valid) {
+      changed += text.front();
+    } else if (spelling != spellings.data() + spellings.size()) {
+      changed += spelling->Words;
+    } else {
+      AppendLetter(changed, static_cast<char32_t>(change(static_cast<wchar_t>(letter.Code))));
+    }
+    text.remove_prefix(letter.Bytes);
+  }
+  return changed;
+}
+
+}  // namespace
+
+std::string UpperCase(std::string_view text) {
+  return ChangeCase(text, upperSpellings, [](wchar_t letter) { return Letters().toupper(letter); });
+}
+
+std::string LowerCase(std::string_view text) {
+  return ChangeCase(text, lowerSpellings, [](wchar_t letter) { return Letters().tolower(letter); });
+}
+
+std::string WithoutEnd(std::string_view text, int characters) {
+  for (int i = 0; i < characters; ++i) {
+    if (text.empty()) throw Failure(InvalidCall);
+    // The bytes 10xxxxxx continue a character.
+    while (text.size() > 1 && (static_cast<unsigned char>(text.back()) & 0xC0) == 0x80) text.remove_suffix(1);
+    text.remove_suffix(1);
+  }
+  return std::string(text);
+}
+
+}  // namespace qismora

@@ -1,0 +1,62 @@
+#pragma once
+
+#include <initializer_list>
+#include <string>
+#include <string_view>
+
+#include "base/Numbers.h"
+
+namespace qismora {
+
+inline constexpr std::string_view CRLF = "\r\n";
+inline constexpr std::string_view TAB = "\t";
+
+/// A piece of a text that is being joined: words, or a whole number in plain digits.
+class Piece {
+ public:
+  Piece(const char* words) : words_(words) {}
+  Piece(std::string_view words) : words_(words) {}
+  Piece(const std::string& words) : words_(words) {}
+  Piece(int number);
+  Piece(Integer number) : Piece(static_cast<int>(number.Value())) {}
+  Piece(Long number) : Piece(static_cast<int>(number.Value())) {}
+  /// A control's text or caption.
+  template <class Property>
+    requires requires(const Property& property) { property.Get().size(); }
+  Piece(const Property& property) : words_(property.Get()) {}
+  Piece(const Piece&) = delete;
+  Piece& operator=(const Piece&) = delete;
+
+  std::string_view Words() const { return words_; }
+
+ private:
+  char digits_[12];
+  std::string_view words_;
+};
+
+/// The pieces in the order given, with nothing between them.
+std::string JoinPieces(std::initializer_list<Piece> pieces);
+template <class... Pieces>
+std::string Join(const Pieces&... pieces) {
+  return JoinPieces({Piece(pieces)...});
+}
+
+/// The amount as a whole number of at least one digit, halves rounded away from zero. A negative
+/// amount keeps its sign even where it rounds to nothing: "-0". Only the text is rounded.
+std::string F(Double amount);
+
+/// The shortest text of a number with up to 15 significant digits; an exponent from 1E+15 upwards and
+/// below 1E-04.
+std::string GeneralNumber(Double value);
+
+/// A number of at least two digits: 7 gives "07".
+std::string TwoDigits(int number);
+
+/// The text in upper or lower case, by the rules of Unicode.
+std::string UpperCase(std::string_view text);
+std::string LowerCase(std::string_view text);
+
+/// The text less so many characters (not bytes) at its end. A shorter text is the invalid call failure.
+std::string WithoutEnd(std::string_view text, int characters);
+
+}  // namespace qismora
