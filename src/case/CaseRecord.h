@@ -1,0 +1,224 @@
+#pragma once
+
+#include <string>
+
+#include "base/Array.h"
+#include "base/Numbers.h"
+
+namespace qismora {
+
+/// What lives as long as the process.
+struct ApplicationLayer {
+  // How many heirs of each kind are alive. Father and the spouses are 1 or 0, or up to 4 wives.
+  Integer Husband;
+  Integer Wives;
+  Integer Sons;
+  Integer Daughters;
+  Integer GrandSons;
+  Integer GrandDaughters;
+  Integer GtGrandSons;
+  Integer GtGrandDaughters;
+  Integer Father;
+  Integer GrandFather;
+  Integer GtGrandFather;
+  Integer Mother;
+  Integer MothersMother;
+  Integer MothersMothersMother;
+  Integer FullBrothers;
+  Integer FullSisters;
+  Integer FathersMother;
+  Integer GrandFathersMother;
+  Integer FathersGrandMother;
+  Integer ConsSisters;
+  Integer ConsBrothers;
+  Integer UterineSisters;
+  Integer UterineBrothers;
+  // The males that stand beside son's daughters in the residue. Loading a case without such daughters
+  // leaves them alone, so they may hold the counts of an earlier case.
+  Integer AsabaGrandSons;
+  Integer AsabaGtGrandSons;
+
+  // The estate, in plain numbers of its currency.
+  Double GrossEstate;
+  Long FuneralExp;
+  Long Debts;
+  Long Wills;
+  Double NetEstate;
+
+  /// How many times a case was loaded, over all runs of the program.
+  Long ExecCount;
+
+  // The amount of each kind of heir, all heads together.
+  Double WifeShare;
+  Double EachWifeShare;
+  Double HusbandShare;
+  Double FatherShare;
+  Double MotherShare;
+  Double GrandMotherShare;
+  Double DaughterShare;
+  Double SonsDaughterShare;
+  Double SonsSonsDaughterShare;
+  Double FullBrotherShare;
+  Double FullSisterShare;
+  Double ConsSisterShare;
+  Double ConsBrotherShare;
+  Double UterineSisterShare;
+  Double UterineBrotherShare;
+
+  std::string WifeReport;
+  std::string HusbandReport;
+  std::string FatherReport;
+  std::string MotherReport;
+  std::string GrandMotherReport;
+  std::string DaughterReport;
+  std::string SonsDaughterReport;
+  std::string SonsSonsDaughterReport;
+  std::string FullBrotherReport;
+  std::string FullSisterReport;
+  std::string ConsSisterReport;
+  std::string ConsBrotherReport;
+  std::string UterineSisterReport;
+  std::string UterineBrotherReport;
+  std::string ResiduaryReport;
+
+  // The ultimate father: who he is, and his amount in the slot of the man he is.
+  std::string UltimateFatherName;
+  Double FatherAmount;
+  Double GrandFatherAmount;
+  Double GtGrandFatherAmount;
+
+  /// The spouse's amount as a whole number, for the mother's third of the rest.
+  Long SpouseShareWhole;
+
+  // The true grandmothers: their combination, their number, and the amount in the slot of one of them.
+  std::string GrandMotherGroup;
+  Integer GrandMotherCount;
+  Double FathersMotherAmount;
+  Double GrandFathersMotherAmount;
+  Double FathersGrandMotherAmount;
+  Double MothersMotherAmount;
+  Double MothersMothersMotherAmount;
+
+  // Work entries of the narrative tables: the spouse rules assemble them, and they keep their last text.
+  std::string EachWifeText;
+  std::string WifeWithGtGrandChildrenText;
+  std::string HusbandWithGtGrandChildrenText;
+
+  // What FindLCM takes and leaves.
+  Integer LcmCount;
+  Array<Integer, 10> LcmNum;
+  Array<Integer, 10> LcmDen;
+  Long LcmResult;
+};
+
+/// The outcomes of the sufficiency test.
+inline constexpr int NoAdjustment = 0;
+inline constexpr int AulBesideResiduary = 11;
+inline constexpr int Aul = 13;
+inline constexpr int Radd = 31;
+inline constexpr int SurplusToClassII = 33;
+
+/// What lives as long as the Case Study screen.
+struct ScreenLayer {
+  /// The loading of the case stopped on a hard failure. Whoever reads it as true sets it back.
+  bool InputFailed = false;
+  /// A run of several rules has loaded the case, so that their wrappers leave it out.
+  bool CaseLoaded = false;
+  /// The full report is being made: the sufficiency test keeps silent.
+  bool ReportToFile = false;
+
+  // Each kind's fraction of the estate, by its slot; 0 and 1 where a rule found no share, 0 and 0
+  // where none has run.
+  Array<Integer, 50> FractionNum;
+  Array<Integer, 50> FractionDen;
+
+  /// The ways of being a residuary; see residue/ResiduaryFlags.h for each index.
+  Array<bool, 20> Res;
+
+  // The residue for one head of each kind.
+  Double SonAmount;
+  Double DaughterResidue;
+  Double SonsDaughterResidue;
+  Double EqualSonsSonResidue;
+  Double LowerSonsSonResidue;
+  Double ResidueUnit;
+  Double FullBrotherResidue;
+  Double FullSisterResidue;
+  Double ConsBrotherResidue;
+  Double ConsSisterResidue;
+  Double ClassIIResidue;
+  Double FatherResidue;
+
+  // The class II residuaries, by their tick boxes.
+  Array<Integer, 11> ClassIIFlag;
+  Array<Double, 11> ClassIIAmount;
+  /// A sentence that names the taker. It is kept for a report that may want it; none shows it.
+  std::string ClassIINarrative;
+  std::string ClassIIText;
+
+  // The sufficiency test.
+  Double TotalQShares;
+  Double QSharesLessSpouse;
+  Double Residue;
+  Integer AulRaddState;
+
+  // The sharers over one common denominator.
+  Integer ActiveCount;
+  Array<Integer, 10> ActiveHeir;
+  Array<Integer, 10> ActiveNum;
+  Array<Integer, 10> ActiveDen;
+  Array<Integer, 10> UnitShare;
+  Integer UnitTotal;
+  Integer QSharesNum;
+  Integer QSharesDen;
+  Integer ResidueNum;
+  Integer ResidueDen;
+  Array<Integer, 10> RaddUnit;
+  Integer RaddUnitTotal;
+  Integer RaddNum;
+  Integer RaddDen;
+
+  // Aul and Radd.
+  Double AulFactor;
+  Double RaddFactor;
+  Integer AulExcessNum;
+  Integer AulExcessDen;
+  Integer RaddExcessNum;
+  Integer RaddExcessDen;
+  std::string SharerLines;
+  std::string SummaryText;
+  std::string RaddText;
+
+  // The long reports. The tables of the summary are indexed like the boxes; 34 to 45 stand for the
+  // class II tick boxes.
+  std::string ReportHeader;
+  Array<Double, 50> SummaryAmount;
+  Array<std::string, 50> SummaryKind;
+  Array<std::string, 50> SummaryFraction;
+  std::string SummaryReport;
+};
+
+/// The one record of a case. Rules take no values from one another: all work on this record, and the
+/// order of calls carries results from rule to rule.
+struct CaseRecord : ApplicationLayer, ScreenLayer {};
+
+/// The slots of the heirs in FractionNum and FractionDen.
+enum Slot {
+  WifeSlot,
+  HusbandSlot,
+  DaughterSlot,
+  FatherSlot,
+  MotherSlot,
+  GrandMotherSlot,
+  SonsDaughterSlot,
+  SonsSonsDaughterSlot,
+  FullSisterSlot,
+  FullBrotherSlot,
+  ConsSisterSlot,
+  ConsBrotherSlot,
+  UterineSisterSlot,
+  UterineBrotherSlot,
+};
+inline constexpr int SlotCount = 14;
+
+}  // namespace qismora

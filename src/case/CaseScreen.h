@@ -1,0 +1,60 @@
+#pragma once
+
+#include <array>
+
+#include "base/Array.h"
+#include "base/Outside.h"
+#include "case/Controls.h"
+
+namespace qismora {
+
+/// The boxes of the heirs, in the order of the screen. The arrays Text1 and Label1 have no elements
+/// between 8 and 11, and those of 24 to 29 belong to the deceased and the estate.
+inline constexpr std::array HeirBoxes = {1,  2,  3,  4,  5,  6,  7,  13, 14, 15, 16,
+                                         17, 18, 19, 20, 21, 22, 23, 30, 31, 32, 33};
+inline constexpr int NameBox = 24;
+inline constexpr int GrossEstateBox = 25;
+inline constexpr int FuneralBox = 26;
+inline constexpr int DebtsBox = 27;
+inline constexpr int WillsBox = 28;
+inline constexpr int NetEstateBox = 29;
+
+inline constexpr int Male = 0;
+inline constexpr int Female = 1;
+
+/// The part of the Case Study screen that the law knows: the boxes that a case is read from and the
+/// panel that its results are written to.
+struct CaseScreen {
+  explicit CaseScreen(Outside& outside) : World(outside) {}
+
+  Outside& World;
+
+  /// The gender of the deceased.
+  ComboBox Combo1;
+  Array<Label, 33> Label1;
+  Array<TextBox, 33> Text1;
+  /// The class II residuaries.
+  Array<CheckBox, 11> Check1;
+
+  /// Heading and amount line of the result panel.
+  Label Label2;
+  Label Label3;
+  /// The narrative of one rule, and the long reports; they stand in one place.
+  TextBox Text2;
+  TextBox Text3;
+  /// Lies over the result area whenever no result is to be read.
+  Frame Frame5;
+  /// Shows how many times a case was loaded.
+  Label Label13;
+  Label StatusBar1;
+  Button AulRadd;
+  MenuEntry AulRad;
+};
+
+/// The two long texts are never both visible: showing one hides the other.
+inline void ShowLongText(CaseScreen& screen, bool show) {
+  screen.Text3.Visible = show;
+  screen.Text2.Visible = !show;
+}
+
+}  // namespace qismora

@@ -1,0 +1,186 @@
+#include "case/LoadCase.h"
+
+#include "base/NumberText.h"
+#include "base/Text.h"
+#include "case/ResiduaryFlags.h"
+
+namespace qismora {
+
+namespace {
+
+enum class Grade { Soft, Hard };
+
+/// A kind of heir: where its count is typed, where it goes, the most that is accepted and what is said
+/// of a count outside.
+struct CountRow {
+  int Box;
+  Integer CaseRecord::*Count;
+  int Most;
+  const char* Message;
+};
+
+constexpr CountRow wivesRow = {1, &CaseRecord::Wives, 4, "Check number of Wives."};
+constexpr CountRow husbandRow = {1, &CaseRecord::Husband, 1, "Enter 1 or 0 against Husband's Status."};
+
+constexpr CountRow descendantRows[] = {
+    {2, &CaseRecord::Sons, 100, "Check number of Sons, should be limited reasonably."},
+    {3, &CaseRecord::Daughters, 100, "Check number of Daughters, should be limited reasonably."},
+    {4, &CaseRecord::GrandSons, 100, "Check number of grand Sons, should be limited reasonably."},
+    {5, &CaseRecord::GrandDaughters, 100, "Check number of grand daughters, should be limited reasonably."},
+    {6, &CaseRecord::GtGrandSons, 100, "Check number of great grand Sons, should be limited reasonably."},
+    {7, &CaseRecord::GtGrandDaughters, 100,
+     "Check number of great grand daughters, should be limited reasonably."},
+};
+
+// The mother is counted like the grandparents, up to 20.
+constexpr CountRow otherRows[] = {
+    {13, &CaseRecord::Father, 1, "For Father write 1 if alive, or 0 if dead."},
+    {14, &CaseRecord::GrandFather, 20, "Check number of grand Fathers, should be limited reasonably."},
+    {15, &CaseRecord::GtGrandFather, 20,
+     "Check number of great grand Fathers, should be limited reasonably."},
+    {16, &CaseRecord::Mother, 20, "Check number of Mothers, should be limited reasonably."},
+    {17, &CaseRecord::MothersMother, 20, "Check number of grandmothers, should be limited reasonably."},
+    {18, &CaseRecord::MothersMothersMother, 20,
+     "Check number of great grandmothers, should be limited reasonably."},
+    {19, &CaseRecord::FathersMother, 20,
+     "Check number of Father's mothers, should be limited reasonably."},
+    {20, &CaseRecord::GrandFathersMother, 20,
+     "Check number of grand Father's mothers, should be limited reasonably."},
+    {21, &CaseRecord::FathersGrandMother, 20,
+     "Check number of Father's grandmothers, should be limited reasonably."},
+    {22, &CaseRecord::FullBrothers, 100, "Check number of full brothers, should be limited reasonably."},
+    {23, &CaseRecord::FullSisters, 100, "Check number of full sisters, should be limited reasonably."},
+    {30, &CaseRecord::ConsSisters, 100,
+     "Check number of consanguine sisters (Souteli/ Alati), should be limited reasonably."},
+    {31, &CaseRecord::ConsBrothers, 100,
+     "Check number of consanguine brothers (Soutela/ Alati Bhai), should be limited reasonably."},
+    {32, &CaseRecord::UterineSisters, 100,
+     "Check number of Uterine sisters (Maa Shareek/ Akhyafi Bahan), should be limited reasonably."},
+    {33, &CaseRecord::UterineBrothers, 100,
+     "Check number of Uterine Brothers (From same mother but different father), should be limited reasonably."},
+};
+
+Integer Converted(Double typed, Integer) { return RoundTo<Integer>(typed); }
+Long Converted(Double typed, Long) { return RoundTo<Long>(typed); }
+Double Converted(Double typed, Double) { return typed; }
+
+/// A box that holds no number leaves its field as it is: an empty box is not a zero.
+template <class Number>
+void ReadBox(const CaseScreen& screen, int box, Number& field) {
+  const std::string& text = screen.Text1(box).Text;
+  if (IsNumber(text)) field = Converted(ParsePrefix(text), field);
+}
+
+/// Reads and checks one count; false when it is refused. The check looks at the field, so that a stale
+/// count is checked as well.
+bool ReadCount(CaseRecord& c, CaseScreen& screen, const CountRow& row, Grade grade = Grade::Soft) {
+  Integer& count = c.*row.Count;
+  ReadBox(screen, row.Box, count);
+  if (count >= 0 && count <= row.Most) return true;
+  screen.World.Boxes.Tell(BoxStyle::Warning, row.Message);
+  if (row.Box <= 2) screen.Text1(row.Box).SetFocus();
+  if (grade == Grade::Hard) c.InputFailed = true;
+  return false;
+}
+
+bool RefuseEstate(CaseRecord& c, CaseScreen& screen, const char* message) {
+  c.GrossEstate = 0;
+  screen.World.Boxes.Tell(BoxStyle::Information, message);
+  return false;
+}
+
+/// A will may take a third of what the deceased left. More needs the consent of the heirs, which is
+/// asked for at each load; without it the will is cut down to the third.
+void AskAboutWills(CaseRecord& c, CaseScreen& screen, Double third) {
+  const Answer answer = screen.World.Boxes.Show(
+      BoxStyle::Warning, BoxButtons::YesNo,
+      Join("Check for the sum of Will(s), it must be positive but NOT more than one third of\r\n"
+           "the gross estate (",
+           GeneralNumber(c.GrossEstate),
+           "). Wills (Wasiyyat) more than 33¹/ ³% is not valid.\r\n\r\n"
+           "HOWEVER, if sum of Will(s) is more than one third, then state whether all the\r\n"
+           "claimants agree to disburse the excess WILL?\r\n\r\n"
+           "If you respond in NO, the program will take WILL equal to 1/3 of gross estate."));
+  if (answer != Answer::No) return;
+  c.Wills = RoundTo<Long>(third);
+  screen.Text1(WillsBox).Text = F(c.Wills);
+}
+
+/// Reads the estate and what is paid from it before the heirs; false when a figure is refused. The debts
+/// are held against the gross estate alone, not against what the funeral left of it.
+bool ReadEstate(CaseRecord& c, CaseScreen& screen) {
+  ReadBox(screen, GrossEstateBox, c.GrossEstate);
+  if (c.GrossEstate < 0) return RefuseEstate(c, screen, "No estate wealth for inheritance.");
+
+  ReadBox(screen, FuneralBox, c.FuneralExp);
+  if (c.FuneralExp > c.GrossEstate || c.FuneralExp < 0) {
+    return RefuseEstate(c, screen, "No estate wealth left for inheritance, after funerals.");
+  }
+  ReadBox(screen, DebtsBox, c.Debts);
+  if (c.Debts > c.GrossEstate || c.Debts < 0) {
+    return RefuseEstate(c, screen, "No estate wealth left for inheritance, after payment of debts.");
+  }
+  ReadBox(screen, WillsBox, c.Wills);
+  const Double third = Double(1.0) / 3.0 * c.GrossEstate;
+  if (c.Wills > third || c.Wills < 0) AskAboutWills(c, screen, third);
+  return true;
+}
+
+void ReadCase(CaseRecord& c, CaseScreen& screen) {
+  c.ExecCount += Long(1);
+  screen.Label13.Caption = Join(c.ExecCount);
+
+  const CountRow& spouse = screen.Combo1.ListIndex == Male ? wivesRow : husbandRow;
+  if (!ReadCount(c, screen, spouse, Grade::Hard)) return;
+  for (const CountRow& row : descendantRows) {
+    if (!ReadCount(c, screen, row)) return;
+  }
+  if (c.GrandDaughters > 0 || c.GtGrandDaughters > 0) {
+    c.AsabaGrandSons = c.GrandSons;
+    c.AsabaGtGrandSons = c.GtGrandSons;
+  }
+  for (const CountRow& row : otherRows) {
+    if (!ReadCount(c, screen, row)) return;
+  }
+  ReadClassIIChecks(c, screen);
+  if (!ReadEstate(c, screen)) return;
+
+  c.NetEstate = c.GrossEstate - (c.Debts + c.FuneralExp + c.Wills);
+  screen.Text1(NetEstateBox).Text = F(c.NetEstate);
+
+  screen.Text3.ForeColor = Black;
+  screen.Text2.ForeColor = Black;
+  if (!(c.NetEstate < 0)) return;
+  screen.World.Boxes.Tell(BoxStyle::Critical,
+                          "NET ESTATE IS NEGATIVE, THE PROGRAM WILL GIVE PROPRTIONATE\r\n"
+                          "NEGATIVE SHARES TO COMPENSATE FOR THE DEFICIT.");
+  screen.Text3.ForeColor = Red;
+  screen.Text2.ForeColor = Red;
+}
+
+}  // namespace
+
+void LoadCase(CaseRecord& c, CaseScreen& screen) {
+  try {
+    ReadCase(c, screen);
+  } catch (const Failure& failure) {
+    if (failure.Number == Overflow) {
+      screen.World.Boxes.Tell(BoxStyle::Warning,
+                              "Check for high values of Debts/ Wills (Legacies)/ Funeral expenses");
+    } else {
+      screen.World.Boxes.Tell(BoxStyle::Plain, Join(failure.Number, CRLF, failure.Description()));
+    }
+    c.InputFailed = true;
+  }
+}
+
+void ReadClassIIChecks(CaseRecord& c, CaseScreen& screen) {
+  c.Res(ClassIITicked) = false;
+  for (int i = 0; i < c.ClassIIFlag.Size; ++i) {
+    const bool ticked = screen.Check1(i).Value == 1;
+    c.ClassIIFlag(i) = Integer(ticked ? 1 : 0);
+    if (ticked) c.Res(ClassIITicked) = true;
+  }
+}
+
+}  // namespace qismora

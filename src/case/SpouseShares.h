@@ -1,0 +1,15 @@
+#pragma once
+
+#include "case/CaseRecord.h"
+#include "case/CaseScreen.h"
+
+namespace qismora {
+
+/// The share of all the wives together: one fourth, or one eighth beside any descendant (Quran 4:12).
+void ShareOfWife(CaseRecord& c, CaseScreen& screen);
+
+/// The husband's share: one half, or one fourth beside any descendant (Quran 4:12). For a male deceased
+/// only the heading is set.
+void ShareOfHusband(CaseRecord& c, CaseScreen& screen);
+
+}  // namespace qismora

@@ -1,0 +1,48 @@
+#pragma once
+
+#include <array>
+#include <string_view>
+
+// The sentences of the daughters and of the son.
+// Word for word the system's own: misspellings and double blanks stand as they are.
+
+namespace qismora {
+
+// Shown by no rule.
+inline constexpr std::string_view DaughterResiduaryText =
+    "In presence of son(s), as in this case, the daughter(s) will receive share as Residuary "
+    "(Asaba').\r\n";
+
+inline constexpr std::string_view OneDaughterText =
+    "In the case under consideration, the deceased has left NO son but a daughter only.\r\n\r\n"
+    "Under the above situation, the daughter will receive share in the net estate wealth equal to one "
+    "half (1/2) i.e. \r\n";
+
+inline constexpr std::string_view TwoDaughtersText =
+    "In the case under examination, the deceased has left NO son but daughters (two or more) "
+    "only.\r\n\r\n"
+    "Under such situation, the daughters will receive share in the net estate wealth equal to two "
+    "third (2/3) i.e.\r\n\r\n";
+
+// Only entry 0 is shown.
+inline constexpr std::array<std::string_view, 3> NoDaughterText = {
+    // 0
+    "In the case under examination, the deceased has left NO daughter(s), So the share of daughter(s) "
+    "in the net estate wealth is zero.\r\n\r\n"
+    "\tNIL",
+    // 1
+    "\r\nIn the case under examination, the deceased has left the following:.\r\n\r\n",
+    // 2
+    "In presence of Son(s), the daughter receives as Residuary (Asaba'). Thus, share of EACH daughter "
+    "in the net estate wealth will be:\r\n\r\n",
+};
+
+// Only entry 0 is shown.
+inline constexpr std::array<std::string_view, 2> SonWithDaughtersTexts = {
+    // 0
+    "In the case under examination, the deceased has left the following:\r\n\r\n",
+    // 1
+    "In presence of Daughter(s), daughter(s) also become Residuary (Asaba') with son(s).\r\n\r\n",
+};
+
+}  // namespace qismora
