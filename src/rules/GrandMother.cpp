@@ -1,0 +1,146 @@
+#include "rules/GrandMother.h"
+
+#include <span>
+
+#include "case/Shares.h"
+#include "case/narratives/GrandMotherTexts.h"
+
+// Five kinds of ascendant female above the parents form one heir. One procedure decides the amount, another
+// who makes up the group; they disagree where the father lives beside his mother and a maternal great
+// grandmother, and where a grand father lives beside paternal great grandmothers. Both are kept, and so are
+// the texts on a living father where he is dead.
+
+namespace qismora {
+
+namespace {
+
+void TakeSixth(CaseRecord& c, int text) {
+  c.GrandMotherShare = c.NetEstate / 6;
+  SetFraction(c, GrandMotherSlot, 1, 6);
+  c.GrandMotherReport =
+      Join(GrandMotherTexts[static_cast<std::size_t>(text)], TAB, F(c.GrandMotherShare));
+}
+
+void TakeNothing(CaseRecord& c, int text) {
+  c.GrandMotherShare = 0;
+  SetFraction(c, GrandMotherSlot, 0, 1);
+  c.GrandMotherReport =
+      Join(GrandMotherTexts[static_cast<std::size_t>(text)], TAB, F(c.GrandMotherShare));
+}
+
+void DecideBesideFather(CaseRecord& c) {
+  if (c.MothersMother > 0) return TakeSixth(c, 0);
+  if (c.MothersMothersMother <= 0) return;
+  if (c.FathersMother > 0) return TakeNothing(c, 8);
+  TakeSixth(c, 1);
+}
+
+void DecideBesideGrandFather(CaseRecord& c) {
+  if (c.MothersMother > 0 && c.FathersMother > 0) return TakeSixth(c, 3);
+  if (c.MothersMother > 0) return TakeSixth(c, 0);
+  if (c.FathersMother > 0) return TakeSixth(c, 0);
+  if (c.MothersMothersMother <= 0) return;
+  TakeSixth(c, 1);
+}
+
+void DecideWithoutFathers(CaseRecord& c) {
+  if (c.MothersMother > 0 && c.FathersMother > 0) return TakeSixth(c, 3);
+  if (c.MothersMother > 0) return TakeSixth(c, 4);
+  if (c.FathersMother > 0) return TakeSixth(c, 6);
+  if (c.MothersMothersMother > 0 || c.FathersGrandMother > 0 || c.GrandFathersMother > 0) return TakeSixth(c, 7);
+}
+
+void DecideGrandMother(CaseRecord& c) {
+  if (c.Father > 0 && c.Mother == 0) return DecideBesideFather(c);
+  if (c.GrandFather > 0 && c.Mother == 0) return DecideBesideGrandFather(c);
+  if (c.Mother > 0) return TakeNothing(c, 2);
+  if (c.Mother == 0 && c.Father == 0 && c.GrandFather <= 0) return DecideWithoutFathers(c);
+}
+
+}  // namespace
+
+void ShareOfGrandMother(CaseRecord& c, CaseScreen& screen) {
+  screen.Label2.Caption = "TRUE GRAND MOTHER'S SHARE";
+  c.GrandMotherShare = 0;
+  SetFraction(c, GrandMotherSlot, 0, 1);
+  c.GrandMotherReport = NoGrandMotherText;
+  DecideGrandMother(c);
+  screen.Text2.Text = Join(c.GrandMotherReport, FractionText(c, GrandMotherSlot));
+  screen.Label3.Caption = AmountLine(c, c.GrandMotherShare, GrandMotherSlot);
+  SetGrandMotherGroup(c);
+}
+
+namespace {
+
+// The kinds by their short letters: MM mother's mother, MMM her mother, FM father's mother, FFM the father's
+// father's mother, FMM the father's grandmother.
+enum Kind { MM = 1, MMM = 2, FM = 4, FFM = 8, FMM = 16 };
+
+/// A combination that forms the group where all its kinds live, and the slot that takes the whole amount.
+struct GroupRow {
+  int Kinds;
+  const char* Name;
+  Double CaseRecord::*Slot;
+};
+
+// The nearer grandmothers shut out the great grandmothers; between the great grandmothers none excludes
+// another. A combined group puts the sum in the slot of its first-named woman, and FMM+MMM in the slot of
+// FFM though no FFM lives.
+constexpr GroupRow withoutParents[] = {
+    {FM | MM, "FM+MM", &CaseRecord::FathersMotherAmount},
+    {FM, "FM", &CaseRecord::FathersMotherAmount},
+    {MM, "MM", &CaseRecord::MothersMotherAmount},
+    {FFM | FMM | MMM, "FFM+FMM+MMM", &CaseRecord::GrandFathersMotherAmount},
+    {FFM | FMM, "FFM+FMM", &CaseRecord::GrandFathersMotherAmount},
+    {FFM | MMM, "FFM+MMM", &CaseRecord::GrandFathersMotherAmount},
+    {FMM | MMM, "FMM+MMM", &CaseRecord::GrandFathersMotherAmount},
+    {FFM, "FFM", &CaseRecord::GrandFathersMotherAmount},
+    {FMM, "FMM", &CaseRecord::FathersGrandMotherAmount},
+    {MMM, "MMM", &CaseRecord::MothersMothersMotherAmount},
+};
+
+// Beside the father only the mother's side is left; MM goes to the slot of the father's mother.
+constexpr GroupRow besideFather[] = {
+    {MM, "MM", &CaseRecord::FathersMotherAmount},
+    {MMM, "MMM", &CaseRecord::MothersMothersMotherAmount},
+};
+
+struct KindRow {
+  Kind Letter;
+  Integer CaseRecord::*Count;
+};
+constexpr KindRow kinds[] = {
+    {MM, &CaseRecord::MothersMother},       {MMM, &CaseRecord::MothersMothersMother},
+    {FM, &CaseRecord::FathersMother},       {FFM, &CaseRecord::GrandFathersMother},
+    {FMM, &CaseRecord::FathersGrandMother},
+};
+
+void TakeFirstGroup(CaseRecord& c, std::span<const GroupRow> rows) {
+  int alive = 0;
+  for (const KindRow& kind : kinds) alive |= c.*kind.Count > 0 ? kind.Letter : 0;
+  c.GrandMotherGroup = "Non";
+  c.GrandMotherCount = Integer(0);
+  for (const GroupRow& row : rows) {
+    if ((row.Kinds & alive) != row.Kinds) continue;
+    c.GrandMotherGroup = row.Name;
+    for (const KindRow& kind : kinds) {
+      if ((row.Kinds & kind.Letter) != 0) c.GrandMotherCount += c.*kind.Count;
+    }
+    c.*row.Slot = c.GrandMotherShare;
+    return;
+  }
+}
+
+}  // namespace
+
+void SetGrandMotherGroup(CaseRecord& c) {
+  if (c.Father == 0 && c.Mother == 0) {
+    TakeFirstGroup(c, withoutParents);
+  } else if (c.Father > 0 && c.Mother == 0) {
+    TakeFirstGroup(c, besideFather);
+  } else if (c.Mother > 0) {
+    TakeFirstGroup(c, {});
+  }
+}
+
+}  // namespace qismora
