@@ -1,0 +1,95 @@
+#include "aulradd/AulRadd.h"
+
+#include "aulradd/Distribution.h"
+#include "aulradd/Unitize.h"
+#include "base/Dates.h"
+#include "base/Text.h"
+#include "case/ResiduaryFlags.h"
+
+// Aul scales every sharer down where the shares exceed the estate; Radd scales them up where no residuary takes
+// the surplus, and the spouse keeps the plain share.
+
+namespace qismora {
+
+namespace {
+
+/// Who the residuary is, by the index of the flag.
+constexpr const char* residuaryMessages[] = {
+    "Son is Residuary (Asaba').",
+    "Daughter is Residuary (Asaba').",
+    "Ultimate Father is Residuary (Asaba').",
+    "Ultimate Father is Residuary (Asaba').",
+    "Son's Daughter is Residuary (Asaba') with Equal son's son/ Lower son's son.",
+    "Full Sister is Residuary (Asaba') with Full Brother and descendant daughters.",
+    "Full Sister is Residuary (Asaba') with descendant daughters.",
+    "Son's Son is Residuary (Asaba').",
+    "Full Sister is Residuary (Asaba') with Full Brother.",
+    "Full Brother is Residuary (Asaba').",
+    "Consanguine Sister is Residuary (Asaba') with descendant daughters",
+    "Son's Son's Son is Residuary (Asaba').",
+    "Consanguine Sister is Residuary (Asaba') with Consanguine Brother.",
+    "Consanguine Sister is Residuary (Asaba') with Consanguine Brother and descendant daughters.",
+    "Consanguine Brother is Residuary (Asaba').",
+    "Son's Daughter is Residuary (Asaba') with equal son's son.",
+    "Son's Son's Daughter is Residuary (Asaba') with equal son's son (SSS).",
+    "Son's Son's Daughter is Residuary (Asaba') with equal son's son & Son's daughter (SSD+SSS+SD).",
+    "Son's Son's son is Residuary (Asaba') with Son's daughter (SSS+SD).",
+};
+
+/// Whether a residuary of the first class stands in the way; the user may ask who it is.
+bool AskAboutResiduary(const CaseRecord& c, CaseScreen& screen) {
+  for (int i = SonsAlone; i <= SonsDaughterWithLowerSonsSon; ++i) {
+    if (!c.Res(i)) continue;
+    const Answer answer = screen.World.Boxes.Show(
+        BoxStyle::Warning, BoxButtons::YesNoCancel,
+        "Doctrine of Aul and Radd applies only in absence of Residuaries (Asaba't).\r\n"
+        "The case is not free from Residuary (Asaba'). Want to know the Residuaries (Asaba't)?");
+    if (answer == Answer::Yes) screen.World.Boxes.Tell(BoxStyle::Information, residuaryMessages[i]);
+    return true;
+  }
+  return false;
+}
+
+void ApplyDoctrine(CaseRecord& c, CaseScreen& screen) {
+  if (c.AulRaddState == NoAdjustment) {
+    screen.World.Boxes.Tell(BoxStyle::Information, "AUL/RADD NOT APPLICABLE IN THIS CASE.");
+    return;
+  }
+  screen.Frame5.Visible = false;
+  const bool classified = c.AulRaddState == AulBesideResiduary || c.AulRaddState == Aul || c.AulRaddState == Radd;
+  if (!classified && AskAboutResiduary(c, screen)) return;
+  if (c.TotalQShares == 0) return;
+
+  // Nothing reads the four excess products; their overflow ends the command before any text is built.
+  c.AulFactor = c.Residue / c.TotalQShares + 1.0;
+  c.AulExcessNum = c.QSharesNum * c.ResidueNum - c.QSharesDen * c.ResidueNum;
+  c.AulExcessDen = c.QSharesNum * c.ResidueNum;
+  c.RaddFactor = c.Residue / c.QSharesLessSpouse + 1.0;
+  c.RaddExcessNum = c.RaddNum * c.ResidueNum - c.RaddDen * c.ResidueNum;
+  c.RaddExcessDen = c.RaddNum * c.ResidueNum;
+
+  ReviseFractions(c);
+  BuildAulRaddTexts(c, screen);
+  const bool aul = c.Residue < 0;
+  screen.Text3.Text = Join(aul ? c.SummaryText : c.RaddText, CRLF, CRLF, GeneratedBy(screen.World.Time.Now()),
+                           CRLF, CRLF);
+  screen.Label2.Caption = aul ? "AUL DOCTRINE APPLIED" : "RADD DOCTRINE APPLIED";
+}
+
+}  // namespace
+
+void RunAulRadd(CaseRecord& c, CaseScreen& screen) {
+  try {
+    ApplyDoctrine(c, screen);
+  } catch (const Failure& failure) {
+    if (failure.Number == DivisionByZero) {
+      screen.World.Boxes.Tell(
+          BoxStyle::Critical,
+          "No Quranic Sharer is present, the Residue will go to Distant Kindred, if any.\r\n"
+          "In case, there is no any Distant Kindred then only it will go to the Sharer.");
+    }
+    screen.AulRadd.Visible = true;
+  }
+}
+
+}  // namespace qismora
