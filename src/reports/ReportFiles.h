@@ -1,0 +1,21 @@
+#pragma once
+
+#include "case/CaseRecord.h"
+#include "case/CaseScreen.h"
+
+namespace qismora {
+
+/// The Full Report command: runs the case in three steps, writes them to the working file "FullReport", shows
+/// the file and saves it under the name of the deceased. Any failure ends it without a word; what was printed
+/// up to then stands in the working file.
+void CreateSaveFullReport(CaseRecord& c, CaseScreen& screen);
+
+/// Saves the working file under the lower-cased name of the deceased. An earlier report is replaced only when
+/// the user agrees, and stands until the new one is complete in its place.
+void SaveFullReportFile(CaseScreen& screen);
+
+/// The Save Results command: the heading of the result panel and the text that is shown, in a file of the
+/// user's choice. A failure ends it without a word and leaves an earlier file as it was.
+void SaveResults(CaseScreen& screen);
+
+}  // namespace qismora

@@ -1,0 +1,145 @@
+#include "reports/ReportRuns.h"
+
+#include <ranges>
+#include <vector>
+
+#include "aulradd/Sufficiency.h"
+#include "base/Dates.h"
+#include "base/Text.h"
+#include "case/ClearResults.h"
+#include "case/Conditions.h"
+#include "case/LoadCase.h"
+#include "reports/ReportHeaders.h"
+#include "reports/SummarizedShares.h"
+#include "rules/RunSharers.h"
+
+namespace qismora {
+
+namespace {
+
+/// A section of a report: its title, the rule that writes it, and when the heir counts as entered.
+struct SectionRow {
+  const char* Title;
+  Rule Run;
+  bool (*IsEntered)(const CaseRecord&);
+};
+
+constexpr SectionRow sections[] = {
+    {"WIFE'S SHARE", RunWife, [](const CaseRecord& c) { return c.Wives > 0; }},
+    {"HUSBAND'S SHARE", RunHusband, [](const CaseRecord& c) { return c.Husband > 0; }},
+    {"DAUGHTER'S SHARE", ShareOfDaughters, [](const CaseRecord& c) { return c.Daughters > 0; }},
+    {"ULTIMATE FATHER'S SHARE", RunUltimateFather, HasFatherLine},
+    {"MOTHER'S SHARE", RunMother, [](const CaseRecord& c) { return c.Mother > 0; }},
+    {"TRUE GRAND MOTHER'S SHARE", RunGrandMother, HasGrandMother},
+    {"SON'S DAUGHTER'S SHARE", ShareOfSonsDaughter, [](const CaseRecord& c) { return c.GrandDaughters > 0; }},
+    {"GRANDSON'S DAUGHTER'S SHARE", ShareOfSonsSonsDaughter,
+     [](const CaseRecord& c) { return c.GtGrandDaughters > 0; }},
+    {"FULL BROTHER'S SHARE", ShareOfFullBrother, [](const CaseRecord& c) { return c.FullBrothers > 0; }},
+    {"FULL SISTER'S SHARE", ShareOfFullSister, [](const CaseRecord& c) { return c.FullSisters > 0; }},
+    {"CONSANGUINE SISTER'S SHARE", ShareOfConsSister, [](const CaseRecord& c) { return c.ConsSisters > 0; }},
+    {"CONSANGUINE BROTHER'S SHARE", ShareOfConsBrother, [](const CaseRecord& c) { return c.ConsBrothers > 0; }},
+    {"UTERINE SISTER'S SHARE", ShareOfUterineSister, [](const CaseRecord& c) { return c.UterineSisters > 0; }},
+    {"UTERINE BROTHER'S SHARE", ShareOfUterineBrother, [](const CaseRecord& c) { return c.UterineBrothers > 0; }},
+};
+constexpr const SectionRow* wifeSection = &sections[0];
+constexpr const SectionRow* husbandSection = &sections[1];
+
+/// The sections as far as they are built, each put in front of the earlier ones. What was built stands on Text3
+/// also when a failure ends the run.
+class SectionStack {
+ public:
+  explicit SectionStack(CaseScreen& screen) : screen_(screen) {}
+  SectionStack(const SectionStack&) = delete;
+  SectionStack& operator=(const SectionStack&) = delete;
+  ~SectionStack() { Show(); }
+
+  /// The wife's section has no line breaks behind it, the husband's none behind its heading.
+  void Put(const SectionRow& row, int number) {
+    const bool gap = &row != husbandSection;
+    const bool end = &row != wifeSection;
+    texts_.push_back(Join("(", number, "). ", row.Title, gap ? CRLF : "", screen_.Text2.Text, end ? CRLF : "",
+                          end ? CRLF : ""));
+  }
+  void PutHeader(const std::string& header) { texts_.push_back(Join(header, CRLF, CRLF)); }
+
+ private:
+  void Show() {
+    std::string whole;
+    for (const std::string& text : std::views::reverse(texts_)) whole += text;
+    screen_.Text3.Text = whole;
+  }
+
+  CaseScreen& screen_;
+  std::vector<std::string> texts_;
+};
+
+/// What both commands begin with; false when the load failed hard.
+bool Start(CaseRecord& c, CaseScreen& screen) {
+  c.CaseLoaded = true;
+  screen.Frame5.Visible = false;
+  ShowLongText(screen, true);
+  screen.Text3.Text = "";
+  screen.Text2.Text = "";
+  ClearResults(c, screen);
+  LoadCase(c, screen);
+  if (!c.InputFailed) return true;
+  c.InputFailed = false;
+  return false;
+}
+
+std::string Footer(CaseScreen& screen) {
+  return Join(GeneratedBy(screen.World.Time.Now()), CRLF, CRLF);
+}
+
+/// Every kind has its section; a spouse whom the deceased cannot have has a bare heading.
+void RunAllSections(CaseRecord& c, CaseScreen& screen) {
+  SectionStack stack(screen);
+  int number = 0;
+  for (const SectionRow& row : sections) {
+    const bool otherGender = (&row == wifeSection && screen.Combo1.ListIndex != Male) ||
+                             (&row == husbandSection && screen.Combo1.ListIndex != Female);
+    if (!otherGender) row.Run(c, screen);
+    stack.Put(row, ++number);
+    if (&row == wifeSection) screen.Text2.Text = "";
+  }
+  stack.PutHeader(c.ReportHeader);
+}
+
+void RunEnteredSections(CaseRecord& c, CaseScreen& screen) {
+  SectionStack stack(screen);
+  int number = 0;
+  for (const SectionRow& row : sections) {
+    if (!row.IsEntered(c)) continue;
+    row.Run(c, screen);
+    stack.Put(row, ++number);
+  }
+}
+
+}  // namespace
+
+void RunFullReport(CaseRecord& c, CaseScreen& screen) {
+  if (!Start(c, screen)) return;
+  BuildFullHeader(c, screen);
+  RunAllSections(c, screen);
+  screen.StatusBar1.Caption = "Shares of ALL QURANIC Sharers";
+  screen.Label2.Caption = "ALL INDIVIDUAL REPORTS";
+  c.CaseLoaded = false;
+  SufficiencyTest(c, screen);
+  BuildSummarizedShares(c, screen);
+  screen.Text3.Text = Join(screen.Text3.Text, CRLF, c.SummaryReport, CRLF, CRLF, Footer(screen));
+}
+
+void RunSelectedReport(CaseRecord& c, CaseScreen& screen) {
+  if (!Start(c, screen)) return;
+  BuildSelectedHeader(c, screen);
+  RunEnteredSections(c, screen);
+  SufficiencyTest(c, screen);
+  BuildSummarizedShares(c, screen);
+  screen.Text3.Text =
+      Join(c.ReportHeader, CRLF, CRLF, screen.Text3.Text, c.SummaryReport, CRLF, CRLF, Footer(screen));
+  screen.StatusBar1.Caption = "Shares of SELECTED QURANIC Sharers";
+  screen.Label2.Caption = "SELECTED DISTRIBUTION";
+  c.CaseLoaded = false;
+}
+
+}  // namespace qismora

@@ -1,0 +1,151 @@
+#include "reports/SummarizedShares.h"
+
+#include "base/Text.h"
+#include "case/ResiduaryFlags.h"
+#include "reports/ReportHeaders.h"
+
+namespace qismora {
+
+namespace {
+
+constexpr const char* sharer = "Sharer ";
+constexpr const char* residuary = "Resid (Asaba') ";
+
+/// The boxes 34 to 45 of the table stand for the class II tick boxes.
+constexpr int firstClassIIBox = 34;
+
+void Enter(CaseRecord& c, int box, Double amount, const char* kind, const std::string& fraction) {
+  c.SummaryAmount(box) = amount;
+  c.SummaryKind(box) = kind;
+  c.SummaryFraction(box) = fraction;
+}
+
+void EnterSharer(CaseRecord& c, int box, Double amount, Slot slot) {
+  Enter(c, box, amount, sharer, Join("(", c.FractionNum(slot), "/", c.FractionDen(slot), ")"));
+}
+
+void EnterResiduary(CaseRecord& c, int box, Double amount) {
+  Enter(c, box, amount, residuary, "");
+}
+
+/// A kind that is a residuary when any of the flags is set, else a sharer.
+void EnterEither(CaseRecord& c, int box, Double amount, Slot slot, std::initializer_list<ResiduaryFlag> flags) {
+  for (const ResiduaryFlag flag : flags) {
+    if (c.Res(flag)) return EnterResiduary(c, box, amount);
+  }
+  EnterSharer(c, box, amount, slot);
+}
+
+void EnterSpouse(CaseRecord& c) {
+  if (c.Wives > 0) return EnterSharer(c, 1, c.WifeShare, WifeSlot);
+  if (c.Husband > 0) return EnterSharer(c, 1, c.HusbandShare, HusbandSlot);
+  Enter(c, 1, 0, sharer, "(0/1)");
+}
+
+/// One man of the father line; the plus behind the fraction stands for the residue that comes to it.
+void EnterFather(CaseRecord& c, int box, Double amount) {
+  const bool takesResidue = c.Res(FatherAsResiduary) || c.Res(FatherAsSharerAndResiduary);
+  if (amount > 0 && takesResidue) {
+    Enter(c, box, amount, residuary,
+          Join("(", c.FractionNum(FatherSlot), "/", c.FractionDen(FatherSlot), "+)"));
+  } else if (amount == 0 && c.Res(FatherAsResiduary)) {
+    EnterResiduary(c, box, amount);
+  } else {
+    EnterSharer(c, box, amount, FatherSlot);
+  }
+}
+
+std::string HeirLine(const CaseRecord& c, const CaseScreen& screen, int box) {
+  return Join(screen.Label1(box).Caption, " = ", screen.Text1(box).Text, " (", F(c.SummaryAmount(box)), ")- ",
+              c.SummaryKind(box), c.SummaryFraction(box), CRLF);
+}
+
+/// The grandmothers entered, and one line for the amount of the group: the last of them that has one.
+std::string GrandMotherLines(const CaseRecord& c, const CaseScreen& screen) {
+  std::string lines;
+  int kept = 0;
+  for (int box = 17; box <= 21; ++box) {
+    if (!IsEnteredStrictly(screen, box)) continue;
+    lines += Join(screen.Label1(box).Caption, " = ", screen.Text1(box).Text, " (C)- ", c.SummaryKind(box),
+                  c.SummaryFraction(box), CRLF);
+    if (c.SummaryAmount(box) > 0) kept = box;
+  }
+  if (kept == 0) return lines;
+  return Join(lines, "TrueGr. Mother (", c.GrandMotherCount, "/", c.GrandMotherGroup, ") = (",
+              F(c.SummaryAmount(kept)), ")- ", c.SummaryKind(kept), c.SummaryFraction(kept), CRLF);
+}
+
+/// The first ticked class II heir.
+std::string ClassIILine(const CaseScreen& screen) {
+  for (int i = 0; i < screen.Check1.Size; ++i) {
+    if (screen.Check1(i).Value == 1) return Join(screen.Check1(i).Caption, " = (P)- Resid (Asaba')", CRLF);
+  }
+  return "";
+}
+
+std::string HeirLines(const CaseRecord& c, const CaseScreen& screen) {
+  std::string lines;
+  for (const int box : HeirBoxes) {
+    const bool isGrandMother = box >= 17 && box <= 21;
+    if (box == 17) lines += GrandMotherLines(c, screen);
+    if (isGrandMother) continue;
+    const bool entered = box <= 7 ? IsEnteredLeniently(screen, box) : IsEnteredStrictly(screen, box);
+    if (entered) lines += HeirLine(c, screen, box);
+  }
+  return lines + ClassIILine(screen);
+}
+
+/// No hint is given where Aul is to be applied beside residuaries.
+const char* DoctrineHint(const CaseRecord& c) {
+  if (c.AulRaddState == Radd) return "\r\n\tAPPLY RADD DOCTRINE\r\n\r\n";
+  if (c.AulRaddState == Aul) return "\r\n\tAPPLY AUL DOCTRINE\r\n\r\n";
+  return "";
+}
+
+}  // namespace
+
+void FillSummaryTable(CaseRecord& c) {
+  EnterSpouse(c);
+  EnterResiduary(c, 2, c.SonAmount);
+  EnterEither(c, 3, c.DaughterShare, DaughterSlot, {SonsWithDaughters});
+  EnterResiduary(c, 4, c.SonAmount);
+  EnterEither(
+      c, 5, c.SonsDaughterShare, SonsDaughterSlot,
+      {SonsDaughterWithSonsSonBesideDaughters, SonsDaughterWithSonsSon, SonsDaughterWithLowerSonsSon});
+  EnterResiduary(c, 6, c.SonAmount);
+  EnterEither(c, 7, c.SonsSonsDaughterShare, SonsSonsDaughterSlot,
+              {SonsSonsDaughterBesideSonsDaughter, SonsSonsDaughterWithSonsSonsSon});
+  EnterFather(c, 13, c.FatherAmount);
+  EnterFather(c, 14, c.GrandFatherAmount);
+  EnterFather(c, 15, c.GtGrandFatherAmount);
+  EnterSharer(c, 16, c.MotherShare, MotherSlot);
+  EnterSharer(c, 17, c.MothersMotherAmount, GrandMotherSlot);
+  EnterSharer(c, 18, c.MothersMothersMotherAmount, GrandMotherSlot);
+  EnterSharer(c, 19, c.FathersMotherAmount, GrandMotherSlot);
+  EnterSharer(c, 20, c.GrandFathersMotherAmount, GrandMotherSlot);
+  EnterSharer(c, 21, c.FathersGrandMotherAmount, GrandMotherSlot);
+  EnterEither(c, 22, c.FullBrotherShare, FullBrotherSlot,
+              {FullBrothersWithSisters, FullSiblingsBesideDaughters, FullBrothersAlone});
+  EnterEither(c, 23, c.FullSisterShare, FullSisterSlot,
+              {FullSisterBesideDaughters, FullSiblingsBesideDaughters, FullBrothersWithSisters});
+  EnterEither(c, 30, c.ConsSisterShare, ConsSisterSlot,
+              {ConsBrothersWithSisters, ConsSisterBesideDaughters, ConsSiblingsBesideDaughters});
+  EnterEither(c, 31, c.ConsBrotherShare, ConsBrotherSlot,
+              {ConsBrothersAlone, ConsBrothersWithSisters, ConsSiblingsBesideDaughters});
+  EnterSharer(c, 32, c.UterineSisterShare, UterineSisterSlot);
+  EnterSharer(c, 33, c.UterineBrotherShare, UterineBrotherSlot);
+  for (int i = 0; i < c.ClassIIFlag.Size; ++i) {
+    c.SummaryAmount(firstClassIIBox + i) = c.Residue;
+    c.SummaryKind(firstClassIIBox + i) = residuary;
+  }
+}
+
+void BuildSummarizedShares(CaseRecord& c, const CaseScreen& screen) {
+  FillSummaryTable(c);
+  c.SummaryReport = Join(CRLF, "SUMMARIZED SHARES:", CRLF, HeirLines(c, screen), CRLF,
+                         "NOTE:- ONLY ENTITLED RESIDUARIES [ASABA'T] WILL SHARE THE RESIDUE IF ANY.", CRLF, CRLF,
+                         "TOTAL SHARED = ", F(c.TotalQShares), CRLF, "RESIDUE = ", F(c.Residue), CRLF,
+                         DoctrineHint(c));
+}
+
+}  // namespace qismora
