@@ -1,0 +1,379 @@
+#include "screens/CaseStudy.h"
+
+#include "aulradd/AulRadd.h"
+#include "base/NumberText.h"
+#include "base/Text.h"
+#include "case/ClearResults.h"
+#include "case/LoadCase.h"
+#include "reports/ReportFiles.h"
+#include "reports/ReportRuns.h"
+#include "residue/ClassII.h"
+#include "residue/Residuaries.h"
+#include "rules/RunSharers.h"
+
+namespace qismora {
+
+namespace {
+
+struct Caption {
+  int Index;
+  const char* Words;
+};
+
+constexpr Caption captions[] = {
+    {0, "CASE WHEN DECEASED IS A"},
+    {1, "Wives"},
+    {2, "Sons"},
+    {3, "Daughters"},
+    {4, "Grand Sons"},
+    {5, "Grand Daughters"},
+    {6, "Great grand Sons"},
+    {7, "Gt. gnd. Daughter"},
+    {13, "Father"},
+    {14, "Grand Father"},
+    {15, "Great grand Father"},
+    {16, "Mother"},
+    {17, "Mother's Mother"},
+    {18, "Gr. Mot's Mother"},
+    {19, "Father's Mother"},
+    {20, "Gd. Fath's Mother"},
+    {21, "Father's G.Moth."},
+    {22, "Brothers (Full)"},
+    {23, "Sisters (Full)"},
+    {24, "Deceased"},
+    {25, "Gross Estate"},
+    {26, "Funeral exp."},
+    {27, "Debts"},
+    {28, "Will(s)"},
+    {29, "Net Estate"},
+    {30, "Consanguine Sister"},
+    {31, "Consang. Brother"},
+    {32, "Uterine Sisters"},
+    {33, "Uterine Brothers"},
+};
+
+constexpr Caption firstTexts[] = {
+    {NameBox, "ABDULLAH"}, {GrossEstateBox, "18600"}, {FuneralBox, "1000"},
+    {DebtsBox, "5000"},    {WillsBox, "2600"},        {NetEstateBox, "0"},
+};
+
+constexpr const char* viewCaptions[] = {"Urd ", "E", "Arabic "};
+
+/// Which rule a double click on a caption runs; box 1 belongs to wives or husband. The daughters are the
+/// only caption whose rule is run without its wrapper, so that the case is loaded once.
+struct Dispatch {
+  int Index;
+  Rule Run;
+};
+
+constexpr Dispatch dispatchTable[] = {
+    {2, RunSon},
+    {3, ShareOfDaughters},
+    {4, RunSon},
+    {5, RunSonsDaughter},
+    {6, RunSon},
+    {7, RunSonsSonsDaughter},
+    {13, RunUltimateFather},
+    {14, RunUltimateFather},
+    {15, RunUltimateFather},
+    {16, RunMother},
+    {17, RunGrandMother},
+    {18, RunGrandMother},
+    {19, RunGrandMother},
+    {20, RunGrandMother},
+    {21, RunGrandMother},
+    {22, RunFullBrother},
+    {23, RunFullSister},
+    {30, RunConsSister},
+    {31, RunConsBrother},
+    {32, RunUterineSister},
+    {33, RunUterineBrother},
+};
+
+constexpr int brightestColour = 0xFFFFFF;
+
+}  // namespace
+
+template <class Body>
+void CaseStudy::Event(Body body) {
+  try {
+    body();
+  } catch (const Failure& failure) {
+    World.Boxes.Tell(BoxStyle::Plain, Join(failure.Number, CRLF, failure.Description()));
+  }
+}
+
+CaseStudy::CaseStudy(CaseRecord& record, Outside& outside, int savedLanguage)
+    : CaseScreen(outside), record_(record) {
+  static_cast<ScreenLayer&>(record) = ScreenLayer{};
+
+  for (const Caption& caption : captions) Label1(caption.Index).Caption = caption.Words;
+  for (const int box : HeirBoxes) Text1(box).Text = "0";
+  for (const Caption& text : firstTexts) Text1(text.Index).Text = text.Words;
+  for (int i = 0; i < Check1.Size; ++i) Check1(i).Caption = ClassIIRows[static_cast<std::size_t>(i)].Caption;
+  for (int i = 0; i < Label4.Size; ++i) Label4(i).Caption = viewCaptions[i];
+  for (int i = 0; i < Text1.Size; ++i) {
+    Text1(i).Text.WhenChanged([this] { Image2.BorderStyle = 0; });
+  }
+  Combo1.ListIndex.WhenChanged([this] { Combo1_Click(); });
+
+  Label2.Caption = "PROGRAM EXECUTION RESULTS";
+  Label3.Caption = "SHARE";
+  Text3.Visible = false;
+  AulRad.Enabled = false;
+  Frame5.Caption = "Some of our Softwares";
+  Label6.Caption = "QISMORA";
+  Label6.ForeColor = Green;
+  Image2.Visible = true;
+  Image42(0).Visible = true;
+  Timer1 = 1000;
+  Frame111_MouseMove();
+
+  Label13.Caption = Join(record_.ExecCount);
+  Comb1_Data();
+  Frame1.Caption = Join("When deceased is a ", Combo1.Text());
+  ChooseView(savedLanguage >= 0 && savedLanguage < Label4.Size ? savedLanguage : 0);
+}
+
+void CaseStudy::Comb1_Data() {
+  Combo1.List = {"Male", "Female"};
+  Combo1.ListIndex = Male;
+}
+
+// The switch of gender. Wives and husband exclude each other; the typed text stays and is read at the next
+// load for the other of the two.
+void CaseStudy::Combo1_Click() {
+  const bool male = Combo1.ListIndex == Male;
+  Frame1.Caption = Join("Informations of the deceased ", Combo1.Text());
+  Label1(1).Caption = male ? "Wives" : "Husband";
+  (male ? record_.Husband : record_.Wives) = Integer(0);
+  if (Label4(2).BorderStyle == 1) {
+    ShowArabicCaptions();
+    Image41(0).Visible = male;
+    Image41(1).Visible = !male;
+  } else {
+    ShowUrduCaptions();
+    Image30(0).Visible = male;
+    Image30(1).Visible = !male;
+  }
+}
+
+void CaseStudy::ShowUrduCaptions() {
+  for (int i = 9; i <= 29; ++i) Image(i).Visible = true;
+  for (int i = 0; i < Image41.Size; ++i) Image41(i).Visible = false;
+}
+
+void CaseStudy::ShowArabicCaptions() {
+  for (int i = 9; i <= 29; ++i) Image(i).Visible = false;
+  for (int i = 0; i < Image41.Size; ++i) Image41(i).Visible = true;
+  Image41(1).Visible = false;
+}
+
+// The choice of view returns the screen to a male deceased. The English view shows the same caption
+// pictures as the Urdu view, without the panels over the class II boxes.
+void CaseStudy::ChooseView(int index) {
+  const bool urdu = index == 0;
+  const bool arabic = index == 2;
+  for (int i = 0; i < Frame4.Size; ++i) Frame4(i).Visible = urdu;
+  for (int i = 0; i < Frame6.Size; ++i) Frame6(i).Visible = arabic;
+  Combo1.ListIndex = Male;
+  Image41(0).Visible = arabic;
+  if (!arabic) Image41(1).Visible = false;
+  Image30(0).Visible = !arabic;
+  if (arabic) Image30(1).Visible = false;
+  if (arabic) {
+    ShowArabicCaptions();
+  } else {
+    ShowUrduCaptions();
+  }
+  for (int i = 0; i < Label4.Size; ++i) {
+    Label4(i).BorderStyle = i == index ? 1 : 0;
+    Label4(i).ForeColor = i == index ? DarkRed : ButtonTextColour;
+  }
+  World.Store.Write(ApplicationTitle, "LanguageSetting", "LblPressed", Join(index));
+}
+
+void CaseStudy::Label4_Click(int index) {
+  Event([&] { ChooseView(index); });
+}
+
+// The way from a caption to the screen: the results cleared, the case loaded, the wrapper, which loads it
+// again, and the rule.
+void CaseStudy::Label1_DblClick(int index) {
+  if (index == 0 || (index >= NameBox && index <= NetEstateBox)) return;
+  Event([&] {
+    ShowLongText(*this, false);
+    Text2.Text = "";
+    ClearResults(record_, *this);
+    LoadCase(record_, *this);
+    if (record_.InputFailed) {
+      record_.InputFailed = false;
+      return;
+    }
+    RunHeir(index);
+    StatusBar1.Caption = Join("Share of ", Label1(index).Caption);
+    World.Boxes.Tell(BoxStyle::Information, "Current data executed successfully.");
+    Frame5.Visible = false;
+  });
+}
+
+void CaseStudy::RunHeir(int index) {
+  if (index == 1) {
+    (Combo1.ListIndex == Male ? RunWife : RunHusband)(record_, *this);
+    return;
+  }
+  for (const Dispatch& row : dispatchTable) {
+    if (row.Index == index) row.Run(record_, *this);
+  }
+}
+
+// A double click in a box marks an heir as alive or dead. What is no number stays as it is.
+void CaseStudy::Text1_DblClick(int index) {
+  try {
+    Text1(index).Text = ParseStrict(Text1(index).Text.Get()) == 0 ? "1" : "0";
+  } catch (const Failure&) {
+    return;
+  }
+}
+
+void CaseStudy::Image37_DblClick(int) {
+  Event([&] { ExplainClassII(*this); });
+}
+
+void CaseStudy::FullReport_Click() {
+  Event([&] { RunFullReport(record_, *this); });
+}
+void CaseStudy::Exec_Click() {
+  SelectedReport_Click();
+}
+void CaseStudy::SelectedReport_Click() {
+  Event([&] { RunSelectedReport(record_, *this); });
+}
+void CaseStudy::Resid_Click() {
+  Residuaries_Click();
+}
+void CaseStudy::Residuaries_Click() {
+  Event([&] { RunResiduaries(record_, *this); });
+}
+void CaseStudy::AulRad_Click() {
+  AulRadd_Click();
+}
+void CaseStudy::AulRadd_Click() {
+  Event([&] { RunAulRadd(record_, *this); });
+}
+void CaseStudy::CreateSaveFullReport_Click() {
+  Event([&] { CreateSaveFullReport(record_, *this); });
+}
+void CaseStudy::FullReportxx_Click() {
+  CreateSaveFullReport_Click();
+}
+void CaseStudy::SaveResults_Click() {
+  Event([&] { SaveResults(*this); });
+}
+
+// The clear command. Each clear steps the colour of the program's name; past the brightest it is green again.
+void CaseStudy::Image2_Click() {
+  Event([&] {
+    Frame5.Visible = true;
+    Label2.Caption = "PROGRAM EXECUTION RESULTS";
+    record_.AulRaddState = Integer(NoAdjustment);
+    Text3.Text = "";
+    Text2.Text = "";
+    Label3.Caption = "";
+    for (const int box : HeirBoxes) Text1(box).Text = "0";
+    for (int i = 0; i < Check1.Size; ++i) Check1(i).Value = 0;
+    const int next = Label6.ForeColor + 500000;
+    Label6.ForeColor = next <= brightestColour ? next : Green;
+  });
+}
+
+void CaseStudy::TestValues_Click() {
+  Event([&] {
+    const bool fill = testValues_;
+    testValues_ = !fill;
+    for (const int box : HeirBoxes) Text1(box).Text = fill ? "1" : "0";
+    if (fill) return;
+    for (int i = 0; i < Check1.Size; ++i) Check1(i).Value = 0;
+  });
+}
+
+void CaseStudy::Label13_DblClick() {
+  Event([&] {
+    World.Boxes.Tell(BoxStyle::Information, Join("Number of executions of this program = ", Label13.Caption));
+  });
+}
+
+void CaseStudy::Label6_Click() {
+  Event([&] {
+    if (HideCatalogue) HideCatalogue();
+    World.Boxes.Tell(BoxStyle::Information, "YOU ARE WORKING ON THIS PROGRAM");
+  });
+}
+void CaseStudy::Image38_Click() {
+  Label6_Click();
+}
+
+void CaseStudy::About_Click() {
+  Event([&] {
+    if (ShowCatalogue) ShowCatalogue();
+  });
+}
+
+void CaseStudy::Back_Click() {
+  Event([&] {
+    Frame5.Visible = true;
+    if (ShowMainMenu) ShowMainMenu();
+    if (Hide) Hide();
+  });
+}
+
+void CaseStudy::Form_QueryUnload() {
+  Event([&] {
+    if (Hide) Hide();
+    if (ShowMainMenu) ShowMainMenu();
+  });
+}
+
+void CaseStudy::Form_Resize(bool maximized, int width, int height) {
+  Frame111Top = maximized ? (height - 9000) / 2 : 0;
+  Frame111Left = maximized ? (width - 12000) / 2 : 0;
+}
+
+void CaseStudy::Image2_MouseDown() {
+  Image2.BorderStyle = 1;
+}
+void CaseStudy::Image42_Click() {
+  Timer1 = Timer1 == 1000 ? 0 : 1000;
+}
+
+// The pictures go round 2, 1, 0 at a step a second.
+void CaseStudy::Timer1_Timer() {
+  const int next = Image42(2).Visible ? 1 : Image42(1).Visible ? 0 : 2;
+  for (int i = 0; i < Image42.Size; ++i) Image42(i).Visible = i == next;
+}
+
+void CaseStudy::FullReportxx_MouseMove() {
+  FullReportxx = 39;
+}
+void CaseStudy::Frame3_MouseMove() {
+  FullReportxx = 40;
+}
+void CaseStudy::Image6_MouseMove() {
+  Image6(0).Visible = false;
+}
+void CaseStudy::Image4_MouseMove() {
+  Image4(0).Visible = false;
+}
+void CaseStudy::Image7_MouseMove() {
+  Image7(1).Visible = false;
+}
+
+// Moving on to the frame takes every hover decoration back.
+void CaseStudy::Frame111_MouseMove() {
+  Image7(1).Visible = true;
+  Image4(0).Visible = true;
+  Image6(0).Visible = true;
+  FullReportxx = 40;
+}
+
+}  // namespace qismora

@@ -1,0 +1,110 @@
+#pragma once
+
+#include <functional>
+
+#include "case/CaseRecord.h"
+#include "case/CaseScreen.h"
+
+namespace qismora {
+
+/// The Case Study screen without a toolkit: its controls as plain values and the handler of every event.
+/// A window shows it and passes events on; a transcript plays it. No failure leaves an event: what no
+/// handler takes is told in a plain box with its number, and the program goes on.
+class CaseStudy : public CaseScreen {
+ public:
+  /// Makes the screen layer of the record anew and runs the start sequence. The saved language is the
+  /// view at the opening, an index of Label4.
+  CaseStudy(CaseRecord& record, Outside& outside, int savedLanguage);
+
+  /// Leads back to the main menu, and to the program catalogue.
+  std::function<void()> ShowMainMenu;
+  std::function<void()> ShowCatalogue;
+  std::function<void()> HideCatalogue;
+  /// Takes the screen out of sight; it keeps its texts.
+  std::function<void()> Hide;
+
+  // Heirs and boxes
+  void Label1_DblClick(int index);
+  void Text1_DblClick(int index);
+  void Image37_DblClick(int index);
+
+  // Commands
+  void FullReport_Click();
+  void Exec_Click();
+  void SelectedReport_Click();
+  void Resid_Click();
+  void Residuaries_Click();
+  void AulRad_Click();
+  void AulRadd_Click();
+  void CreateSaveFullReport_Click();
+  void FullReportxx_Click();
+  void SaveResults_Click();
+  void Image2_Click();
+  void TestValues_Click();
+
+  // The view, and what surrounds the case
+  void Label4_Click(int index);
+  void Label13_DblClick();
+  void Label6_Click();
+  void Image38_Click();
+  void About_Click();
+  void Back_Click();
+  void Form_QueryUnload();
+  void Form_Resize(bool maximized, int width, int height);
+
+  // Decorations
+  void Image2_MouseDown();
+  void Image42_Click();
+  void Timer1_Timer();
+  void FullReportxx_MouseMove();
+  void Frame3_MouseMove();
+  void Image6_MouseMove();
+  void Image4_MouseMove();
+  void Image7_MouseMove();
+  void Frame111_MouseMove();
+
+  // Where the frame with all controls stands in the window, in twips.
+  Property<int> Frame111Left;
+  Property<int> Frame111Top;
+  Frame Frame1;
+  /// The choice of view: Urdu, English, Arabic.
+  Array<Label, 2> Label4;
+  /// The name of the program on Frame5.
+  Label Label6;
+
+  /// The clear picture.
+  Picture Image2;
+  /// The number of the picture that the full report button shows: 39 under the mouse, else 40.
+  Property<int> FullReportxx{40};
+
+  // The caption pictures over the boxes. Image9 to Image29 are Image(9) to Image(29).
+  Array<Picture, 29> Image;
+  Array<Picture, 1> Image30;
+  Array<Picture, 22> Image41;
+  Array<Frame, 2> Frame4;
+  Array<Frame, 2> Frame6;
+
+  /// The interval of the animation's timer in milliseconds; 0 stands still.
+  Property<int> Timer1{0};
+  Array<Picture, 2> Image42;
+  Array<Picture, 1> Image6;
+  Array<Picture, 1> Image4;
+  Array<Picture, 1> Image7;
+
+ private:
+  template <class Body>
+  void Event(Body body);
+
+  void Comb1_Data();
+  void Combo1_Click();
+  void ChooseView(int index);
+  void ShowUrduCaptions();
+  void ShowArabicCaptions();
+  void RunHeir(int index);
+
+  CaseRecord& record_;
+  bool testValues_ = false;
+};
+
+
+}  // namespace qismora
