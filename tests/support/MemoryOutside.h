@@ -1,0 +1,86 @@
+#pragma once
+
+#include <deque>
+#include <map>
+#include <string>
+#include <vector>
+
+#include "base/Outside.h"
+
+namespace qismora::testing {
+
+/// The outside world in memory: a clock that stands still, boxes and dialogs that answer from a queue, settings
+/// in a map.
+class MemoryClock : public Clock {
+ public:
+  DateTime Now() override { return Time; }
+  DateTime Time = {2024, 3, 5, 14, 7, 9};
+};
+
+class MemoryBoxes : public MessageBoxes {
+ public:
+  struct Box {
+    BoxStyle Style;
+    BoxButtons Buttons;
+    std::string Text;
+  };
+
+  /// A box with a choice takes the first answer of the queue, or No when it is empty.
+  Answer Show(BoxStyle style, BoxButtons buttons, const std::string& text) override {
+    Shown.push_back({style, buttons, text});
+    if (buttons == BoxButtons::Ok) return Answer::Ok;
+    if (Answers.empty()) return Answer::No;
+    const Answer answer = Answers.front();
+    Answers.pop_front();
+    return answer;
+  }
+
+  std::vector<Box> Shown;
+  std::deque<Answer> Answers;
+};
+
+class MemoryDialog : public SaveDialog {
+ public:
+  std::optional<std::string> AskPath(const std::string& suggestedName, const std::string&) override {
+    Suggested = suggestedName;
+    if (Paths.empty()) return std::nullopt;
+    std::string path = Paths.front();
+    Paths.pop_front();
+    return path;
+  }
+
+  std::string Suggested;
+  std::deque<std::string> Paths;
+};
+
+class MemorySettings : public Settings {
+ public:
+  std::string Read(const std::string& application, const std::string& section, const std::string& key) override {
+    const auto found = Values.find(application + "/" + section + "/" + key);
+    return found == Values.end() ? "" : found->second;
+  }
+  void Write(const std::string& application, const std::string& section, const std::string& key,
+             const std::string& value) override {
+    Values[application + "/" + section + "/" + key] = value;
+  }
+
+  std::map<std::string, std::string> Values;
+};
+
+class MemoryFolders : public Folders {
+ public:
+  std::string Reports() override { return Folder; }
+  std::string Application() override { return Folder; }
+  std::string Folder = ".";
+};
+
+struct MemoryWorld {
+  MemoryClock Clock;
+  MemoryBoxes Boxes;
+  MemoryDialog Dialog;
+  MemorySettings Settings;
+  MemoryFolders Folders;
+  Outside Ports{Clock, Boxes, Dialog, Settings, Folders};
+};
+
+}  // namespace qismora::testing
