@@ -12,6 +12,7 @@
 #include "base/Text.h"
 #include "player/Transcript.h"
 #include "support/MemoryOutside.h"
+#include "support/TemporaryFolder.h"
 
 namespace fs = std::filesystem;
 
@@ -256,30 +257,8 @@ class Player {
   std::vector<Shown> shown_;
 };
 
-/// A new empty directory that is the current one until it goes.
-class WorkDirectory {
- public:
-  WorkDirectory() : before_(fs::current_path()) {
-    std::string name = (fs::temp_directory_path() / "transcript-XXXXXX").string();
-    if (mkdtemp(name.data()) == nullptr) throw Failure(PathFileAccess);
-    path_ = name;
-    fs::current_path(path_);
-  }
-  ~WorkDirectory() {
-    std::error_code ignored;
-    fs::current_path(before_, ignored);
-    fs::remove_all(path_, ignored);
-  }
-  WorkDirectory(const WorkDirectory&) = delete;
-  WorkDirectory& operator=(const WorkDirectory&) = delete;
-
- private:
-  fs::path before_;
-  fs::path path_;
-};
-
-int PlayScript() {
-  const WorkDirectory directory;
+/// Plays standard input to its end, or to a line that is no command.
+int PlayLines() {
   Player player;
   std::string line;
   for (int number = 1; std::getline(std::cin, line); ++number) {
@@ -293,6 +272,16 @@ int PlayScript() {
     }
   }
   return 0;
+}
+
+/// A script is played in a new empty directory.
+int PlayScript() {
+  const fs::path before = fs::current_path();
+  const TemporaryFolder folder;
+  fs::current_path(folder.Path());
+  const int status = PlayLines();
+  fs::current_path(before);
+  return status;
 }
 
 }  // namespace

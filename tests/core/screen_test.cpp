@@ -1,0 +1,169 @@
+#include <gtest/gtest.h>
+
+#include "support/MemoryCase.h"
+
+namespace qismora {
+namespace {
+
+using testing::MemoryCase;
+
+TEST(Screen, TheAnimationGoesRoundAndStops) {
+  const MemoryCase played;
+  CaseStudy& study = *played.Study;
+  const auto shown = [&] {
+    int at = -1;
+    for (int i = 0; i < 3; ++i) {
+      if (study.Image42(i).Visible) at = at < 0 ? i : 9;
+    }
+    return at;
+  };
+  EXPECT_EQ(shown(), 0);
+  for (const int next : {2, 1, 0, 2}) {
+    study.Timer1_Timer();
+    EXPECT_EQ(shown(), next);
+  }
+  EXPECT_EQ(study.Timer1, 1000);
+  study.Image42_Click();
+  EXPECT_EQ(study.Timer1, 0);
+  study.Image42_Click();
+  EXPECT_EQ(study.Timer1, 1000);
+}
+
+TEST(Screen, EachClearStepsTheColourOfTheNameAndComesBackToGreen) {
+  const MemoryCase played;
+  CaseStudy& study = *played.Study;
+  const int first = study.Label6.ForeColor;
+  study.Image2_Click();
+  EXPECT_EQ(study.Label6.ForeColor, first + 500000);
+  int clears = 1;
+  while (study.Label6.ForeColor != Green) {
+    study.Image2_Click();
+    ASSERT_LE(study.Label6.ForeColor, 0xFFFFFF);
+    ASSERT_LT(++clears, 50);
+  }
+  EXPECT_GT(clears, 30);
+}
+
+TEST(Screen, TheBorderOfTheClearPictureGoesWithAChangedBox) {
+  MemoryCase played;
+  CaseStudy& study = *played.Study;
+  study.Image2_MouseDown();
+  study.Image2_Click();
+  EXPECT_EQ(study.Image2.BorderStyle, 1) << "every box held 0 already";
+  played.Type(2, "3");
+  EXPECT_EQ(study.Image2.BorderStyle, 0);
+  study.Image2_MouseDown();
+  study.Image2_Click();
+  EXPECT_EQ(study.Image2.BorderStyle, 0);
+}
+
+TEST(Screen, HoveringTakesDecorationsAwayAndTheFrameBringsThemBack) {
+  const MemoryCase played;
+  CaseStudy& study = *played.Study;
+  study.Image6_MouseMove();
+  study.Image4_MouseMove();
+  study.Image7_MouseMove();
+  study.FullReportxx_MouseMove();
+  EXPECT_FALSE(study.Image6(0).Visible || study.Image4(0).Visible || study.Image7(1).Visible);
+  EXPECT_EQ(study.FullReportxx, 39);
+  study.Frame111_MouseMove();
+  EXPECT_TRUE(study.Image6(0).Visible && study.Image4(0).Visible && study.Image7(1).Visible);
+  EXPECT_EQ(study.FullReportxx, 40);
+  study.FullReportxx_MouseMove();
+  study.Frame3_MouseMove();
+  EXPECT_EQ(study.FullReportxx, 40);
+}
+
+TEST(Screen, TheFrameIsCentredOnlyInAMaximizedWindow) {
+  const MemoryCase played;
+  CaseStudy& study = *played.Study;
+  study.Form_Resize(true, 19200, 10800);
+  EXPECT_EQ(study.Frame111Left, 3600);
+  EXPECT_EQ(study.Frame111Top, 900);
+  study.Form_Resize(false, 19200, 10800);
+  EXPECT_EQ(study.Frame111Left, 0);
+  EXPECT_EQ(study.Frame111Top, 0);
+}
+
+TEST(Screen, TheSavedViewOpensAndEachChoiceIsSaved) {
+  const std::string key = std::string(ApplicationTitle) + "/LanguageSetting/LblPressed";
+  for (const int view : {0, 1, 2}) {
+    MemoryCase played(view);
+    EXPECT_EQ(played.Study->Label4(view).BorderStyle, 1);
+    EXPECT_EQ(played.World.Settings.Values[key], std::to_string(view));
+    played.Study->Label4_Click(2 - view);
+    EXPECT_EQ(played.World.Settings.Values[key], std::to_string(2 - view));
+  }
+  EXPECT_EQ(MemoryCase(7).Study->Label4(0).BorderStyle, 1) << "a view that is none is the first";
+}
+
+TEST(Screen, TheGenderKeepsTheArabicPictures) {
+  const MemoryCase played(2);
+  CaseStudy& study = *played.Study;
+  study.Combo1.ListIndex = Female;
+  EXPECT_TRUE(study.Image41(1).Visible);
+  EXPECT_FALSE(study.Image41(0).Visible);
+  EXPECT_TRUE(study.Image41(22).Visible);
+  EXPECT_FALSE(study.Image(9).Visible);
+}
+
+TEST(Screen, ARefusedCountSendsTheFocusToItsBox) {
+  MemoryCase played;
+  int focused = 0;
+  for (const int box : HeirBoxes) {
+    played.Study->Text1(box).FocusWanted = [&focused, box] { focused = box; };
+  }
+  played.Type(2, "101");
+  played.Study->Label1_DblClick(3);
+  EXPECT_EQ(focused, 2);
+  played.Type(1, "5");
+  played.Study->Label1_DblClick(3);
+  EXPECT_EQ(focused, 1);
+  focused = 0;
+  played.Type(1, "0");
+  played.Type(2, "0");
+  played.Type(3, "101");
+  played.Study->Label1_DblClick(3);
+  EXPECT_EQ(focused, 0);
+}
+
+TEST(Screen, BackAndTheCloseBoxShowTheMenu) {
+  const MemoryCase played;
+  CaseStudy& study = *played.Study;
+  std::string road;
+  study.ShowMainMenu = [&] { road += "menu "; };
+  study.Hide = [&] { road += "hide "; };
+  study.Frame5.Visible = false;
+  study.Form_QueryUnload();
+  EXPECT_EQ(road, "hide menu ");
+  EXPECT_FALSE(study.Frame5.Visible);
+  study.Back_Click();
+  EXPECT_EQ(road, "hide menu menu hide ");
+  EXPECT_TRUE(study.Frame5.Visible);
+}
+
+TEST(Screen, AnyTextInAnyBoxIsAnsweredAndNothingEscapes) {
+  const std::string texts[] = {"",     "abc",   "-1",   "1e400", std::string(10000, '9'), "&H" + std::string(500, 'F'),
+                               "مرحبا", "1,0,0", "1e-9", "--1",   std::string("\0\1\2", 3), "\xFF\xFE",
+                               "NaN",  "inf",   "2147483648"};
+  for (const int box : HeirBoxes) {
+    for (const std::string& text : texts) {
+      MemoryCase played;
+      played.Type(box, text);
+      played.Type(GrossEstateBox, text);
+      EXPECT_NO_THROW({
+        played.Study->Text1_DblClick(box);
+        played.Type(box, text);
+        played.Study->Label1_DblClick(box);
+        played.Study->Residuaries_Click();
+        played.Study->AulRadd_Click();
+        played.Study->FullReport_Click();
+        played.Study->SelectedReport_Click();
+      }) << box
+         << " " << text;
+    }
+  }
+}
+
+}  // namespace
+}  // namespace qismora
