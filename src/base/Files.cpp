@@ -1,5 +1,7 @@
 #include "base/Files.h"
 
+#include <algorithm>
+#include <cstdint>
 #include <filesystem>
 #include <random>
 
@@ -44,6 +46,25 @@ std::string ReadWholeFile(const std::string& path) {
   return {std::istreambuf_iterator<char>(stream), {}};
 }
 
+bool FileExists(const std::string& path) {
+  std::error_code ignored;
+  return fs::is_regular_file(path, ignored);
+}
+
+Long FileLength(const std::string& path) {
+  std::error_code error;
+  const std::uintmax_t length = fs::file_size(path, error);
+  if (error) throw Failure(FileNotFound);
+  return Long(static_cast<std::int64_t>(std::min<std::uintmax_t>(length, INT64_MAX)));
+}
+
+void AppendLine(const std::string& path, std::string_view line) {
+  std::ofstream stream(path, std::ios::binary | std::ios::app);
+  stream << Join(line, CRLF) << std::flush;
+  stream.close();
+  if (!stream) throw Failure(PathFileAccess);
+}
+
 bool IsFileName(std::string_view name) {
   return !name.empty() && name != "." && name != ".." &&
          name.find_first_of(std::string_view("/\\\0", 3)) == std::string_view::npos;
@@ -75,7 +96,8 @@ void DeleteFile(const std::string& path) {
 
 void WriteSafely(Folders& places, const std::string& path, std::string_view content) {
   const std::string unfinished =
-      (fs::path(path).parent_path() / Join(".report-", std::to_string(std::random_device()()), ".part")).string();
+      (fs::path(path).parent_path() / Join(".report-", std::to_string(std::random_device()()), ".part"))
+          .string();
   try {
     std::ofstream stream(unfinished, std::ios::binary | std::ios::trunc);
     stream << content;

@@ -4,6 +4,7 @@
 #include <string>
 #include <string_view>
 
+#include "base/Numbers.h"
 #include "base/Outside.h"
 
 namespace qismora {
@@ -24,6 +25,16 @@ class TextFile {
 
 /// The whole content of a file.
 std::string ReadWholeFile(const std::string& path);
+
+/// Whether a file of this path can be found.
+bool FileExists(const std::string& path);
+
+/// The length in bytes. A missing file is the failure 53.
+Long FileLength(const std::string& path);
+
+/// Adds a line to the end of a file, which is made where there is none. The line is written at once, so that
+/// programs which add to the same file at the same moment do not tear each other's lines.
+void AppendLine(const std::string& path, std::string_view line);
 
 /// Whether the text names a file in its folder: no separator of any platform, not "." or "..".
 bool IsFileName(std::string_view name);

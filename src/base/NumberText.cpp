@@ -88,6 +88,12 @@ Double NumberValue(std::string_view digits) {
     for (const char c : digits.substr(2)) value = value * base + (IsDigit(c) ? c - '0' : (c | 0x20) - 'a' + 10);
     return value;
   }
+  // Most boxes hold a few plain digits.
+  if (digits.size() <= 15 && std::ranges::all_of(digits, IsDigit)) {
+    std::int64_t whole = 0;
+    for (const char c : digits) whole = whole * 10 + (c - '0');
+    return static_cast<double>(whole);
+  }
   if (digits.starts_with('+')) digits.remove_prefix(1);
   const auto result = std::from_chars(digits.data(), digits.data() + digits.size(), value);
   if (result.ec == std::errc::result_out_of_range && !IsBelowOne(digits)) throw Failure(Overflow);

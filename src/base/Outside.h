@@ -1,5 +1,6 @@
 #pragma once
 
+#include <functional>
 #include <optional>
 #include <string>
 
@@ -50,7 +51,8 @@ class SaveDialog {
 class Settings {
  public:
   virtual ~Settings() = default;
-  virtual std::string Read(const std::string& application, const std::string& section, const std::string& key) = 0;
+  virtual std::string Read(const std::string& application, const std::string& section,
+                           const std::string& key) = 0;
   virtual void Write(const std::string& application, const std::string& section, const std::string& key,
                      const std::string& value) = 0;
 };
@@ -63,17 +65,68 @@ class Folders {
   virtual std::string Reports() = 0;
   /// Where the program's own files lie.
   virtual std::string Application() = 0;
+  /// Where the session log stands: the program's folder, or the user's data where that cannot be written to.
+  virtual std::string Log() { return Application(); }
+  /// Where the documents lie that are delivered with the program.
+  virtual std::string Documents() { return Application() + "/documents"; }
   /// Has a closed file written through to the disk, as far as the platform can.
   virtual void WriteThrough(const std::string& path) { static_cast<void>(path); }
 };
 
-/// All of it, handed to the screens.
+/// The platform's viewer of documents. False where the platform has no way to open the file.
+class DocumentViewer {
+ public:
+  virtual ~DocumentViewer() = default;
+  virtual bool Open(const std::string& path) = 0;
+};
+
+/// A player of videos. One that cannot play shows nothing.
+class VideoPlayer {
+ public:
+  virtual ~VideoPlayer() = default;
+  virtual void SetFile(const std::string& path) = 0;
+  virtual void Play() = 0;
+
+  /// Raised when a video has been played to its end.
+  std::function<void()> EndOfPlay;
+};
+
+/// Memory in bytes: of the machine, and of this program.
+struct MemoryFigures {
+  double Total = 0;
+  double Free = 0;
+  double UsedHere = 0;
+};
+
+/// The memory of the machine.
+class MemoryMeter {
+ public:
+  virtual ~MemoryMeter() = default;
+  virtual MemoryFigures Read() = 0;
+};
+
+/// The running program.
+class Program {
+ public:
+  virtual ~Program() = default;
+  virtual void End() = 0;
+};
+
+/// What a case works with, handed to its screen.
 struct Outside {
   Clock& Time;
   MessageBoxes& Boxes;
   SaveDialog& Dialog;
   Settings& Store;
   Folders& Places;
+};
+
+/// All of it, handed to the screens around the case.
+struct ShellOutside : Outside {
+  DocumentViewer& Viewer;
+  VideoPlayer& MediaPlayer1;
+  MemoryMeter& clsMemory;
+  Program& Running;
 };
 
 /// The application's title: it titles the message boxes, and two of the settings stand under it.

@@ -4,6 +4,7 @@
 #include <array>
 #include <charconv>
 #include <cmath>
+#include <cstdint>
 #include <locale>
 #include <span>
 #include <stdexcept>
@@ -18,21 +19,25 @@ Piece::Piece(int number) {
 std::string JoinPieces(std::initializer_list<Piece> pieces) {
   std::size_t size = 0;
   for (const Piece& piece : pieces) size += piece.Words().size();
-  std::string text;
-  text.reserve(size);
-  for (const Piece& piece : pieces) text += piece.Words();
+  std::string text(size, ' ');
+  char* end = text.data();
+  for (const Piece& piece : pieces) end = std::ranges::copy(piece.Words(), end).out;
   return text;
 }
 
 std::string F(Double amount) {
-  const double whole = std::round(amount.Value());
-  // The longest amount has 309 digits and a sign.
-  std::array<char, 320> digits{};
-  const auto end =
-      std::to_chars(digits.data(), digits.data() + digits.size(), std::abs(whole), std::chars_format::fixed, 0)
-          .ptr;
+  const double whole = std::abs(std::round(amount.Value()));
+  // The longest amount has 309 digits.
+  std::array<char, 320> digits;
+  char* const first = digits.data();
+  char* const last = first + digits.size();
+  // Whole numbers up to here are exact, and written faster as such.
+  constexpr double largestExact = 0x1p53;
+  const char* const end = whole < largestExact
+                              ? std::to_chars(first, last, static_cast<std::int64_t>(whole)).ptr
+                              : std::to_chars(first, last, whole, std::chars_format::fixed, 0).ptr;
   std::string text(amount < 0 ? "-" : "");
-  return text.append(digits.data(), end);
+  return text.append(first, static_cast<std::size_t>(end - first));
 }
 
 std::string GeneralNumber(Double value) {
