@@ -108,7 +108,8 @@ void TellGrowthOverAMillionCases() {
   play(1000);
   const long before = ResidentKilobytes();
   play(1000000);
-  std::cout << "memory over one million cases: " << before << " KiB before, " << ResidentKilobytes() << " KiB after\n";
+  std::cout << "memory over one million cases: " << before << " KiB before, " << ResidentKilobytes()
+            << " KiB after\n";
 }
 
 }  // namespace

@@ -6,8 +6,8 @@
 #include "base/Text.h"
 #include "case/ResiduaryFlags.h"
 
-// Aul scales every sharer down where the shares exceed the estate; Radd scales them up where no residuary takes
-// the surplus, and the spouse keeps the plain share.
+// Aul scales every sharer down where the shares exceed the estate; Radd scales them up where no residuary
+// takes the surplus, and the spouse keeps the plain share.
 
 namespace qismora {
 
@@ -56,7 +56,8 @@ void ApplyDoctrine(CaseRecord& c, CaseScreen& screen) {
     return;
   }
   screen.Frame5.Visible = false;
-  const bool classified = c.AulRaddState == AulBesideResiduary || c.AulRaddState == Aul || c.AulRaddState == Radd;
+  const bool classified =
+      c.AulRaddState == AulBesideResiduary || c.AulRaddState == Aul || c.AulRaddState == Radd;
   if (!classified && AskAboutResiduary(c, screen)) return;
   if (c.TotalQShares == 0) return;
 
@@ -71,8 +72,8 @@ void ApplyDoctrine(CaseRecord& c, CaseScreen& screen) {
   ReviseFractions(c);
   BuildAulRaddTexts(c, screen);
   const bool aul = c.Residue < 0;
-  screen.Text3.Text = Join(aul ? c.SummaryText : c.RaddText, CRLF, CRLF, GeneratedBy(screen.World.Time.Now()),
-                           CRLF, CRLF);
+  screen.Text3.Text =
+      Join(aul ? c.SummaryText : c.RaddText, CRLF, CRLF, GeneratedBy(screen.World.Time.Now()), CRLF, CRLF);
   screen.Label2.Caption = aul ? "AUL DOCTRINE APPLIED" : "RADD DOCTRINE APPLIED";
 }
 

@@ -16,27 +16,22 @@ struct HeirLine {
 };
 
 constexpr HeirLine wifeLine = {"WIFE (", &CaseRecord::Wives, &CaseRecord::WifeShare, WifeSlot};
-constexpr HeirLine husbandLine = {"HUSBAND (", &CaseRecord::Husband, &CaseRecord::HusbandShare,
-                                  HusbandSlot};
+constexpr HeirLine husbandLine = {"HUSBAND (", &CaseRecord::Husband, &CaseRecord::HusbandShare, HusbandSlot};
 
 constexpr HeirLine otherLines[] = {
     {"DAUGHTERS (", &CaseRecord::Daughters, &CaseRecord::DaughterShare, DaughterSlot},
     {"FATHER (", &CaseRecord::Father, &CaseRecord::FatherShare, FatherSlot},
     {"MOTHER (", &CaseRecord::Mother, &CaseRecord::MotherShare, MotherSlot},
-    {"True Grand Mother (", &CaseRecord::GrandMotherCount, &CaseRecord::GrandMotherShare,
-     GrandMotherSlot},
-    {"Son's daughter (", &CaseRecord::GrandDaughters, &CaseRecord::SonsDaughterShare,
-     SonsDaughterSlot},
+    {"True Grand Mother (", &CaseRecord::GrandMotherCount, &CaseRecord::GrandMotherShare, GrandMotherSlot},
+    {"Son's daughter (", &CaseRecord::GrandDaughters, &CaseRecord::SonsDaughterShare, SonsDaughterSlot},
     {"Son's Son's daughter (", &CaseRecord::GtGrandDaughters, &CaseRecord::SonsSonsDaughterShare,
      SonsSonsDaughterSlot},
     {"BROTHER (", &CaseRecord::FullBrothers, &CaseRecord::FullBrotherShare, FullBrotherSlot},
     {"SISTER (", &CaseRecord::FullSisters, &CaseRecord::FullSisterShare, FullSisterSlot},
     {"Cons. SISTER (", &CaseRecord::ConsSisters, &CaseRecord::ConsSisterShare, ConsSisterSlot},
     {"Cons. BROTHER (", &CaseRecord::ConsBrothers, &CaseRecord::ConsBrotherShare, ConsBrotherSlot},
-    {"Uter. SISTER (", &CaseRecord::UterineSisters, &CaseRecord::UterineSisterShare,
-     UterineSisterSlot},
-    {"Uter. BROTHER (", &CaseRecord::UterineBrothers, &CaseRecord::UterineBrotherShare,
-     UterineBrotherSlot},
+    {"Uter. SISTER (", &CaseRecord::UterineSisters, &CaseRecord::UterineSisterShare, UterineSisterSlot},
+    {"Uter. BROTHER (", &CaseRecord::UterineBrothers, &CaseRecord::UterineBrotherShare, UterineBrotherSlot},
 };
 
 // The plain distribution shows every ultimate father and the combination of the grandmothers.
@@ -57,8 +52,7 @@ std::string SummaryHead(const CaseRecord& c, const HeirLine& line) {
 
 void AddSummaryLine(CaseRecord& c, const HeirLine& line) {
   if (!IsInSummary(c, line)) return;
-  c.SharerLines +=
-      Join(SummaryHead(c, line), ") = ", F(c.*line.Amount), FractionText(c, line.Place), CRLF);
+  c.SharerLines += Join(SummaryHead(c, line), ") = ", F(c.*line.Amount), FractionText(c, line.Place), CRLF);
 }
 
 // The adjusted distribution shows the father alone of his line, though a grand father's amount is in the
@@ -71,10 +65,10 @@ bool IsInAdjusted(const CaseRecord& c, const HeirLine& line) {
 void AddAdjustedLine(CaseRecord& c, const HeirLine& line, Double factor) {
   if (!IsInAdjusted(c, line)) return;
   const Double amount = c.*line.Amount;
-  const std::string head = line.Place == FatherSlot ? Join(line.Label, c.UltimateFatherName)
-                                                    : Join(line.Label, c.*line.Count);
-  c.SharerLines += Join(head, ") = ", F(amount * factor), " (", F(amount), ") (", c.FractionNum(line.Place), "/",
-                        c.FractionDen(line.Place), ")", CRLF);
+  const std::string head =
+      line.Place == FatherSlot ? Join(line.Label, c.UltimateFatherName) : Join(line.Label, c.*line.Count);
+  c.SharerLines += Join(head, ") = ", F(amount * factor), " (", F(amount), ") (", c.FractionNum(line.Place),
+                        "/", c.FractionDen(line.Place), ")", CRLF);
 }
 
 /// Aul reduces the spouse with all others. Radd leaves the spouse the plain share and raises the rest. With
@@ -96,16 +90,16 @@ void BuildSharerSummary(CaseRecord& c, const CaseScreen& screen) {
   for (const HeirLine& line : otherLines) AddSummaryLine(c, line);
   if (c.SharerLines.empty()) c.SharerLines = "NO Quranic Heir Found\r\n";
 
-  c.SummaryText =
-      Join("The numbers shown within first brackets are the number of such Quranic Heirs left ALIVE by the deceased ",
-           screen.Text1(NameBox).Text,
-           ". The value inside the second bracket indicates the per unit value of share. The distribution of Gross "
-           "Estate left by the deceased BETWEEN Quranic heirs and Residuaries (Asaba't) will be as under:\r\n\r\n",
-           "Net Estate Wealth = ", F(c.NetEstate), CRLF, CRLF,              //
-           "QURANIC SHARERS (Zawil-Farooz):", CRLF, c.SharerLines, CRLF,    //
-           "TOTAL Q-Shares = ", F(c.TotalQShares), CRLF,                    //
-           "RESIDUE (Balance) = ", F(c.Residue), " (", c.ResidueNum, "/", c.ResidueDen, ")", CRLF, CRLF,
-           "RESIDUARIES [ASABA'T] (Share per head):", CRLF);
+  c.SummaryText = Join(
+      "The numbers shown within first brackets are the number of such Quranic Heirs left ALIVE by the deceased ",
+      screen.Text1(NameBox).Text,
+      ". The value inside the second bracket indicates the per unit value of share. The distribution of Gross "
+      "Estate left by the deceased BETWEEN Quranic heirs and Residuaries (Asaba't) will be as under:\r\n\r\n",
+      "Net Estate Wealth = ", F(c.NetEstate), CRLF, CRLF,            //
+      "QURANIC SHARERS (Zawil-Farooz):", CRLF, c.SharerLines, CRLF,  //
+      "TOTAL Q-Shares = ", F(c.TotalQShares), CRLF,                  //
+      "RESIDUE (Balance) = ", F(c.Residue), " (", c.ResidueNum, "/", c.ResidueDen, ")", CRLF, CRLF,
+      "RESIDUARIES [ASABA'T] (Share per head):", CRLF);
 }
 
 void BuildAulRaddTexts(CaseRecord& c, const CaseScreen& screen) {
@@ -114,13 +108,13 @@ void BuildAulRaddTexts(CaseRecord& c, const CaseScreen& screen) {
   for (const HeirLine& line : otherLines) AddAdjustedLine(c, line, c.AulFactor);
   if (c.SharerLines.empty()) c.SharerLines = "NO Quranic Heir Found\r\n";
 
-  const std::string opening =
-      Join("The numbers shown within first brackets are the number of such Quranic Heirs left ALIVE by the deceased  ",
-           screen.Text1(NameBox).Text, ". The distribution of Gross Estate ");
+  const std::string opening = Join(
+      "The numbers shown within first brackets are the number of such Quranic Heirs left ALIVE by the deceased  ",
+      screen.Text1(NameBox).Text, ". The distribution of Gross Estate ");
   const std::string figures =
-      Join("Net Estate Wealth = ", F(c.NetEstate), CRLF, CRLF,                                        //
-           "QURANIC SHARERS (Zawil-Farooz):", CRLF, c.SharerLines, CRLF,                              //
-           "TOTAL Q-Shares = ", F(c.TotalQShares + c.Residue), " (", F(c.TotalQShares), ")", CRLF,    //
+      Join("Net Estate Wealth = ", F(c.NetEstate), CRLF, CRLF,                                      //
+           "QURANIC SHARERS (Zawil-Farooz):", CRLF, c.SharerLines, CRLF,                            //
+           "TOTAL Q-Shares = ", F(c.TotalQShares + c.Residue), " (", F(c.TotalQShares), ")", CRLF,  //
            "RESIDUE (Balance) = 0  (", F(c.Residue), ")", CRLF, CRLF);
 
   c.SummaryText = Join(

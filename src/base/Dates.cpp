@@ -5,7 +5,10 @@
 namespace qismora {
 
 std::string DateText(const DateTime& when) {
-  const std::string_view zeros = when.Year < 10 ? "000" : when.Year < 100 ? "00" : when.Year < 1000 ? "0" : "";
+  const std::string_view zeros = when.Year < 10     ? "000"
+                                 : when.Year < 100  ? "00"
+                                 : when.Year < 1000 ? "0"
+                                                    : "";
   return Join(TwoDigits(when.Day), "/", TwoDigits(when.Month), "/", zeros, when.Year);
 }
 

@@ -9,9 +9,7 @@ namespace qismora {
 
 namespace {
 
-bool IsDigit(char c) {
-  return c >= '0' && c <= '9';
-}
+bool IsDigit(char c) { return c >= '0' && c <= '9'; }
 
 /// What is left of the text behind its leading blanks.
 std::string_view WithoutBlanks(std::string_view text) {
@@ -85,7 +83,8 @@ bool IsBelowOne(std::string_view digits) {
 Double NumberValue(std::string_view digits) {
   double value = 0.0;
   if (const int base = AnnouncedBase(digits); base != 0) {
-    for (const char c : digits.substr(2)) value = value * base + (IsDigit(c) ? c - '0' : (c | 0x20) - 'a' + 10);
+    for (const char c : digits.substr(2))
+      value = value * base + (IsDigit(c) ? c - '0' : (c | 0x20) - 'a' + 10);
     return value;
   }
   // Most boxes hold a few plain digits.

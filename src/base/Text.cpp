@@ -51,9 +51,7 @@ std::string GeneralNumber(Double value) {
   return text;
 }
 
-std::string TwoDigits(int number) {
-  return Join(number < 10 ? "0" : "", number);
-}
+std::string TwoDigits(int number) { return Join(number < 10 ? "0" : "", number); }
 
 namespace {
 
@@ -63,9 +61,9 @@ struct Spelling {
   std::string_view Words;
 };
 constexpr Spelling upperSpellings[] = {
-    {U'ß', "SS"},  {U'ŉ', "ʼN"},  {U'ǰ', "J̌"},   {U'ΐ', "Ϊ́"},  {U'ΰ', "Ϋ́"},  {U'և', "ԵՒ"},
-    {U'ẖ', "H̱"}, {U'ẗ', "T̈"}, {U'ẘ', "W̊"},  {U'ẙ', "Y̊"}, {U'ẚ', "Aʾ"}, {U'ﬀ', "FF"},
-    {U'ﬁ', "FI"},  {U'ﬂ', "FL"},  {U'ﬃ', "FFI"}, {U'ﬄ', "FFL"}, {U'ﬅ', "ST"}, {U'ﬆ', "ST"},
+    {U'ß', "SS"}, {U'ŉ', "ʼN"}, {U'ǰ', "J̌"},   {U'ΐ', "Ϊ́"},   {U'ΰ', "Ϋ́"},  {U'և', "ԵՒ"},
+    {U'ẖ', "H̱"},  {U'ẗ', "T̈"},  {U'ẘ', "W̊"},   {U'ẙ', "Y̊"},   {U'ẚ', "Aʾ"}, {U'ﬀ', "FF"},
+    {U'ﬁ', "FI"}, {U'ﬂ', "FL"}, {U'ﬃ', "FFI"}, {U'ﬄ', "FFL"}, {U'ﬅ', "ST"}, {U'ﬆ', "ST"},
 };
 constexpr Spelling lowerSpellings[] = {{U'İ', "i̇"}};
 
@@ -127,8 +125,8 @@ std::string ChangeCase(std::string_view text, std::span<const Spelling> spelling
   changed.reserve(text.size());
   while (!text.empty()) {
     const Letter letter = FirstLetter(text);
-    const auto* spelling = std::ranges::find(spellings.data(), spellings.data() + spellings.size(), letter.Code,
-                                             &Spelling::Letter);
+    const auto* spelling = std::ranges::find(spellings.data(), spellings.data() + spellings.size(),
+                                             letter.Code, &Spelling::Letter);
     if (!letter.Valid) {
       changed += text.front();
     } else if (spelling != spellings.data() + spellings.size()) {

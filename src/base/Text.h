@@ -22,7 +22,7 @@ class Piece {
   Piece(Long number) : Piece(static_cast<int>(number.Value())) {}
   /// A control's text or caption.
   template <class Property>
-    requires requires(const Property& property) { property.Get().size(); }
+  requires requires(const Property& property) { property.Get().size(); }
   Piece(const Property& property) : words_(property.Get()) {}
   Piece(const Piece&) = delete;
   Piece& operator=(const Piece&) = delete;

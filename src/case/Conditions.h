@@ -12,9 +12,7 @@ inline bool HasFatherLine(const CaseRecord& c) {
 }
 
 /// A son of any line.
-inline bool HasSonsLine(const CaseRecord& c) {
-  return c.Sons > 0 || c.GrandSons > 0 || c.GtGrandSons > 0;
-}
+inline bool HasSonsLine(const CaseRecord& c) { return c.Sons > 0 || c.GrandSons > 0 || c.GtGrandSons > 0; }
 
 /// A daughter of any line.
 inline bool HasDaughtersLine(const CaseRecord& c) {
@@ -31,7 +29,9 @@ inline bool HasGrandMother(const CaseRecord& c) {
 
 // Exactly none. After a refused count a field may be negative, which is neither one nor none.
 
-inline bool HasNoSonsLine(const CaseRecord& c) { return c.Sons == 0 && c.GrandSons == 0 && c.GtGrandSons == 0; }
+inline bool HasNoSonsLine(const CaseRecord& c) {
+  return c.Sons == 0 && c.GrandSons == 0 && c.GtGrandSons == 0;
+}
 
 inline bool HasNoDaughtersLine(const CaseRecord& c) {
   return c.Daughters == 0 && c.GrandDaughters == 0 && c.GtGrandDaughters == 0;

@@ -16,6 +16,8 @@ inline constexpr int Red = 255;
 inline constexpr int DarkRed = 192;
 inline constexpr int Green = 32768;
 inline constexpr int SystemColour = -2147483647 - 1;
+inline constexpr int HighlightColour = SystemColour + 13;
+inline constexpr int ButtonFaceColour = SystemColour + 15;
 inline constexpr int ButtonTextColour = SystemColour + 18;
 
 struct Label {
@@ -52,6 +54,14 @@ struct ComboBox {
 
 struct Button {
   Property<bool> Visible{false};
+};
+
+/// A radio button of a group.
+struct OptionButton {
+  std::string Caption;
+  Property<bool> Visible{true};
+  Property<bool> Value{false};
+  Property<int> BackColor{ButtonFaceColour};
 };
 
 struct MenuEntry {

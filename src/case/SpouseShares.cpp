@@ -84,8 +84,9 @@ void ShareOfWife(CaseRecord& c, CaseScreen& screen) {
   c.WifeReport = Join(narrative, CRLF, CRLF, TAB, F(c.WifeShare));
   if (c.Wives > 1) {
     c.EachWifeShare = c.WifeShare / c.Wives;
-    c.EachWifeText = Join("\r\nSince, the deceased has left ", c.Wives, " wives, so the share of each wife will be 1/",
-                          c.Wives, " of ", F(c.WifeShare), " i.e. ", CRLF, CRLF, TAB, F(c.EachWifeShare));
+    c.EachWifeText =
+        Join("\r\nSince, the deceased has left ", c.Wives, " wives, so the share of each wife will be 1/",
+             c.Wives, " of ", F(c.WifeShare), " i.e. ", CRLF, CRLF, TAB, F(c.EachWifeShare));
     c.WifeReport = Join(c.WifeReport, FractionText(c, WifeSlot), CRLF, c.EachWifeText);
   }
   screen.Text2.Text = Join(c.WifeReport, CRLF);

@@ -11,9 +11,7 @@ namespace qismora {
 
 namespace {
 
-std::string WorkingFile(CaseScreen& screen) {
-  return Join(screen.World.Places.Reports(), "/FullReport");
-}
+std::string WorkingFile(CaseScreen& screen) { return Join(screen.World.Places.Reports(), "/FullReport"); }
 
 /// The second and the third step, behind the first; the working file is closed in every case.
 void PrintReport(CaseRecord& c, CaseScreen& screen, const std::string& stepOne) {
@@ -30,8 +28,8 @@ void PrintReport(CaseRecord& c, CaseScreen& screen, const std::string& stepOne) 
     RunAulRadd(c, screen);
     file.Print(Join(CRLF, "STEP - 3 (AUL/ RADD):", CRLF, CRLF, screen.Text3.Text));
   } else {
-    file.Print(Join(CRLF, "STEP - 3 (AUL/ RADD):", CRLF, CRLF, "AUL OR RADD NOT APPLICABLE IN THIS CASE.", CRLF,
-                    CRLF, GeneratedBy(screen.World.Time.Now()), CRLF, CRLF));
+    file.Print(Join(CRLF, "STEP - 3 (AUL/ RADD):", CRLF, CRLF, "AUL OR RADD NOT APPLICABLE IN THIS CASE.",
+                    CRLF, CRLF, GeneratedBy(screen.World.Time.Now()), CRLF, CRLF));
   }
   file.Close();
 }
@@ -52,8 +50,8 @@ void MakeFullReport(CaseRecord& c, CaseScreen& screen) {
 bool AskToReplaceReport(CaseScreen& screen) {
   return screen.World.Boxes.Show(
              BoxStyle::Warning, BoxButtons::YesNo,
-             Join("SAVING THIS REPORT: You are already having a file of ", screen.Text1(NameBox).Text, ".", CRLF,
-                  "Would you like to replace the existing file?")) == Answer::Yes;
+             Join("SAVING THIS REPORT: You are already having a file of ", screen.Text1(NameBox).Text, ".",
+                  CRLF, "Would you like to replace the existing file?")) == Answer::Yes;
 }
 
 /// The working file under the new name, and a copy of it in its old place.
@@ -93,10 +91,10 @@ void ChooseAndSave(CaseScreen& screen) {
   const std::string folder = path->substr(0, separator);
   if (!IsFileName(name)) return;
   if (FolderHolds(folder, name)) {
-    const Answer answer = screen.World.Boxes.Show(BoxStyle::Warning, BoxButtons::YesNoCancel,
-                                                  Join("File with the name ", name,
-                                                       " already exists in the folder.", CRLF,
-                                                       "Would you like to replace the existing file?"));
+    const Answer answer =
+        screen.World.Boxes.Show(BoxStyle::Warning, BoxButtons::YesNoCancel,
+                                Join("File with the name ", name, " already exists in the folder.", CRLF,
+                                     "Would you like to replace the existing file?"));
     if (answer != Answer::Yes) return;
   }
   WriteResults(screen, *path);

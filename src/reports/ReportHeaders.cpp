@@ -22,8 +22,8 @@ std::string BoxLine(const CaseScreen& screen, int box) {
 }
 
 std::string Inputs(const CaseScreen& screen) {
-  std::string text = Join("DISTRIBUTION OF PROPERTY LEFT BY DECEASED ", UpperCase(screen.Text1(NameBox).Text.Get()),
-                          CRLF, CRLF, "INPUTS:", CRLF);
+  std::string text = Join("DISTRIBUTION OF PROPERTY LEFT BY DECEASED ",
+                          UpperCase(screen.Text1(NameBox).Text.Get()), CRLF, CRLF, "INPUTS:", CRLF);
   for (int box = GrossEstateBox; box <= NetEstateBox; ++box) text += BoxLine(screen, box);
   return Join(text, CRLF, "SHARE CLAIMANTS:", CRLF);
 }
@@ -32,13 +32,9 @@ constexpr std::string_view distribution = "\r\n\r\nDISTRIBUTION FOLLOWS LIKE THI
 
 }  // namespace
 
-bool IsEnteredLeniently(const CaseScreen& screen, int box) {
-  return IsAboveZero(screen, box, ParsePrefix);
-}
+bool IsEnteredLeniently(const CaseScreen& screen, int box) { return IsAboveZero(screen, box, ParsePrefix); }
 
-bool IsEnteredStrictly(const CaseScreen& screen, int box) {
-  return IsAboveZero(screen, box, ParseStrict);
-}
+bool IsEnteredStrictly(const CaseScreen& screen, int box) { return IsAboveZero(screen, box, ParseStrict); }
 
 void BuildFullHeader(CaseRecord& c, const CaseScreen& screen) {
   std::string claimants;

@@ -37,15 +37,18 @@ constexpr SectionRow sections[] = {
     {"FULL BROTHER'S SHARE", ShareOfFullBrother, [](const CaseRecord& c) { return c.FullBrothers > 0; }},
     {"FULL SISTER'S SHARE", ShareOfFullSister, [](const CaseRecord& c) { return c.FullSisters > 0; }},
     {"CONSANGUINE SISTER'S SHARE", ShareOfConsSister, [](const CaseRecord& c) { return c.ConsSisters > 0; }},
-    {"CONSANGUINE BROTHER'S SHARE", ShareOfConsBrother, [](const CaseRecord& c) { return c.ConsBrothers > 0; }},
-    {"UTERINE SISTER'S SHARE", ShareOfUterineSister, [](const CaseRecord& c) { return c.UterineSisters > 0; }},
-    {"UTERINE BROTHER'S SHARE", ShareOfUterineBrother, [](const CaseRecord& c) { return c.UterineBrothers > 0; }},
+    {"CONSANGUINE BROTHER'S SHARE", ShareOfConsBrother,
+     [](const CaseRecord& c) { return c.ConsBrothers > 0; }},
+    {"UTERINE SISTER'S SHARE", ShareOfUterineSister,
+     [](const CaseRecord& c) { return c.UterineSisters > 0; }},
+    {"UTERINE BROTHER'S SHARE", ShareOfUterineBrother,
+     [](const CaseRecord& c) { return c.UterineBrothers > 0; }},
 };
 constexpr const SectionRow* wifeSection = &sections[0];
 constexpr const SectionRow* husbandSection = &sections[1];
 
-/// The sections as far as they are built, each put in front of the earlier ones. What was built stands on Text3
-/// also when a failure ends the run.
+/// The sections as far as they are built, each put in front of the earlier ones. What was built stands on
+/// Text3 also when a failure ends the run.
 class SectionStack {
  public:
   explicit SectionStack(CaseScreen& screen) : screen_(screen) {}
@@ -87,9 +90,7 @@ bool Start(CaseRecord& c, CaseScreen& screen) {
   return false;
 }
 
-std::string Footer(CaseScreen& screen) {
-  return Join(GeneratedBy(screen.World.Time.Now()), CRLF, CRLF);
-}
+std::string Footer(CaseScreen& screen) { return Join(GeneratedBy(screen.World.Time.Now()), CRLF, CRLF); }
 
 /// Every kind has its section; a spouse whom the deceased cannot have has a bare heading.
 void RunAllSections(CaseRecord& c, CaseScreen& screen) {

@@ -24,12 +24,11 @@ void EnterSharer(CaseRecord& c, int box, Double amount, Slot slot) {
   Enter(c, box, amount, sharer, Join("(", c.FractionNum(slot), "/", c.FractionDen(slot), ")"));
 }
 
-void EnterResiduary(CaseRecord& c, int box, Double amount) {
-  Enter(c, box, amount, residuary, "");
-}
+void EnterResiduary(CaseRecord& c, int box, Double amount) { Enter(c, box, amount, residuary, ""); }
 
 /// A kind that is a residuary when any of the flags is set, else a sharer.
-void EnterEither(CaseRecord& c, int box, Double amount, Slot slot, std::initializer_list<ResiduaryFlag> flags) {
+void EnterEither(CaseRecord& c, int box, Double amount, Slot slot,
+                 std::initializer_list<ResiduaryFlag> flags) {
   for (const ResiduaryFlag flag : flags) {
     if (c.Res(flag)) return EnterResiduary(c, box, amount);
   }
@@ -142,10 +141,10 @@ void FillSummaryTable(CaseRecord& c) {
 
 void BuildSummarizedShares(CaseRecord& c, const CaseScreen& screen) {
   FillSummaryTable(c);
-  c.SummaryReport = Join(CRLF, "SUMMARIZED SHARES:", CRLF, HeirLines(c, screen), CRLF,
-                         "NOTE:- ONLY ENTITLED RESIDUARIES [ASABA'T] WILL SHARE THE RESIDUE IF ANY.", CRLF, CRLF,
-                         "TOTAL SHARED = ", F(c.TotalQShares), CRLF, "RESIDUE = ", F(c.Residue), CRLF,
-                         DoctrineHint(c));
+  c.SummaryReport =
+      Join(CRLF, "SUMMARIZED SHARES:", CRLF, HeirLines(c, screen), CRLF,
+           "NOTE:- ONLY ENTITLED RESIDUARIES [ASABA'T] WILL SHARE THE RESIDUE IF ANY.", CRLF, CRLF,
+           "TOTAL SHARED = ", F(c.TotalQShares), CRLF, "RESIDUE = ", F(c.Residue), CRLF, DoctrineHint(c));
 }
 
 }  // namespace qismora

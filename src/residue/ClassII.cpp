@@ -5,22 +5,22 @@
 
 namespace qismora {
 
-// The double blank in the last caption, and the short name of the full uncle's son's son, which lacks a letter
-// of its amount line, are the system's own.
+// The double blank in the last caption, and the short name of the full uncle's son's son, which lacks a
+// letter of its amount line, are the system's own.
 const std::array<ClassIIRow, 12> ClassIIRows = {{
     {"Full Brother's son", " will go to Full Brother's Son(s).", "BROTHER's SON(s) = ", "BROTHER's SON"},
-    {"Consanguine Brother's son", " will go to Consanguine Brother's Son(s).", "Cons. Brother's son(s) = ",
-     "C.B. SON"},
-    {"Full Brother's son's son", " will go to Full Brother's Son's Son(s) -> F.B.S SON(s).", "F.B.S SON(s) = ",
-     "F.B.S SON"},
+    {"Consanguine Brother's son", " will go to Consanguine Brother's Son(s).",
+     "Cons. Brother's son(s) = ", "C.B. SON"},
+    {"Full Brother's son's son", " will go to Full Brother's Son's Son(s) -> F.B.S SON(s).",
+     "F.B.S SON(s) = ", "F.B.S SON"},
     {"Consanguine Brother's son's son", " will go to Consanguine Brother's Son's Son(s) -> C.B.S SON(s).",
      "C.B.S SON(s) = ", "C.B.S SON"},
     {"Full Uncle", " will go to Full Uncle.", "FULL UNCLE = ", "FULL UNCLE"},
     {"Consanguine Uncle", " will go to Consanguine Uncle.", "CON. UNCLE = ", "CON. UNCLE"},
     {"Full Uncle's son", " will go to Full Uncle's Son(s).", "UNCLE's SON(s) = ", "UNCLE's SON"},
     {"Consanguine Uncle's son", " will go to Consanguine Uncle's Son(s).", "C.UN. SON(s) = ", "C.UN. SON"},
-    {"Full Uncle's son's son", " will go to Full Uncle's Son's Son(s) -> F.UN.S SON(s).", "F.UN.S SON(s) = ",
-     "F.UN. SON"},
+    {"Full Uncle's son's son", " will go to Full Uncle's Son's Son(s) -> F.UN.S SON(s).",
+     "F.UN.S SON(s) = ", "F.UN. SON"},
     {"Cons. Uncle's son's son", " will go to Consanguine Uncle's Son's Son(s) -> C.UN.S SON(s).",
      "C.UN.S SON(s) = ", "C.UN.S SON"},
     {"Uncle's son's son's son", " will go to Full Uncle's Son's Son's Son(s) -> F.UN.S.S SON(s).",
@@ -40,9 +40,8 @@ void NameClassIIHeir(CaseRecord& c) {
     // figure of his sentence reads 0.
     const int place = i == 1 ? 0 : i;
     c.ClassIIAmount(place) = ParseStrict(F(c.Residue));
-    c.ClassIINarrative =
-        Join("The Residual Estate of ", GeneralNumber(c.ClassIIAmount(i)), row.SentenceEnd, CRLF, CRLF,
-             row.AmountLine, GeneralNumber(c.ClassIIAmount(place)));
+    c.ClassIINarrative = Join("The Residual Estate of ", GeneralNumber(c.ClassIIAmount(i)), row.SentenceEnd,
+                              CRLF, CRLF, row.AmountLine, GeneralNumber(c.ClassIIAmount(place)));
     c.ClassIIText = row.ShortName;
     return;
   }

@@ -7,12 +7,13 @@
 #include "case/ResiduaryFlags.h"
 #include "residue/ClassII.h"
 
-// Who takes the residue is one long chain of tests: the first that holds writes the report and ends it, so that
-// exactly one class of residuaries is served. A positive residue beside a male descendant stays in the first
-// block; everybody else, and every other residue, goes through the second.
+// Who takes the residue is one long chain of tests: the first that holds writes the report and ends it, so
+// that exactly one class of residuaries is served. A positive residue beside a male descendant stays in the
+// first block; everybody else, and every other residue, goes through the second.
 //
-// Amounts are per head, though a line shows the group's count. In each step the amounts are stored first, then
-// the fractions, then the text: where an Integer overflow ends the command, what was stored by then stands.
+// Amounts are per head, though a line shows the group's count. In each step the amounts are stored first,
+// then the fractions, then the text: where an Integer overflow ends the command, what was stored by then
+// stands.
 
 namespace qismora {
 
@@ -24,28 +25,20 @@ struct Fraction {
   Integer Den;
 };
 
-std::string Text(Fraction fraction) {
-  return Join(" (", fraction.Num, "/", fraction.Den, ")");
-}
+std::string Text(Fraction fraction) { return Join(" (", fraction.Num, "/", fraction.Den, ")"); }
 
 /// One part of the residue's fraction, when it is divided into units.
-Fraction UnitFraction(const CaseRecord& c, Integer units) {
-  return {c.ResidueNum, units * c.ResidueDen};
-}
+Fraction UnitFraction(const CaseRecord& c, Integer units) { return {c.ResidueNum, units * c.ResidueDen}; }
 
 /// Two such parts: a male counts two units.
 Fraction DoubleFraction(const CaseRecord& c, Integer units) {
   return {2 * c.ResidueNum, units * c.ResidueDen};
 }
 
-Double TwiceResidue(const CaseRecord& c) {
-  return c.Residue + c.Residue;
-}
+Double TwiceResidue(const CaseRecord& c) { return c.Residue + c.Residue; }
 
 /// The residue's own fraction, undivided.
-std::string ResidueText(const CaseRecord& c) {
-  return Text({c.ResidueNum, c.ResidueDen});
-}
+std::string ResidueText(const CaseRecord& c) { return Text({c.ResidueNum, c.ResidueDen}); }
 
 /// A line of the report: label and count, the amount of one head, the fraction.
 std::string Line(const char* label, Integer count, Double amount, Fraction fraction) {
@@ -56,9 +49,7 @@ std::string FatherLine(const CaseRecord& c) {
   return Join("FATHER(", c.Father, "/", c.GrandFather, "/", c.GtGrandFather, ") = ", F(c.FatherResidue));
 }
 
-void Report(CaseRecord& c, const std::string& text) {
-  c.ResiduaryReport = Join(c.SummaryText, text);
-}
+void Report(CaseRecord& c, const std::string& text) { c.ResiduaryReport = Join(c.SummaryText, text); }
 
 // --- Descendants -------------------------------------------------------------------------------------------
 
@@ -86,7 +77,8 @@ void GiveToSonsSonsAndSonsDaughters(CaseRecord& c) {
   const Integer units = 2 * c.AsabaGrandSons + c.GrandDaughters;
   DivideBetween(c, units);
   Report(c, Join(Line("Son's son(", c.GrandSons, c.SonAmount, DoubleFraction(c, units)), CRLF,
-                 Line("Son's Daughter (", c.GrandDaughters, c.DaughterResidue, UnitFraction(c, units)), CRLF, CRLF));
+                 Line("Son's Daughter (", c.GrandDaughters, c.DaughterResidue, UnitFraction(c, units)), CRLF,
+                 CRLF));
 }
 
 void GiveToLowerSonsAndSonsDaughters(CaseRecord& c) {
@@ -138,9 +130,9 @@ void GiveToFatherBesideHisSixth(CaseRecord& c) {
   c.LcmDen(1) = c.ResidueDen;
   FindLCM(c);
   const Fraction total = {RoundTo<Integer>(c.LcmResult / 6 + c.ResidueNum), ToInteger(c.LcmResult)};
-  Report(c, Join(FatherLine(c), CRLF, CRLF, "Father's Total = 1/6 + Residuary (Asaba') share", CRLF, TAB, "  = ",
-                 F(c.FatherShare), " + ", F(c.FatherResidue), CRLF, TAB, "  = ", F(c.FatherShare + c.FatherResidue),
-                 Text(total), CRLF));
+  Report(c, Join(FatherLine(c), CRLF, CRLF, "Father's Total = 1/6 + Residuary (Asaba') share", CRLF, TAB,
+                 "  = ", F(c.FatherShare), " + ", F(c.FatherResidue), CRLF, TAB, "  = ",
+                 F(c.FatherShare + c.FatherResidue), Text(total), CRLF));
 }
 
 void GiveToEqualSonsSons(CaseRecord& c) {
@@ -174,12 +166,12 @@ void GiveToFullSiblingsBesideDaughters(CaseRecord& c) {
   if (c.FullBrothers > 0 && c.FullSisters > 0) {
     c.FullBrotherResidue = 2 * c.ResidueUnit;
     c.FullSisterResidue = c.ResidueUnit;
-    Report(c, Join(Line("Full Brother (", c.FullBrothers, c.FullBrotherResidue, DoubleFraction(c, units)), CRLF,
-                   Line("Full Sister (", c.FullSisters, c.FullSisterResidue, unit), CRLF, CRLF));
+    Report(c, Join(Line("Full Brother (", c.FullBrothers, c.FullBrotherResidue, DoubleFraction(c, units)),
+                   CRLF, Line("Full Sister (", c.FullSisters, c.FullSisterResidue, unit), CRLF, CRLF));
   } else if (c.FullBrothers > 0 && c.FullSisters == 0) {
     c.FullBrotherResidue = 2 * c.ResidueUnit;
-    Report(c, Join(Line("Full Brother (", c.FullBrothers, c.FullBrotherResidue, DoubleFraction(c, units)), CRLF,
-                   CRLF));
+    Report(c, Join(Line("Full Brother (", c.FullBrothers, c.FullBrotherResidue, DoubleFraction(c, units)),
+                   CRLF, CRLF));
   } else if (c.FullBrothers == 0) {
     c.FullSisterResidue = c.ResidueUnit;
     Report(c, Join(Line("Full Sister (", c.FullSisters, c.FullSisterResidue, unit), CRLF, CRLF));
@@ -188,8 +180,8 @@ void GiveToFullSiblingsBesideDaughters(CaseRecord& c) {
 
 void GiveToFullSisters(CaseRecord& c) {
   c.FullSisterResidue = c.Residue / c.FullSisters;
-  Report(c, Join(Line("Full Sister (", c.FullSisters, c.FullSisterResidue, UnitFraction(c, c.FullSisters)), CRLF,
-                 CRLF));
+  Report(c, Join(Line("Full Sister (", c.FullSisters, c.FullSisterResidue, UnitFraction(c, c.FullSisters)),
+                 CRLF, CRLF));
 }
 
 void GiveToFullBrothersAndSisters(CaseRecord& c) {
@@ -205,7 +197,8 @@ void GiveToFullBrothersAndSisters(CaseRecord& c) {
 void GiveToFullBrothers(CaseRecord& c) {
   c.FullBrotherResidue = c.Residue / c.FullBrothers;
   Report(c,
-         Join(Line("Full Brother (", c.FullBrothers, c.FullBrotherResidue, UnitFraction(c, c.FullBrothers)), CRLF));
+         Join(Line("Full Brother (", c.FullBrothers, c.FullBrotherResidue, UnitFraction(c, c.FullBrothers)),
+              CRLF));
 }
 
 void ReportConsSiblings(CaseRecord& c, Fraction brother, Fraction sister) {
@@ -224,8 +217,8 @@ void GiveToConsSiblingsBesideDaughters(CaseRecord& c) {
 
 void GiveToConsSisters(CaseRecord& c) {
   c.ConsSisterResidue = c.Residue / c.ConsSisters;
-  Report(c, Join(Line("Cons. Sister (", c.ConsSisters, c.ConsSisterResidue, UnitFraction(c, c.ConsSisters)), CRLF,
-                 CRLF));
+  Report(c, Join(Line("Cons. Sister (", c.ConsSisters, c.ConsSisterResidue, UnitFraction(c, c.ConsSisters)),
+                 CRLF, CRLF));
 }
 
 void GiveToConsBrothersAndSisters(CaseRecord& c) {
@@ -239,7 +232,8 @@ void GiveToConsBrothersAndSisters(CaseRecord& c) {
 void GiveToConsBrothers(CaseRecord& c) {
   c.ConsBrotherResidue = c.Residue / c.ConsBrothers;
   Report(c,
-         Join(Line("Cons. Brother (", c.ConsBrothers, c.ConsBrotherResidue, UnitFraction(c, c.ConsBrothers)), CRLF));
+         Join(Line("Cons. Brother (", c.ConsBrothers, c.ConsBrotherResidue, UnitFraction(c, c.ConsBrothers)),
+              CRLF));
 }
 
 void GiveToClassII(CaseRecord& c) {
@@ -257,8 +251,8 @@ void TellNobodyTakes(CaseRecord& c) {
       " IS SHARER THEN THE RESIDUE (IF ANY) WILL GO TO DISTANT KINDRED (ZAWIL-ARHAM).";
 }
 
-/// The ultimate father, the son's daughters, the full and then the consanguine brothers and sisters, class II,
-/// nobody. No test looks at the residue. A flag whose counts do not hold lets the chain go on.
+/// The ultimate father, the son's daughters, the full and then the consanguine brothers and sisters, class
+/// II, nobody. No test looks at the residue. A flag whose counts do not hold lets the chain go on.
 void GiveToOthers(CaseRecord& c) {
   if (c.Res(FatherAsResiduary)) return GiveToFather(c);
   if (c.Res(FatherAsSharerAndResiduary)) return GiveToFatherBesideHisSixth(c);
@@ -267,7 +261,8 @@ void GiveToOthers(CaseRecord& c) {
   if (c.Res(FullSiblingsBesideDaughters) && (c.FullSisters > 0 || c.FullBrothers > 0)) {
     return GiveToFullSiblingsBesideDaughters(c);
   }
-  if (c.Res(FullSisterBesideDaughters) && c.FullSisters > 0 && c.FullBrothers == 0) return GiveToFullSisters(c);
+  if (c.Res(FullSisterBesideDaughters) && c.FullSisters > 0 && c.FullBrothers == 0)
+    return GiveToFullSisters(c);
   if (c.Res(FullBrothersWithSisters) && c.FullSisters > 0 && c.FullBrothers > 0 && HasNoDaughtersLine(c)) {
     return GiveToFullBrothersAndSisters(c);
   }
@@ -277,7 +272,8 @@ void GiveToOthers(CaseRecord& c) {
   if (c.Res(ConsSiblingsBesideDaughters) && c.ConsSisters > 0 && c.ConsBrothers > 0) {
     return GiveToConsSiblingsBesideDaughters(c);
   }
-  if (c.Res(ConsSisterBesideDaughters) && c.ConsSisters > 0 && c.ConsBrothers == 0) return GiveToConsSisters(c);
+  if (c.Res(ConsSisterBesideDaughters) && c.ConsSisters > 0 && c.ConsBrothers == 0)
+    return GiveToConsSisters(c);
   if (c.Res(ConsBrothersWithSisters) && c.ConsSisters > 0 && c.ConsBrothers > 0 && HasNoDaughtersLine(c)) {
     return GiveToConsBrothersAndSisters(c);
   }
@@ -298,8 +294,7 @@ void ResiduaryDistribution(CaseRecord& c, CaseScreen& screen) {
   } else {
     GiveToOthers(c);
   }
-  screen.Text3.Text =
-      Join(c.ResiduaryReport, CRLF, CRLF, GeneratedBy(screen.World.Time.Now()), CRLF);
+  screen.Text3.Text = Join(c.ResiduaryReport, CRLF, CRLF, GeneratedBy(screen.World.Time.Now()), CRLF);
 }
 
 }  // namespace qismora

@@ -5,13 +5,11 @@
 
 namespace qismora {
 
-bool HasMaleLine(const CaseRecord& c) {
-  return HasSonsLine(c) || HasFatherLine(c);
-}
+bool HasMaleLine(const CaseRecord& c) { return HasSonsLine(c) || HasFatherLine(c); }
 
 std::string ExcludingList(const CaseRecord& c) {
-  return Join("Son = ", c.Sons, CRLF, "Son's Son = ", c.GrandSons, CRLF, "Son's Son's Son = ", c.GtGrandSons, CRLF,
-              "Father = ", c.Father, CRLF, "Father's Father = ", c.GrandFather, CRLF,
+  return Join("Son = ", c.Sons, CRLF, "Son's Son = ", c.GrandSons, CRLF, "Son's Son's Son = ", c.GtGrandSons,
+              CRLF, "Father = ", c.Father, CRLF, "Father's Father = ", c.GrandFather, CRLF,
               "Father's Father's Father = ", c.GtGrandFather, CRLF);
 }
 

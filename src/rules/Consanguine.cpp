@@ -7,9 +7,9 @@
 #include "rules/Collaterals.h"
 
 // Half siblings on the father's side. A full brother or two full sisters shut the sister out; beside one full
-// sister she completes the two thirds with a sixth, even where a consanguine brother lives. The brother's rule
-// does not look at the full brothers and sisters at all, and beside daughters it sets no flag: only the flag
-// that his sister sets can serve him then.
+// sister she completes the two thirds with a sixth, even where a consanguine brother lives. The brother's
+// rule does not look at the full brothers and sisters at all, and beside daughters it sets no flag: only the
+// flag that his sister sets can serve him then.
 
 namespace qismora {
 
@@ -32,11 +32,11 @@ void DecideConsSister(CaseRecord& c) {
   if (c.FullSisters == 1 && HasDaughtersLine(c)) {
     c.ConsSisterShare = 0;
     SetFraction(c, ConsSisterSlot, 0, 1);
-    c.ConsSisterReport =
-        Join(ConsSisterTexts[0], DaughtersList(c), CRLF,
-             "In presence of Full Sister and any one of the above, Consanguine Sister can not inherit. So, share of "
-             "consanguine sister in the net estate wealth is zero.",
-             NilTail);
+    c.ConsSisterReport = Join(
+        ConsSisterTexts[0], DaughtersList(c), CRLF,
+        "In presence of Full Sister and any one of the above, Consanguine Sister can not inherit. So, share of "
+        "consanguine sister in the net estate wealth is zero.",
+        NilTail);
     return;
   }
   if (c.FullSisters == 1) {
@@ -49,7 +49,8 @@ void DecideConsSister(CaseRecord& c) {
   if (c.ConsBrothers > 0 && !HasDaughtersLine(c)) {
     c.Res(ConsBrothersWithSisters) = true;
     SetFraction(c, ConsSisterSlot, 0, 1);
-    c.ConsSisterReport = Join(ConsSisterTexts[5], ConsSisterTexts[6], ResiduaryTail(c, ConsBrothersWithSisters));
+    c.ConsSisterReport =
+        Join(ConsSisterTexts[5], ConsSisterTexts[6], ResiduaryTail(c, ConsBrothersWithSisters));
     return;
   }
   if (c.ConsBrothers > 0) {
@@ -67,9 +68,10 @@ void DecideConsSister(CaseRecord& c) {
   if (c.ConsSisters > 1) {
     c.ConsSisterShare = (c.NetEstate + c.NetEstate) / 3;
     SetFraction(c, ConsSisterSlot, 2, 3);
-    c.ConsSisterReport = Join(ConsSisterTexts[7], ConsSisterTexts[8], CRLF, "Since number of Consanguine Sisters is ",
-                              c.ConsSisters, ". So each Consanguine sister will get:", CRLF, CRLF, TAB,
-                              F(c.ConsSisterShare / c.ConsSisters), CRLF);
+    c.ConsSisterReport =
+        Join(ConsSisterTexts[7], ConsSisterTexts[8], CRLF, "Since number of Consanguine Sisters is ",
+             c.ConsSisters, ". So each Consanguine sister will get:", CRLF, CRLF, TAB,
+             F(c.ConsSisterShare / c.ConsSisters), CRLF);
     return;
   }
   c.ConsSisterShare = c.NetEstate / 2;

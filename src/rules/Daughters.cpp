@@ -22,11 +22,11 @@ void DecideDaughters(CaseRecord& c) {
   if (c.Sons > 0) {
     SetFraction(c, DaughterSlot, 0, 1);
     c.Res(SonsWithDaughters) = true;
-    c.DaughterReport =
-        Join("In the case under examination, the deceased has left the following:", CRLF, CRLF, "Son(s) = ", c.Sons,
-             CRLF, "Daughter(s) = ", c.Daughters, CRLF, CRLF,
-             "The Son and Daughter both will receive as Residuaries (Asaba't) in the ratio 2:1 each respectively.",
-             CRLF, CRLF, TAB, "RESIDUARY (ASABA')");
+    c.DaughterReport = Join(
+        "In the case under examination, the deceased has left the following:", CRLF, CRLF,
+        "Son(s) = ", c.Sons, CRLF, "Daughter(s) = ", c.Daughters, CRLF, CRLF,
+        "The Son and Daughter both will receive as Residuaries (Asaba't) in the ratio 2:1 each respectively.",
+        CRLF, CRLF, TAB, "RESIDUARY (ASABA')");
     return;
   }
   if (c.Daughters == 1) {
@@ -38,11 +38,10 @@ void DecideDaughters(CaseRecord& c) {
   if (c.Daughters >= 2) {
     c.DaughterShare = 2 * c.NetEstate / 3;
     SetFraction(c, DaughterSlot, 2, 3);
-    c.DaughterReport =
-        Join(TwoDaughtersText, TAB, F(c.DaughterShare), FractionText(c, DaughterSlot), CRLF, CRLF,
-             "Since, number of daughters is ", c.Daughters,
-             " so, EACH daughter will receive share in the net estate wealth equal to:", CRLF, CRLF, TAB,
-             F(c.DaughterShare / c.Daughters));
+    c.DaughterReport = Join(TwoDaughtersText, TAB, F(c.DaughterShare), FractionText(c, DaughterSlot), CRLF,
+                            CRLF, "Since, number of daughters is ", c.Daughters,
+                            " so, EACH daughter will receive share in the net estate wealth equal to:", CRLF,
+                            CRLF, TAB, F(c.DaughterShare / c.Daughters));
     return;
   }
   c.DaughterShare = 0;
@@ -60,12 +59,13 @@ std::string SonReport(CaseRecord& c) {
         CRLF, CRLF, TAB, "NIL");
   }
   if (c.Daughters > 0) {
-    return Join(SonWithDaughtersTexts[0], "Son (S/SS/SSS) = ", c.Sons, "/", c.GrandSons, "/", c.GtGrandSons, CRLF,
-                "Daughter = ", c.Daughters, CRLF, "Son's Daughter = ", c.GrandDaughters, CRLF,
-                "Son's Son's Daughter = ", c.GtGrandDaughters, CRLF, CRLF,
-                "The Son of eligible class will receive as Residuary (Asaba') with eligible descendant sharers/ "
-                "residuaries.",
-                CRLF, CRLF, TAB, "RESIDUARY (ASABA')");
+    return Join(
+        SonWithDaughtersTexts[0], "Son (S/SS/SSS) = ", c.Sons, "/", c.GrandSons, "/", c.GtGrandSons, CRLF,
+        "Daughter = ", c.Daughters, CRLF, "Son's Daughter = ", c.GrandDaughters, CRLF,
+        "Son's Son's Daughter = ", c.GtGrandDaughters, CRLF, CRLF,
+        "The Son of eligible class will receive as Residuary (Asaba') with eligible descendant sharers/ "
+        "residuaries.",
+        CRLF, CRLF, TAB, "RESIDUARY (ASABA')");
   }
   if (c.Sons > 0) {
     return Join(

@@ -33,10 +33,10 @@ void TakeSixth(CaseRecord& c) {
 }
 
 std::string SixthReport(const CaseRecord& c) {
-  return Join(FatherWithSonsTexts[0], c.UltimateFatherName, FatherWithSonsTexts[1], CRLF, CRLF, "Daughters = ",
-              c.Daughters, CRLF, "Grand Daughters = ", c.GrandDaughters, CRLF, "Great Grand Daughters = ",
-              c.GtGrandDaughters, CRLF, FatherWithSonsTexts[2], CRLF, "Share of ", c.UltimateFatherName, CRLF, TAB,
-              " = ", F(c.FatherShare), FractionText(c, FatherSlot));
+  return Join(FatherWithSonsTexts[0], c.UltimateFatherName, FatherWithSonsTexts[1], CRLF, CRLF,
+              "Daughters = ", c.Daughters, CRLF, "Grand Daughters = ", c.GrandDaughters, CRLF,
+              "Great Grand Daughters = ", c.GtGrandDaughters, CRLF, FatherWithSonsTexts[2], CRLF, "Share of ",
+              c.UltimateFatherName, CRLF, TAB, " = ", F(c.FatherShare), FractionText(c, FatherSlot));
 }
 
 void DecideFather(CaseRecord& c) {
@@ -62,7 +62,8 @@ void DecideFather(CaseRecord& c) {
   if (HasNoSonsLine(c)) {
     TakeSixth(c);
     c.Res(FatherAsSharerAndResiduary) = true;
-    c.FatherReport = "Ultimate Father receives as Residuary (Asaba') ALSO alongwith one sixth (1/6) share.\r\n";
+    c.FatherReport =
+        "Ultimate Father receives as Residuary (Asaba') ALSO alongwith one sixth (1/6) share.\r\n";
     return;
   }
   TakeSixth(c);
@@ -76,8 +77,8 @@ void ShareOfFather(CaseRecord& c, CaseScreen& screen) {
   SetUltimateFather(c);
   screen.Label2.Caption = "Ultimate FATHER'S SHARE";
   DecideFather(c);
-  screen.Text2.Text =
-      Join(c.UltimateFatherName, " is the Ultimate Father. ", c.FatherReport, CRLF, FractionText(c, FatherSlot));
+  screen.Text2.Text = Join(c.UltimateFatherName, " is the Ultimate Father. ", c.FatherReport, CRLF,
+                           FractionText(c, FatherSlot));
   screen.Label3.Caption = AmountLine(c, c.FatherShare, FatherSlot);
   SetUltimateFather(c);
 }

@@ -6,9 +6,10 @@
 #include "case/narratives/FullSiblingTexts.h"
 #include "rules/Collaterals.h"
 
-// A son, a son's son, a father or a forefather of him excludes both. Daughters of any line do not: the brother
-// and the sister take the residue beside them. The addition that tells the amount of each sister is shown on
-// the screen and does not enter her report; the brother's text ends in his fraction and hers does not.
+// A son, a son's son, a father or a forefather of him excludes both. Daughters of any line do not: the
+// brother and the sister take the residue beside them. The addition that tells the amount of each sister is
+// shown on the screen and does not enter her report; the brother's text ends in his fraction and hers does
+// not.
 
 namespace qismora {
 
@@ -67,15 +68,16 @@ std::string DecideFullSister(CaseRecord& c) {
   if (c.FullBrothers > 0) {
     c.Res(FullBrothersWithSisters) = true;
     SetFraction(c, FullSisterSlot, 0, 1);
-    c.FullSisterReport = Join(FullSisterTexts[5], FullSisterTexts[6], ResiduaryTail(c, FullBrothersWithSisters));
+    c.FullSisterReport =
+        Join(FullSisterTexts[5], FullSisterTexts[6], ResiduaryTail(c, FullBrothersWithSisters));
     return "";
   }
   if (c.FullSisters > 1) {
     c.FullSisterShare = (c.NetEstate + c.NetEstate) / 3;
     SetFraction(c, FullSisterSlot, 2, 3);
     c.FullSisterReport = Join(FullSisterTexts[7], FullSisterTexts[8]);
-    return Join(CRLF, "Since number of Full Sisters is ", c.FullSisters, ". So each sister will get:", CRLF, CRLF,
-                TAB, F(c.FullSisterShare / c.FullSisters), CRLF);
+    return Join(CRLF, "Since number of Full Sisters is ", c.FullSisters, ". So each sister will get:", CRLF,
+                CRLF, TAB, F(c.FullSisterShare / c.FullSisters), CRLF);
   }
   c.FullSisterShare = c.NetEstate / 2;
   SetFraction(c, FullSisterSlot, 1, 2);

@@ -17,15 +17,13 @@ namespace {
 void TakeSixth(CaseRecord& c, int text) {
   c.GrandMotherShare = c.NetEstate / 6;
   SetFraction(c, GrandMotherSlot, 1, 6);
-  c.GrandMotherReport =
-      Join(GrandMotherTexts[static_cast<std::size_t>(text)], TAB, F(c.GrandMotherShare));
+  c.GrandMotherReport = Join(GrandMotherTexts[static_cast<std::size_t>(text)], TAB, F(c.GrandMotherShare));
 }
 
 void TakeNothing(CaseRecord& c, int text) {
   c.GrandMotherShare = 0;
   SetFraction(c, GrandMotherSlot, 0, 1);
-  c.GrandMotherReport =
-      Join(GrandMotherTexts[static_cast<std::size_t>(text)], TAB, F(c.GrandMotherShare));
+  c.GrandMotherReport = Join(GrandMotherTexts[static_cast<std::size_t>(text)], TAB, F(c.GrandMotherShare));
 }
 
 void DecideBesideFather(CaseRecord& c) {
@@ -47,7 +45,8 @@ void DecideWithoutFathers(CaseRecord& c) {
   if (c.MothersMother > 0 && c.FathersMother > 0) return TakeSixth(c, 3);
   if (c.MothersMother > 0) return TakeSixth(c, 4);
   if (c.FathersMother > 0) return TakeSixth(c, 6);
-  if (c.MothersMothersMother > 0 || c.FathersGrandMother > 0 || c.GrandFathersMother > 0) return TakeSixth(c, 7);
+  if (c.MothersMothersMother > 0 || c.FathersGrandMother > 0 || c.GrandFathersMother > 0)
+    return TakeSixth(c, 7);
 }
 
 void DecideGrandMother(CaseRecord& c) {

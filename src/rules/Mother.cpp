@@ -24,10 +24,10 @@ bool HasTwoSiblings(const CaseRecord& c) {
 }
 
 std::string HeirsList(const CaseRecord& c) {
-  return Join(CRLF, "Sons = ", c.Sons, CRLF, "Grand Sons = ", c.GrandSons, CRLF, "Great grand Sons = ",
-              c.GtGrandSons, CRLF, "Daughters = ", c.Daughters, CRLF, "Grand Daughters = ", c.GrandDaughters, CRLF,
-              "Great grand Daughters = ", c.GtGrandDaughters, CRLF, "Brothers = ", c.FullBrothers, CRLF,
-              "Sisters = ", c.FullSisters, CRLF);
+  return Join(CRLF, "Sons = ", c.Sons, CRLF, "Grand Sons = ", c.GrandSons, CRLF,
+              "Great grand Sons = ", c.GtGrandSons, CRLF, "Daughters = ", c.Daughters, CRLF,
+              "Grand Daughters = ", c.GrandDaughters, CRLF, "Great grand Daughters = ", c.GtGrandDaughters,
+              CRLF, "Brothers = ", c.FullBrothers, CRLF, "Sisters = ", c.FullSisters, CRLF);
 }
 
 void TakeThird(CaseRecord& c, std::string_view narrative) {
@@ -60,7 +60,8 @@ void DecideMother(CaseRecord& c, CaseScreen& screen) {
   if (HasTwoSiblings(c) || HasDescendant(c)) {
     c.MotherShare = c.NetEstate / 6;
     SetFraction(c, MotherSlot, 1, 6);
-    c.MotherReport = Join(MotherSixthTexts[0], HeirsList(c), MotherSixthTexts[1], CRLF, TAB, F(c.MotherShare));
+    c.MotherReport =
+        Join(MotherSixthTexts[0], HeirsList(c), MotherSixthTexts[1], CRLF, TAB, F(c.MotherShare));
   } else if (c.Husband <= 0 && c.Wives <= 0) {
     TakeThird(c, MotherThirdNoSpouseText);
   } else if (c.Father <= 0) {

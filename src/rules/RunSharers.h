@@ -30,7 +30,11 @@ inline void RunFullBrother(CaseRecord& c, CaseScreen& screen) { RunSharer(c, scr
 inline void RunFullSister(CaseRecord& c, CaseScreen& screen) { RunSharer(c, screen, ShareOfFullSister); }
 inline void RunConsSister(CaseRecord& c, CaseScreen& screen) { RunSharer(c, screen, ShareOfConsSister); }
 inline void RunConsBrother(CaseRecord& c, CaseScreen& screen) { RunSharer(c, screen, ShareOfConsBrother); }
-inline void RunUterineSister(CaseRecord& c, CaseScreen& screen) { RunSharer(c, screen, ShareOfUterineSister); }
-inline void RunUterineBrother(CaseRecord& c, CaseScreen& screen) { RunSharer(c, screen, ShareOfUterineBrother); }
+inline void RunUterineSister(CaseRecord& c, CaseScreen& screen) {
+  RunSharer(c, screen, ShareOfUterineSister);
+}
+inline void RunUterineBrother(CaseRecord& c, CaseScreen& screen) {
+  RunSharer(c, screen, ShareOfUterineBrother);
+}
 
 }  // namespace qismora

@@ -5,9 +5,9 @@
 #include "case/narratives/SonsDaughterTexts.h"
 
 // The son's daughters stand in the daughters' place where no daughter lives, complete their two thirds beside
-// one, and are shut out by two. A son's son of their own line makes them residuaries, before a lower one does.
-// The markers "Res(15)" and "Res(18)" and the word "True" at the end of some narratives are shown to the user,
-// and only the row of the lower son's son alone writes no fraction.
+// one, and are shut out by two. A son's son of their own line makes them residuaries, before a lower one
+// does. The markers "Res(15)" and "Res(18)" and the word "True" at the end of some narratives are shown to
+// the user, and only the row of the lower son's son alone writes no fraction.
 
 namespace qismora {
 
@@ -23,9 +23,7 @@ void BecomeResiduary(CaseRecord& c, ResiduaryFlag flag) {
   c.Res(flag) = true;
 }
 
-std::string AmountTail(const CaseRecord& c) {
-  return AmountLine(c, c.SonsDaughterShare, SonsDaughterSlot);
-}
+std::string AmountTail(const CaseRecord& c) { return AmountLine(c, c.SonsDaughterShare, SonsDaughterSlot); }
 
 void TakeHalfOrTwoThirds(CaseRecord& c) {
   if (c.GrandDaughters == 1) {
@@ -36,10 +34,10 @@ void TakeHalfOrTwoThirds(CaseRecord& c) {
   }
   c.SonsDaughterShare = 2 * c.NetEstate / 3;
   SetFraction(c, SonsDaughterSlot, 2, 3);
-  c.SonsDaughterReport = Join(SonsDaughterTwoThirdsText, CRLF, TAB, AmountTail(c), CRLF, CRLF,
-                              "Since, number of Son's daughters is ", c.GrandDaughters, ", so each will get:", CRLF,
-                              CRLF, TAB, F(c.SonsDaughterShare / c.GrandDaughters), CRLF, CRLF,
-                              " as their own individual shares.");
+  c.SonsDaughterReport =
+      Join(SonsDaughterTwoThirdsText, CRLF, TAB, AmountTail(c), CRLF, CRLF,
+           "Since, number of Son's daughters is ", c.GrandDaughters, ", so each will get:", CRLF, CRLF, TAB,
+           F(c.SonsDaughterShare / c.GrandDaughters), CRLF, CRLF, " as their own individual shares.");
 }
 
 void DecideBesideDaughters(CaseRecord& c) {

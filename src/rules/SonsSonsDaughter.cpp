@@ -35,7 +35,8 @@ std::string AmountTail(const CaseRecord& c) {
 /// What each of them takes; the word each is spelt in two ways.
 std::string EachShare(const CaseRecord& c, const char* each) {
   return Join(CRLF, CRLF, "Number of Son's son's daughter being ", c.GtGrandDaughters, ", Share of ", each,
-              " Son's son's daughter will be:", CRLF, CRLF, TAB, F(c.SonsSonsDaughterShare / c.GtGrandDaughters));
+              " Son's son's daughter will be:", CRLF, CRLF, TAB,
+              F(c.SonsSonsDaughterShare / c.GtGrandDaughters));
 }
 
 void DecideBesideDaughters(CaseRecord& c) {
@@ -60,9 +61,8 @@ void DecideBesideSonsDaughters(CaseRecord& c) {
     c.SonsSonsDaughterReport = SonsSonsDaughterTexts[2];
   } else {
     TakeSixth(c);
-    c.SonsSonsDaughterReport =
-        Join("Share of Son's son's daughter is 1/6 in presence of son's daughter. ", SonsSonsDaughterTexts[3], TAB,
-             AmountTail(c));
+    c.SonsSonsDaughterReport = Join("Share of Son's son's daughter is 1/6 in presence of son's daughter. ",
+                                    SonsSonsDaughterTexts[3], TAB, AmountTail(c));
   }
 }
 

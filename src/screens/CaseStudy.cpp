@@ -126,6 +126,7 @@ CaseStudy::CaseStudy(CaseRecord& record, Outside& outside, int savedLanguage)
   Label6.ForeColor = Green;
   Image2.Visible = true;
   Image42(0).Visible = true;
+  for (Picture* under : {&Image6(1), &Image4(1), &Image7(0)}) under->Visible = true;
   Timer1 = 1000;
   Frame111_MouseMove();
 
@@ -243,30 +244,22 @@ void CaseStudy::Image37_DblClick(int) {
 void CaseStudy::FullReport_Click() {
   Event([&] { RunFullReport(record_, *this); });
 }
-void CaseStudy::Exec_Click() {
-  SelectedReport_Click();
-}
+void CaseStudy::Exec_Click() { SelectedReport_Click(); }
 void CaseStudy::SelectedReport_Click() {
   Event([&] { RunSelectedReport(record_, *this); });
 }
-void CaseStudy::Resid_Click() {
-  Residuaries_Click();
-}
+void CaseStudy::Resid_Click() { Residuaries_Click(); }
 void CaseStudy::Residuaries_Click() {
   Event([&] { RunResiduaries(record_, *this); });
 }
-void CaseStudy::AulRad_Click() {
-  AulRadd_Click();
-}
+void CaseStudy::AulRad_Click() { AulRadd_Click(); }
 void CaseStudy::AulRadd_Click() {
   Event([&] { RunAulRadd(record_, *this); });
 }
 void CaseStudy::CreateSaveFullReport_Click() {
   Event([&] { CreateSaveFullReport(record_, *this); });
 }
-void CaseStudy::FullReportxx_Click() {
-  CreateSaveFullReport_Click();
-}
+void CaseStudy::FullReportxx_Click() { CreateSaveFullReport_Click(); }
 void CaseStudy::SaveResults_Click() {
   Event([&] { SaveResults(*this); });
 }
@@ -309,9 +302,7 @@ void CaseStudy::Label6_Click() {
     World.Boxes.Tell(BoxStyle::Information, "YOU ARE WORKING ON THIS PROGRAM");
   });
 }
-void CaseStudy::Image38_Click() {
-  Label6_Click();
-}
+void CaseStudy::Image38_Click() { Label6_Click(); }
 
 void CaseStudy::About_Click() {
   Event([&] {
@@ -339,12 +330,8 @@ void CaseStudy::Form_Resize(bool maximized, int width, int height) {
   Frame111Left = maximized ? (width - 12000) / 2 : 0;
 }
 
-void CaseStudy::Image2_MouseDown() {
-  Image2.BorderStyle = 1;
-}
-void CaseStudy::Image42_Click() {
-  Timer1 = Timer1 == 1000 ? 0 : 1000;
-}
+void CaseStudy::Image2_MouseDown() { Image2.BorderStyle = 1; }
+void CaseStudy::Image42_Click() { Timer1 = Timer1 == 1000 ? 0 : 1000; }
 
 // The pictures go round 2, 1, 0 at a step a second.
 void CaseStudy::Timer1_Timer() {
@@ -352,21 +339,11 @@ void CaseStudy::Timer1_Timer() {
   for (int i = 0; i < Image42.Size; ++i) Image42(i).Visible = i == next;
 }
 
-void CaseStudy::FullReportxx_MouseMove() {
-  FullReportxx = 39;
-}
-void CaseStudy::Frame3_MouseMove() {
-  FullReportxx = 40;
-}
-void CaseStudy::Image6_MouseMove() {
-  Image6(0).Visible = false;
-}
-void CaseStudy::Image4_MouseMove() {
-  Image4(0).Visible = false;
-}
-void CaseStudy::Image7_MouseMove() {
-  Image7(1).Visible = false;
-}
+void CaseStudy::FullReportxx_MouseMove() { FullReportxx = 39; }
+void CaseStudy::Frame3_MouseMove() { FullReportxx = 40; }
+void CaseStudy::Image6_MouseMove() { Image6(0).Visible = false; }
+void CaseStudy::Image4_MouseMove() { Image4(0).Visible = false; }
+void CaseStudy::Image7_MouseMove() { Image7(1).Visible = false; }
 
 // Moving on to the frame takes every hover decoration back.
 void CaseStudy::Frame111_MouseMove() {

@@ -106,5 +106,4 @@ class CaseStudy : public CaseScreen {
   bool testValues_ = false;
 };
 
-
 }  // namespace qismora

@@ -1,6 +1,5 @@
 #include "base/Files.h"
 
-
 #include <gtest/gtest.h>
 #include <sys/resource.h>
 #include <sys/wait.h>
@@ -109,7 +108,8 @@ TEST(Files, ANameIsGivenOnlyWhereNoneStands) {
     EXPECT_EQ(failure.Number, FileAlreadyExists);
   }
   fs::create_symlink("nowhere", folder.File("c"));
-  EXPECT_THROW(RenameFile(folder.File("a"), folder.File("c"), Replace::No), Failure) << "a dangling link is a file";
+  EXPECT_THROW(RenameFile(folder.File("a"), folder.File("c"), Replace::No), Failure)
+      << "a dangling link is a file";
   RenameFile(folder.File("a"), folder.File("b"), Replace::Yes);
   EXPECT_EQ(ReadWholeFile(folder.File("b")), "a\r\n");
 }

@@ -1,8 +1,8 @@
-#include "base/NumberText.h"
-
 #include <gtest/gtest.h>
 
 #include <string>
+
+#include "base/NumberText.h"
 
 namespace qismora {
 namespace {
@@ -41,7 +41,9 @@ const Row rows[] = {
     {"0x10", false, 0, none},
     {"\t5", false, 0, none},
     {"5\t", false, 5, none},
-    {"\xC2\xA0" "5", false, 0, none},
+    {"\xC2\xA0"
+     "5",
+     false, 0, none},
     {"٣", false, 0, none},
     {"五", false, 0, none},
     {std::string("5\0", 2), false, 5, none},
@@ -109,8 +111,12 @@ TEST(NumberText, LongDigitsKeepTheirValue) {
 }
 
 TEST(NumberText, ANumberBeyondTheRangeIsAnOverflow) {
-  const std::string texts[] = {"1e309", "-1e309", "1" + std::string(400, '0'), "1e99999999999999999999",
-                               "&H" + std::string(300, 'F'), "0." + std::string(10, '0') + "1e400"};
+  const std::string texts[] = {"1e309",
+                               "-1e309",
+                               "1" + std::string(400, '0'),
+                               "1e99999999999999999999",
+                               "&H" + std::string(300, 'F'),
+                               "0." + std::string(10, '0') + "1e400"};
   for (const std::string& text : texts) {
     EXPECT_TRUE(IsNumber(text)) << text;
     try {

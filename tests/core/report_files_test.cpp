@@ -28,7 +28,8 @@ class ReportFiles : public ::testing::Test {
 
   std::vector<std::string> Names() const {
     std::vector<std::string> names;
-    for (const auto& entry : fs::directory_iterator(Folder.Path())) names.push_back(entry.path().filename().string());
+    for (const auto& entry : fs::directory_iterator(Folder.Path()))
+      names.push_back(entry.path().filename().string());
     std::ranges::sort(names);
     return names;
   }
@@ -40,14 +41,16 @@ class ReportFiles : public ::testing::Test {
 TEST_F(ReportFiles, ANameThatIsNoFileNameSavesNothingAndOverwritesNothing) {
   fs::create_directory(Folder.File("reports"));
   Case.World.Folders.Folder = Folder.File("reports");
-  for (const std::string& name : {std::string("../escaped"), std::string("a/b"), std::string("a\\b"), std::string("."),
-                                  std::string(".."), std::string("a\0b", 3), std::string(300, 'x')}) {
+  for (const std::string& name :
+       {std::string("../escaped"), std::string("a/b"), std::string("a\\b"), std::string("."),
+        std::string(".."), std::string("a\0b", 3), std::string(300, 'x')}) {
     Case.World.Boxes.Shown.clear();
     Case.Type(NameBox, name);
     Case.Study->CreateSaveFullReport_Click();
     EXPECT_TRUE(Case.World.Boxes.Shown.empty()) << name;
     EXPECT_EQ(Names(), std::vector<std::string>{"reports"}) << name;
-    ASSERT_EQ(std::distance(fs::directory_iterator(Folder.File("reports")), fs::directory_iterator()), 1) << name;
+    ASSERT_EQ(std::distance(fs::directory_iterator(Folder.File("reports")), fs::directory_iterator()), 1)
+        << name;
     EXPECT_TRUE(fs::exists(Folder.File("reports/FullReport"))) << name;
     EXPECT_FALSE(Case.Study->Text3.Text.Get().empty()) << "the report is still shown";
   }

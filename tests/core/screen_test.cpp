@@ -143,9 +143,10 @@ TEST(Screen, BackAndTheCloseBoxShowTheMenu) {
 }
 
 TEST(Screen, AnyTextInAnyBoxIsAnsweredAndNothingEscapes) {
-  const std::string texts[] = {"",     "abc",   "-1",   "1e400", std::string(10000, '9'), "&H" + std::string(500, 'F'),
-                               "مرحبا", "1,0,0", "1e-9", "--1",   std::string("\0\1\2", 3), "\xFF\xFE",
-                               "NaN",  "inf",   "2147483648"};
+  const std::string texts[] = {
+      "",      "abc",   "-1",        "1e400", std::string(10000, '9'),  "&H" + std::string(500, 'F'),
+      "مرحبا", "1,0,0", "1e-9",      "--1",   std::string("\0\1\2", 3), "\xFF\xFE",
+      "NaN",   "inf",   "2147483648"};
   for (const int box : HeirBoxes) {
     for (const std::string& text : texts) {
       MemoryCase played;

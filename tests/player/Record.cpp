@@ -25,14 +25,17 @@ class Printer {
     if (value == 0) return;
     char digits[32];
     const auto end =
-        std::to_chars(std::begin(digits), std::end(digits), value.Value(), std::chars_format::general, 12).ptr;
+        std::to_chars(std::begin(digits), std::end(digits), value.Value(), std::chars_format::general, 12)
+            .ptr;
     Put(name, std::string_view(digits, static_cast<std::size_t>(end - digits)));
   }
   void Line(const std::string& name, const std::string& value) {
     if (!value.empty()) Put(name, Escaped(value));
   }
 
-  void Put(const std::string& name, std::string_view value) { out_ << "  " << name << " = " << value << '\n'; }
+  void Put(const std::string& name, std::string_view value) {
+    out_ << "  " << name << " = " << value << '\n';
+  }
 
  private:
   std::ostream& out_;
@@ -93,7 +96,8 @@ void PrintRecord(std::ostream& out, const CaseRecord& c) {
   FIELD(LowerSonsSonResidue), FIELD(ResidueUnit), FIELD(FullBrotherResidue), FIELD(FullSisterResidue);
   FIELD(ConsBrotherResidue), FIELD(ConsSisterResidue), FIELD(ClassIIResidue), FIELD(FatherResidue);
 
-  for (int i = 0; i < c.ClassIIAmount.Size; ++i) print.Line(Join("ClassIIAmount(", i, ")"), c.ClassIIAmount(i));
+  for (int i = 0; i < c.ClassIIAmount.Size; ++i)
+    print.Line(Join("ClassIIAmount(", i, ")"), c.ClassIIAmount(i));
   FIELD(ClassIINarrative), FIELD(ClassIIText);
 
   FIELD(AulFactor), FIELD(RaddFactor), FIELD(AulExcessNum), FIELD(AulExcessDen), FIELD(RaddExcessNum);

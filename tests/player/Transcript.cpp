@@ -49,9 +49,12 @@ void PrintPieces(std::ostream& out, std::string_view mark, std::string_view text
 
 std::vector<Shown> Snapshot(const CaseStudy& study) {
   std::vector<Shown> all = {
-      {"Label2", study.Label2.Caption},         {"Label3", study.Label3.Caption},
-      {"StatusBar1", study.StatusBar1.Caption}, {"Label13", study.Label13.Caption},
-      {"Frame1", study.Frame1.Caption},         {"Label1(1)", study.Label1(1).Caption},
+      {"Label2", study.Label2.Caption},
+      {"Label3", study.Label3.Caption},
+      {"StatusBar1", study.StatusBar1.Caption},
+      {"Label13", study.Label13.Caption},
+      {"Frame1", study.Frame1.Caption},
+      {"Label1(1)", study.Label1(1).Caption},
       {"Combo1", Join(study.Combo1.ListIndex.Get())},
   };
   for (int i = 0; i < study.Text1.Size; ++i) {

@@ -27,7 +27,8 @@ class PrintedBoxes : public MemoryBoxes {
     static constexpr const char* styles[] = {"plain", "information", "warning", "critical"};
     static constexpr const char* buttonNames[] = {"OK", "Yes/No", "Yes/No/Cancel"};
     static constexpr const char* answers[] = {"OK", "Yes", "No", "Cancel"};
-    std::cout << "  box " << styles[static_cast<int>(style)] << ' ' << buttonNames[static_cast<int>(buttons)] << '\n';
+    std::cout << "  box " << styles[static_cast<int>(style)] << ' ' << buttonNames[static_cast<int>(buttons)]
+              << '\n';
     PrintPieces(std::cout, "  ! ", text);
     const Answer answer = MemoryBoxes::Show(style, buttons, text);
     if (buttons != BoxButtons::Ok) std::cout << "  answer " << answers[static_cast<int>(answer)] << '\n';
@@ -97,14 +98,11 @@ class Player {
     const std::string_view command = TakeWord(rest);
     using Command = void (Player::*)(std::string_view);
     static constexpr std::pair<std::string_view, Command> commands[] = {
-        {"clock", &Player::SetClock},   {"type", &Player::Type},
-        {"choose", &Player::Choose},    {"tick", &Player::Tick},
-        {"untick", &Player::Untick},    {"doubleclick", &Player::DoubleClick},
-        {"click", &Player::Click},      {"answer", &Player::PutAnswer},
-        {"file", &Player::PutFile},     {"write", &Player::Write},
-        {"cat", &Player::Cat},          {"ls", &Player::List},
-        {"reopen", &Player::Reopen},    {"show", &Player::Show},
-        {"lcm", &Player::Lcm},
+        {"clock", &Player::SetClock}, {"type", &Player::Type},        {"choose", &Player::Choose},
+        {"tick", &Player::Tick},      {"untick", &Player::Untick},    {"doubleclick", &Player::DoubleClick},
+        {"click", &Player::Click},    {"answer", &Player::PutAnswer}, {"file", &Player::PutFile},
+        {"write", &Player::Write},    {"cat", &Player::Cat},          {"ls", &Player::List},
+        {"reopen", &Player::Reopen},  {"show", &Player::Show},        {"lcm", &Player::Lcm},
     };
     const auto* found = std::ranges::find(commands, command, &std::pair<std::string_view, Command>::first);
     if (found == std::end(commands)) throw NoCommand();

@@ -10,7 +10,8 @@ namespace qismora::testing {
 
 /// A Case Study screen without a window, over a world in memory.
 struct MemoryCase {
-  explicit MemoryCase(int savedLanguage = 0) : Study(std::make_unique<CaseStudy>(Record, World.Ports, savedLanguage)) {}
+  explicit MemoryCase(int savedLanguage = 0)
+      : Study(std::make_unique<CaseStudy>(Record, World.Ports, savedLanguage)) {}
 
   void Type(int box, const std::string& text) { Study->Text1(box).Text = text; }
 

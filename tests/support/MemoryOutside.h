@@ -9,8 +9,8 @@
 
 namespace qismora::testing {
 
-/// The outside world in memory: a clock that stands still, boxes and dialogs that answer from a queue, settings
-/// in a map.
+/// The outside world in memory: a clock that stands still, boxes and dialogs that answer from a queue,
+/// settings in a map.
 class MemoryClock : public Clock {
  public:
   DateTime Now() override { return Time; }
@@ -55,7 +55,8 @@ class MemoryDialog : public SaveDialog {
 
 class MemorySettings : public Settings {
  public:
-  std::string Read(const std::string& application, const std::string& section, const std::string& key) override {
+  std::string Read(const std::string& application, const std::string& section,
+                   const std::string& key) override {
     const auto found = Values.find(application + "/" + section + "/" + key);
     return found == Values.end() ? "" : found->second;
   }
@@ -74,13 +75,50 @@ class MemoryFolders : public Folders {
   std::string Folder = ".";
 };
 
+class MemoryViewer : public DocumentViewer {
+ public:
+  bool Open(const std::string& path) override {
+    Opened.push_back(path);
+    return HasViewer;
+  }
+
+  std::vector<std::string> Opened;
+  bool HasViewer = true;
+};
+
+/// A player that notes what it would play.
+class MemoryPlayer : public VideoPlayer {
+ public:
+  void SetFile(const std::string& path) override { File = path; }
+  void Play() override { Played.push_back(File); }
+
+  std::string File;
+  std::vector<std::string> Played;
+};
+
+class MemoryMemory : public MemoryMeter {
+ public:
+  MemoryFigures Read() override { return Figures; }
+  MemoryFigures Figures;
+};
+
+class MemoryProgram : public Program {
+ public:
+  void End() override { ++Ends; }
+  int Ends = 0;
+};
+
 struct MemoryWorld {
   MemoryClock Clock;
   MemoryBoxes Boxes;
   MemoryDialog Dialog;
   MemorySettings Settings;
   MemoryFolders Folders;
-  Outside Ports{Clock, Boxes, Dialog, Settings, Folders};
+  MemoryViewer Viewer;
+  MemoryPlayer Player;
+  MemoryMemory Memory;
+  MemoryProgram Program;
+  ShellOutside Ports{{Clock, Boxes, Dialog, Settings, Folders}, Viewer, Player, Memory, Program};
 };
 
 }  // namespace qismora::testing

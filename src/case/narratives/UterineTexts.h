@@ -45,7 +45,8 @@ inline constexpr std::array<std::string_view, 9> UterineSisterTexts = {
     "(1/6) i.e.",
 };
 
-// Entries 5 and 6 are shown by no rule; the words "one third (1/6)" of entry 8 are wrong, its figure is right.
+// Entries 5 and 6 are shown by no rule; the words "one third (1/6)" of entry 8 are wrong, its figure is
+// right.
 inline constexpr std::array<std::string_view, 9> UterineBrotherTexts = {
     // 0
     "In the case under examination, the deceased has left the following:\r\n\r\n",
