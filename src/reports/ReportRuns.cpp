@@ -1,6 +1,5 @@
 #include "reports/ReportRuns.h"
 
-#include <ranges>
 #include <vector>
 
 #include "aulradd/Sufficiency.h"
@@ -68,7 +67,7 @@ class SectionStack {
  private:
   void Show() {
     std::string whole;
-    for (const std::string& text : std::views::reverse(texts_)) whole += text;
+    for (auto text = texts_.rbegin(); text != texts_.rend(); ++text) whole += *text;
     screen_.Text3.Text = whole;
   }
 
