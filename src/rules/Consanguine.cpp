@@ -32,11 +32,7 @@ void DecideConsSister(CaseRecord& c) {
   if (c.FullSisters == 1 && HasDaughtersLine(c)) {
     c.ConsSisterShare = 0;
     SetFraction(c, ConsSisterSlot, 0, 1);
-    c.ConsSisterReport = Join(
-        ConsSisterTexts[0], DaughtersList(c), CRLF,
-        "In presence of Full Sister and any one of the above, Consanguine Sister can not inherit. So, share of "
-        "consanguine sister in the net estate wealth is zero.",
-        NilTail);
+    c.ConsSisterReport = Join(ConsSisterTexts[0], DaughtersList(c), ConsSisterBesideFullSisterText, NilTail);
     return;
   }
   if (c.FullSisters == 1) {

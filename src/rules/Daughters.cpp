@@ -12,6 +12,8 @@ namespace qismora {
 
 namespace {
 
+constexpr std::string_view residuaryEnd = "\tRESIDUARY (ASABA')";
+
 void DecideDaughters(CaseRecord& c) {
   if (c.Sons > 0 && c.Daughters == 0) {
     c.DaughterShare = 0;
@@ -22,11 +24,8 @@ void DecideDaughters(CaseRecord& c) {
   if (c.Sons > 0) {
     SetFraction(c, DaughterSlot, 0, 1);
     c.Res(SonsWithDaughters) = true;
-    c.DaughterReport = Join(
-        "In the case under examination, the deceased has left the following:", CRLF, CRLF,
-        "Son(s) = ", c.Sons, CRLF, "Daughter(s) = ", c.Daughters, CRLF, CRLF,
-        "The Son and Daughter both will receive as Residuaries (Asaba't) in the ratio 2:1 each respectively.",
-        CRLF, CRLF, TAB, "RESIDUARY (ASABA')");
+    c.DaughterReport = Join(DaughterResiduaryOpening, "Son(s) = ", c.Sons, CRLF,
+                            "Daughter(s) = ", c.Daughters, CRLF, CRLF, DaughterWithSonText, residuaryEnd);
     return;
   }
   if (c.Daughters == 1) {
@@ -53,36 +52,16 @@ void DecideDaughters(CaseRecord& c) {
 std::string SonReport(CaseRecord& c) {
   if (!HasSonsLine(c)) {
     c.SonAmount = 0;
-    return Join(
-        "As the deceased has NO Son, Son's Son or Son's Son's Son so the descending son's share in the net estate "
-        "wealth is zero.",
-        CRLF, CRLF, TAB, "NIL");
+    return Join(NoSonText, TAB, "NIL");
   }
   if (c.Daughters > 0) {
-    return Join(
-        SonWithDaughtersTexts[0], "Son (S/SS/SSS) = ", c.Sons, "/", c.GrandSons, "/", c.GtGrandSons, CRLF,
-        "Daughter = ", c.Daughters, CRLF, "Son's Daughter = ", c.GrandDaughters, CRLF,
-        "Son's Son's Daughter = ", c.GtGrandDaughters, CRLF, CRLF,
-        "The Son of eligible class will receive as Residuary (Asaba') with eligible descendant sharers/ "
-        "residuaries.",
-        CRLF, CRLF, TAB, "RESIDUARY (ASABA')");
+    return Join(SonWithDaughtersTexts[0], "Son (S/SS/SSS) = ", c.Sons, "/", c.GrandSons, "/", c.GtGrandSons,
+                CRLF, "Daughter = ", c.Daughters, CRLF, "Son's Daughter = ", c.GrandDaughters, CRLF,
+                "Son's Son's Daughter = ", c.GtGrandDaughters, CRLF, CRLF, SonWithDaughterText, residuaryEnd);
   }
-  if (c.Sons > 0) {
-    return Join(
-        "Since, the deceased has left NO daughter BUT son is present. In such case, Son will receive as Residuary "
-        "(Asaba').",
-        CRLF, CRLF, TAB, "RESIDUARY (ASABA')");
-  }
-  if (c.GrandSons > 0) {
-    return Join(
-        "Since, the deceased has left NO daughter or son  BUT son's son is present. In such case, Son's Son will "
-        "receive as Residuary (Asaba').",
-        CRLF, CRLF, TAB, "RESIDUARY (ASABA')");
-  }
-  return Join(
-      "Since, the deceased has left NO daughter or son's son BUT son's son's son is present. In such case, Son's "
-      "Son's Son will receive as Residuary (Asaba').",
-      CRLF, CRLF, TAB, "RESIDUARY (ASABA')");
+  if (c.Sons > 0) return Join(SonAloneText, residuaryEnd);
+  if (c.GrandSons > 0) return Join(SonsSonAloneText, residuaryEnd);
+  return Join(SonsSonsSonAloneText, residuaryEnd);
 }
 
 }  // namespace

@@ -54,16 +54,13 @@ void DecideFather(CaseRecord& c) {
   if (!HasDescendant(c)) {
     SetFraction(c, FatherSlot, 0, 1);
     c.Res(FatherAsResiduary) = true;
-    c.FatherReport =
-        "Ultimate Father receives as Residuary (Asaba'). Press command button Residuaries (Asaba't) to get "
-        "desired result.\r\n";
+    c.FatherReport = FatherAsResiduaryText;
     return;
   }
   if (HasNoSonsLine(c)) {
     TakeSixth(c);
     c.Res(FatherAsSharerAndResiduary) = true;
-    c.FatherReport =
-        "Ultimate Father receives as Residuary (Asaba') ALSO alongwith one sixth (1/6) share.\r\n";
+    c.FatherReport = FatherAsSharerAndResiduaryText;
     return;
   }
   TakeSixth(c);

@@ -61,8 +61,7 @@ void DecideBesideSonsDaughters(CaseRecord& c) {
     c.SonsSonsDaughterReport = SonsSonsDaughterTexts[2];
   } else {
     TakeSixth(c);
-    c.SonsSonsDaughterReport = Join("Share of Son's son's daughter is 1/6 in presence of son's daughter. ",
-                                    SonsSonsDaughterTexts[3], TAB, AmountTail(c));
+    c.SonsSonsDaughterReport = Join(SonsSonsDaughterSixthText, SonsSonsDaughterTexts[3], TAB, AmountTail(c));
   }
 }
 

@@ -98,4 +98,8 @@ inline constexpr std::array<std::string_view, 11> ConsBrotherTexts = {
     "The share of Consanguine Brother in the net estate wealth will be as Residuary (Asaba').\r\n",
 };
 
+inline constexpr std::string_view ConsSisterBesideFullSisterText =
+    "\r\nIn presence of Full Sister and any one of the above, Consanguine Sister can not inherit. So, share "
+    "of consanguine sister in the net estate wealth is zero.";
+
 }  // namespace qismora

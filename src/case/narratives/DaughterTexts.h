@@ -45,4 +45,32 @@ inline constexpr std::array<std::string_view, 2> SonWithDaughtersTexts = {
     "In presence of Daughter(s), daughter(s) also become Residuary (Asaba') with son(s).\r\n\r\n",
 };
 
+// What daughters and sons say of their residue; each is followed by RESIDUARY (ASABA').
+inline constexpr std::string_view DaughterResiduaryOpening =
+    "In the case under examination, the deceased has left the following:\r\n\r\n";
+
+inline constexpr std::string_view DaughterWithSonText =
+    "The Son and Daughter both will receive as Residuaries (Asaba't) in the ratio 2:1 each respectively."
+    "\r\n\r\n";
+
+inline constexpr std::string_view NoSonText =
+    "As the deceased has NO Son, Son's Son or Son's Son's Son so the descending son's share in the net estate "
+    "wealth is zero.\r\n\r\n";
+
+inline constexpr std::string_view SonWithDaughterText =
+    "The Son of eligible class will receive as Residuary (Asaba') with eligible descendant sharers/ "
+    "residuaries.\r\n\r\n";
+
+inline constexpr std::string_view SonAloneText =
+    "Since, the deceased has left NO daughter BUT son is present. In such case, Son will receive as "
+    "Residuary (Asaba').\r\n\r\n";
+
+inline constexpr std::string_view SonsSonAloneText =
+    "Since, the deceased has left NO daughter or son  BUT son's son is present. In such case, Son's Son will "
+    "receive as Residuary (Asaba').\r\n\r\n";
+
+inline constexpr std::string_view SonsSonsSonAloneText =
+    "Since, the deceased has left NO daughter or son's son BUT son's son's son is present. In such case, "
+    "Son's Son's Son will receive as Residuary (Asaba').\r\n\r\n";
+
 }  // namespace qismora

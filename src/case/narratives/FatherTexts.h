@@ -41,4 +41,11 @@ inline constexpr std::array<std::string_view, 2> FatherNoDescendantTexts = {
     "grandson/ daughter/ grand daughter/ great grand daughter. So, the ",
 };
 
+inline constexpr std::string_view FatherAsResiduaryText =
+    "Ultimate Father receives as Residuary (Asaba'). Press command button Residuaries (Asaba't) to get "
+    "desired result.\r\n";
+
+inline constexpr std::string_view FatherAsSharerAndResiduaryText =
+    "Ultimate Father receives as Residuary (Asaba') ALSO alongwith one sixth (1/6) share.\r\n";
+
 }  // namespace qismora

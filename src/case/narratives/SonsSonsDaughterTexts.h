@@ -67,4 +67,7 @@ inline constexpr std::array<std::string_view, 10> SonsSonsDaughterTexts = {
     "\tNIL",
 };
 
+inline constexpr std::string_view SonsSonsDaughterSixthText =
+    "Share of Son's son's daughter is 1/6 in presence of son's daughter. ";
+
 }  // namespace qismora
