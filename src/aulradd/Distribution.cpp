@@ -2,6 +2,7 @@
 
 #include "case/Conditions.h"
 #include "case/Shares.h"
+#include "case/narratives/DistributionTexts.h"
 
 namespace qismora {
 
@@ -81,6 +82,17 @@ void AddSpouseLines(CaseRecord& c) {
   if (c.Residue > 0) c.AulFactor = c.RaddFactor;
 }
 
+// The lines that all distributions share.
+
+std::string NetEstateLine(const CaseRecord& c) {
+  return Join("Net Estate Wealth = ", F(c.NetEstate), CRLF, CRLF);
+}
+
+std::string SharersBlock(CaseRecord& c) {
+  if (c.SharerLines.empty()) c.SharerLines = "NO Quranic Heir Found\r\n";
+  return Join("QURANIC SHARERS (Zawil-Farooz):", CRLF, c.SharerLines, CRLF);
+}
+
 }  // namespace
 
 void BuildSharerSummary(CaseRecord& c, const CaseScreen& screen) {
@@ -88,49 +100,25 @@ void BuildSharerSummary(CaseRecord& c, const CaseScreen& screen) {
   AddSummaryLine(c, wifeLine);
   AddSummaryLine(c, husbandLine);
   for (const HeirLine& line : otherLines) AddSummaryLine(c, line);
-  if (c.SharerLines.empty()) c.SharerLines = "NO Quranic Heir Found\r\n";
 
-  c.SummaryText = Join(
-      "The numbers shown within first brackets are the number of such Quranic Heirs left ALIVE by the deceased ",
-      screen.Text1(NameBox).Text,
-      ". The value inside the second bracket indicates the per unit value of share. The distribution of Gross "
-      "Estate left by the deceased BETWEEN Quranic heirs and Residuaries (Asaba't) will be as under:\r\n\r\n",
-      "Net Estate Wealth = ", F(c.NetEstate), CRLF, CRLF,            //
-      "QURANIC SHARERS (Zawil-Farooz):", CRLF, c.SharerLines, CRLF,  //
-      "TOTAL Q-Shares = ", F(c.TotalQShares), CRLF,                  //
-      "RESIDUE (Balance) = ", F(c.Residue), " (", c.ResidueNum, "/", c.ResidueDen, ")", CRLF, CRLF,
-      "RESIDUARIES [ASABA'T] (Share per head):", CRLF);
+  const std::string total = Join("TOTAL Q-Shares = ", F(c.TotalQShares), CRLF);
+  const std::string residue =
+      Join("RESIDUE (Balance) = ", F(c.Residue), " (", c.ResidueNum, "/", c.ResidueDen, ")", CRLF, CRLF);
+  c.SummaryText = Join(SummaryOpening, screen.Text1(NameBox).Text, SummaryExplanation, NetEstateLine(c),
+                       SharersBlock(c), total, residue, "RESIDUARIES [ASABA'T] (Share per head):", CRLF);
 }
 
 void BuildAulRaddTexts(CaseRecord& c, const CaseScreen& screen) {
   c.SharerLines = "";
   AddSpouseLines(c);
   for (const HeirLine& line : otherLines) AddAdjustedLine(c, line, c.AulFactor);
-  if (c.SharerLines.empty()) c.SharerLines = "NO Quranic Heir Found\r\n";
 
-  const std::string opening = Join(
-      "The numbers shown within first brackets are the number of such Quranic Heirs left ALIVE by the deceased  ",
-      screen.Text1(NameBox).Text, ". The distribution of Gross Estate ");
-  const std::string figures =
-      Join("Net Estate Wealth = ", F(c.NetEstate), CRLF, CRLF,                                      //
-           "QURANIC SHARERS (Zawil-Farooz):", CRLF, c.SharerLines, CRLF,                            //
-           "TOTAL Q-Shares = ", F(c.TotalQShares + c.Residue), " (", F(c.TotalQShares), ")", CRLF,  //
-           "RESIDUE (Balance) = 0  (", F(c.Residue), ")", CRLF, CRLF);
-
-  c.SummaryText = Join(
-      opening,
-      "left by the deceased AMONG Quranic heirs only are shown below, because there is no Residuary (Asaba') ALIVE, "
-      "the method of 'Aul' doctrine has been applied. The value inside the second bracket indicates the share "
-      "before applying 'Aul' doctrine, while value within the third brackets indicates per unit share after applying "
-      "'Aul'. The distribution of Gross Estate left by the deceased AMONG Quranic heirs will be as under:\r\n\r\n",
-      figures);
-  c.RaddText = Join(
-      opening,
-      "left by the deceased AMONG Quranic heirs only is shown below, because there is no Residuary (Asaba') ALIVE, "
-      "the method of 'Radd' doctrine has been applied. The value inside the second bracket indicates the share "
-      "before applying 'Radd' doctrine, while value within the third brackets indicates per unit share after applying "
-      "'Radd'. The distribution of Gross Estate left by the deceased AMONG Quranic heirs will be as under:\r\n\r\n",
-      figures);
+  const std::string total =
+      Join("TOTAL Q-Shares = ", F(c.TotalQShares + c.Residue), " (", F(c.TotalQShares), ")", CRLF);
+  const std::string residue = Join("RESIDUE (Balance) = 0  (", F(c.Residue), ")", CRLF, CRLF);
+  const std::string figures = Join(NetEstateLine(c), SharersBlock(c), total, residue);
+  c.SummaryText = Join(AulRaddOpening, screen.Text1(NameBox).Text, AulExplanation, figures);
+  c.RaddText = Join(AulRaddOpening, screen.Text1(NameBox).Text, RaddExplanation, figures);
 }
 
 }  // namespace qismora

@@ -132,7 +132,7 @@ struct ScreenLayer {
   Array<Integer, 50> FractionNum;
   Array<Integer, 50> FractionDen;
 
-  /// The ways of being a residuary; see residue/ResiduaryFlags.h for each index.
+  /// The ways of being a residuary; see case/ResiduaryFlags.h for each index.
   Array<bool, 20> Res;
 
   // The residue for one head of each kind.

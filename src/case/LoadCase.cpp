@@ -10,20 +10,21 @@ namespace {
 
 enum class Grade { Soft, Hard };
 
-/// A kind of heir: where its count is typed, where it goes, the most that is accepted and what is said
-/// of a count outside.
+/// A kind of heir: where its count is typed, where it goes, the most that is accepted, what is said of a
+/// count outside, and whether the box then takes the focus.
 struct CountRow {
   int Box;
   Integer CaseRecord::*Count;
   int Most;
   const char* Message;
+  bool TakesFocus = false;
 };
 
-constexpr CountRow wivesRow = {1, &CaseRecord::Wives, 4, "Check number of Wives."};
-constexpr CountRow husbandRow = {1, &CaseRecord::Husband, 1, "Enter 1 or 0 against Husband's Status."};
+constexpr CountRow wivesRow = {1, &CaseRecord::Wives, 4, "Check number of Wives.", true};
+constexpr CountRow husbandRow = {1, &CaseRecord::Husband, 1, "Enter 1 or 0 against Husband's Status.", true};
 
 constexpr CountRow descendantRows[] = {
-    {2, &CaseRecord::Sons, 100, "Check number of Sons, should be limited reasonably."},
+    {2, &CaseRecord::Sons, 100, "Check number of Sons, should be limited reasonably.", true},
     {3, &CaseRecord::Daughters, 100, "Check number of Daughters, should be limited reasonably."},
     {4, &CaseRecord::GrandSons, 100, "Check number of grand Sons, should be limited reasonably."},
     {5, &CaseRecord::GrandDaughters, 100, "Check number of grand daughters, should be limited reasonably."},
@@ -77,14 +78,8 @@ bool ReadCount(CaseRecord& c, CaseScreen& screen, const CountRow& row, Grade gra
   ReadBox(screen, row.Box, count);
   if (count >= 0 && count <= row.Most) return true;
   screen.World.Boxes.Tell(BoxStyle::Warning, row.Message);
-  if (row.Box <= 2) screen.Text1(row.Box).SetFocus();
+  if (row.TakesFocus) screen.Text1(row.Box).SetFocus();
   if (grade == Grade::Hard) c.InputFailed = true;
-  return false;
-}
-
-bool RefuseEstate(CaseRecord& c, CaseScreen& screen, const char* message) {
-  c.GrossEstate = 0;
-  screen.World.Boxes.Tell(BoxStyle::Information, message);
   return false;
 }
 
@@ -105,24 +100,24 @@ void AskAboutWills(CaseRecord& c, CaseScreen& screen, Double third) {
   screen.Text1(WillsBox).Text = F(c.Wills);
 }
 
-/// Reads the estate and what is paid from it before the heirs; false when a figure is refused. The debts
-/// are held against the gross estate alone, not against what the funeral left of it.
-bool ReadEstate(CaseRecord& c, CaseScreen& screen) {
+/// Reads the estate and what is paid from it before the heirs; says why a figure is refused, or nothing. The
+/// debts are held against the gross estate alone, not against what the funeral left of it.
+const char* ReadEstate(CaseRecord& c, CaseScreen& screen) {
   ReadBox(screen, GrossEstateBox, c.GrossEstate);
-  if (c.GrossEstate < 0) return RefuseEstate(c, screen, "No estate wealth for inheritance.");
+  if (c.GrossEstate < 0) return "No estate wealth for inheritance.";
 
   ReadBox(screen, FuneralBox, c.FuneralExp);
   if (c.FuneralExp > c.GrossEstate || c.FuneralExp < 0) {
-    return RefuseEstate(c, screen, "No estate wealth left for inheritance, after funerals.");
+    return "No estate wealth left for inheritance, after funerals.";
   }
   ReadBox(screen, DebtsBox, c.Debts);
   if (c.Debts > c.GrossEstate || c.Debts < 0) {
-    return RefuseEstate(c, screen, "No estate wealth left for inheritance, after payment of debts.");
+    return "No estate wealth left for inheritance, after payment of debts.";
   }
   ReadBox(screen, WillsBox, c.Wills);
   const Double third = Double(1.0) / 3.0 * c.GrossEstate;
   if (c.Wills > third || c.Wills < 0) AskAboutWills(c, screen, third);
-  return true;
+  return nullptr;
 }
 
 void ReadCase(CaseRecord& c, CaseScreen& screen) {
@@ -142,7 +137,11 @@ void ReadCase(CaseRecord& c, CaseScreen& screen) {
     if (!ReadCount(c, screen, row)) return;
   }
   ReadClassIIChecks(c, screen);
-  if (!ReadEstate(c, screen)) return;
+  if (const char* refusal = ReadEstate(c, screen)) {
+    c.GrossEstate = 0;
+    screen.World.Boxes.Tell(BoxStyle::Information, refusal);
+    return;
+  }
 
   c.NetEstate = c.GrossEstate - (c.Debts + c.FuneralExp + c.Wills);
   screen.Text1(NetEstateBox).Text = F(c.NetEstate);

@@ -23,7 +23,7 @@ inline std::string FractionText(const CaseRecord& c, Slot slot) {
 
 /// The amount line of the result panel: the amount and the fraction.
 inline std::string AmountLine(const CaseRecord& c, Double amount, Slot slot) {
-  return Join(F(amount), "  (", c.FractionNum(slot), "/", c.FractionDen(slot), ")");
+  return F(amount) + FractionText(c, slot);
 }
 
 /// A flag as a text reads as the word True or False.

@@ -11,6 +11,8 @@ namespace qismora {
 
 namespace {
 
+constexpr const char* nothingToSave = "Execute the program and then try to save.";
+
 std::string WorkingFile(CaseScreen& screen) { return Join(screen.World.Places.Reports(), "/FullReport"); }
 
 /// The second and the third step, behind the first; the working file is closed in every case.
@@ -63,8 +65,6 @@ void MoveReport(CaseScreen& screen, const std::string& path, Replace replace) {
                           Join("Results of ", screen.Text1(NameBox).Text, " saved successfully."));
 }
 
-constexpr const char* nothingToSave = "Execute the program and then try to save.";
-
 /// The text that the result area shows; empty when it shows none.
 std::string ShownText(const CaseScreen& screen) {
   if (screen.Text3.Visible && !screen.Text3.Text.Get().empty()) return screen.Text3.Text;
@@ -75,6 +75,8 @@ std::string ShownText(const CaseScreen& screen) {
 void WriteResults(CaseScreen& screen, const std::string& path) {
   const std::string text = ShownText(screen);
   if (text.empty()) {
+    // The file is opened before its content is looked at, and goes again.
+    TextFile(path).Close();
     screen.World.Boxes.Tell(BoxStyle::Warning, nothingToSave);
     DeleteFile(path);
     return;

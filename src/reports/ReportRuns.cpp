@@ -16,16 +16,22 @@ namespace qismora {
 
 namespace {
 
-/// A section of a report: its title, the rule that writes it, and when the heir counts as entered.
+constexpr int anyGender = -1;
+
+/// A section of a report: its title, the rule that writes it, when the heir counts as entered, the gender of
+/// the deceased that it needs, and what stands between title and narrative and behind it.
 struct SectionRow {
   const char* Title;
   Rule Run;
   bool (*IsEntered)(const CaseRecord&);
+  int Gender = anyGender;
+  std::string_view Gap = "\r\n";
+  std::string_view End = "\r\n\r\n";
 };
 
 constexpr SectionRow sections[] = {
-    {"WIFE'S SHARE", RunWife, [](const CaseRecord& c) { return c.Wives > 0; }},
-    {"HUSBAND'S SHARE", RunHusband, [](const CaseRecord& c) { return c.Husband > 0; }},
+    {"WIFE'S SHARE", RunWife, [](const CaseRecord& c) { return c.Wives > 0; }, Male, "\r\n", ""},
+    {"HUSBAND'S SHARE", RunHusband, [](const CaseRecord& c) { return c.Husband > 0; }, Female, ""},
     {"DAUGHTER'S SHARE", ShareOfDaughters, [](const CaseRecord& c) { return c.Daughters > 0; }},
     {"ULTIMATE FATHER'S SHARE", RunUltimateFather, HasFatherLine},
     {"MOTHER'S SHARE", RunMother, [](const CaseRecord& c) { return c.Mother > 0; }},
@@ -43,8 +49,6 @@ constexpr SectionRow sections[] = {
     {"UTERINE BROTHER'S SHARE", ShareOfUterineBrother,
      [](const CaseRecord& c) { return c.UterineBrothers > 0; }},
 };
-constexpr const SectionRow* wifeSection = &sections[0];
-constexpr const SectionRow* husbandSection = &sections[1];
 
 /// The sections as far as they are built, each put in front of the earlier ones. What was built stands on
 /// Text3 also when a failure ends the run.
@@ -55,12 +59,8 @@ class SectionStack {
   SectionStack& operator=(const SectionStack&) = delete;
   ~SectionStack() { Show(); }
 
-  /// The wife's section has no line breaks behind it, the husband's none behind its heading.
   void Put(const SectionRow& row, int number) {
-    const bool gap = &row != husbandSection;
-    const bool end = &row != wifeSection;
-    texts_.push_back(Join("(", number, "). ", row.Title, gap ? CRLF : "", screen_.Text2.Text, end ? CRLF : "",
-                          end ? CRLF : ""));
+    texts_.push_back(Join("(", number, "). ", row.Title, row.Gap, screen_.Text2.Text, row.End));
   }
   void PutHeader(const std::string& header) { texts_.push_back(Join(header, CRLF, CRLF)); }
 
@@ -96,11 +96,9 @@ void RunAllSections(CaseRecord& c, CaseScreen& screen) {
   SectionStack stack(screen);
   int number = 0;
   for (const SectionRow& row : sections) {
-    const bool otherGender = (&row == wifeSection && screen.Combo1.ListIndex != Male) ||
-                             (&row == husbandSection && screen.Combo1.ListIndex != Female);
-    if (!otherGender) row.Run(c, screen);
+    if (row.Gender == anyGender || row.Gender == screen.Combo1.ListIndex) row.Run(c, screen);
     stack.Put(row, ++number);
-    if (&row == wifeSection) screen.Text2.Text = "";
+    if (row.Gender == Male) screen.Text2.Text = "";
   }
   stack.PutHeader(c.ReportHeader);
 }

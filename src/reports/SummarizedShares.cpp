@@ -84,12 +84,15 @@ std::string ClassIILine(const CaseScreen& screen) {
 
 std::string HeirLines(const CaseRecord& c, const CaseScreen& screen) {
   std::string lines;
-  for (const int box : HeirBoxes) {
-    const bool isGrandMother = box >= 17 && box <= 21;
-    if (box == 17) lines += GrandMotherLines(c, screen);
-    if (isGrandMother) continue;
-    const bool entered = box <= 7 ? IsEnteredLeniently(screen, box) : IsEnteredStrictly(screen, box);
-    if (entered) lines += HeirLine(c, screen, box);
+  for (const int box : {1, 2, 3, 4, 5, 6, 7}) {
+    if (IsEnteredLeniently(screen, box)) lines += HeirLine(c, screen, box);
+  }
+  for (const int box : {13, 14, 15, 16}) {
+    if (IsEnteredStrictly(screen, box)) lines += HeirLine(c, screen, box);
+  }
+  lines += GrandMotherLines(c, screen);
+  for (const int box : {22, 23, 30, 31, 32, 33}) {
+    if (IsEnteredStrictly(screen, box)) lines += HeirLine(c, screen, box);
   }
   return lines + ClassIILine(screen);
 }

@@ -5,6 +5,7 @@
 #include "base/Text.h"
 #include "case/Conditions.h"
 #include "case/ResiduaryFlags.h"
+#include "case/narratives/DistributionTexts.h"
 #include "residue/ClassII.h"
 
 // Who takes the residue is one long chain of tests: the first that holds writes the report and ends it, so
@@ -242,15 +243,6 @@ void GiveToClassII(CaseRecord& c) {
   Report(c, Join(c.ClassIIText, " = ", F(c.ClassIIResidue), ResidueText(c), " (For all)", CRLF));
 }
 
-void TellNobodyTakes(CaseRecord& c) {
-  c.ResiduaryReport =
-      "\r\n"
-      "EITHER NO RESIDUARY (ASABA') FOUND IN THE SET CONDITIONS OR RESIDUE IS ZERO."
-      " IN ABSENCE OF ANY RESIDUARY (ASABA'), THE RESIDUE (IF ANY) SHALL BE DISTRIBUTED PROPORTIONATELY"
-      " AMONG SHARERS EXCEPTING WIFE AND HUSBAND, USING RADD DOCTRINE. IF ONLY WIFE OR HUSBAND"
-      " IS SHARER THEN THE RESIDUE (IF ANY) WILL GO TO DISTANT KINDRED (ZAWIL-ARHAM).";
-}
-
 /// The ultimate father, the son's daughters, the full and then the consanguine brothers and sisters, class
 /// II, nobody. No test looks at the residue. A flag whose counts do not hold lets the chain go on.
 void GiveToOthers(CaseRecord& c) {
@@ -277,11 +269,9 @@ void GiveToOthers(CaseRecord& c) {
   if (c.Res(ConsBrothersWithSisters) && c.ConsSisters > 0 && c.ConsBrothers > 0 && HasNoDaughtersLine(c)) {
     return GiveToConsBrothersAndSisters(c);
   }
-  if (c.Res(ConsBrothersAlone) && c.ConsSisters == 0 && c.ConsBrothers > 0 && HasNoDaughtersLine(c)) {
-    return GiveToConsBrothers(c);
-  }
+  if (c.Res(ConsBrothersAlone) && c.ConsSisters == 0 && c.ConsBrothers > 0) return GiveToConsBrothers(c);
   if (c.Res(ClassIITicked)) return GiveToClassII(c);
-  TellNobodyTakes(c);
+  c.ResiduaryReport = NobodyTakesText;
 }
 
 }  // namespace

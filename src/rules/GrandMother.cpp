@@ -14,16 +14,20 @@ namespace qismora {
 
 namespace {
 
-void TakeSixth(CaseRecord& c, int text) {
-  c.GrandMotherShare = c.NetEstate / 6;
-  SetFraction(c, GrandMotherSlot, 1, 6);
-  c.GrandMotherReport = Join(GrandMotherTexts[static_cast<std::size_t>(text)], TAB, F(c.GrandMotherShare));
+void Report(CaseRecord& c, std::size_t text) {
+  c.GrandMotherReport = Join(GrandMotherTexts[text], TAB, F(c.GrandMotherShare));
 }
 
-void TakeNothing(CaseRecord& c, int text) {
+void TakeSixth(CaseRecord& c, std::size_t text) {
+  c.GrandMotherShare = c.NetEstate / 6;
+  SetFraction(c, GrandMotherSlot, 1, 6);
+  Report(c, text);
+}
+
+void TakeNothing(CaseRecord& c, std::size_t text) {
   c.GrandMotherShare = 0;
   SetFraction(c, GrandMotherSlot, 0, 1);
-  c.GrandMotherReport = Join(GrandMotherTexts[static_cast<std::size_t>(text)], TAB, F(c.GrandMotherShare));
+  Report(c, text);
 }
 
 void DecideBesideFather(CaseRecord& c) {
@@ -114,20 +118,27 @@ constexpr KindRow kinds[] = {
     {FMM, &CaseRecord::FathersGrandMother},
 };
 
+/// The women of the kinds together.
+Integer WomenOf(const CaseRecord& c, int wanted) {
+  Integer women;
+  for (const KindRow& kind : kinds) {
+    if ((wanted & kind.Letter) != 0) women += c.*kind.Count;
+  }
+  return women;
+}
+
 void TakeFirstGroup(CaseRecord& c, std::span<const GroupRow> rows) {
   int alive = 0;
   for (const KindRow& kind : kinds) alive |= c.*kind.Count > 0 ? kind.Letter : 0;
-  c.GrandMotherGroup = "Non";
-  c.GrandMotherCount = Integer(0);
   for (const GroupRow& row : rows) {
     if ((row.Kinds & alive) != row.Kinds) continue;
     c.GrandMotherGroup = row.Name;
-    for (const KindRow& kind : kinds) {
-      if ((row.Kinds & kind.Letter) != 0) c.GrandMotherCount += c.*kind.Count;
-    }
+    c.GrandMotherCount = WomenOf(c, row.Kinds);
     c.*row.Slot = c.GrandMotherShare;
     return;
   }
+  c.GrandMotherGroup = "Non";
+  c.GrandMotherCount = Integer(0);
 }
 
 }  // namespace

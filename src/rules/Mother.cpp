@@ -38,11 +38,11 @@ void TakeThird(CaseRecord& c, std::string_view narrative) {
 
 /// One third of the estate less the spouse's amount, which is rounded to a whole number for it.
 void TakeThirdOfRest(CaseRecord& c, CaseScreen& screen) {
+  // Where both counts were positive, the wives would win.
   Slot spouse = HusbandSlot;
   if (c.Husband > 0) {
     ShareOfHusband(c, screen);
     c.SpouseShareWhole = RoundTo<Long>(c.HusbandShare);
-    spouse = HusbandSlot;
   }
   if (c.Wives > 0) {
     ShareOfWife(c, screen);

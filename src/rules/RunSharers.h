@@ -14,7 +14,7 @@
 
 namespace qismora {
 
-// The wrapper of each rule: a command reaches the rule through it.
+// The wrapper of each rule: a command reaches the rule through it. The daughters are reached without theirs.
 inline void RunWife(CaseRecord& c, CaseScreen& screen) { RunSharer(c, screen, ShareOfWife); }
 inline void RunHusband(CaseRecord& c, CaseScreen& screen) { RunSharer(c, screen, ShareOfHusband); }
 inline void RunUltimateFather(CaseRecord& c, CaseScreen& screen) { RunSharer(c, screen, ShareOfFather); }

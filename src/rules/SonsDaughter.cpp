@@ -40,7 +40,7 @@ void TakeHalfOrTwoThirds(CaseRecord& c) {
            F(c.SonsDaughterShare / c.GrandDaughters), CRLF, CRLF, " as their own individual shares.");
 }
 
-void DecideBesideDaughters(CaseRecord& c) {
+void DecideBesideTwoDaughters(CaseRecord& c) {
   if (c.GrandSons > 0) {
     BecomeResiduary(c, SonsDaughterWithSonsSonBesideDaughters);
     c.SonsDaughterReport = Join(SonsDaughterResiduaryTexts[1], CRLF, "Res(15)");
@@ -102,7 +102,7 @@ void DecideSonsDaughter(CaseRecord& c) {
     c.SonsDaughterReport = Join(SonsDaughterExcludedBySonText, TAB, "NIL");
     return;
   }
-  if (c.Daughters >= 2) return DecideBesideDaughters(c);
+  if (c.Daughters >= 2) return DecideBesideTwoDaughters(c);
   if (c.Daughters == 1) return DecideBesideOneDaughter(c);
   DecideWithoutDaughters(c);
 }

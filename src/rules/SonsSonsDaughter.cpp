@@ -53,15 +53,15 @@ void DecideBesideDaughters(CaseRecord& c) {
 }
 
 void DecideBesideSonsDaughters(CaseRecord& c) {
-  if (c.GrandDaughters >= 2) {
-    TakeNothing(c);
-    c.SonsSonsDaughterReport = Join(SonsSonsDaughterTexts[4], FractionText(c, SonsSonsDaughterSlot));
-  } else if (c.GtGrandSons > 0) {
+  if (c.GrandDaughters == 1 && c.GtGrandSons > 0) {
     BecomeResiduary(c);
     c.SonsSonsDaughterReport = SonsSonsDaughterTexts[2];
-  } else {
+  } else if (c.GrandDaughters == 1) {
     TakeSixth(c);
     c.SonsSonsDaughterReport = Join(SonsSonsDaughterSixthText, SonsSonsDaughterTexts[3], TAB, AmountTail(c));
+  } else {
+    TakeNothing(c);
+    c.SonsSonsDaughterReport = Join(SonsSonsDaughterTexts[4], FractionText(c, SonsSonsDaughterSlot));
   }
 }
 
