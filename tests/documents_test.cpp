@@ -22,7 +22,6 @@ namespace {
 using documents::Block;
 using documents::BlockKind;
 using documents::ReadSource;
-using documents::Source;
 using documents::Trim;
 using documents::WorkedCase;
 
@@ -145,8 +144,9 @@ TEST(Documents, TheVersesAreQuotedLetterForLetter) {
   std::vector<std::string> quoted;
   for (const Block& block : ReadSource(Folder + "/verses.md").Blocks) {
     if (block.Kind != BlockKind::VerseText) continue;
-    quoted.push_back(std::to_string(block.Ayah.Surah) + ":" + std::to_string(block.Ayah.Number) + " " +
-                     block.Ayah.Arabic);
+    std::string verse = std::to_string(block.Ayah.Surah);
+    verse.append(":").append(std::to_string(block.Ayah.Number)).append(" ").append(block.Ayah.Arabic);
+    quoted.push_back(verse);
   }
   std::vector<std::string> data = VersesOfTheData();
   ASSERT_EQ(data.size(), 21U);

@@ -10,6 +10,7 @@
 #include "residue/ClassII.h"
 #include "residue/Residuaries.h"
 #include "rules/RunSharers.h"
+#include "screens/Event.h"
 
 namespace qismora {
 
@@ -96,11 +97,7 @@ constexpr int brightestColour = 0xFFFFFF;
 
 template <class Body>
 void CaseStudy::Event(Body body) {
-  try {
-    body();
-  } catch (const Failure& failure) {
-    World.Boxes.Tell(BoxStyle::Plain, Join(failure.Number, CRLF, failure.Description()));
-  }
+  GuardedEvent(World.Boxes, body);
 }
 
 CaseStudy::CaseStudy(CaseRecord& record, Outside& outside, int savedLanguage)

@@ -1,0 +1,20 @@
+#pragma once
+
+#include "base/Failure.h"
+#include "base/Outside.h"
+#include "base/Text.h"
+
+namespace qismora {
+
+/// Runs the body of an event. No failure leaves it: what no handler takes is told in a plain box with its
+/// number, and the program goes on.
+template <class Body>
+void GuardedEvent(MessageBoxes& boxes, Body body) {
+  try {
+    body();
+  } catch (const Failure& failure) {
+    boxes.Tell(BoxStyle::Plain, Join(failure.Number, CRLF, failure.Description()));
+  }
+}
+
+}  // namespace qismora

@@ -1,0 +1,218 @@
+#include "screens/InhMain.h"
+
+#include "base/Text.h"
+#include "screens/Event.h"
+#include "shell/AppSettings.h"
+#include "shell/Documents.h"
+#include "shell/SessionLog.h"
+
+namespace qismora {
+
+namespace {
+
+enum class Leads { ToLaws, ToLawsAndText5, ToDocument, ToCaseStudy, Nowhere };
+
+/// An entry of the menu. The document is the number of its holder.
+struct Entry {
+  const char* Caption;
+  Leads To;
+  int Document = 0;
+};
+
+constexpr Entry entries[] = {
+    {"Quranic Laws Described", Leads::ToLawsAndText5},
+    {"Rules of Inheritance (.pdf)", Leads::ToDocument, 4},
+    {"Historical Background (.pdf)", Leads::ToDocument, 1},
+    {"Indian Acts Considered", Leads::ToLaws},
+    {"Origin and Development (.pdf)", Leads::ToDocument, 2},
+    {"Exclusion from Inheritance", Leads::ToLaws},
+    {"FIND SHARES - CASE STUDIES", Leads::ToCaseStudy},
+    {"D", Leads::Nowhere},
+    {"Rules of 'Aul' && 'Radd' implied", Leads::ToLawsAndText5},
+    {"Schools of Thoughts (.pdf)", Leads::ToDocument, 3},
+    {"References (.pdf)", Leads::ToDocument, 5},
+    {"Relations Made Easy (.pdf)", Leads::ToDocument, 6},
+    {"Aayaat -e- Meeraas (.pdf)", Leads::ToDocument, 7},
+};
+
+/// The entry that is never shown. While it is selected, every other can be chosen, the last one too.
+constexpr int restingEntry = 7;
+
+constexpr int lightGreen = 192 + 255 * 0x100 + 192 * 0x10000;
+constexpr const char* restingPanel = "Inheritance as per Muslim Law";
+
+constexpr const char* disclaimer =
+    "Congratulations User!\r\n\r\n"
+    "DOUBLE CLICK TO HIDE THIS DISCLAIMER\r\n"
+    "FOR your choice of this product 'Qismora' from the house of 'Brindhaven'. "
+    "The subject of Qismora is of international utility. However, such type of Software "
+    "is seldom used by individuals. Most people depend fully on the Olemas and the learned "
+    "scholars of their respective community. But, it always pays if one has some idea of "
+    "the subject by any other means. There are several other benefits of knowing these "
+    "important matters of 'Distribution of the left out estate of a deceased Muslim'. This "
+    "software has gone continued updating for trusted and reliable results alongwith good "
+    "looking and user-friendly getup in Windows 32-bit machines. However, the author does not take "
+    "any responsibility for wrong results, if any. This program can be run on any Windows "
+    "Version after Windows 95.\r\n\r\n"
+    "In spite of all our best efforts, this product may contain some un-experienced bugs. "
+    "Any bugs, if identified by any user, will be warmly welcomed.\r\n\r\n"
+    "You may not "
+    "modify or alter this program in any way. Further, the vendors, authors, proprietors "
+    "or our authorised persons shall not be responsible for any loss or damage suffered "
+    "directly or indirectly due to use/ misuse/ non-performance of the software or "
+    "implementation of the results obtained from this Software. No claims can be made "
+    "as to its suitability for a particular purpose.\r\n\r\n"
+    "DOUBLE CLICK TO HIDE THIS DISCLAIMER\r\n\r\n\r\n";
+
+void Call(const std::function<void()>& way) {
+  if (way) way();
+}
+
+}  // namespace
+
+template <class Body>
+void InhMain::Event(Body body) {
+  GuardedEvent(outside_.Boxes, body);
+}
+
+/// The animation is there to be looked at: what fails in it is not worth a box.
+template <class Body>
+void InhMain::Decoration(Body body) {
+  try {
+    body();
+  } catch (const Failure&) {
+    return;
+  }
+}
+
+InhMain::InhMain(CaseRecord& record, ShellRecord& shell, ShellOutside& outside)
+    : record_(record), shell_(shell), outside_(outside), videos_(outside) {
+  Frame1.Caption = "INHERITANCE BY MUSLIM LAW";
+  Label1.Caption = "INHERITANCE BY MUSLIM LAW";
+  for (int i = 0; i < Option1.Size; ++i) Option1(i).Caption = entries[i].Caption;
+  Option1(restingEntry).Visible = false;
+  Option1(restingEntry).Value = true;
+  Text1.Visible = false;
+  Label5.Caption = "I agree with the disclaimer terms of the Software";
+  Label6.Caption = "Advised to run this program on 800x600 screen resolution";
+  StatusBar1.Caption = restingPanel;
+  Image3(0).Visible = true;
+  outside_.MediaPlayer1.EndOfPlay = [this] { MediaPlayer1_EndOfPlay(); };
+  try {
+    Form_Load();
+  } catch (const Failure&) {
+    return;
+  }
+}
+
+void InhMain::Form_Load() {
+  record_.ExecCount = TimesExecuted.Read(outside_.Store);
+  shell_.SavedLanguage = ToInteger(LblPressed.Read(outside_.Store));
+  ShowPicture(static_cast<int>(LowerImage.Read(outside_.Store).Value()));
+  StartSession(shell_, outside_);
+  Label22.Caption = Join(shell_.SessionNumber);
+  videos_.PlaySecondVideo();
+}
+
+// The group goes back to its resting entry, so that the same entry can be chosen again.
+void InhMain::Option1_Click(int index) {
+  Event([&] {
+    Hourglass = true;
+    Option1(index).Value = true;
+    shell_.LawPage = Integer(index);
+    RunEntry(index);
+    Option1(index).Value = false;
+    Option1(restingEntry).Value = true;
+    Hourglass = false;
+  });
+}
+
+void InhMain::RunEntry(int index) {
+  const Entry& entry = entries[index];
+  switch (entry.To) {
+    case Leads::ToLaws:
+      return Call(ShowQurLaws);
+    case Leads::ToLawsAndText5:
+      Call(ShowQurLaws);
+      return Call(FocusText5OfQurLaws);
+    case Leads::ToDocument:
+      return OpenDocument(entry.Document, outside_);
+    case Leads::ToCaseStudy:
+      return Call(ShowCaseStudy);
+    case Leads::Nowhere:
+      return;
+  }
+}
+
+void InhMain::Option1_MouseMove(int index) {
+  for (int i = 0; i < Option1.Size; ++i) Option1(i).BackColor = i == index ? lightGreen : ButtonFaceColour;
+  StatusBar1.Caption = Option1(index).Caption;
+}
+
+void InhMain::Frame1_MouseMove() {
+  for (int i = 0; i < Option1.Size; ++i) Option1(i).BackColor = ButtonFaceColour;
+  StatusBar1.Caption = restingPanel;
+}
+
+// The caption that comes back when the disclaimer is hidden differs from the first one, and is kept.
+void InhMain::Disclaimer_Click() {
+  Event([&] {
+    const bool show = !Text1.Visible;
+    Text1.Visible = show;
+    Label5.Caption = show ? "Disclaimer Terms:" : "I agree with the dislaimer terms in the Software";
+    Text1.Text = disclaimer;
+  });
+}
+void InhMain::Label5_Click() { Disclaimer_Click(); }
+void InhMain::Text1_DblClick() { Disclaimer_Click(); }
+
+void InhMain::Image3_Click(int index) {
+  Event([&] { ShowPicture(index); });
+}
+
+// A click on a picture shows the next one. What is kept is the picture that was clicked.
+void InhMain::ShowPicture(int clicked) {
+  Image3(clicked).Visible = false;  // a number that names no picture fails here and is not kept
+  const int next = (clicked + 1) % Image3.Size;
+  for (int i = 0; i < Image3.Size; ++i) Image3(i).Visible = i == next;
+  LowerImage.Write(outside_.Store, Join(clicked));
+}
+
+void InhMain::Label22_Click() {
+  Event([&] { Call(ShowSession); });
+}
+
+void InhMain::Frame2_DblClick() {
+  Event([&] {
+    Call(ShowZummy);
+    Call(Hide);
+  });
+}
+
+void InhMain::About_Click() {
+  Event([&] { Call(ShowCatalogue); });
+}
+
+void InhMain::Exitz_Click() { RunExit(); }
+void InhMain::Form_QueryUnload() { RunExit(); }
+
+void InhMain::RunExit() {
+  Event([&] { Inhp(shell_, record_, outside_); });
+}
+
+void InhMain::Form_Resize(bool maximized, int width, int height) {
+  Frame111Left = maximized ? (width - FormWidth) / 2 : 0;
+  Frame111Top = maximized ? (height - FormHeight) / 2 : 0;
+}
+
+void InhMain::MediaPlayer1_EndOfPlay() {
+  Decoration([&] { videos_.PlayFirstVideo(); });
+}
+void InhMain::Frame5_Click() {
+  Decoration([&] { videos_.PlayOther(); });
+}
+void InhMain::Frame5_DblClick() {
+  Decoration([&] { videos_.PlayAgain(); });
+}
+
+}  // namespace qismora

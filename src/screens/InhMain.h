@@ -1,0 +1,95 @@
+#pragma once
+
+#include <functional>
+
+#include "base/Array.h"
+#include "base/Outside.h"
+#include "case/CaseRecord.h"
+#include "case/Controls.h"
+#include "shell/ShellRecord.h"
+#include "shell/Videos.h"
+
+namespace qismora {
+
+/// The main menu without a toolkit: its controls as plain values and the handler of every event. It lives for
+/// the whole run of the program.
+class InhMain {
+ public:
+  /// Reads the settings, opens the session and starts the animation. A failure on this way ends it quietly
+  /// where it stands; the form opens all the same.
+  InhMain(CaseRecord& record, ShellRecord& shell, ShellOutside& outside);
+
+  // The ways to the other forms.
+  std::function<void()> ShowQurLaws;
+  std::function<void()> FocusText5OfQurLaws;
+  std::function<void()> ShowCaseStudy;
+  std::function<void()> ShowZummy;
+  std::function<void()> ShowSession;
+  std::function<void()> ShowCatalogue;
+  /// Takes this form out of sight.
+  std::function<void()> Hide;
+
+  // The menu
+  void Option1_Click(int index);
+  void Option1_MouseMove(int index);
+  void Frame1_MouseMove();
+
+  // The disclaimer
+  void Disclaimer_Click();
+  void Label5_Click();
+  void Text1_DblClick();
+
+  // Around the menu
+  void Image3_Click(int index);
+  void Label22_Click();
+  void Frame2_DblClick();
+  void About_Click();
+  void Exitz_Click();
+  void Form_QueryUnload();
+  void Form_Resize(bool maximized, int width, int height);
+
+  // The animation
+  void MediaPlayer1_EndOfPlay();
+  void Frame5_Click();
+  void Frame5_DblClick();
+
+  // Where the frame with all controls stands in the window, in twips.
+  Property<int> Frame111Left;
+  Property<int> Frame111Top;
+  Frame Frame1;
+  Label Label1;
+  Array<OptionButton, 12> Option1;
+  /// The hourglass stands while an entry acts.
+  Property<bool> Hourglass;
+  TextBox Text1;
+  Label Label5;
+  Label Label6;
+  /// The number of this session.
+  Label Label22;
+  /// One picture at a time.
+  Array<Picture, 5> Image3;
+  /// Panel 3: the entry under the mouse.
+  Label StatusBar1;
+
+ private:
+  template <class Body>
+  void Event(Body body);
+  template <class Body>
+  void Decoration(Body body);
+
+  void Form_Load();
+  void ShowPicture(int clicked);
+  void RunEntry(int index);
+  void RunExit();
+
+  CaseRecord& record_;
+  ShellRecord& shell_;
+  ShellOutside& outside_;
+  Videos videos_;
+};
+
+/// The size of the form in twips; outside of a maximized window it never has another.
+inline constexpr int FormWidth = 12000;
+inline constexpr int FormHeight = 9000;
+
+}  // namespace qismora

@@ -1,0 +1,42 @@
+#pragma once
+
+#include <string>
+#include <vector>
+
+#include "base/Outside.h"
+#include "base/Property.h"
+
+namespace qismora {
+
+/// What the program says about itself.
+struct ProgramFacts {
+  std::string Version;
+  /// The libraries that it is built with, each with its version.
+  std::vector<std::string> Libraries;
+};
+
+/// A fact of the program catalogue: a heading and what there is to say.
+struct InfoRow {
+  std::string Heading;
+  std::string Text;
+};
+
+/// The program catalogue without a toolkit: what this program is, who made it, what it is built with, and how
+/// much memory there is.
+class prginfo {
+ public:
+  prginfo(ProgramFacts facts, MemoryMeter& memory);
+
+  /// Reads the memory figures anew.
+  void Refresh();
+
+  std::vector<InfoRow> Rows;
+  Property<std::string> TotalMemory;
+  Property<std::string> FreeMemory;
+  Property<std::string> UsedMemory;
+
+ private:
+  MemoryMeter& memory_;
+};
+
+}  // namespace qismora

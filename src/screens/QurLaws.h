@@ -1,0 +1,52 @@
+#pragma once
+
+#include <functional>
+
+#include "base/Outside.h"
+#include "case/Controls.h"
+#include "shell/ShellRecord.h"
+
+namespace qismora {
+
+/// The reader of the law pages without a toolkit. It shows the page that LawPage tells when it loads; for a
+/// number without a page its texts stay as they are.
+class QurLaws {
+ public:
+  QurLaws(const ShellRecord& shell, MessageBoxes& boxes);
+
+  std::function<void()> ShowMainMenu;
+  /// Ends the form; the next one is loaded anew.
+  std::function<void()> Unload;
+
+  /// Shows the page of LawPage. The constructor does so; the menu does it again while the form is open.
+  void Form_Load();
+
+  void Close_Click();
+  /// The close box.
+  void Form_Unload();
+  void Form_Resize(bool maximized, int width, int height);
+
+  void Label2_MouseMove();
+  void Label2_MouseDown();
+  void Form_MouseMove();
+  void Frame3_MouseMove();
+  void StatusBar1_MouseMove();
+  void Text2_MouseMove();
+
+  Property<int> Frame111Left;
+  Property<int> Frame111Top;
+  /// The title of the window.
+  Property<std::string> Caption{"Quranic Laws"};
+  TextBox Text1;
+  TextBox Text2;
+  TextBox Text5;
+  Label Label2;
+  /// Panel 1.
+  Label StatusBar1;
+
+ private:
+  const ShellRecord& shell_;
+  MessageBoxes& boxes_;
+};
+
+}  // namespace qismora

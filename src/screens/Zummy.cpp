@@ -1,0 +1,42 @@
+#include "screens/Zummy.h"
+
+#include "aulradd/FindLCM.h"
+#include "screens/Event.h"
+#include "shell/Documents.h"
+#include "shell/SessionLog.h"
+
+namespace qismora {
+
+Zummy::Zummy(CaseRecord& record, ShellRecord& shell, ShellOutside& outside)
+    : record_(record), shell_(shell), outside_(outside) {}
+
+void Zummy::Open(int document) {
+  GuardedEvent(outside_.Boxes, [&] { OpenDocument(document, outside_); });
+}
+
+void Zummy::HistBack_Click() { Open(1); }
+// The same document as HistBack. The verses themselves are opened by the main menu only.
+void Zummy::Meeraas_Click() { Open(1); }
+void Zummy::OriginDevelop_Click() { Open(2); }
+void Zummy::Schools_Click() { Open(3); }
+void Zummy::InhRules_Click() { Open(4); }
+void Zummy::Reference_Click() { Open(5); }
+void Zummy::RelationsEU_Click() { Open(6); }
+
+// Works on what the last calculation left, and shows nothing.
+void Zummy::cmdLCM_Click() {
+  GuardedEvent(outside_.Boxes, [&] { FindLCM(record_); });
+}
+
+void Zummy::Back_Click() {
+  GuardedEvent(outside_.Boxes, [&] {
+    if (ShowMainMenu) ShowMainMenu();
+    if (Hide) Hide();
+  });
+}
+
+void Zummy::Form_QueryUnload() {
+  GuardedEvent(outside_.Boxes, [&] { Inhp(shell_, record_, outside_); });
+}
+
+}  // namespace qismora

@@ -1,0 +1,60 @@
+#pragma once
+
+#include <array>
+#include <functional>
+
+#include "base/Outside.h"
+#include "case/CaseRecord.h"
+#include "shell/ShellRecord.h"
+
+namespace qismora {
+
+/// The form of the documents without a toolkit. The user normally never sees it. Back hides it; its close box
+/// is the end of the session.
+class Zummy {
+ public:
+  Zummy(CaseRecord& record, ShellRecord& shell, ShellOutside& outside);
+
+  std::function<void()> ShowMainMenu;
+  std::function<void()> Hide;
+
+  void HistBack_Click();
+  void Meeraas_Click();
+  void OriginDevelop_Click();
+  void Schools_Click();
+  void InhRules_Click();
+  void Reference_Click();
+  void RelationsEU_Click();
+  void cmdLCM_Click();
+  void Back_Click();
+  void Form_QueryUnload();
+
+ private:
+  void Open(int document);
+
+  CaseRecord& record_;
+  ShellRecord& shell_;
+  ShellOutside& outside_;
+};
+
+inline constexpr const char* ZummyTitle = "PDF Documents etc. Resources";
+
+/// The buttons in their order.
+struct ZummyButton {
+  const char* Name;
+  const char* Caption;
+  void (Zummy::*Click)();
+};
+
+inline constexpr std::array<ZummyButton, 8> ZummyButtons = {{
+    {"HistBack", "HistBack", &Zummy::HistBack_Click},
+    {"Meeraas", "Aayaat-e-Meeraas", &Zummy::Meeraas_Click},
+    {"OriginDevelop", "OriginDevelop", &Zummy::OriginDevelop_Click},
+    {"Schools", "Schools", &Zummy::Schools_Click},
+    {"InhRules", "InhRules", &Zummy::InhRules_Click},
+    {"Reference", "Reference", &Zummy::Reference_Click},
+    {"RelationsEU", "Relations", &Zummy::RelationsEU_Click},
+    {"cmdLCM", "LCM", &Zummy::cmdLCM_Click},
+}};
+
+}  // namespace qismora

@@ -1,0 +1,159 @@
+#include "shell/SessionLog.h"
+
+#include <algorithm>
+#include <charconv>
+#include <chrono>
+#include <cmath>
+#include <fstream>
+#include <string_view>
+
+#include "base/Dates.h"
+#include "base/Files.h"
+#include "base/NumberText.h"
+#include "base/Text.h"
+#include "shell/AppSettings.h"
+
+namespace qismora {
+
+namespace {
+
+// A line is written in zones of 14 columns. With a date of 19 characters the two dates begin in the columns
+// 15 and 43, the length in column 71: so the loader, who cuts at fixed places, finds each whole.
+constexpr std::size_t zone = 14;
+constexpr std::size_t dateRoom = 25;
+constexpr std::size_t endPlace = 26;
+constexpr std::size_t lengthRoom = 8;
+
+std::string LogPath(ShellOutside& world) { return Join(world.Places.Log(), "/popuQism.ppl"); }
+
+void PrintZone(std::string& line, std::string_view field) {
+  line.append((zone - line.size() % zone) % zone, ' ').append(field);
+}
+
+std::string LogDate(const DateTime& when) { return Join(DateText(when), " ", TimeText(when)); }
+
+void SkipBlanks(std::string_view& line) {
+  line.remove_prefix(std::min(line.find_first_not_of(' '), line.size()));
+}
+
+/// The number that a field holds. Plain digits, as every sound line has them, need no parser.
+Integer ReadNumber(std::string_view field) {
+  int number = 0;
+  const char* end = field.data() + field.size();
+  const auto [stop, error] = std::from_chars(field.data(), end, number);
+  return error == std::errc{} && stop == end ? Integer(number) : RoundTo<Integer>(ParsePrefix(field));
+}
+
+/// The number at the start of the line; the rest of the line, behind the blanks that follow it, stays.
+Integer TakeNumber(std::string_view& line) {
+  SkipBlanks(line);
+  const std::size_t end = std::min(line.find(' '), line.size());
+  const Integer number = ReadNumber(line.substr(0, end));
+  line.remove_prefix(end);
+  SkipBlanks(line);
+  return number;
+}
+
+/// Calls with each line of the log. An empty line is no session. The log is read at every start, so no more
+/// than a line of it is kept at a time.
+template <class Reader>
+void ReadLines(ShellOutside& world, Reader reader) {
+  std::ifstream stream(LogPath(world), std::ios::binary);
+  if (!stream) throw Failure(FileNotFound);
+  for (std::string line; std::getline(stream, line);) {
+    if (line.ends_with('\r')) line.pop_back();
+    if (!line.empty()) reader(std::string_view(line));
+  }
+}
+
+std::chrono::sys_seconds TimePoint(const DateTime& when) {
+  const std::chrono::year_month_day day{std::chrono::year(when.Year),
+                                        std::chrono::month(static_cast<unsigned>(when.Month)),
+                                        std::chrono::day(static_cast<unsigned>(when.Day))};
+  return std::chrono::sys_days(day) + std::chrono::hours(when.Hour) + std::chrono::minutes(when.Minute) +
+         std::chrono::seconds(when.Second);
+}
+
+void LogSession(const ShellRecord& shell, const CaseRecord& c, ShellOutside& world) {
+  TimesExecuted.Write(world.Store, Join(c.ExecCount));
+  const DateTime now = world.Time.Now();
+  const Long seconds = SecondsBetween(shell.SessionStart, now);
+  AppendLine(LogPath(world), SessionLine(shell.SessionNumber, shell.SessionStart, now, seconds));
+}
+
+/// At least two digits; the sign of a clock that was set back stands in front of them.
+std::string TwoPlaces(Long number) {
+  const int value = static_cast<int>(number.Value());
+  return value < 0 ? Join("-", TwoDigits(-value)) : TwoDigits(value);
+}
+
+/// How many whole units of so many seconds the time holds, rounded down.
+Long WholeUnits(Long seconds, int unit) { return RoundTo<Long>(std::floor((seconds / unit).Value())); }
+
+Long Remainder(Long number, int divisor) { return Long(number.Value() % divisor); }
+
+}  // namespace
+
+void StartSession(ShellRecord& shell, ShellOutside& world) {
+  shell.SessionStart = world.Time.Now();
+  try {
+    ReadLines(world, [&](std::string_view line) { shell.SessionNumber = TakeNumber(line); });
+  } catch (const Failure&) {
+    // A log that is missing or damaged counts up to where it could be read.
+  }
+  shell.SessionNumber += Integer(1);
+}
+
+void Inhp(ShellRecord& shell, const CaseRecord& c, ShellOutside& world) {
+  if (shell.Ended) return;
+  shell.Ended = true;
+  try {
+    LogSession(shell, c, world);
+  } catch (const Failure& failure) {
+    if (failure.Number == FileAlreadyOpen) {
+      world.Boxes.Tell(
+          BoxStyle::Critical,
+          Join("Unexpected error has occured within the", CRLF, "Program. Contact your Software vendor.",
+               CRLF, "Continued use of this package may lead", CRLF, "to some other complications."));
+    }
+  }
+  world.Running.End();
+}
+
+std::string SessionLine(Integer number, const DateTime& start, const DateTime& end, Long seconds) {
+  std::string line = Join(" ", number, " ");
+  PrintZone(line, LogDate(start));
+  PrintZone(line, LogDate(end));
+  PrintZone(line, Join(" ", seconds, " "));
+  return line;
+}
+
+Long SecondsBetween(const DateTime& start, const DateTime& end) {
+  return Long((TimePoint(end) - TimePoint(start)).count());
+}
+
+SessionTable ReadSessionLog(ShellOutside& world) {
+  SessionTable table;
+  ReadLines(world, [&](std::string_view line) {
+    if (++table.Count > MostSessions) throw Failure(SubscriptOutOfRange);
+    SessionRow row;
+    row.Number = TakeNumber(line);
+    row.Start = line.substr(0, dateRoom);
+    row.End = line.substr(std::min(endPlace, line.size()), dateRoom);
+    row.Length = RoundTo<Long>(ParsePrefix(line.substr(line.size() - std::min(lengthRoom, line.size()))));
+    table.TotalSeconds += row.Length;
+    table.Rows.push_back(std::move(row));
+  });
+  return table;
+}
+
+std::string TotalTimeText(Long totalSeconds) {
+  const Long seconds = Remainder(totalSeconds, 60);
+  const Long minutes = Remainder(WholeUnits(totalSeconds, 60), 60);
+  const Long hours = Remainder(WholeUnits(totalSeconds, 3600), 24);
+  const Long days = WholeUnits(totalSeconds, 86400);
+  return Join("Total duration: ", days, "day(s):", TwoPlaces(hours), "h:", TwoPlaces(minutes),
+              "m:", TwoPlaces(seconds), "s (", totalSeconds, " seconds)");
+}
+
+}  // namespace qismora

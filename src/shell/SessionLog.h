@@ -1,0 +1,51 @@
+#pragma once
+
+#include <string>
+#include <vector>
+
+#include "base/Array.h"
+#include "base/Numbers.h"
+#include "base/Outside.h"
+#include "case/CaseRecord.h"
+#include "shell/ShellRecord.h"
+
+namespace qismora {
+
+/// Notes the start of the session and takes its number from the log: the number of the last line plus 1.
+/// Where the log cannot be read, the number counts from what was read up to there.
+void StartSession(ShellRecord& shell, ShellOutside& world);
+
+/// The exit routine: saves how many times a case was loaded, adds the session's line to the log and ends the
+/// program. Only its first call does anything. Where the line cannot be written, it is lost.
+void Inhp(ShellRecord& shell, const CaseRecord& c, ShellOutside& world);
+
+/// A line of the log without its line break.
+std::string SessionLine(Integer number, const DateTime& start, const DateTime& end, Long seconds);
+
+/// The whole seconds from one date to the other. Beyond the range of a Long it is the overflow failure.
+Long SecondsBetween(const DateTime& start, const DateTime& end);
+
+/// One session as the log tells it.
+struct SessionRow {
+  Integer Number;
+  std::string Start;
+  std::string End;
+  Long Length;
+};
+
+/// The sessions of the log, oldest first; the element 0 stays empty.
+struct SessionTable {
+  int Count = 0;
+  std::vector<SessionRow> Rows{1};
+  Long TotalSeconds;
+};
+
+/// Reads the log by the fixed positions of its lines. More lines than the tables hold are the subscript
+/// failure, a missing file is the file failure.
+SessionTable ReadSessionLog(ShellOutside& world);
+inline constexpr int MostSessions = 5000;
+
+/// The total of all lengths in days, hours, minutes and seconds.
+std::string TotalTimeText(Long totalSeconds);
+
+}  // namespace qismora

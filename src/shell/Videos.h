@@ -1,0 +1,38 @@
+#pragma once
+
+#include <string>
+
+#include "base/Numbers.h"
+#include "base/Outside.h"
+
+namespace qismora {
+
+/// The animation of the main menu: two videos that take turns. A file is known by its length in bytes; one of
+/// any other length is never played. It decorates the screen: nothing depends on it.
+class Videos {
+ public:
+  explicit Videos(ShellOutside& world) : world_(world) {}
+
+  /// A missing file is the file failure; the path stands in CurrentVideoPath already.
+  void PlayFirstVideo();
+  void PlaySecondVideo();
+
+  /// Changes to the other of the two.
+  void PlayOther();
+  /// Starts the current one again.
+  void PlayAgain();
+
+  std::string CurrentVideoPath;
+  Long CurrentVideoLength;
+
+ private:
+  void Play(const char* fileName, int expectedLength);
+  void Start();
+
+  ShellOutside& world_;
+};
+
+inline constexpr int FirstVideoLength = 1069056;
+inline constexpr int SecondVideoLength = 941056;
+
+}  // namespace qismora

@@ -1,0 +1,269 @@
+#include <gtest/gtest.h>
+#include <sys/wait.h>
+#include <unistd.h>
+
+#include <set>
+
+#include "base/Files.h"
+#include "base/Text.h"
+#include "screens/Session.h"
+#include "shell/SessionLog.h"
+#include "support/MemoryOutside.h"
+#include "support/TemporaryFolder.h"
+
+namespace qismora {
+namespace {
+
+using testing::MemoryWorld;
+using testing::TemporaryFolder;
+
+constexpr DateTime noon = {2024, 3, 5, 12, 0, 0};
+constexpr DateTime later = {2024, 3, 5, 13, 2, 5};
+
+/// A program that keeps its log in a folder of its own.
+struct Logged {
+  Logged() { World.Folders.Folder = Folder.Path(); }
+
+  std::string Path() const { return Folder.File("popuQism.ppl"); }
+  std::string Content() const { return ReadWholeFile(Path()); }
+
+  void Add(int number, const DateTime& start, const DateTime& end, int seconds) const {
+    AppendLine(Path(), SessionLine(Integer(number), start, end, Long(seconds)));
+  }
+
+  /// One run of the program, from its start to its end; its number.
+  Integer Run() {
+    ShellRecord shell;
+    StartSession(shell, World.Ports);
+    Inhp(shell, Record, World.Ports);
+    return shell.SessionNumber;
+  }
+
+  TemporaryFolder Folder;
+  MemoryWorld World;
+  CaseRecord Record;
+};
+
+TEST(SessionLog, ALineStandsInZonesOfFourteenColumns) {
+  EXPECT_EQ(SessionLine(Integer(7), noon, later, Long(3725)),
+            " 7            05/03/2024 12:00:00         05/03/2024 13:02:05          3725 ");
+  EXPECT_EQ(SessionLine(Integer(32767), noon, later, Long(-1)),
+            " 32767        05/03/2024 12:00:00         05/03/2024 13:02:05          -1 ");
+}
+
+TEST(SessionLog, TheLoaderFindsWhatTheExitHasWritten) {
+  const Logged logged;
+  const int numbers[] = {1, 12, 123, 1234, 12345, 32767, -5, -32768};
+  const int lengths[] = {0, 9, 3725, -1, -86400, 99999, 9999999, -999999};
+  for (std::size_t i = 0; i < std::size(numbers); ++i) logged.Add(numbers[i], noon, later, lengths[i]);
+  const MemoryWorld& world = logged.World;
+  const SessionTable table = ReadSessionLog(const_cast<MemoryWorld&>(world).Ports);
+  ASSERT_EQ(table.Count, static_cast<int>(std::size(numbers)));
+  for (std::size_t i = 0; i < std::size(numbers); ++i) {
+    const SessionRow& row = table.Rows[i + 1];
+    EXPECT_EQ(row.Number, numbers[i]);
+    EXPECT_EQ(row.Start, "05/03/2024 12:00:00      ");
+    EXPECT_EQ(row.End, "  05/03/2024 13:02:05    ");
+    EXPECT_EQ(row.Length, lengths[i]);
+  }
+}
+
+TEST(SessionLog, ALengthOfMoreThanSevenDigitsLosesItsFirstOnes) {
+  Logged logged;
+  logged.Add(1, noon, later, 12345678);
+  logged.Add(2, noon, later, 2147483647);
+  const SessionTable table = ReadSessionLog(logged.World.Ports);
+  EXPECT_EQ(table.Rows[1].Length, 2345678);
+  EXPECT_EQ(table.Rows[2].Length, 7483647);
+}
+
+TEST(SessionLog, SessionsAreNumberedFromTheLogItself) {
+  Logged logged;
+  EXPECT_EQ(logged.Run(), 1) << "no log yet";
+  EXPECT_EQ(logged.Run(), 2);
+  logged.Add(41, noon, later, 1);
+  EXPECT_EQ(logged.Run(), 42);
+  DeleteFile(logged.Path());
+  EXPECT_EQ(logged.Run(), 1);
+  TextFile(logged.Path()).Close();
+  EXPECT_EQ(logged.Run(), 1) << "an empty log";
+}
+
+TEST(SessionLog, ADamagedLogCountsUpToTheDamage) {
+  Logged logged;
+  logged.Add(8, noon, later, 1);
+  AppendLine(logged.Path(), " 99999 too large a number");
+  logged.Add(10, noon, later, 1);
+  EXPECT_EQ(logged.Run(), 9);
+  TextFile(logged.Path()).Print(" 3 unix line\n\n 4 next");
+  EXPECT_EQ(logged.Run(), 5) << "lines may end in a single line feed, and an empty one is no session";
+}
+
+TEST(SessionLog, TheExitRunsOnceAndSavesTheExecutions) {
+  Logged logged;
+  logged.Record.ExecCount = Long(77);
+  ShellRecord shell;
+  logged.World.Clock.Time = noon;
+  StartSession(shell, logged.World.Ports);
+  logged.World.Clock.Time = later;
+  Inhp(shell, logged.Record, logged.World.Ports);
+  Inhp(shell, logged.Record, logged.World.Ports);
+  EXPECT_EQ(logged.World.Program.Ends, 1);
+  EXPECT_EQ(logged.Content(),
+            " 1            05/03/2024 12:00:00         05/03/2024 13:02:05          3725 \r\n");
+  EXPECT_EQ(logged.World.Settings.Values["Qismora/Inheritance/TimesExecuted"], "77");
+}
+
+/// The folder of a log that cannot be written for a given reason.
+class FailingFolders : public testing::MemoryFolders {
+ public:
+  explicit FailingFolders(int failure) : failure_(failure) {}
+  std::string Log() override { throw Failure(failure_); }
+
+ private:
+  int failure_;
+};
+
+TEST(SessionLog, OnlyAnOpenFileIsTold) {
+  for (const int failure : {FileAlreadyOpen, PermissionDenied, PathFileAccess}) {
+    MemoryWorld world;
+    FailingFolders folders(failure);
+    ShellOutside ports{{world.Clock, world.Boxes, world.Dialog, world.Settings, folders},
+                       world.Viewer,
+                       world.Player,
+                       world.Memory,
+                       world.Program};
+    ShellRecord shell;
+    StartSession(shell, ports);
+    Inhp(shell, CaseRecord(), ports);
+    EXPECT_EQ(world.Program.Ends, 1) << "the program ends in any case";
+    ASSERT_EQ(world.Boxes.Shown.size(), failure == FileAlreadyOpen ? 1U : 0U);
+    if (failure != FileAlreadyOpen) continue;
+    EXPECT_EQ(world.Boxes.Shown[0].Style, BoxStyle::Critical);
+    EXPECT_EQ(world.Boxes.Shown[0].Text,
+              "Unexpected error has occured within the\r\nProgram. Contact your Software vendor.\r\n"
+              "Continued use of this package may lead\r\nto some other complications.");
+  }
+}
+
+TEST(SessionLog, ASessionTooLongForALengthLeavesNoLine) {
+  Logged logged;
+  ShellRecord neverStarted;
+  Inhp(neverStarted, logged.Record, logged.World.Ports);
+  EXPECT_EQ(logged.World.Program.Ends, 1);
+  EXPECT_TRUE(logged.World.Boxes.Shown.empty());
+  EXPECT_FALSE(FileExists(logged.Path()));
+}
+
+TEST(SessionLog, ProgramsThatEndAtTheSameMomentAllGetTheirLine) {
+  const Logged logged;
+  constexpr int programs = 16;
+  constexpr int lines = 100;
+  std::set<pid_t> children;
+  for (int program = 0; program < programs; ++program) {
+    const pid_t child = fork();
+    ASSERT_GE(child, 0);
+    if (child == 0) {
+      for (int line = 0; line < lines; ++line) logged.Add(program + 1, noon, later, line);
+      _exit(0);
+    }
+    children.insert(child);
+  }
+  for (const pid_t child : children) {
+    int status = -1;
+    ASSERT_EQ(waitpid(child, &status, 0), child);
+    EXPECT_EQ(status, 0);
+  }
+  std::multiset<std::string> expected;
+  for (int program = 0; program < programs; ++program) {
+    for (int line = 0; line < lines; ++line)
+      expected.insert(SessionLine(Integer(program + 1), noon, later, Long(line)));
+  }
+  std::multiset<std::string> found;
+  const std::string content = logged.Content();
+  for (std::size_t at = 0; at < content.size();) {
+    const std::size_t end = content.find(CRLF, at);
+    ASSERT_NE(end, std::string::npos);
+    found.insert(content.substr(at, end - at));
+    at = end + CRLF.size();
+  }
+  EXPECT_EQ(found, expected);
+}
+
+TEST(SessionForm, ShowsTheNewestFirstAndATotal) {
+  Logged logged;
+  logged.Add(1, noon, later, 3725);
+  logged.Add(2, later, noon, 60);
+  Session form(logged.World.Ports);
+  EXPECT_EQ(form.Label3.Caption.Get(), "TOTAL TIME");
+  form.Open();
+  ASSERT_EQ(form.MSFlexGrid1.Rows.size(), 5U);
+  const Grid& grid = form.MSFlexGrid1;
+  EXPECT_EQ(grid.Rows[0], (Grid::Line{"Session", "Start of Session", "End of Session", "Session Length"}));
+  EXPECT_EQ(grid.Rows[1], (Grid::Line{"Number", "Date & Time", "Date & Time", "Seconds"}));
+  EXPECT_EQ(grid.Rows[2], (Grid::Line{"2", "05/03/2024 13:02:05      ", "  05/03/2024 12:00:00    ", "60"}));
+  EXPECT_EQ(grid.Rows[3][0], "1");
+  EXPECT_EQ(grid.Rows[4], Grid::Line());
+  EXPECT_EQ(grid.Row, 2);
+  EXPECT_EQ(grid.Col, 1);
+  EXPECT_EQ(form.Label2.Caption.Get(),
+            "2     05/03/2024 12:00:00             05/03/2024 13:02:05         3725")
+      << "the newest number beside the oldest times";
+  form.MSFlexGrid1_Click(3, 0);
+  EXPECT_EQ(form.Label2.Caption.Get(),
+            "1     05/03/2024 12:00:00             05/03/2024 13:02:05         3725");
+  form.MSFlexGrid1_Click(4, 2);
+  EXPECT_EQ(form.Label2.Caption.Get(), "               ");
+  EXPECT_EQ(form.Label3.Caption.Get(), "Total duration: 0day(s):01h:03m:05s (3785 seconds)");
+}
+
+TEST(SessionForm, AMissingLogIsToldAndLeavesTheGridUnfilled) {
+  Logged logged;
+  Session form(logged.World.Ports);
+  form.Open();
+  ASSERT_EQ(logged.World.Boxes.Shown.size(), 1U);
+  EXPECT_EQ(logged.World.Boxes.Shown[0].Text, "Error 53\r\nFile not found");
+  EXPECT_TRUE(form.MSFlexGrid1.Rows.empty());
+  EXPECT_EQ(form.Label3.Caption.Get(), "TOTAL TIME");
+}
+
+TEST(SessionForm, FiveThousandLinesFitAndOneMoreIsAnError) {
+  Logged logged;
+  for (int i = 1; i <= MostSessions; ++i) logged.Add(i, noon, later, 1);
+  Session form(logged.World.Ports);
+  form.Open();
+  EXPECT_TRUE(logged.World.Boxes.Shown.empty());
+  EXPECT_EQ(form.MSFlexGrid1.Rows.size(), 5003U);
+  EXPECT_EQ(form.TotalSeconds, 5000);
+
+  logged.Add(5001, noon, later, 1);
+  form.Open();
+  ASSERT_EQ(logged.World.Boxes.Shown.size(), 1U);
+  EXPECT_EQ(logged.World.Boxes.Shown[0].Text, "Error 9\r\nSubscript out of range");
+  EXPECT_EQ(form.MSFlexGrid1.Rows.size(), 5003U) << "the grid is not filled anew";
+  EXPECT_EQ(logged.Run(), 5002) << "sessions are numbered on";
+}
+
+TEST(SessionForm, AnEmptyLogShowsAnEmptyGrid) {
+  Logged logged;
+  TextFile(logged.Path()).Close();
+  Session form(logged.World.Ports);
+  form.Open();
+  EXPECT_EQ(form.MSFlexGrid1.Rows.size(), 3U);
+  EXPECT_EQ(form.Label2.Caption.Get(), "0               0");
+}
+
+TEST(SessionForm, TotalTimes) {
+  const std::pair<int, const char*> rows[] = {
+      {0, "Total duration: 0day(s):00h:00m:00s (0 seconds)"},
+      {3725, "Total duration: 0day(s):01h:02m:05s (3725 seconds)"},
+      {86399, "Total duration: 0day(s):23h:59m:59s (86399 seconds)"},
+      {86400, "Total duration: 1day(s):00h:00m:00s (86400 seconds)"},
+      {2147483647, "Total duration: 24855day(s):03h:14m:07s (2147483647 seconds)"},
+      {-5, "Total duration: -1day(s):-01h:-01m:-05s (-5 seconds)"},
+  };
+  for (const auto& [seconds, text] : rows) EXPECT_EQ(TotalTimeText(Long(seconds)), text);
+}
+
+}  // namespace
+}  // namespace qismora

@@ -1,0 +1,334 @@
+#include <gtest/gtest.h>
+
+#include <filesystem>
+#include <fstream>
+#include <map>
+#include <memory>
+
+#include "base/Files.h"
+#include "screens/InhMain.h"
+#include "screens/ProgramInfo.h"
+#include "screens/QurLaws.h"
+#include "screens/Zummy.h"
+#include "shell/Documents.h"
+#include "support/MemoryOutside.h"
+#include "support/TemporaryFolder.h"
+
+namespace qismora {
+namespace {
+
+using testing::MemoryWorld;
+using testing::TemporaryFolder;
+
+constexpr const char* lowerImage = "Islamic Laws of Inheritance/ImageSetting/LowerImage";
+constexpr const char* lblPressed = "Islamic Laws of Inheritance/LanguageSetting/LblPressed";
+constexpr const char* timesExecuted = "Qismora/Inheritance/TimesExecuted";
+
+/// A main menu whose ways are noted in the order in which they are taken.
+struct Menu {
+  Menu() { World.Folders.Folder = Folder.Path(); }
+
+  InhMain& Open() {
+    Form = std::make_unique<InhMain>(Record, Shell, World.Ports);
+    const auto note = [this](const char* way) { return [this, way] { Ways.emplace_back(way); }; };
+    Form->ShowQurLaws = note("QurLaws");
+    Form->FocusText5OfQurLaws = note("Text5");
+    Form->ShowCaseStudy = note("CaseStudy");
+    Form->ShowZummy = note("Zummy");
+    Form->ShowSession = note("Session");
+    Form->ShowCatalogue = note("prginfo");
+    Form->Hide = note("hidden");
+    return *Form;
+  }
+
+  int PictureShown() const {
+    int shown = -1;
+    for (int i = 0; i < Form->Image3.Size; ++i) {
+      if (Form->Image3(i).Visible) shown = shown < 0 ? i : 99;
+    }
+    return shown;
+  }
+
+  void PutVideo(const char* name, int length) const {
+    std::ofstream(Folder.File(name)).put('\0');
+    std::filesystem::resize_file(Folder.File(name), static_cast<std::uintmax_t>(length));
+  }
+
+  void PutDocuments() const {
+    std::filesystem::create_directory(Folder.File("documents"));
+    for (const Document& document : Documents) {
+      std::ofstream(Folder.File(std::string("documents/") + document.FileName)) << "%PDF";
+    }
+  }
+
+  TemporaryFolder Folder;
+  MemoryWorld World;
+  CaseRecord Record;
+  ShellRecord Shell;
+  std::unique_ptr<InhMain> Form;
+  std::vector<std::string> Ways;
+};
+
+TEST(MainMenu, AFirstRunStartsWithNothingSaved) {
+  Menu menu;
+  const InhMain& form = menu.Open();
+  EXPECT_EQ(menu.PictureShown(), 1);
+  EXPECT_EQ(menu.Record.ExecCount, 0);
+  EXPECT_EQ(menu.Shell.SavedLanguage, 0);
+  EXPECT_EQ(form.Label22.Caption.Get(), "1");
+  EXPECT_FALSE(form.Text1.Visible);
+  EXPECT_TRUE(form.Option1(7).Value);
+  EXPECT_FALSE(form.Option1(7).Visible);
+}
+
+TEST(MainMenu, SettingsAreReadByTheirLeadingDigits) {
+  Menu menu;
+  menu.World.Settings.Values = {{lowerImage, "4abc"}, {lblPressed, " 2"}, {timesExecuted, "123 times"}};
+  menu.Open();
+  EXPECT_EQ(menu.PictureShown(), 5);
+  EXPECT_EQ(menu.Shell.SavedLanguage, 2);
+  EXPECT_EQ(menu.Record.ExecCount, 123);
+}
+
+TEST(MainMenu, ADamagedSettingEndsTheLoadQuietly) {
+  for (const char* damaged : {"6", "-1", "99999999999"}) {
+    Menu menu;
+    menu.World.Settings.Values = {{lowerImage, damaged}, {timesExecuted, "5"}};
+    const InhMain& form = menu.Open();
+    EXPECT_TRUE(menu.World.Boxes.Shown.empty());
+    EXPECT_EQ(menu.Record.ExecCount, 5) << "what was read before stays";
+    EXPECT_EQ(form.Label22.Caption.Get(), "") << "the session was not begun";
+    EXPECT_EQ(menu.World.Settings.Values[lowerImage], damaged);
+  }
+}
+
+TEST(MainMenu, EachClickShowsTheNextPictureAndKeepsTheClickedOne) {
+  Menu menu;
+  InhMain& form = menu.Open();
+  for (int i = 0; i < form.Image3.Size; ++i) {
+    form.Image3_Click(i);
+    EXPECT_EQ(menu.PictureShown(), (i + 1) % 6);
+    EXPECT_EQ(menu.World.Settings.Values[lowerImage], std::to_string(i));
+    Menu next;
+    next.World.Settings.Values = menu.World.Settings.Values;
+    next.Open();
+    EXPECT_EQ(next.PictureShown(), menu.PictureShown());
+  }
+}
+
+TEST(MainMenu, EveryEntryLeadsWhereItSays) {
+  const std::map<int, std::vector<std::string>> ways = {{0, {"QurLaws", "Text5"}},
+                                                        {3, {"QurLaws"}},
+                                                        {5, {"QurLaws"}},
+                                                        {6, {"CaseStudy"}},
+                                                        {8, {"QurLaws", "Text5"}}};
+  const std::map<int, std::string> files = {
+      {1, "RULES OF DISTRIBUTION.pdf"}, {2, "Historical Background.pdf"}, {4, "Origin and Development.pdf"},
+      {9, "Schools of Thoughts.pdf"},   {10, "References.pdf"},           {11, "RelationsEU.pdf"},
+      {12, "Aayaat -e- Meeraas.pdf"}};
+  Menu menu;
+  InhMain& form = menu.Open();
+  menu.PutDocuments();
+  for (int round = 0; round < 2; ++round) {
+    for (int i = 0; i < form.Option1.Size; ++i) {
+      if (i == 7) continue;
+      menu.Ways.clear();
+      menu.World.Viewer.Opened.clear();
+      form.Option1_Click(i);
+      EXPECT_EQ(menu.Ways, ways.contains(i) ? ways.at(i) : std::vector<std::string>());
+      ASSERT_EQ(menu.World.Viewer.Opened.size(), files.count(i));
+      if (files.contains(i)) {
+        EXPECT_EQ(menu.World.Viewer.Opened[0], menu.Folder.File("documents/" + files.at(i)));
+      }
+      EXPECT_EQ(menu.Shell.LawPage, i);
+      EXPECT_FALSE(form.Option1(i).Value);
+      EXPECT_TRUE(form.Option1(7).Value);
+      EXPECT_FALSE(form.Hourglass);
+    }
+  }
+}
+
+TEST(MainMenu, HoveringNamesAndColoursOneEntry) {
+  Menu menu;
+  InhMain& form = menu.Open();
+  form.Option1_MouseMove(3);
+  form.Option1_MouseMove(8);
+  EXPECT_EQ(form.StatusBar1.Caption.Get(), "Rules of 'Aul' && 'Radd' implied");
+  EXPECT_EQ(form.Option1(8).BackColor, 0xC0FFC0);
+  EXPECT_EQ(form.Option1(3).BackColor, ButtonFaceColour);
+  form.Frame1_MouseMove();
+  EXPECT_EQ(form.StatusBar1.Caption.Get(), "Inheritance as per Muslim Law");
+  EXPECT_EQ(form.Option1(8).BackColor, ButtonFaceColour);
+}
+
+TEST(MainMenu, TheDisclaimerComesAndGoes) {
+  Menu menu;
+  InhMain& form = menu.Open();
+  EXPECT_EQ(form.Label5.Caption.Get(), "I agree with the disclaimer terms of the Software");
+  form.Disclaimer_Click();
+  EXPECT_TRUE(form.Text1.Visible);
+  EXPECT_EQ(form.Label5.Caption.Get(), "Disclaimer Terms:");
+  EXPECT_TRUE(form.Text1.Text.Get().starts_with("Congratulations User!\r\n\r\nDOUBLE CLICK TO HIDE"));
+  EXPECT_TRUE(form.Text1.Text.Get().ends_with("HIDE THIS DISCLAIMER\r\n\r\n\r\n"));
+  form.Text1_DblClick();
+  EXPECT_FALSE(form.Text1.Visible);
+  EXPECT_EQ(form.Label5.Caption.Get(), "I agree with the dislaimer terms in the Software");
+  form.Label5_Click();
+  EXPECT_TRUE(form.Text1.Visible);
+}
+
+TEST(MainMenu, TheFrameIsCentredInAMaximizedWindow) {
+  Menu menu;
+  InhMain& form = menu.Open();
+  form.Form_Resize(true, 28800, 16200);
+  EXPECT_EQ(form.Frame111Left, 8400);
+  EXPECT_EQ(form.Frame111Top, 3600);
+  form.Form_Resize(false, 28800, 16200);
+  EXPECT_EQ(form.Frame111Left, 0);
+  EXPECT_EQ(form.Frame111Top, 0);
+}
+
+TEST(MainMenu, EveryWayOutWritesOneLine) {
+  Menu menu;
+  InhMain& form = menu.Open();
+  form.Exitz_Click();
+  form.Form_QueryUnload();
+  Zummy zummy(menu.Record, menu.Shell, menu.World.Ports);
+  zummy.Form_QueryUnload();
+  EXPECT_EQ(menu.World.Program.Ends, 1);
+  EXPECT_EQ(ReadWholeFile(menu.Folder.File("popuQism.ppl")).find('\n'), 74U);
+  EXPECT_EQ(FileLength(menu.Folder.File("popuQism.ppl")), 75) << "one line";
+}
+
+TEST(Documents, WhoeverOpensOneIsToldWhereItLies) {
+  Menu menu;
+  const auto told = [&](int number) {
+    menu.World.Boxes.Shown.clear();
+    OpenDocument(number, menu.World.Ports);
+    EXPECT_EQ(menu.World.Boxes.Shown.size(), 1U);
+    return menu.World.Boxes.Shown.front();
+  };
+  EXPECT_EQ(told(4).Style, BoxStyle::Warning) << "a missing file";
+  EXPECT_TRUE(menu.World.Viewer.Opened.empty());
+  menu.PutDocuments();
+  EXPECT_EQ(told(4).Style, BoxStyle::Information);
+  menu.World.Viewer.HasViewer = false;
+  EXPECT_EQ(told(4).Style, BoxStyle::Warning) << "no viewer";
+  EXPECT_TRUE(told(6).Text.ends_with(menu.Folder.File("documents/RelationsEU.pdf")));
+  EXPECT_THROW(OpenDocument(8, menu.World.Ports), Failure);
+}
+
+TEST(Zummy, EachButtonOpensItsDocumentAndNoneTheVerses) {
+  Menu menu;
+  menu.PutDocuments();
+  Zummy form(menu.Record, menu.Shell, menu.World.Ports);
+  for (const ZummyButton& button : ZummyButtons) (form.*button.Click)();
+  const std::vector<std::string> files = {"Historical Background.pdf",
+                                          "Historical Background.pdf",
+                                          "Origin and Development.pdf",
+                                          "Schools of Thoughts.pdf",
+                                          "RULES OF DISTRIBUTION.pdf",
+                                          "References.pdf",
+                                          "RelationsEU.pdf"};
+  ASSERT_EQ(menu.World.Viewer.Opened.size(), files.size());
+  for (std::size_t i = 0; i < files.size(); ++i) {
+    EXPECT_EQ(menu.World.Viewer.Opened[i], menu.Folder.File("documents/" + files[i]));
+  }
+}
+
+TEST(Zummy, TheMultipleIsTakenOfWhatTheLastCaseLeft) {
+  Menu menu;
+  Zummy form(menu.Record, menu.Shell, menu.World.Ports);
+  menu.Record.LcmCount = Integer(2);
+  menu.Record.LcmDen(0) = Integer(6);
+  menu.Record.LcmDen(1) = Integer(4);
+  form.cmdLCM_Click();
+  EXPECT_EQ(menu.Record.LcmResult, 12);
+  EXPECT_TRUE(menu.World.Boxes.Shown.empty());
+  menu.Record.LcmCount = Integer(12);
+  form.cmdLCM_Click();
+  ASSERT_EQ(menu.World.Boxes.Shown.size(), 1U);
+  EXPECT_EQ(menu.World.Boxes.Shown[0].Text, "9\r\nSubscript out of range");
+}
+
+TEST(Zummy, BackHidesItAndTheDoubleClickOnTheFrameHidesTheMenu) {
+  Menu menu;
+  menu.Open().Frame2_DblClick();
+  EXPECT_EQ(menu.Ways, (std::vector<std::string>{"Zummy", "hidden"}));
+  Zummy form(menu.Record, menu.Shell, menu.World.Ports);
+  std::vector<std::string> ways;
+  form.ShowMainMenu = [&] { ways.emplace_back("menu"); };
+  form.Hide = [&] { ways.emplace_back("hidden"); };
+  form.Back_Click();
+  EXPECT_EQ(ways, (std::vector<std::string>{"menu", "hidden"}));
+  EXPECT_EQ(menu.World.Program.Ends, 0);
+}
+
+TEST(LawPages, ANumberWithoutAPageLeavesTheFormAsItIs) {
+  MemoryWorld world;
+  ShellRecord shell;
+  shell.LawPage = Integer(5);
+  QurLaws form(shell, world.Boxes);
+  EXPECT_EQ(form.Caption.Get(), "EXCLUSION RULES OF INHERITANCE");
+  EXPECT_EQ(form.StatusBar1.Caption.Get(), "EXCLUSION RULES OF INHERITANCE");
+  const std::string text = form.Text2.Text;
+  shell.LawPage = Integer(4);
+  form.Form_Load();
+  EXPECT_EQ(form.Text2.Text.Get(), text);
+  EXPECT_EQ(form.StatusBar1.Caption.Get(), "EXCLUSION RULES OF INHERITANCE");
+}
+
+TEST(LawPages, TheEntryAndTheCloseBoxLeadToTheMenu) {
+  MemoryWorld world;
+  const ShellRecord shell;
+  for (const auto close : {&QurLaws::Close_Click, &QurLaws::Form_Unload}) {
+    QurLaws form(shell, world.Boxes);
+    std::vector<std::string> ways;
+    form.ShowMainMenu = [&] { ways.emplace_back("menu"); };
+    form.Unload = [&] { ways.emplace_back("unloaded"); };
+    (form.*close)();
+    EXPECT_EQ(ways, (std::vector<std::string>{"menu", "unloaded"}));
+  }
+}
+
+TEST(Animation, TwoVideosTakeTurns) {
+  Menu menu;
+  menu.PutVideo("brindhaven.avi", FirstVideoLength);
+  menu.PutVideo("brindhaven1.avi", SecondVideoLength);
+  InhMain& form = menu.Open();
+  const std::string first = menu.Folder.File("brindhaven.avi");
+  const std::string second = menu.Folder.File("brindhaven1.avi");
+  menu.World.Player.EndOfPlay();
+  menu.World.Player.EndOfPlay();
+  form.Frame5_Click();
+  form.Frame5_Click();
+  form.Frame5_DblClick();
+  EXPECT_EQ(menu.World.Player.Played, (std::vector<std::string>{second, first, first, second, first, first}));
+}
+
+TEST(Animation, AFileOfAnotherLengthIsNeverPlayedAndAMissingOneIsNoMatter) {
+  Menu menu;
+  menu.PutVideo("brindhaven1.avi", SecondVideoLength + 1);
+  InhMain& form = menu.Open();
+  form.Frame5_Click();
+  form.Frame5_DblClick();
+  menu.World.Player.EndOfPlay();
+  EXPECT_TRUE(menu.World.Player.Played.empty());
+  EXPECT_TRUE(menu.World.Boxes.Shown.empty());
+  EXPECT_EQ(form.Label22.Caption.Get(), "1");
+}
+
+TEST(Catalogue, MemoryIsReadAtEachOpening) {
+  MemoryWorld world;
+  world.Memory.Figures = {8.0 * 1024 * 1024 * 1024, 1024.0 * 1024, 30.6 * 1024 * 1024};
+  prginfo form({"1.0", {"Qt 6", "zlib"}}, world.Memory);
+  EXPECT_EQ(form.TotalMemory.Get(), "8192 MiB");
+  EXPECT_EQ(form.UsedMemory.Get(), "31 MiB");
+  world.Memory.Figures.Free = 0;
+  form.Refresh();
+  EXPECT_EQ(form.FreeMemory.Get(), "0 MiB");
+  EXPECT_EQ(form.Rows.back().Text, "Qt 6, zlib");
+}
+
+}  // namespace
+}  // namespace qismora

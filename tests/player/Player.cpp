@@ -1,0 +1,246 @@
+#include "player/Player.h"
+
+#include <algorithm>
+#include <charconv>
+#include <filesystem>
+
+#include "aulradd/FindLCM.h"
+#include "base/Files.h"
+#include "base/Text.h"
+#include "screens/Event.h"
+
+namespace fs = std::filesystem;
+
+namespace qismora::testing {
+
+namespace {
+
+std::optional<int> Number(std::string_view text) {
+  int number = 0;
+  const auto [end, error] = std::from_chars(text.data(), text.data() + text.size(), number);
+  if (error != std::errc{} || end != text.data() + text.size()) return std::nullopt;
+  return number;
+}
+
+int IndexUpTo(std::string_view text, int last) {
+  const std::optional<int> index = Number(text);
+  if (!index || *index < 0 || *index > last) throw NoCommand();
+  return *index;
+}
+
+bool HasTextBox(int index) { return (index >= 1 && index <= 7) || (index >= 13 && index <= 33); }
+bool HasLabel(int index) { return (index >= 0 && index <= 7) || (index >= 12 && index <= 33); }
+
+/// A control's name and its index, -1 where it has none: "Text1(3)" is Text1 and 3.
+struct Control {
+  std::string_view Name;
+  int Index = -1;
+};
+
+Control ParseControl(std::string_view text) {
+  if (!text.ends_with(')')) return {text, -1};
+  const std::size_t open = text.find('(');
+  if (open == std::string_view::npos) throw NoCommand();
+  return {text.substr(0, open), IndexUpTo(text.substr(open + 1, text.size() - open - 2), 99)};
+}
+
+/// The first word of the text, which keeps what stands behind one blank.
+std::string_view TakeWord(std::string_view& text) {
+  const std::size_t end = std::min(text.find(' '), text.size());
+  const std::string_view word = text.substr(0, end);
+  text.remove_prefix(std::min(end + 1, text.size()));
+  return word;
+}
+
+}  // namespace
+
+Player::Player(CaseRecord& record, std::ostream& out, const std::string& folder)
+    : out_(out), record_(record), boxes_(out), dialog_(out, folder) {
+  folders_.Folder = folder;
+  Open();
+}
+
+void Player::Play(std::string_view line) {
+  out_ << "> " << line << '\n';
+  Perform(line);
+  std::vector<Shown> now = Snapshot(*study_);
+  PrintChanges(out_, shown_, now);
+  shown_ = std::move(now);
+}
+
+void Player::Perform(std::string_view line) {
+  std::string_view rest = line;
+  const std::string_view command = TakeWord(rest);
+  using Command = void (Player::*)(std::string_view);
+  static constexpr std::pair<std::string_view, Command> commands[] = {
+      {"clock", &Player::SetClock}, {"type", &Player::Type},        {"choose", &Player::Choose},
+      {"tick", &Player::Tick},      {"untick", &Player::Untick},    {"doubleclick", &Player::DoubleClick},
+      {"click", &Player::Click},    {"answer", &Player::PutAnswer}, {"file", &Player::PutFile},
+      {"write", &Player::Write},    {"cat", &Player::Cat},          {"ls", &Player::List},
+      {"reopen", &Player::Reopen},  {"show", &Player::Show},        {"lcm", &Player::Lcm},
+      {"page", &Player::Page},
+  };
+  const auto* found = std::ranges::find(commands, command, &std::pair<std::string_view, Command>::first);
+  if (found == std::end(commands)) throw NoCommand();
+  (this->*found->second)(rest);
+}
+
+/// The view at an opening is the index that was read at program start, when there were no settings.
+void Player::Open() {
+  study_.reset();
+  study_ = std::make_unique<CaseStudy>(record_, outside_, 0);
+  if (shown_.empty()) shown_ = Snapshot(*study_);
+}
+
+std::string Player::Path(std::string_view name) const { return Join(folders_.Folder, "/", name); }
+
+void Player::SetClock(std::string_view rest) {
+  DateTime time;
+  const auto part = [&](std::size_t at, std::size_t size) {
+    return IndexUpTo(rest.size() == 19 ? rest.substr(at, size) : "", 9999);
+  };
+  time = {part(0, 4), part(5, 2), part(8, 2), part(11, 2), part(14, 2), part(17, 2)};
+  clock_.Time = time;
+}
+
+void Player::Type(std::string_view rest) {
+  const Control box = ParseControl(TakeWord(rest));
+  if (box.Name != "Text1" || !HasTextBox(box.Index)) throw NoCommand();
+  study_->Text1(box.Index).Text = std::string(rest);
+}
+
+void Player::Choose(std::string_view rest) { study_->Combo1.ListIndex = IndexUpTo(rest, 1); }
+void Player::Tick(std::string_view rest) { study_->Check1(IndexUpTo(rest, 11)).Value = 1; }
+void Player::Untick(std::string_view rest) { study_->Check1(IndexUpTo(rest, 11)).Value = 0; }
+
+void Player::DoubleClick(std::string_view rest) {
+  const Control control = ParseControl(rest);
+  if (control.Name == "Label1" && HasLabel(control.Index)) return study_->Label1_DblClick(control.Index);
+  if (control.Name == "Text1" && HasTextBox(control.Index)) return study_->Text1_DblClick(control.Index);
+  if (control.Name == "Image37" && control.Index >= 0 && control.Index <= 5) {
+    return study_->Image37_DblClick(control.Index);
+  }
+  if (rest == "Label13") return study_->Label13_DblClick();
+  throw NoCommand();
+}
+
+void Player::Click(std::string_view rest) {
+  using Handler = void (CaseStudy::*)();
+  static constexpr std::pair<std::string_view, Handler> handlers[] = {
+      {"Image2", &CaseStudy::Image2_Click},
+      {"Label6", &CaseStudy::Label6_Click},
+      {"Image38", &CaseStudy::Image38_Click},
+      {"Exec", &CaseStudy::Exec_Click},
+      {"FullReport", &CaseStudy::FullReport_Click},
+      {"Resid", &CaseStudy::Resid_Click},
+      {"AulRad", &CaseStudy::AulRad_Click},
+      {"AulRadd", &CaseStudy::AulRadd_Click},
+      {"CreateSaveFullReport", &CaseStudy::CreateSaveFullReport_Click},
+      {"FullReportxx", &CaseStudy::FullReportxx_Click},
+      {"SaveResults", &CaseStudy::SaveResults_Click},
+      {"TestValues", &CaseStudy::TestValues_Click},
+      {"Back", &CaseStudy::Back_Click},
+  };
+  const Control control = ParseControl(rest);
+  if (control.Name == "Label4" && control.Index >= 0 && control.Index <= 2) {
+    return study_->Label4_Click(control.Index);
+  }
+  const auto* found = std::ranges::find(handlers, rest, &std::pair<std::string_view, Handler>::first);
+  if (found == std::end(handlers)) throw NoCommand();
+  if ((rest == "AulRad" && !study_->AulRad.Enabled) || (rest == "AulRadd" && !study_->AulRadd.Visible)) {
+    out_ << "  not available\n";
+    return;
+  }
+  (study_.get()->*found->second)();
+}
+
+void Player::PutAnswer(std::string_view rest) {
+  static constexpr std::pair<std::string_view, Answer> answers[] = {
+      {"Yes", Answer::Yes}, {"No", Answer::No}, {"Cancel", Answer::Cancel}};
+  const auto* found = std::ranges::find(answers, rest, &std::pair<std::string_view, Answer>::first);
+  if (found == std::end(answers)) throw NoCommand();
+  boxes_.Answers.push_back(found->second);
+}
+
+void Player::PutFile(std::string_view rest) {
+  if (rest.empty()) throw NoCommand();
+  dialog_.Paths.emplace_back(rest);
+}
+
+void Player::Write(std::string_view rest) {
+  const std::string name(TakeWord(rest));
+  if (!IsFileName(name)) throw NoCommand();
+  try {
+    TextFile(Path(name)).Print(rest);
+  } catch (const Failure&) {
+    throw NoCommand();
+  }
+}
+
+void Player::Cat(std::string_view rest) {
+  if (!IsFileName(rest) || !FileExists(Path(rest))) {
+    out_ << "  no file\n";
+    return;
+  }
+  PrintPieces(out_, "  | ", ReadWholeFile(Path(rest)));
+}
+
+void Player::List(std::string_view rest) {
+  if (!rest.empty()) throw NoCommand();
+  std::vector<std::string> names;
+  for (const auto& entry : fs::directory_iterator(folders_.Folder))
+    names.push_back(entry.path().filename().string());
+  std::ranges::sort(names);
+  for (const std::string& name : names) out_ << "  " << Escaped(name) << '\n';
+}
+
+void Player::Reopen(std::string_view rest) {
+  if (!rest.empty()) throw NoCommand();
+  study_->Form_QueryUnload();
+  Open();
+}
+
+void Player::Show(std::string_view rest) {
+  if (!rest.empty()) throw NoCommand();
+  PrintRecord(out_, record_);
+}
+
+void Player::Lcm(std::string_view rest) {
+  int count = 0;
+  while (!rest.empty()) {
+    const std::optional<int> number = Number(TakeWord(rest));
+    const bool fits = number && *number >= -32768 && *number <= 32767;
+    if (!fits || count == record_.LcmDen.Size) throw NoCommand();
+    record_.LcmDen(count++) = Integer(*number);
+  }
+  record_.LcmCount = Integer(count);
+  try {
+    FindLCM(record_);
+  } catch (const Failure& failure) {
+    boxes_.Tell(BoxStyle::Plain, Join(failure.Number, CRLF, failure.Description()));
+  }
+  out_ << "  LcmResult = " << record_.LcmResult.Value() << "\n  LcmDen =";
+  for (int i = 0; i < count; ++i) out_ << ' ' << record_.LcmDen(i).Value();
+  out_ << (count == 0 ? " \n" : "\n");
+}
+
+void Player::Page(std::string_view rest) {
+  const std::optional<int> number = Number(rest);
+  if (!number) throw NoCommand();
+  GuardedEvent(boxes_, [&] {
+    ShellRecord shell;
+    shell.LawPage = Integer(*number);
+    PrintPage(QurLaws(shell, boxes_));
+  });
+}
+
+void Player::PrintPage(const QurLaws& form) const {
+  if (form.Text1.Text.Get().empty()) {
+    out_ << "  no page\n";
+    return;
+  }
+  out_ << "  Text1 = " << Escaped(form.Text1.Text.Get()) << "\n  Text2:\n";
+  PrintPieces(out_, "  | ", form.Text2.Text.Get());
+}
+
+}  // namespace qismora::testing

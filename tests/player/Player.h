@@ -1,0 +1,67 @@
+#pragma once
+
+#include <memory>
+#include <ostream>
+#include <string>
+#include <string_view>
+#include <vector>
+
+#include "player/PrintedWorld.h"
+#include "player/Transcript.h"
+#include "screens/CaseStudy.h"
+#include "screens/QurLaws.h"
+
+namespace qismora::testing {
+
+/// A script line that is no command.
+struct NoCommand {};
+
+/// Plays the lines of a script on a Case Study screen without a window, and prints what comes of them. All
+/// files of a script lie in one folder.
+class Player {
+ public:
+  /// Opens the screen on the record, over a world of its own.
+  Player(CaseRecord& record, std::ostream& out, const std::string& folder);
+
+  /// Prints the line, plays it, and prints its boxes and what changed.
+  void Play(std::string_view line);
+  /// Plays the line without looking at what changed.
+  void Perform(std::string_view line);
+
+  const CaseStudy& Study() const { return *study_; }
+
+ private:
+  void Open();
+  void SetClock(std::string_view rest);
+  void Type(std::string_view rest);
+  void Choose(std::string_view rest);
+  void Tick(std::string_view rest);
+  void Untick(std::string_view rest);
+  void DoubleClick(std::string_view rest);
+  void Click(std::string_view rest);
+  void PutAnswer(std::string_view rest);
+  void PutFile(std::string_view rest);
+  void Write(std::string_view rest);
+  void Cat(std::string_view rest);
+  void List(std::string_view rest);
+  void Reopen(std::string_view rest);
+  void Show(std::string_view rest);
+  void Lcm(std::string_view rest);
+  void Page(std::string_view rest);
+  void PrintPage(const QurLaws& form) const;
+
+  std::string Path(std::string_view name) const;
+
+  std::ostream& out_;
+  CaseRecord& record_;
+  MemoryClock clock_;
+  PrintedBoxes boxes_;
+  PrintedDialog dialog_;
+  MemorySettings settings_;
+  MemoryFolders folders_;
+  Outside outside_{clock_, boxes_, dialog_, settings_, folders_};
+  std::unique_ptr<CaseStudy> study_;
+  std::vector<Shown> shown_;
+};
+
+}  // namespace qismora::testing

@@ -1,0 +1,53 @@
+#pragma once
+
+#include <ostream>
+#include <string>
+
+#include "base/Files.h"
+#include "base/Text.h"
+#include "player/Transcript.h"
+#include "support/MemoryOutside.h"
+
+namespace qismora::testing {
+
+/// Boxes that are printed as they come.
+class PrintedBoxes : public MemoryBoxes {
+ public:
+  explicit PrintedBoxes(std::ostream& out) : out_(out) {}
+
+  Answer Show(BoxStyle style, BoxButtons buttons, const std::string& text) override {
+    static constexpr const char* styles[] = {"plain", "information", "warning", "critical"};
+    static constexpr const char* buttonNames[] = {"OK", "Yes/No", "Yes/No/Cancel"};
+    static constexpr const char* answers[] = {"OK", "Yes", "No", "Cancel"};
+    out_ << "  box " << styles[static_cast<int>(style)] << ' ' << buttonNames[static_cast<int>(buttons)]
+         << '\n';
+    PrintPieces(out_, "  ! ", text);
+    const Answer answer = MemoryBoxes::Show(style, buttons, text);
+    if (buttons != BoxButtons::Ok) out_ << "  answer " << answers[static_cast<int>(answer)] << '\n';
+    return answer;
+  }
+
+ private:
+  std::ostream& out_;
+};
+
+/// The save dialog: file names of the queue, in the folder of the script.
+class PrintedDialog : public MemoryDialog {
+ public:
+  PrintedDialog(std::ostream& out, const std::string& folder) : out_(out), folder_(folder) {}
+
+  std::optional<std::string> AskPath(const std::string& suggestedName, const std::string& filter) override {
+    out_ << "  dialog " << Escaped(suggestedName) << '\n';
+    const std::optional<std::string> name = MemoryDialog::AskPath(suggestedName, filter);
+    out_ << (name ? "  file " + Escaped(*name) : "  cancel") << '\n';
+    if (!name) return name;
+    // A name that would leave the folder is none, as ".." is none.
+    return Join(folder_, "/", IsFileName(*name) ? *name : "..");
+  }
+
+ private:
+  std::ostream& out_;
+  std::string folder_;
+};
+
+}  // namespace qismora::testing
