@@ -1,0 +1,46 @@
+#pragma once
+
+#include <QApplication>
+#include <QEvent>
+#include <QTimer>
+#include <QWidget>
+#include <cstdio>
+#include <ctime>
+#include <fstream>
+#include <functional>
+#include <string>
+#include <utility>
+
+/// Calls once, when the window has been painted.
+class FirstPaint : public QObject {
+ public:
+  FirstPaint(QWidget* window, std::function<void()> painted) : QObject(window), painted_(std::move(painted)) {
+    window->installEventFilter(this);
+  }
+
+  bool eventFilter(QObject* window, QEvent* event) override {
+    if (event->type() == QEvent::Paint) {
+      window->removeEventFilter(this);
+      QTimer::singleShot(0, this, [this] { painted_(); });
+    }
+    return false;
+  }
+
+ private:
+  std::function<void()> painted_;
+};
+
+inline double Milliseconds() {
+  timespec now{};
+  clock_gettime(CLOCK_MONOTONIC, &now);
+  return static_cast<double>(now.tv_sec) * 1e3 + static_cast<double>(now.tv_nsec) / 1e6;
+}
+
+/// The most memory that the process has had, in MiB.
+inline double PeakMemory() {
+  std::ifstream status("/proc/self/status");
+  for (std::string line; std::getline(status, line);) {
+    if (line.starts_with("VmHWM:")) return std::stod(line.substr(6)) / 1024;
+  }
+  return 0;
+}

@@ -1,0 +1,27 @@
+// A bare program of so many plain widgets; it tells when it was painted and how much memory it took.
+
+#include <QGridLayout>
+#include <QLabel>
+#include <QRadioButton>
+
+#include "FirstPaint.h"
+
+int main(int argc, char** argv) {
+  QApplication application(argc, argv);
+  QWidget window;
+  window.resize(800, 600);
+  auto* grid = new QGridLayout(&window);
+  const int count = argc > 1 ? std::stoi(argv[1]) : 0;
+  for (int i = 0; i < count; ++i) {
+    const QString words = QStringLiteral("Widget number %1").arg(i);
+    QWidget* widget = i % 2 == 0 ? static_cast<QWidget*>(new QLabel(words)) : new QRadioButton(words);
+    grid->addWidget(widget, i / 4, i % 4);
+  }
+  FirstPaint painted(&window, [] {
+    std::printf("%.3f %.2f\n", Milliseconds(), PeakMemory());
+    std::fflush(stdout);
+    QApplication::exit();
+  });
+  window.show();
+  return QApplication::exec();
+}

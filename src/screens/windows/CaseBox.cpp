@@ -1,0 +1,78 @@
+#include "screens/windows/CaseBox.h"
+
+#include <QContextMenuEvent>
+#include <QKeyEvent>
+#include <QMenu>
+#include <QMouseEvent>
+#include <QStyleOptionFrame>
+#include <utility>
+
+namespace qismora {
+
+namespace {
+
+constexpr int rowMargin = 4;
+
+}  // namespace
+
+CaseBox::CaseBox(const QString& name, QWidget* parent) : QLineEdit(parent) { setObjectName(name); }
+
+QSize CaseBox::sizeHint() const {
+  return {QLineEdit::sizeHint().width(), fontMetrics().height() + rowMargin};
+}
+
+QSize CaseBox::minimumSizeHint() const { return {0, sizeHint().height()}; }
+
+void CaseBox::focusInEvent(QFocusEvent* event) {
+  entering_ = event->reason() == Qt::MouseFocusReason;
+  QLineEdit::focusInEvent(event);
+}
+
+// The first click into a box takes its whole text, as Tab does: what is typed next replaces the 0.
+void CaseBox::mouseReleaseEvent(QMouseEvent* event) {
+  QLineEdit::mouseReleaseEvent(event);
+  if (std::exchange(entering_, false) && !hasSelectedText()) selectAll();
+}
+
+void CaseBox::mouseDoubleClickEvent(QMouseEvent* event) {
+  if (event->button() != Qt::LeftButton) return QLineEdit::mouseDoubleClickEvent(event);
+  if (Toggle) Toggle();
+  selectAll();
+}
+
+void CaseBox::keyPressEvent(QKeyEvent* event) {
+  switch (event->key()) {
+    case Qt::Key_F2:
+      if (Toggle) Toggle();
+      selectAll();
+      return;
+    case Qt::Key_Up:
+      focusNextPrevChild(false);
+      return;
+    case Qt::Key_Down:
+      focusNextPrevChild(true);
+      return;
+    default:
+      QLineEdit::keyPressEvent(event);
+  }
+}
+
+void CaseBox::contextMenuEvent(QContextMenuEvent* event) {
+  QMenu* menu = createStandardContextMenu();
+  menu->setAttribute(Qt::WA_DeleteOnClose);
+  menu->addSeparator();
+  QAction* toggle = menu->addAction(tr("Toggle between 0 and 1"), this, [this] {
+    if (Toggle) Toggle();
+  });
+  toggle->setShortcut(Qt::Key_F2);
+  menu->popup(event->reason() == QContextMenuEvent::Keyboard ? mapToGlobal(rect().bottomLeft())
+                                                             : event->globalPos());
+}
+
+// A box that only tells has the colour of the form.
+void CaseBox::initStyleOption(QStyleOptionFrame* option) const {
+  QLineEdit::initStyleOption(option);
+  if (isReadOnly()) option->palette.setBrush(QPalette::Base, palette().window());
+}
+
+}  // namespace qismora

@@ -1,0 +1,32 @@
+#pragma once
+
+#include <QLineEdit>
+#include <functional>
+
+namespace qismora {
+
+/// A box that a figure of the case is typed into. A double click, F2 or an entry of its context menu
+/// toggles it; the arrows lead to the boxes above and below.
+class CaseBox : public QLineEdit {
+ public:
+  CaseBox(const QString& name, QWidget* parent);
+
+  std::function<void()> Toggle;
+
+  /// No higher than the rows of the form allow.
+  QSize sizeHint() const override;
+  QSize minimumSizeHint() const override;
+
+ protected:
+  void focusInEvent(QFocusEvent* event) override;
+  void mouseReleaseEvent(QMouseEvent* event) override;
+  void mouseDoubleClickEvent(QMouseEvent* event) override;
+  void keyPressEvent(QKeyEvent* event) override;
+  void contextMenuEvent(QContextMenuEvent* event) override;
+  void initStyleOption(QStyleOptionFrame* option) const override;
+
+ private:
+  bool entering_ = false;
+};
+
+}  // namespace qismora

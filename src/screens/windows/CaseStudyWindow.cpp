@@ -1,0 +1,165 @@
+#include "screens/windows/CaseStudyWindow.h"
+
+#include <QBoxLayout>
+#include <QCloseEvent>
+#include <QFontInfo>
+#include <QMenuBar>
+#include <QStatusBar>
+#include <QTimer>
+
+#include "screens/windows/CaptionLabel.h"
+#include "screens/windows/CaseMenu.h"
+#include "screens/windows/ClassIIPanel.h"
+#include "screens/windows/HeirsPanel.h"
+#include "screens/windows/HoverWatch.h"
+#include "screens/windows/ResultPanel.h"
+#include "screens/windows/TopStrip.h"
+#include "screens/windows/Utf8.h"
+
+namespace qismora {
+
+namespace {
+
+constexpr QSize windowSize{799, 599};
+constexpr QPoint windowPlace{0, -3};
+constexpr QSize caseSize{800, 600};
+constexpr int twips = 15;
+constexpr int margin = 6;
+constexpr int largestLetters = 12;
+
+}  // namespace
+
+CaseStudyWindow::CaseStudyWindow(CaseRecord& record, Outside& outside, int savedLanguage)
+    : form_(record, outside, savedLanguage) {
+  MakeCaptionsAccessible();
+  setObjectName(QStringLiteral("CaseStudy"));
+  setAccessibleName(tr("Case Study"));
+  setWindowTitle(tr("Case Study - Finding shares of Quranic Sharers"));
+  setAttribute(Qt::WA_DeleteOnClose);
+  form_.Hide = [this] { hide(); };
+  SetLetters();
+  FillCaseMenu(menuBar(), form_, binder_);
+  BuildStatusBar();
+  BuildFrame();
+  BuildTimer();
+  SetSizes();
+  OrderTabs();
+  KeepOnTop();
+}
+
+// The widgets go before the form that they show.
+CaseStudyWindow::~CaseStudyWindow() { delete takeCentralWidget(); }
+
+void CaseStudyWindow::BuildFrame() {
+  auto* ground = new QWidget(this);
+  frame_ = new QWidget(ground);
+  frame_->setObjectName(QStringLiteral("Frame111"));
+  frame_->setAccessibleName(tr("Case"));
+  // Made in the order in which Tab leads through them.
+  auto* top = new TopStrip(form_, binder_, frame_);
+  auto* heirs = new HeirsPanel(form_, binder_, frame_);
+  auto* classII = new ClassIIPanel(form_, binder_, frame_);
+  auto* result = new ResultPanel(form_, binder_, frame_);
+  auto* middle = new QHBoxLayout;
+  middle->setSpacing(margin + 2);
+  middle->addWidget(heirs, 0);
+  middle->addWidget(result, 1);
+  auto* rows = new QVBoxLayout(frame_);
+  rows->setSpacing(margin - 2);
+  rows->addWidget(top);
+  rows->addLayout(middle, 1);
+  rows->addWidget(classII);
+  setCentralWidget(ground);
+
+  WhenMouseMoves(classII, [this] { form_.Frame3_MouseMove(); });
+  for (QWidget* widget : {frame_, ground, static_cast<QWidget*>(this)}) {
+    WhenMouseMoves(widget, [this] { form_.Frame111_MouseMove(); });
+  }
+  const auto place = [this] { frame_->move(form_.Frame111Left / twips, form_.Frame111Top / twips); };
+  Binder::Follow(form_.Frame111Left, place);
+  Binder::Follow(form_.Frame111Top, place);
+}
+
+void CaseStudyWindow::BuildStatusBar() {
+  statusBar()->setObjectName(QStringLiteral("StatusBar1"));
+  statusBar()->setAccessibleName(tr("Status bar"));
+  auto* panel = new QLabel(this);
+  panel->setObjectName(QStringLiteral("StatusBar1.Panel1"));
+  panel->setAccessibleName(tr("What was last computed"));
+  binder_.Caption(form_.StatusBar1, panel);
+  statusBar()->addWidget(panel, 1);
+}
+
+void CaseStudyWindow::BuildTimer() {
+  auto* timer = new QTimer(this);
+  timer->setObjectName(QStringLiteral("Timer1"));
+  connect(timer, &QTimer::timeout, this, [this] { form_.Timer1_Timer(); });
+  Binder::Follow(form_.Timer1, [this, timer] {
+    timer->stop();
+    timer->setInterval(form_.Timer1);
+    if (form_.Timer1 > 0) timer->start();
+  });
+}
+
+// The form holds letters of this size; larger ones come with the scale of the desktop.
+void CaseStudyWindow::SetLetters() {
+  QFont letters = font();
+  if (QFontInfo(letters).pixelSize() <= largestLetters) return;
+  letters.setPixelSize(largestLetters);
+  setFont(letters);
+}
+
+// Menu and status bar take their part of the form's height. Should letters be taller than usual, the window
+// grows rather than cut them.
+void CaseStudyWindow::SetSizes() {
+  const int bars = menuBar()->sizeHint().height() + statusBar()->sizeHint().height();
+  const int below = caseSize.height() - windowSize.height() + bars;
+  frame_->layout()->setContentsMargins(margin, margin, margin + 1, below + margin);
+  const QSize more = frame_->layout()->totalMinimumSize().expandedTo(caseSize) - caseSize;
+  frame_->resize(caseSize + more);
+  resize(windowSize + more);
+  setMinimumSize(windowSize + more);
+}
+
+void CaseStudyWindow::KeepOnTop() {
+  setWindowFlag(Qt::WindowStaysOnTopHint);
+  move(windowPlace);
+}
+
+// Tab leads from box to box, as a case is typed, and only then to the captions that compute.
+void CaseStudyWindow::OrderTabs() {
+  QWidget* last = nullptr;
+  const auto chain = [&](const QList<QWidget*>& widgets, bool captions) {
+    for (QWidget* widget : widgets) {
+      if ((widget->focusPolicy() & Qt::TabFocus) == 0) continue;
+      if ((dynamic_cast<CaptionLabel*>(widget) != nullptr) != captions) continue;
+      if (last != nullptr) setTabOrder(last, widget);
+      last = widget;
+    }
+  };
+  const QList<QWidget*> all = frame_->findChildren<QWidget*>();
+  chain(all, false);
+  chain(all, true);
+}
+
+void CaseStudyWindow::TellSize() {
+  form_.Form_Resize(isMaximized() || isFullScreen(), width() * twips, height() * twips);
+}
+
+void CaseStudyWindow::resizeEvent(QResizeEvent* event) {
+  QMainWindow::resizeEvent(event);
+  TellSize();
+}
+
+void CaseStudyWindow::changeEvent(QEvent* event) {
+  QMainWindow::changeEvent(event);
+  if (event->type() == QEvent::WindowStateChange) TellSize();
+  if (event->type() == QEvent::PaletteChange) binder_.Recolour();
+}
+
+void CaseStudyWindow::closeEvent(QCloseEvent* event) {
+  form_.Form_QueryUnload();
+  event->accept();
+}
+
+}  // namespace qismora

@@ -1,0 +1,48 @@
+#include "screens/windows/Colours.h"
+
+#include <algorithm>
+#include <cmath>
+
+#include "case/Controls.h"
+
+namespace qismora {
+
+namespace {
+
+constexpr double leastContrast = 4.5;
+constexpr float step = 0.02F;
+
+double Linear(float channel) {
+  return channel <= 0.04045F ? channel / 12.92 : std::pow((channel + 0.055) / 1.055, 2.4);
+}
+
+double Luminance(const QColor& colour) {
+  return 0.2126 * Linear(colour.redF()) + 0.7152 * Linear(colour.greenF()) + 0.0722 * Linear(colour.blueF());
+}
+
+double Contrast(const QColor& one, const QColor& other) {
+  const double a = Luminance(one) + 0.05;
+  const double b = Luminance(other) + 0.05;
+  return std::max(a, b) / std::min(a, b);
+}
+
+}  // namespace
+
+QColor Readable(QColor wanted, const QColor& ground) {
+  const float towards = Luminance(ground) < 0.18 ? step : -step;
+  while (Contrast(wanted, ground) < leastContrast) {
+    const float lightness = wanted.lightnessF() + towards;
+    if (lightness < 0.0F || lightness > 1.0F) return towards > 0 ? QColor(Qt::white) : QColor(Qt::black);
+    wanted = QColor::fromHslF(std::max(wanted.hslHueF(), 0.0F), wanted.hslSaturationF(), lightness);
+  }
+  return wanted;
+}
+
+QColor InkOf(int colour, const QPalette& palette, QPalette::ColorRole text, QPalette::ColorRole ground) {
+  if (colour == HighlightColour) return Readable(palette.color(QPalette::Highlight), palette.color(ground));
+  if (colour <= Black) return palette.color(text);
+  const QColor wanted(colour & 0xFF, (colour >> 8) & 0xFF, (colour >> 16) & 0xFF);
+  return Readable(wanted, palette.color(ground));
+}
+
+}  // namespace qismora

@@ -1,0 +1,140 @@
+#include "screens/windows/Ports.h"
+
+#include <QApplication>
+#include <QDir>
+#include <QFileDialog>
+#include <QFileInfo>
+#include <QMessageBox>
+#include <QSettings>
+#include <QStandardPaths>
+#include <algorithm>
+#include <chrono>
+#include <ctime>
+
+#include "screens/windows/Utf8.h"
+
+namespace qismora {
+
+namespace {
+
+struct ButtonRow {
+  QMessageBox::StandardButton Button;
+  Answer Meaning;
+};
+
+constexpr ButtonRow answers[] = {
+    {QMessageBox::Ok, Answer::Ok},
+    {QMessageBox::Yes, Answer::Yes},
+    {QMessageBox::No, Answer::No},
+    {QMessageBox::Cancel, Answer::Cancel},
+};
+
+QMessageBox::StandardButtons Offered(BoxButtons buttons) {
+  switch (buttons) {
+    case BoxButtons::YesNo:
+      return QMessageBox::Yes | QMessageBox::No;
+    case BoxButtons::YesNoCancel:
+      return QMessageBox::Yes | QMessageBox::No | QMessageBox::Cancel;
+    default:
+      return QMessageBox::Ok;
+  }
+}
+
+QMessageBox::Icon IconOf(BoxStyle style) {
+  switch (style) {
+    case BoxStyle::Information:
+      return QMessageBox::Information;
+    case BoxStyle::Warning:
+      return QMessageBox::Warning;
+    case BoxStyle::Critical:
+      return QMessageBox::Critical;
+    default:
+      return QMessageBox::NoIcon;
+  }
+}
+
+// The window that a box belongs to. Without one it would come up behind a window that stays on top.
+QWidget* Owner() {
+  if (QWidget* active = QApplication::activeWindow()) return active;
+  const QWidgetList windows = QApplication::topLevelWidgets();
+  const auto shown = std::ranges::find_if(windows, [](const QWidget* window) {
+    return window->isVisible() && window->windowType() == Qt::Window;
+  });
+  return shown == windows.end() ? nullptr : *shown;
+}
+
+bool CanWrite(const QString& folder) {
+  const QFileInfo info(folder);
+  return info.isDir() && info.isWritable();
+}
+
+QSettings Open(const std::string& application) {
+  return {QSettings::NativeFormat, QSettings::UserScope, QStringLiteral("Qismora"), ToQt(application)};
+}
+
+QString Path(const std::string& section, const std::string& key) {
+  return ToQt(section) + QLatin1Char('/') + ToQt(key);
+}
+
+}  // namespace
+
+DateTime SystemClock::Now() {
+  const std::time_t now = std::chrono::system_clock::to_time_t(std::chrono::system_clock::now());
+  std::tm local{};
+  localtime_r(&now, &local);
+  return {local.tm_year + 1900, local.tm_mon + 1, local.tm_mday, local.tm_hour, local.tm_min, local.tm_sec};
+}
+
+Answer QtMessageBoxes::Show(BoxStyle style, BoxButtons buttons, const std::string& text) {
+  QMessageBox box(IconOf(style), QString::fromUtf8(ApplicationTitle), ToQtLines(text), Offered(buttons),
+                  Owner());
+  box.setTextFormat(Qt::PlainText);
+  const int pressed = box.exec();
+  for (const ButtonRow& row : answers) {
+    if (row.Button == pressed) return row.Meaning;
+  }
+  return Answer::Cancel;
+}
+
+std::optional<std::string> QtSaveDialog::AskPath(const std::string& suggestedName,
+                                                 const std::string& filter) {
+  const QString program = ToQt(places_.Application());
+  const QString words = ToQt(filter.substr(0, filter.find('|')));
+  QFileDialog dialog(Owner(), QString(), CanWrite(program) ? program : ToQt(places_.Reports()), words);
+  dialog.setObjectName(QStringLiteral("CommonDialog1"));
+  dialog.setAcceptMode(QFileDialog::AcceptSave);
+  dialog.setOption(QFileDialog::DontConfirmOverwrite);  // the command itself asks about replacing
+  dialog.setDefaultSuffix(QStringLiteral("txt"));
+  dialog.selectFile(ToQt(suggestedName));
+  if (dialog.exec() != QDialog::Accepted || dialog.selectedFiles().isEmpty()) return std::nullopt;
+  return FromQt(dialog.selectedFiles().constFirst());
+}
+
+std::string QtSettings::Read(const std::string& application, const std::string& section,
+                             const std::string& key) {
+  QSettings store = Open(application);
+  store.setFallbacksEnabled(false);
+  return FromQt(store.value(Path(section, key)).toString());
+}
+
+// What stands there already is not written again: opening a screen would otherwise touch the disk.
+void QtSettings::Write(const std::string& application, const std::string& section, const std::string& key,
+                       const std::string& value) {
+  QSettings store = Open(application);
+  store.setFallbacksEnabled(false);
+  const QString path = Path(section, key);
+  if (store.contains(path) && store.value(path).toString() == ToQt(value)) return;
+  store.setValue(path, ToQt(value));
+}
+
+std::string SystemFolders::Reports() {
+  const QString current = QDir::currentPath();
+  if (CanWrite(current)) return FromQt(current);
+  const QString documents = QStandardPaths::writableLocation(QStandardPaths::DocumentsLocation);
+  QDir().mkpath(documents);
+  return FromQt(documents);
+}
+
+std::string SystemFolders::Application() { return FromQt(QCoreApplication::applicationDirPath()); }
+
+}  // namespace qismora

@@ -1,0 +1,44 @@
+#pragma once
+
+#include "base/Outside.h"
+
+namespace qismora {
+
+// The ports to the outside world as they are in the running program.
+
+class SystemClock : public Clock {
+ public:
+  DateTime Now() override;
+};
+
+class QtMessageBoxes : public MessageBoxes {
+ public:
+  Answer Show(BoxStyle style, BoxButtons buttons, const std::string& text) override;
+};
+
+/// Begins in the program's folder, or where reports lie if the program's folder cannot be written to.
+class QtSaveDialog : public SaveDialog {
+ public:
+  explicit QtSaveDialog(Folders& places) : places_(places) {}
+  std::optional<std::string> AskPath(const std::string& suggestedName, const std::string& filter) override;
+
+ private:
+  Folders& places_;
+};
+
+/// One file for each application, in the user's folder for settings.
+class QtSettings : public Settings {
+ public:
+  std::string Read(const std::string& application, const std::string& section,
+                   const std::string& key) override;
+  void Write(const std::string& application, const std::string& section, const std::string& key,
+             const std::string& value) override;
+};
+
+class SystemFolders : public Folders {
+ public:
+  std::string Reports() override;
+  std::string Application() override;
+};
+
+}  // namespace qismora

@@ -1,0 +1,40 @@
+#include "screens/windows/VideoPanel.h"
+
+#include <QKeyEvent>
+#include <QMouseEvent>
+#include <utility>
+
+namespace qismora {
+
+VideoPanel::VideoPanel(QWidget* parent) : QFrame(parent) {
+  setObjectName(QStringLiteral("Frame5"));
+  setAccessibleName(tr("Animation"));
+}
+
+void VideoPanel::keyPressEvent(QKeyEvent* event) {
+  switch (event->key()) {
+    case Qt::Key_Return:
+    case Qt::Key_Enter:
+      if (Clicked) Clicked();
+      return;
+    case Qt::Key_Space:
+      if (DoubleClicked) DoubleClicked();
+      return;
+    default:
+      QFrame::keyPressEvent(event);
+  }
+}
+
+void VideoPanel::mousePressEvent(QMouseEvent* event) { down_ = event->button() == Qt::LeftButton; }
+
+// A double click comes behind the click of its first half; the release of its second half is none.
+void VideoPanel::mouseReleaseEvent(QMouseEvent* event) {
+  const bool clicked = std::exchange(down_, false) && rect().contains(event->position().toPoint());
+  if (clicked && Clicked) Clicked();
+}
+
+void VideoPanel::mouseDoubleClickEvent(QMouseEvent* event) {
+  if (event->button() == Qt::LeftButton && DoubleClicked) DoubleClicked();
+}
+
+}  // namespace qismora

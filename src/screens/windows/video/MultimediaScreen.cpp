@@ -1,0 +1,68 @@
+#include <QMediaPlayer>
+#include <QPainter>
+#include <QUrl>
+#include <QVideoFrame>
+#include <QVideoSink>
+#include <QWidget>
+
+#include "screens/windows/video/VideoScreen.h"
+
+namespace qismora {
+
+namespace {
+
+/// Draws the frames itself: no window of the graphics system, no sound.
+class MultimediaScreen : public QWidget, public VideoScreen {
+ public:
+  explicit MultimediaScreen(QWidget* panel) : QWidget(panel), player_(new QMediaPlayer(this)) {
+    setObjectName(QStringLiteral("MediaPlayer1"));
+    setAccessibleName(tr("Animation"));
+    setAttribute(Qt::WA_TransparentForMouseEvents);
+    resize(panel->size());
+    auto* sink = new QVideoSink(this);
+    player_->setVideoSink(sink);
+    connect(sink, &QVideoSink::videoFrameChanged, this, [this](const QVideoFrame& frame) {
+      if (!frame.isValid()) return;
+      image_ = frame.toImage();
+      update();
+    });
+    // The next file is set when the player has done with this one.
+    connect(
+        player_, &QMediaPlayer::mediaStatusChanged, this,
+        [this](QMediaPlayer::MediaStatus status) {
+          if (status == QMediaPlayer::EndOfMedia && EndOfPlay) EndOfPlay();
+        },
+        Qt::QueuedConnection);
+    show();
+  }
+
+  void Play(const QString& file) override {
+    player_->stop();
+    player_->setSource(QUrl::fromLocalFile(file));
+    player_->play();
+  }
+
+ protected:
+  void paintEvent(QPaintEvent*) override {
+    if (image_.isNull()) return;
+    QRect place(QPoint(), image_.size().scaled(size(), Qt::KeepAspectRatio));
+    place.moveCenter(rect().center());
+    QPainter painter(this);
+    painter.setRenderHint(QPainter::SmoothPixmapTransform);
+    painter.drawImage(place, image_);
+  }
+
+ private:
+  QMediaPlayer* player_;
+  QImage image_;
+};
+
+}  // namespace
+
+}  // namespace qismora
+
+// The default backend crashes on machines without its own plugins; the other one plays everywhere.
+extern "C" Q_DECL_EXPORT qismora::VideoScreen* MakeQismoraVideoScreen(QWidget* panel) {
+  qputenv("QT_MEDIA_BACKEND", "ffmpeg");
+  return new qismora::MultimediaScreen(panel);
+}

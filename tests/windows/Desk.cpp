@@ -1,0 +1,86 @@
+#include "Desk.h"
+
+#include <QAbstractButton>
+#include <QApplication>
+#include <QLabel>
+#include <QLineEdit>
+
+#include "base/NumberText.h"
+
+namespace qismora::testing {
+
+Desk::Desk() : before_(QDir::currentPath()) {
+  qputenv("XDG_CONFIG_HOME", home_.path().toLocal8Bit());
+  QDir::setCurrent(home_.path());
+  QObject::connect(&watchdog_, &QTimer::timeout, &watchdog_, [this] {
+    if (auto* box = qobject_cast<QMessageBox*>(QApplication::activeModalWidget())) Answer(*box);
+  });
+  watchdog_.start(1);
+  Open();
+}
+
+Desk::~Desk() {
+  delete window_;
+  QDir::setCurrent(before_);
+}
+
+void Desk::Open() {
+  delete window_;
+  const Double view = ParsePrefix(Store.Read(ApplicationTitle, "LanguageSetting", "LblPressed"));
+  window_ = new CaseStudyWindow(Record, outside_, static_cast<int>(view.Value()));
+  window_->show();
+  if (!QTest::qWaitForWindowActive(window_)) qFatal("the window does not come up");
+}
+
+void Desk::Answer(QMessageBox& box) {
+  QAbstractButton* button = box.buttons().constFirst();
+  if (!ignore_) {
+    const bool known = !expected_.empty() && box.text().contains(expected_.front().Words);
+    if (known) {
+      button = box.button(expected_.front().Answer);
+      expected_.pop_front();
+    } else {
+      ++surprises_;
+      qWarning("unexpected box: %s", qPrintable(box.text()));
+    }
+  }
+  QTest::mouseClick(button, Qt::LeftButton);
+}
+
+void Desk::Expect(const QString& words, QMessageBox::StandardButton answer) {
+  expected_.push_back({words, answer});
+}
+
+void Desk::Type(const char* box, const QString& text) {
+  window_->activateWindow();
+  auto* widget = Find<QLineEdit>(box);
+  QTest::mouseClick(widget, Qt::LeftButton);
+  QTest::keyClick(widget, Qt::Key_A, Qt::ControlModifier);
+  QTest::keyClicks(widget, text);
+}
+
+void Desk::Click(const char* name) { QTest::mouseClick(Find(name), Qt::LeftButton); }
+
+void Desk::DoubleClick(const char* name) { QTest::mouseDClick(Find(name), Qt::LeftButton); }
+
+void Desk::DoubleClickAt(const char* name) {
+  QWidget* widget = Find(name);
+  const QPoint place = widget->mapTo(window_.data(), widget->rect().center());
+  QTest::mouseDClick(window_->windowHandle(), Qt::LeftButton, {}, place);
+}
+
+void Desk::MoveTo(const char* name, QPoint place) {
+  QWidget* widget = Find(name);
+  if (place.isNull()) place = widget->rect().center();
+  QTest::mouseMove(window_->windowHandle(), widget->mapTo(window_.data(), place));
+}
+
+void Desk::Key(const char* name, Qt::Key key) {
+  window_->activateWindow();
+  Find(name)->setFocus(Qt::TabFocusReason);
+  QTest::keyClick(Find(name), key);
+}
+
+QString Desk::TextOf(const char* label) { return Find<QLabel>(label)->text(); }
+
+}  // namespace qismora::testing

@@ -1,0 +1,80 @@
+#pragma once
+
+#include <QAction>
+#include <QDir>
+#include <QMessageBox>
+#include <QPointer>
+#include <QTemporaryDir>
+#include <QTest>
+#include <QTimer>
+#include <deque>
+
+#include "screens/windows/CaseStudyWindow.h"
+#include "screens/windows/Ports.h"
+
+namespace qismora::testing {
+
+/// A Case Study window on the offscreen desk of a user who has just arrived: empty settings, an empty
+/// folder, and somebody who answers the boxes that are expected and reports those that are not.
+class Desk {
+ public:
+  Desk();
+  ~Desk();
+
+  CaseStudyWindow& Window() { return *window_; }
+  CaseStudy& Form() { return window_->Form(); }
+  bool IsOpen() const { return window_ != nullptr; }
+  /// Opens a window as the program does, the view taken from the settings.
+  void Open();
+
+  template <class Widget = QWidget>
+  Widget* Find(const char* name) {
+    auto* found = window_->findChild<Widget*>(QString::fromLatin1(name));
+    if (found == nullptr) qFatal("there is no %s", name);
+    return found;
+  }
+
+  /// Clicks into the box and types, as a person does.
+  void Type(const char* box, const QString& text);
+  void Click(const char* name);
+  void DoubleClick(const char* name);
+  /// A double click that takes its way through the window, down to what lies on top at that place.
+  void DoubleClickAt(const char* name);
+  /// Moves the mouse over the widget, or whatever lies on top of it; to its middle if no place is given.
+  void MoveTo(const char* name, QPoint place = {});
+  void Key(const char* name, Qt::Key key);
+  QString TextOf(const char* label);
+
+  /// The next box says this; its button is clicked with the mouse.
+  void Expect(const QString& words, QMessageBox::StandardButton answer = QMessageBox::Ok);
+  /// Boxes are of no interest; each is closed.
+  void IgnoreBoxes() { ignore_ = true; }
+  /// True when all expected boxes came and no others.
+  bool AllAnswered() const { return expected_.empty() && surprises_ == 0; }
+
+  CaseRecord Record;
+  QtSettings Store;
+
+ private:
+  struct Expected {
+    QString Words;
+    QMessageBox::StandardButton Answer;
+  };
+
+  void Answer(QMessageBox& box);
+
+  QTemporaryDir home_;
+  QString before_;
+  SystemClock clock_;
+  QtMessageBoxes boxes_;
+  SystemFolders places_;
+  QtSaveDialog dialog_{places_};
+  Outside outside_{clock_, boxes_, dialog_, Store, places_};
+  QPointer<CaseStudyWindow> window_;
+  QTimer watchdog_;
+  std::deque<Expected> expected_;
+  int surprises_ = 0;
+  bool ignore_ = false;
+};
+
+}  // namespace qismora::testing

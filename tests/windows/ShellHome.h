@@ -1,0 +1,87 @@
+#pragma once
+
+#include <QDesktopServices>
+#include <QDir>
+#include <QFile>
+#include <QTemporaryDir>
+#include <QUrl>
+#include <memory>
+
+#include "screens/windows/ProgramWindows.h"
+#include "screens/windows/ShellPorts.h"
+#include "screens/windows/Utf8.h"
+#include "shell/Documents.h"
+#include "support/MemoryOutside.h"
+
+namespace qismora::testing {
+
+/// The program with its real windows and ports, in a folder of its own. Only its end and the viewer of
+/// documents are caught.
+class ShellHome : public QObject {
+  Q_OBJECT
+
+ public:
+  ShellHome() : folders_(folder_.filePath(QStringLiteral("bin"))), dialog_(folders_) {
+    QDir(folder_.path()).mkpath(QStringLiteral("bin"));
+    QDesktopServices::setUrlHandler(QStringLiteral("file"), this, "open");
+    for (const char* application : {ApplicationTitle, "Qismora"}) {
+      QFile::remove(qEnvironmentVariable("XDG_CONFIG_HOME") + QStringLiteral("/Qismora/") +
+                    QString::fromUtf8(application) + QStringLiteral(".conf"));
+    }
+  }
+  ~ShellHome() override { QDesktopServices::unsetUrlHandler(QStringLiteral("file")); }
+
+  ProgramWindows& Start(const QStringList& pluginFolders = {}) {
+    windows_.reset();
+    player_ = std::make_unique<QtVideoPlayer>(pluginFolders);
+    outside_ = std::make_unique<ShellOutside>(
+        ShellOutside{{clock_, boxes_, dialog_, settings_, folders_}, viewer_, *player_, memory_, Ended});
+    windows_ = std::make_unique<ProgramWindows>(*outside_, *player_);
+    windows_->ShowMainMenu();
+    return *windows_;
+  }
+
+  QString File(const QString& name) const { return folder_.filePath(QStringLiteral("bin/") + name); }
+
+  void Put(const QString& path, const QByteArray& content) const {
+    QFile file(path);
+    QDir().mkpath(QFileInfo(path).path());
+    if (file.open(QIODevice::WriteOnly)) file.write(content);
+  }
+
+  void PutDocuments() const {
+    for (const Document& document : Documents) {
+      Put(folder_.filePath(QStringLiteral("documents/") + ToQt(document.FileName)), "%PDF-1.4");
+    }
+  }
+
+  QStringList LogLines() const {
+    QFile file(File(QStringLiteral("popuQism.ppl")));
+    if (!file.open(QIODevice::ReadOnly)) return {};
+    return QString::fromUtf8(file.readAll()).split(QStringLiteral("\r\n"), Qt::SkipEmptyParts);
+  }
+
+  QtVideoPlayer& Player() { return *player_; }
+  Settings& Store() { return settings_; }
+
+  MemoryProgram Ended;
+  QStringList Opened;
+
+ public slots:
+  void open(const QUrl& url) { Opened.append(QFileInfo(url.toLocalFile()).fileName()); }
+
+ private:
+  QTemporaryDir folder_;
+  SystemClock clock_;
+  QtMessageBoxes boxes_;
+  ProgramFolders folders_;
+  QtSaveDialog dialog_;
+  QtSettings settings_;
+  QtDocumentViewer viewer_;
+  SystemMemory memory_;
+  std::unique_ptr<QtVideoPlayer> player_;
+  std::unique_ptr<ShellOutside> outside_;
+  std::unique_ptr<ProgramWindows> windows_;
+};
+
+}  // namespace qismora::testing

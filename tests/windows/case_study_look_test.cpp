@@ -1,0 +1,193 @@
+#include <QApplication>
+#include <QCheckBox>
+#include <QComboBox>
+#include <QGroupBox>
+#include <QLabel>
+#include <QLineEdit>
+#include <QMenuBar>
+#include <QPlainTextEdit>
+#include <QPushButton>
+#include <QStatusBar>
+#include <QStyle>
+#include <algorithm>
+#include <cmath>
+#include <optional>
+
+#include "Desk.h"
+#include "screens/windows/Colours.h"
+#include "screens/windows/OutlinedStyle.h"
+
+using qismora::testing::Desk;
+
+namespace {
+
+/// The elements that the control arrays have, and the controls that stand alone.
+struct Names {
+  const char* Name;
+  int First;
+  int Last;
+};
+constexpr Names arrays[] = {
+    {"Text1", 1, 7},   {"Text1", 13, 33}, {"Label1", 0, 7},   {"Label1", 12, 33}, {"Check1", 0, 11},
+    {"Label4", 0, 2},  {"Image30", 0, 1}, {"Image41", 0, 22}, {"Frame4", 0, 2},   {"Frame6", 0, 2},
+    {"Image37", 0, 5}, {"Image42", 0, 2}, {"Image6", 0, 1},   {"Image4", 0, 1},   {"Image7", 0, 1},
+};
+constexpr const char* single[] = {
+    "Frame111", "Frame1", "Frame3",  "Frame5",       "Frame7",         "Combo1",      "Label2",
+    "Label3",   "Label6", "Label13", "Text2",        "Text3",          "Image2",      "Image38",
+    "AulRadd",  "Image9", "Image29", "FullReportxx", "SelectedReport", "Residuaries", "StatusBar1",
+};
+constexpr const char* entries[] = {
+    "Back",  "AulRaddxx", "TestValues", "CaseAnalysis",         "FullReport",  "Exec",
+    "Resid", "AulRad",    "About",      "CreateSaveFullReport", "SaveResults",
+};
+
+double Luminance(const QColor& colour) {
+  const auto part = [](float c) { return c <= 0.04045F ? c / 12.92 : std::pow((c + 0.055) / 1.055, 2.4); };
+  return 0.2126 * part(colour.redF()) + 0.7152 * part(colour.greenF()) + 0.0722 * part(colour.blueF());
+}
+
+bool CanBeRead(const QColor& ink, const QColor& ground) {
+  const auto [dark, bright] = std::minmax({Luminance(ink), Luminance(ground)});
+  return (bright + 0.05) / (dark + 0.05) >= 4.5;
+}
+
+/// How wide a widget has to be for its words, 0 when it has none.
+int WidthOfWords(const QWidget* widget) {
+  if (const auto* label = qobject_cast<const QLabel*>(widget)) {
+    return label->text().isEmpty() ? 0 : label->sizeHint().width();
+  }
+  if (const auto* group = qobject_cast<const QGroupBox*>(widget)) {
+    return group->fontMetrics().horizontalAdvance(group->title());
+  }
+  const bool sized = qobject_cast<const QAbstractButton*>(widget) || qobject_cast<const QComboBox*>(widget);
+  return sized ? widget->minimumSizeHint().width() : 0;
+}
+
+}  // namespace
+
+class CaseStudyLookTest : public QObject {
+  Q_OBJECT
+
+ private slots:
+  void initTestCase() {
+    QApplication::setStyle(new qismora::OutlinedStyle);
+    QFont letters(QStringLiteral("DejaVu Sans"));
+    letters.setPixelSize(12);
+    QApplication::setFont(letters);
+  }
+  void init() { desk_.emplace(); }
+  void cleanup() { desk_.reset(); }
+
+  void EveryControlHasItsName() {
+    for (const Names& row : arrays) {
+      for (int i = row.First; i <= row.Last; ++i) {
+        const QString name = QStringLiteral("%1(%2)").arg(QLatin1String(row.Name)).arg(i);
+        QVERIFY2(desk_->Find(qPrintable(name)) != nullptr, qPrintable(name));
+      }
+    }
+    for (const char* name : single) QVERIFY2(!desk_->Find(name)->accessibleName().isEmpty(), name);
+    for (const char* name : entries) QVERIFY2(desk_->Find<QAction>(name) != nullptr, name);
+    for (const char* name : {"AulRaddxx", "TestValues"}) QVERIFY(!desk_->Find<QAction>(name)->isVisible());
+    for (const char* name : {"SelectedReport", "Residuaries"}) QVERIFY(!desk_->Find(name)->isVisible());
+    QVERIFY(desk_->Find<QLineEdit>("Text1(29)")->isReadOnly());
+    QVERIFY(desk_->Window().windowFlags() & Qt::WindowStaysOnTopHint);
+  }
+
+  // Whatever can be reached or read aloud has words; a caption names its box.
+  void EveryControlIsSpoken() {
+    for (const QWidget* widget : desk_->Find("Frame111")->findChildren<QWidget*>()) {
+      if (widget->objectName().isEmpty() || widget->objectName().startsWith("qt_")) continue;
+      QVERIFY2(!widget->accessibleName().isEmpty(), qPrintable(widget->objectName()));
+    }
+    for (const auto* box : desk_->Find("Frame111")->findChildren<QLineEdit*>()) {
+      const auto labels = desk_->Window().findChildren<QLabel*>();
+      const bool named = std::ranges::any_of(labels, [box](QLabel* label) { return label->buddy() == box; });
+      QVERIFY2(named, qPrintable(box->objectName()));
+    }
+  }
+
+  // Tab leads from the gender through all boxes, then on through everything else, and back to the gender.
+  void TabGoesRound() {
+    QWidget* first = desk_->Find("Combo1");
+    first->setFocus();
+    QStringList way;
+    do {
+      QTest::keyClick(QApplication::focusWidget(), Qt::Key_Tab);
+      way += QApplication::focusWidget()->objectName();
+    } while (QApplication::focusWidget() != first && way.size() < 200);
+    QVERIFY(way.size() < 100);
+    QCOMPARE(way.mid(0, 4), QStringList({"Text1(24)", "Text1(1)", "Text1(2)", "Text1(3)"}));
+    for (const char* name : {"Check1(11)", "FullReportxx", "Image2", "Label1(33)", "Label4(0)", "Label13",
+                             "Label6", "Image37(2)", "AboutLink"}) {
+      QVERIFY2(way.contains(QLatin1String(name)), name);
+    }
+    QVERIFY(!way.contains("Text2"));
+  }
+
+  void NothingIsClipped_data() {
+    QTest::addColumn<int>("view");
+    QTest::addColumn<bool>("result");
+    for (const int view : {0, 1, 2}) {
+      QTest::addRow("view %d", view) << view << false;
+      QTest::addRow("view %d with a result", view) << view << true;
+    }
+  }
+  void NothingIsClipped() {
+    QFETCH(const int, view);
+    QFETCH(const bool, result);
+    desk_->Form().Label4_Click(view);
+    desk_->Form().Frame5.Visible = !result;
+    desk_->Form().AulRadd.Visible = result;
+    QTest::qWait(1);
+    const QWidget* ground = desk_->Window().centralWidget();
+    const QRect room(QPoint(), QSize(799, ground->height()));
+    for (const QWidget* widget : desk_->Find("Frame111")->findChildren<QWidget*>()) {
+      if (!widget->isVisible()) continue;
+      const QByteArray name = widget->objectName().toUtf8();
+      QVERIFY2(room.contains(QRect(widget->mapTo(ground, QPoint()), widget->size())), name);
+      if (name != "Label2" && name != "Label3") QVERIFY2(WidthOfWords(widget) <= widget->width(), name);
+    }
+    QCOMPARE(desk_->Window().size(), QSize(799, 599));
+  }
+
+  void BoxesHoldTheirFigures() {
+    for (const auto* box : desk_->Find("Frame1")->findChildren<QLineEdit*>()) {
+      const QString widest = box->width() > 60 ? QStringLiteral("-2147483647") : QStringLiteral("100");
+      const int frame = 2 * box->style()->pixelMetric(QStyle::PM_DefaultFrameWidth) + 4;
+      QVERIFY(box->fontMetrics().horizontalAdvance(widest) + frame <= box->width());
+      QVERIFY(box->fontMetrics().height() <= box->height() - 4);
+      for (const auto* label : desk_->Find("Frame1")->findChildren<QLabel*>()) {
+        if (label->text().isEmpty() || label->buddy() == nullptr) continue;
+        QVERIFY(!label->geometry().intersects(box->geometry()));
+      }
+    }
+  }
+
+  // What the program colours can be read on bright and on dark desktops, also when they change.
+  void ColoursCanBeRead() {
+    const QPalette before = QApplication::palette();
+    desk_->Form().Text3.ForeColor = qismora::Red;
+    for (const QColor ground : {QColor(Qt::white), QColor(53, 53, 53), QColor(Qt::black)}) {
+      QPalette palette(ground);
+      palette.setColor(QPalette::Base, ground);
+      palette.setColor(QPalette::Text, palette.color(QPalette::WindowText));
+      QApplication::setPalette(palette);
+      QTRY_COMPARE(desk_->Window().palette().color(QPalette::Window), ground);
+      const auto ink = [this](const char* name, QPalette::ColorRole role) {
+        return desk_->Find(name)->palette().color(role);
+      };
+      QVERIFY(CanBeRead(ink("Text3", QPalette::Text), ground));
+      QVERIFY(CanBeRead(ink("Label4(0)", QPalette::WindowText), ground));
+      QVERIFY(CanBeRead(ink("Label6", QPalette::WindowText), ground));
+      QVERIFY(ink("Text3", QPalette::Text).red() > ink("Text3", QPalette::Text).green() + 60);
+    }
+    QApplication::setPalette(before);
+  }
+
+ private:
+  std::optional<Desk> desk_;
+};
+
+QTEST_MAIN(CaseStudyLookTest)
+#include "case_study_look_test.moc"

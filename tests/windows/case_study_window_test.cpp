@@ -1,0 +1,314 @@
+#include <QAccessible>
+#include <QApplication>
+#include <QCheckBox>
+#include <QComboBox>
+#include <QContextMenuEvent>
+#include <QFileDialog>
+#include <QGroupBox>
+#include <QLabel>
+#include <QLineEdit>
+#include <QMenu>
+#include <QPlainTextEdit>
+#include <optional>
+
+#include "Desk.h"
+
+using qismora::testing::Desk;
+
+namespace {
+
+const QString executed = QStringLiteral("Current data executed successfully.");
+
+}  // namespace
+
+class CaseStudyWindowTest : public QObject {
+  Q_OBJECT
+
+ private slots:
+  void init() { desk_.emplace(); }
+  void cleanup() {
+    QVERIFY(desk_->AllAnswered());
+    desk_.reset();
+  }
+
+  // A wife, a son and a daughter, from the keyboard to the distribution.
+  void PlaysAWorkedCase() {
+    desk_->Type("Text1(1)", "1");
+    desk_->Type("Text1(2)", "1");
+    desk_->Type("Text1(3)", "1");
+    desk_->Type("Text1(25)", "24000");
+    for (const char* box : {"Text1(26)", "Text1(27)", "Text1(28)"}) desk_->Type(box, "0");
+    QTest::keyClick(&desk_->Window(), Qt::Key_F5);
+    auto* report = desk_->Find<QPlainTextEdit>("Text3");
+    QTRY_VERIFY(report->isVisible());
+    QVERIFY(!desk_->Find("Frame5")->isVisible());
+    QVERIFY(!desk_->Find("Text2")->isVisible());
+    const QString text = report->toPlainText();
+    for (const char* line : {"WIFE (1) = 3000  (1/8)\n", "RESIDUE (Balance) = 21000 (7/8)\n",
+                             "SONS (1) = 14000 (14/24)\n", "DAUGHTERS (1) = 7000 (7/24)\n"}) {
+      QVERIFY2(text.contains(QString::fromUtf8(line)), line);
+    }
+    QVERIFY(!text.contains('\r'));
+    QCOMPARE(desk_->TextOf("Label2"), QString("SHARES AS RESIDUARY (ASABA')"));
+    QCOMPARE(desk_->TextOf("Label13"), QString("1"));
+    QCOMPARE(desk_->Find<QLineEdit>("Text1(29)")->text(), QString("24000"));
+  }
+
+  void OneHeir_data() {
+    QTest::addColumn<QString>("way");
+    for (const char* way : {"mouse", "on top", "Return", "Space", "menu", "press"}) {
+      QTest::newRow(way) << QString::fromLatin1(way);
+    }
+  }
+  // Every way to the share of one heir: the mouse, the keys, the context menu, a screen reader.
+  void OneHeir() {
+    QFETCH(const QString, way);
+    desk_->Type("Text1(16)", "1");
+    desk_->Expect(executed);
+    QWidget* caption = desk_->Find("Label1(16)");
+    if (way == "mouse") desk_->DoubleClick("Label1(16)");
+    if (way == "on top") desk_->DoubleClickAt("Image18");
+    if (way == "Return") desk_->Key("Label1(16)", Qt::Key_Return);
+    if (way == "Space") desk_->Key("Label1(16)", Qt::Key_Space);
+    if (way == "menu") ChooseFromMenu(caption, 0);
+    if (way == "press") {
+      QAccessibleInterface* spoken = QAccessible::queryAccessibleInterface(caption);
+      QCOMPARE(spoken->role(), QAccessible::Button);
+      spoken->actionInterface()->doAction(QAccessibleActionInterface::pressAction());
+    }
+    QTRY_VERIFY(desk_->AllAnswered());
+    QTRY_VERIFY(desk_->Find("Text2")->isVisible());
+    QCOMPARE(desk_->TextOf("Label2"), QString("MOTHER'S SHARE"));
+    QCOMPARE(desk_->TextOf("Label3"), QString("3333  (1/3)"));
+    QCOMPARE(desk_->TextOf("StatusBar1.Panel1"), QString("Share of Mother"));
+    QCOMPARE(desk_->TextOf("Label13"), QString("2"));
+  }
+
+  void SomeCaptionsDoNothing() {
+    for (const char* name : {"Label1(0)", "Label1(24)", "Label1(25)", "Label1(29)"}) desk_->DoubleClick(name);
+    QCOMPARE(desk_->TextOf("Label13"), QString("0"));
+    desk_->Expect(executed);
+    desk_->DoubleClick("Label1(12)");
+    QCOMPARE(desk_->TextOf("Label13"), QString("1"));
+  }
+
+  void BoxesToggle() {
+    auto* sons = desk_->Find<QLineEdit>("Text1(2)");
+    desk_->Type("Text1(2)", "3");
+    desk_->DoubleClick("Text1(2)");
+    QCOMPARE(sons->text(), QString("0"));
+    desk_->Key("Text1(2)", Qt::Key_F2);
+    QCOMPARE(sons->text(), QString("1"));
+    ChooseFromMenu(sons, -1);
+    QTRY_COMPARE(sons->text(), QString("0"));
+    desk_->DoubleClick("Text1(24)");
+    QCOMPARE(desk_->Find<QLineEdit>("Text1(24)")->text(), QString("ABDULLAH"));
+    // A click into a box takes the 0, so that the next key replaces it; the arrows lead on.
+    QTest::mouseClick(desk_->Find("Text1(3)"), Qt::LeftButton);
+    QTest::keyClicks(desk_->Find("Text1(3)"), "2");
+    QCOMPARE(desk_->Find<QLineEdit>("Text1(3)")->text(), QString("2"));
+    QTest::keyClick(desk_->Find("Text1(3)"), Qt::Key_Down);
+    QVERIFY(desk_->Find("Text1(4)")->hasFocus());
+  }
+
+  void GenderAndView() {
+    auto* gender = desk_->Find<QComboBox>("Combo1");
+    QTest::keyClick(gender, Qt::Key_Down);
+    QCOMPARE(desk_->TextOf("Label1(1)"), QString("Husband"));
+    QCOMPARE(desk_->Find("Text1(1)")->accessibleName(), QString("Husband"));
+    QCOMPARE(desk_->Find<QGroupBox>("Frame1")->title(), QString("Informations of the deceased Female"));
+    QVERIFY(desk_->Find("Image30(1)")->isVisible());
+
+    desk_->Click("Label4(2)");
+    QCOMPARE(gender->currentIndex(), 0);
+    QVERIFY(desk_->Find("Image41(5)")->isVisible());
+    QVERIFY(!desk_->Find("Image12")->isVisible());
+    QVERIFY(desk_->Find("Frame6(1)")->isVisible());
+    QVERIFY(!desk_->Find("Frame4(1)")->isVisible());
+    QVERIFY(desk_->Find<QLabel>("Label4(2)")->frameWidth() > 0);
+    QCOMPARE(desk_->Store.Read("Islamic Laws of Inheritance", "LanguageSetting", "LblPressed"),
+             std::string("2"));
+    QCOMPARE(desk_->Store.Read("Qismora", "LanguageSetting", "LblPressed"), std::string());
+
+    desk_->Open();
+    QVERIFY(desk_->Find("Frame6(0)")->isVisible());
+    desk_->Key("Label4(1)", Qt::Key_Space);
+    QVERIFY(!desk_->Find("Frame6(0)")->isVisible());
+    QVERIFY(desk_->Find("Image9")->isVisible());
+  }
+
+  // The panels over the captions of class II answer a question by a double click, and tick by a click.
+  void ClassIIPanels() {
+    auto* third = desk_->Find<QCheckBox>("Check1(4)");
+    QWidget* panel = desk_->Find("Image37(1)");
+    const QPoint line(10, panel->height() * 3 / 8);
+    QTest::mouseClick(panel, Qt::LeftButton, {}, line);
+    QVERIFY(third->isChecked());
+    desk_->Expect("WE ARE CLASS II RESIDUARIES");
+    QTest::mouseClick(panel, Qt::LeftButton, {}, line);
+    QTest::mouseDClick(panel, Qt::LeftButton, {}, line);
+    QVERIFY(third->isChecked());
+    QCOMPARE(desk_->TextOf("Label2"), QString("CLASS II RESIDUARY (ASABA')"));
+    desk_->Expect("WE ARE CLASS II RESIDUARIES");
+    desk_->Key("Image37(1)", Qt::Key_Return);
+    QVERIFY(third->isChecked());
+    QVERIFY(third->rect().right() >
+            panel->mapTo(&desk_->Window(), QPoint()).x() - third->mapTo(&desk_->Window(), QPoint()).x());
+  }
+
+  void OddTexts_data() {
+    QTest::addColumn<QString>("text");
+    QTest::newRow("empty") << "";
+    QTest::newRow("letters") << "three";
+    QTest::newRow("long") << QString(400, '9');
+    QTest::newRow("small") << "1e-400";
+    QTest::newRow("comma") << "1,000";
+    QTest::newRow("hexadecimal") << "&HFF";
+    QTest::newRow("right to left") << QString::fromUtf8("عبد الله ٣");
+    QTest::newRow("surrogates") << QString::fromUtf8("👪👪");
+    QTest::newRow("half a pair") << QString(QChar(0xD83D));
+    QTest::newRow("markup") << "<b>1</b>&amp;";
+  }
+  // Whatever stands in the boxes, a command ends and the window goes on.
+  void OddTexts() {
+    QFETCH(const QString, text);
+    desk_->IgnoreBoxes();
+    for (const char* box : {"Text1(1)", "Text1(7)", "Text1(13)", "Text1(24)", "Text1(25)", "Text1(28)"}) {
+      desk_->Find<QLineEdit>(box)->setText(text);
+      desk_->DoubleClick("Label1(3)");
+      desk_->Find<QAction>("Resid")->trigger();
+      desk_->DoubleClick(box);
+    }
+    QVERIFY(desk_->TextOf("Label13").toInt() > 0);
+    QCOMPARE(desk_->Window().size(), QSize(799, 599));
+    desk_->Click("Image2");
+    QCOMPARE(desk_->Find<QLineEdit>("Text1(7)")->text(), QString("0"));
+  }
+
+  void WillsAreAsked() {
+    const auto* wills = desk_->Find<QLineEdit>("Text1(28)");
+    desk_->Type("Text1(28)", "9000");
+    desk_->Expect("one third", QMessageBox::No);
+    desk_->Expect(executed);
+    desk_->DoubleClick("Label1(3)");
+    QCOMPARE(wills->text(), QString("6200"));
+    desk_->Type("Text1(28)", "9000");
+    desk_->Expect("one third", QMessageBox::Yes);
+    desk_->Expect(executed);
+    desk_->DoubleClick("Label1(3)");
+    QCOMPARE(wills->text(), QString("9000"));
+  }
+
+  void ClearBringsFrame5() {
+    desk_->Expect(executed);
+    desk_->DoubleClick("Label1(3)");
+    QWidget* cover = desk_->Find("Frame5");
+    QVERIFY(!cover->isVisible());
+    QCOMPARE(desk_->Find("Text2")->focusPolicy(), Qt::StrongFocus);
+    desk_->Find<QCheckBox>("Check1(7)")->click();
+    const QColor green = desk_->Find("Label6")->palette().color(QPalette::WindowText);
+    desk_->Key("Image2", Qt::Key_Return);
+    QVERIFY(cover->isVisible());
+    QVERIFY(!desk_->Find<QCheckBox>("Check1(7)")->isChecked());
+    QCOMPARE(desk_->Find("Text2")->focusPolicy(), Qt::NoFocus);
+    QVERIFY(desk_->Find("Label6")->palette().color(QPalette::WindowText) != green);
+    for (const char* name : {"Text2", "Label3"}) {
+      const QWidget* under = desk_->Find(name);
+      QVERIFY2(cover->geometry().contains(under->geometry()), name);
+    }
+  }
+
+  // The command of Aul stands there only while the shares exceed the estate.
+  void AulComesAndGoes() {
+    QVERIFY(!desk_->Find("AulRadd")->isVisible());
+    QTest::keyClick(desk_->Find("Combo1"), Qt::Key_Down);
+    desk_->Type("Text1(1)", "1");
+    desk_->Type("Text1(23)", "2");
+    desk_->Type("Text1(16)", "1");
+    desk_->Expect("APPLY 'AUL' DOCTRINE");
+    desk_->Find<QAction>("Resid")->trigger();
+    QVERIFY(desk_->Find("AulRadd")->isVisible());
+    desk_->Click("AulRadd");
+    QVERIFY(desk_->Find<QPlainTextEdit>("Text3")->toPlainText().contains("HUSBAND"));
+  }
+
+  void SavesWhatIsShown() {
+    desk_->Expect(executed);
+    desk_->DoubleClick("Label1(3)");
+    QTimer typist;
+    connect(&typist, &QTimer::timeout, this, [&] {
+      auto* dialog = qobject_cast<QFileDialog*>(QApplication::activeModalWidget());
+      if (dialog == nullptr) return;
+      QCOMPARE(dialog->objectName(), QString("CommonDialog1"));
+      dialog->setDirectory(QDir::current());
+      dialog->selectFile("daughters");
+      QTest::keyClick(dialog, Qt::Key_Return);
+    });
+    typist.start(5);
+    desk_->Find<QAction>("SaveResults")->trigger();
+    QFile file("daughters.txt");
+    QVERIFY(file.open(QIODevice::ReadOnly));
+    QVERIFY(file.readLine().startsWith("DAUGHTERS' SHARE\r\n"));
+  }
+
+  void Animation() {
+    auto* timer = desk_->Find<QTimer>("Timer1");
+    QVERIFY(timer->isActive());
+    desk_->Form().Timer1_Timer();
+    QVERIFY(desk_->Find("Image42(2)")->isVisible());
+    QVERIFY(!desk_->Find("Image42(0)")->isVisible());
+    desk_->Click("Image42(2)");
+    QVERIFY(!timer->isActive());
+    desk_->MoveTo("Image7(1)");
+    QVERIFY(!desk_->Find("Image7(1)")->isVisible());
+    desk_->MoveTo("Image7(0)");
+    QVERIFY(!desk_->Find("Image7(1)")->isVisible());
+    desk_->MoveTo("Frame111", QPoint(2, 2));
+    QVERIFY(desk_->Find("Image7(1)")->isVisible());
+  }
+
+  // Back only hides; the close box makes an end of the form, and the next opening starts anew.
+  void BackAndClose() {
+    int menus = 0;
+    desk_->Form().ShowMainMenu = [&menus] { ++menus; };
+    desk_->Type("Text1(2)", "5");
+    desk_->Find<QAction>("Back")->trigger();
+    QVERIFY(!desk_->Window().isVisible());
+    desk_->Window().show();
+    QCOMPARE(desk_->Find<QLineEdit>("Text1(2)")->text(), QString("5"));
+    desk_->Window().close();
+    QTRY_VERIFY(!desk_->IsOpen());
+    QCOMPARE(menus, 2);
+    desk_->Open();
+    QCOMPARE(desk_->Find<QLineEdit>("Text1(2)")->text(), QString("0"));
+  }
+
+  void CentredWhenMaximized() {
+    const QWidget& window = desk_->Window();
+    const QWidget* frame = desk_->Find("Frame111");
+    QCOMPARE(frame->pos(), QPoint(0, 0));
+    desk_->Window().showMaximized();
+    QTRY_VERIFY(window.isMaximized());
+    QTRY_COMPARE(frame->pos(), QPoint((window.width() - 800) / 2, (window.height() - 600) / 2));
+    QCOMPARE(frame->size(), QSize(800, 600));
+    desk_->Window().showNormal();
+    QTRY_COMPARE(frame->pos(), QPoint(0, 0));
+  }
+
+ private:
+  /// Opens the context menu as the menu key does and takes the entry of that number; -1 is the last.
+  void ChooseFromMenu(QWidget* widget, int entry) {
+    QContextMenuEvent event(QContextMenuEvent::Keyboard, QPoint(), QPoint());
+    QApplication::sendEvent(widget, &event);
+    auto* menu = qobject_cast<QMenu*>(QApplication::activePopupWidget());
+    QVERIFY(menu != nullptr);
+    QAction* action = entry < 0 ? menu->actions().constLast() : menu->actions().at(entry);
+    menu->setActiveAction(action);
+    QTest::keyClick(menu, Qt::Key_Return);
+  }
+
+  std::optional<Desk> desk_;
+};
+
+QTEST_MAIN(CaseStudyWindowTest)
+#include "case_study_window_test.moc"

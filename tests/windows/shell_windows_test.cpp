@@ -1,0 +1,476 @@
+#include <QAccessible>
+#include <QAction>
+#include <QLabel>
+#include <QLineEdit>
+#include <QPlainTextEdit>
+#include <QProcess>
+#include <QRadioButton>
+#include <QStandardPaths>
+#include <QTableWidget>
+#include <QTest>
+#include <csignal>
+
+#include "base/Files.h"
+#include "screens/windows/OutlinedStyle.h"
+#include "shell/SessionLog.h"
+#include "shell/Videos.h"
+#include "windows/BoxWatch.h"
+#include "windows/ShellHome.h"
+
+namespace qismora {
+
+using testing::BoxWatch;
+using testing::ShellHome;
+
+namespace {
+
+template <class Widget = QWidget>
+Widget* Find(QWidget* window, const char* name) {
+  auto* found = window->findChild<Widget*>(QString::fromLatin1(name));
+  if (found == nullptr) qFatal("There is no %s", name);
+  return found;
+}
+
+/// A double click as a mouse makes it.
+void DoubleClick(QWidget* widget) {
+  QTest::mouseClick(widget, Qt::LeftButton);
+  QTest::mouseDClick(widget, Qt::LeftButton);
+}
+
+QString SpokenName(QWidget* widget) {
+  const QAccessibleInterface* spoken = QAccessible::queryAccessibleInterface(widget);
+  return spoken == nullptr ? QString() : spoken->text(QAccessible::Name);
+}
+
+/// Whether a program has a handler for SIGTERM.
+bool ListensForTheEnd(qint64 process) {
+  QFile status(QStringLiteral("/proc/%1/status").arg(process));
+  if (!status.open(QIODevice::ReadOnly)) return false;
+  const QByteArray text = status.readAll();
+  const qsizetype caught = text.indexOf("SigCgt:") + 7;
+  return (text.mid(caught, 17).trimmed().toULongLong(nullptr, 16) >> (SIGTERM - 1) & 1) != 0;
+}
+
+}  // namespace
+
+class ShellWindowsTest : public QObject {
+  Q_OBJECT
+
+ private slots:
+  void init() {
+    home_ = std::make_unique<ShellHome>();
+    windows_ = &home_->Start();
+    menu_ = &windows_->MainMenu();
+    QVERIFY(QTest::qWaitForWindowActive(menu_));
+  }
+  void cleanup() {
+    QCOMPARE(boxes_.Take(), QStringList());
+    home_.reset();
+  }
+
+  void pagesOpenAndReturn_data() {
+    QTest::addColumn<int>("entry");
+    QTest::addColumn<QString>("title");
+    QTest::addColumn<bool>("byCloseBox");
+    QTest::newRow("laws") << 0 << "QURANIC LAWS OF INHERITANCE" << false;
+    QTest::newRow("acts") << 3 << "INDIAN ACTS COSIDERED" << true;
+    QTest::newRow("exclusion") << 5 << "EXCLUSION RULES OF INHERITANCE" << false;
+    QTest::newRow("Aul and Radd") << 8 << "RULES OF 'AUL' & 'RADD'" << true;
+  }
+  void pagesOpenAndReturn() {
+    QFETCH(int, entry);
+    QFETCH(QString, title);
+    QFETCH(bool, byCloseBox);
+    for (int round = 0; round < 2; ++round) {  // the same entry can be chosen again
+      Choose(entry);
+      QTRY_VERIFY(windows_->Laws() != nullptr);
+      QWidget* laws = windows_->Laws();
+      QVERIFY(QTest::qWaitForWindowActive(laws));
+      QCOMPARE(laws->windowTitle(), title);
+      QCOMPARE(Find<QLineEdit>(laws, "Text1")->text(), title);
+      QCOMPARE(Find<QLabel>(laws, "StatusBar1.Panel1")->text(), title);
+      QVERIFY(Find<QPlainTextEdit>(laws, "Text2")->hasFocus());
+      if (byCloseBox) {
+        laws->close();
+      } else {
+        Find<QAction>(laws, "Close")->trigger();
+      }
+      QTRY_VERIFY(windows_->Laws() == nullptr);
+      QVERIFY(QTest::qWaitForWindowActive(menu_));
+      QVERIFY(!Option(entry)->isChecked());
+    }
+    QCOMPARE(home_->Ended.Ends, 0);
+  }
+
+  void anotherPageIsShownInTheOpenWindow() {
+    Choose(0);
+    QTRY_VERIFY(windows_->Laws() != nullptr);
+    const QWidget* laws = windows_->Laws();
+    Choose(5);
+    QTRY_COMPARE(laws->windowTitle(), QStringLiteral("EXCLUSION RULES OF INHERITANCE"));
+    QCOMPARE(windows_->Laws(), laws);
+    QVERIFY(
+        Find<QPlainTextEdit>(windows_->Laws(), "Text2")->toPlainText().contains(QStringLiteral("HOMICIDE")));
+  }
+
+  void documentsAreHandedToTheViewer() {
+    home_->PutDocuments();
+    const std::pair<int, const char*> rows[] = {
+        {1, "RULES OF DISTRIBUTION.pdf"}, {2, "Historical Background.pdf"}, {4, "Origin and Development.pdf"},
+        {9, "Schools of Thoughts.pdf"},   {10, "References.pdf"},           {11, "RelationsEU.pdf"},
+        {12, "Aayaat -e- Meeraas.pdf"}};
+    for (const auto& [entry, file] : rows) {
+      Choose(entry);
+      QTRY_COMPARE(boxes_.Count(), 1);
+      QTRY_VERIFY(!Option(entry)->isChecked());
+      QVERIFY(boxes_.Take().constFirst().endsWith(QStringLiteral("/documents/") + QString::fromLatin1(file)));
+      QCOMPARE(home_->Opened, QStringList{QString::fromLatin1(file)});
+      home_->Opened.clear();
+      QVERIFY(menu_->isVisible());
+    }
+  }
+
+  void aMissingDocumentIsTold() {
+    Choose(11);
+    QTRY_COMPARE(boxes_.Count(), 1);
+    QVERIFY(boxes_.Take().constFirst().contains(QStringLiteral("is missing")));
+    QVERIFY(home_->Opened.isEmpty());
+    QTRY_VERIFY(menu_->cursor().shape() == Qt::ArrowCursor);
+  }
+
+  void theCaseHiddenKeepsItsTextsAndClosedStartsAnew() {
+    Choose(6);
+    QTRY_VERIFY(windows_->Study() != nullptr);
+    QWidget* study = windows_->Study();
+    Find<QLineEdit>(study, "Text1(2)")->setText(QStringLiteral("3"));
+    Find<QAction>(study, "Resid")->trigger();
+    const Long loaded = windows_->Record().ExecCount;
+    QVERIFY(loaded > 0);
+    boxes_.Take();
+    Find<QAction>(study, "Back")->trigger();
+    QVERIFY(!study->isVisible());
+    QVERIFY(QTest::qWaitForWindowActive(menu_));
+
+    Choose(6);
+    QTRY_VERIFY(study->isVisible());
+    QCOMPARE(windows_->Study(), study);
+    QCOMPARE(Find<QLineEdit>(study, "Text1(2)")->text(), QStringLiteral("3"));
+    study->close();
+    QTRY_VERIFY(windows_->Study() == nullptr);
+    QVERIFY(QTest::qWaitForWindowActive(menu_));
+    QCOMPARE(home_->Ended.Ends, 0);
+
+    Choose(6);
+    QTRY_VERIFY(windows_->Study() != nullptr);
+    QCOMPARE(Find<QLineEdit>(windows_->Study(), "Text1(2)")->text(), QStringLiteral("0"));
+    QCOMPARE(windows_->Record().Sons, Integer(3));
+    QCOMPARE(Find<QLabel>(windows_->Study(), "Label13")->text(), QString::number(loaded.Value()));
+  }
+
+  void arrowsWalkTheMenuAndOnlyReturnAndSpaceChoose() {
+    Option(5)->setFocus();
+    QTest::keyClick(Option(5), Qt::Key_Down);
+    QVERIFY(Option(6)->hasFocus());
+    QTest::keyClick(Option(6), Qt::Key_Down);
+    QVERIFY2(Option(8)->hasFocus(), "the resting entry is passed over");
+    QTest::keyClick(Option(8), Qt::Key_Up);
+    QTest::keyClick(Option(6), Qt::Key_Up);
+    QVERIFY(Option(5)->hasFocus());
+    QTest::qWait(20);
+    QVERIFY(windows_->Laws() == nullptr && windows_->Study() == nullptr);
+    QTest::keyClick(Option(5), Qt::Key_Return);
+    QTRY_VERIFY(windows_->Laws() != nullptr);
+    windows_->Laws()->close();
+    QTRY_VERIFY(windows_->Laws() == nullptr);
+    QTest::keyClick(Option(5), Qt::Key_Space);
+    QTRY_VERIFY(windows_->Laws() != nullptr);
+  }
+
+  void aScreenReaderCanChooseAnEntry() {
+    QAccessibleInterface* entry = QAccessible::queryAccessibleInterface(Option(8));
+    QCOMPARE(entry->text(QAccessible::Name), QStringLiteral("Rules of 'Aul' & 'Radd' implied"));
+    entry->actionInterface()->doAction(entry->actionInterface()->actionNames().constFirst());
+    QTRY_VERIFY(windows_->Laws() != nullptr);
+  }
+
+  void hoveringColoursTheEntryAndNamesIt() {
+    auto* panel = Find<QLabel>(menu_, "StatusBar1.Panel3");
+    QEnterEvent enter(QPointF(5, 5), QPointF(5, 5), QPointF(5, 5));
+    QApplication::sendEvent(Option(8), &enter);
+    QCOMPARE(panel->text(), QStringLiteral("Rules of 'Aul' & 'Radd' implied"));
+    const QImage look = Option(8)->grab().toImage();
+    QCOMPARE(look.pixelColor(look.width() - 3, look.height() / 2), QColor(192, 255, 192));
+    QEvent leave(QEvent::Leave);
+    QApplication::sendEvent(Option(8), &leave);
+    QCOMPARE(panel->text(), QStringLiteral("Inheritance as per Muslim Law"));
+    QVERIFY(Option(8)->grab().toImage().pixelColor(look.width() - 3, look.height() / 2) !=
+            QColor(192, 255, 192));
+  }
+
+  void theDisclaimerCoversTheMenuUntilADoubleClick() {
+    auto* text = Find<QPlainTextEdit>(menu_, "Text1");
+    auto* agree = Find<QLabel>(menu_, "Label5");
+    Option(3)->setFocus();
+    QVERIFY(!text->isVisible());
+    QCOMPARE(agree->text(), QStringLiteral("I agree with the disclaimer terms of the Software"));
+    Find<QAction>(menu_, "Disclaimer")->trigger();
+    QVERIFY(text->isVisible() && text->hasFocus() && !Option(0)->isVisible());
+    QCOMPARE(agree->text(), QStringLiteral("Disclaimer Terms:"));
+    DoubleClick(text->viewport());
+    QVERIFY(!text->isVisible() && Option(0)->isVisible() && Option(3)->hasFocus());
+    QCOMPARE(agree->text(), QStringLiteral("I agree with the dislaimer terms in the Software"));
+    QTest::mouseClick(agree, Qt::LeftButton);
+    QVERIFY(text->isVisible());
+    QTest::keyClick(text, Qt::Key_Escape);
+    QVERIFY(!text->isVisible());
+  }
+
+  void picturesStepAndAreRemembered() {
+    QCOMPARE(PictureShown(), 1);
+    auto* place = Find(menu_, "Image3");
+    for (const int next : {2, 3, 4, 5, 0, 1, 2}) {
+      QTest::mouseClick(place, Qt::LeftButton);
+      QCOMPARE(PictureShown(), next);
+    }
+    windows_ = &home_->Start();
+    menu_ = &windows_->MainMenu();
+    QCOMPARE(PictureShown(), 2);
+    for (int i = 0; i < 6; ++i) {
+      QVERIFY(QFile::exists(QStringLiteral(":/pictures/image3-%1.svg").arg(i)));
+    }
+  }
+
+  void theLogIsShownNewestFirst() {
+    for (int i = 1; i <= 3; ++i) {
+      const DateTime start = {2024, 3, i, 8, 0, 0};
+      AppendLine(FromQt(home_->File(QStringLiteral("popuQism.ppl"))),
+                 SessionLine(Integer(i), start, {2024, 3, i, 8, 0, 10 * i}, Long(10 * i)));
+    }
+    QTest::mouseClick(Find(menu_, "Label22"), Qt::LeftButton);
+    QTRY_VERIFY(windows_->Log() != nullptr);
+    QWidget* log = windows_->Log();
+    auto* grid = Find<QTableWidget>(log, "MSFlexGrid1");
+    auto* selected = Find<QLabel>(log, "Label2");
+    QCOMPARE(grid->rowCount(), 5);
+    QCOMPARE(grid->horizontalHeaderItem(3)->text(), QStringLiteral("Session Length"));
+    QCOMPARE(grid->item(0, 0)->text(), QStringLiteral("Number"));
+    QCOMPARE(grid->item(1, 0)->text(), QStringLiteral("3"));
+    QCOMPARE(grid->item(3, 1)->text(), QStringLiteral("01/03/2024 08:00:00"));
+    QCOMPARE(grid->item(4, 0)->text(), QString());
+    QCOMPARE(grid->currentRow(), 1);
+    QCOMPARE(selected->text().simplified(), QStringLiteral("3 01/03/2024 08:00:00 01/03/2024 08:00:10 10"));
+    QCOMPARE(Find<QLabel>(log, "Label3")->text(),
+             QStringLiteral("Total duration: 0day(s):00h:01m:00s (60 seconds)"));
+    const QPoint second = grid->visualItemRect(grid->item(2, 1)).center();
+    QTest::mouseClick(grid->viewport(), Qt::LeftButton, Qt::NoModifier, second);
+    QCOMPARE(selected->text().simplified(), QStringLiteral("2 02/03/2024 08:00:00 02/03/2024 08:00:20 20"));
+    QTest::keyClick(grid, Qt::Key_Up);
+    QVERIFY(selected->text().startsWith(QStringLiteral("3     03/03/2024 08:00:00")));
+    log->close();
+    QVERIFY(menu_->isVisible());
+    QCOMPARE(home_->Ended.Ends, 0);
+  }
+
+  void aMissingLogIsTold() {
+    QTest::mouseClick(Find(menu_, "Label22"), Qt::LeftButton);
+    QTRY_COMPARE(boxes_.Count(), 1);
+    QCOMPARE(boxes_.Take(), QStringList{QStringLiteral("Error 53\nFile not found")});
+    QVERIFY(windows_->Log()->isVisible());
+    QCOMPARE(Find<QTableWidget>(windows_->Log(), "MSFlexGrid1")->rowCount(), 0);
+  }
+
+  void theResourcesComeByADoubleClickAndGoBack() {
+    home_->PutDocuments();
+    DoubleClick(Find(menu_, "Frame2"));
+    QTRY_VERIFY(windows_->Resources() != nullptr);
+    QWidget* resources = windows_->Resources();
+    QVERIFY(resources->isVisible() && !menu_->isVisible());
+    QTest::mouseClick(Find(resources, "Meeraas"), Qt::LeftButton);
+    QTRY_COMPARE(boxes_.Count(), 1);
+    boxes_.Take();
+    QCOMPARE(home_->Opened, QStringList{QStringLiteral("Historical Background.pdf")});
+    QTest::mouseClick(Find(resources, "cmdLCM"), Qt::LeftButton);
+    QCOMPARE(windows_->Record().LcmResult, Long(1));
+    Find<QAction>(resources, "Back")->trigger();
+    QVERIFY(menu_->isVisible() && !resources->isVisible());
+    QCOMPARE(home_->Ended.Ends, 0);
+  }
+
+  void everyWayOutWritesOneLine_data() {
+    QTest::addColumn<QString>("way");
+    for (const char* way :
+         {"entry", "close box of the menu", "close box of the resources", "end of the session"}) {
+      QTest::newRow(way) << way;
+    }
+  }
+  void everyWayOutWritesOneLine() {
+    QFETCH(QString, way);
+    windows_->Record().ExecCount = Long(9);
+    if (way == QLatin1String("entry")) {
+      Find<QAction>(menu_, "Exitz")->trigger();
+    } else if (way == QLatin1String("close box of the menu")) {
+      menu_->close();
+    } else if (way == QLatin1String("close box of the resources")) {
+      DoubleClick(Find(menu_, "Frame2"));
+      QTRY_VERIFY(windows_->Resources() != nullptr);
+      windows_->Resources()->close();
+    } else {
+      raise(SIGTERM);
+    }
+    QTRY_COMPARE(home_->Ended.Ends, 1);
+    menu_->close();
+    Find<QAction>(menu_, "Exitz")->trigger();
+    QCOMPARE(home_->Ended.Ends, 1);
+    QCOMPARE(home_->LogLines().size(), 1);
+    QCOMPARE(home_->Store().Read("Qismora", "Inheritance", "TimesExecuted"), std::string("9"));
+    QCOMPARE(Find<QLabel>(&home_->Start().MainMenu(), "Label22")->text(), QStringLiteral("2"));
+  }
+
+  // The program itself, told to end from outside as at the end of a desktop session.
+  void theRunningProgramEndsInOrder() {
+    const QString program = home_->File(QStringLiteral("qismora"));
+    QVERIFY(QFile::copy(QStringLiteral(QISMORA_PROGRAM), program));
+    for (int run = 1; run <= 2; ++run) {
+      QProcess process;
+      process.start(program, {});
+      QVERIFY(process.waitForStarted());
+      QTRY_VERIFY(ListensForTheEnd(process.processId()));
+      process.terminate();
+      QVERIFY(process.waitForFinished());
+      QCOMPARE(process.exitStatus(), QProcess::NormalExit);
+      QCOMPARE(process.exitCode(), 0);
+      QCOMPARE(home_->LogLines().size(), run);
+    }
+  }
+
+  // In a build the program's files lie beside it; installed, they lie under share, and the log of a user who
+  // cannot write there goes to the user's own data.
+  void foldersOfABuildAndOfAnInstalledProgram() {
+    const QTemporaryDir prefix;
+    const QString bin = prefix.filePath(QStringLiteral("bin"));
+    QDir(prefix.path()).mkpath(QStringLiteral("bin"));
+    QDir(prefix.path()).mkpath(QStringLiteral("documents"));
+    ProgramFolders folders(bin);
+    QCOMPARE(ToQt(folders.Application()), bin);
+    QCOMPARE(ToQt(folders.Log()), bin);
+    QCOMPARE(ToQt(folders.Documents()), prefix.filePath(QStringLiteral("documents")));
+    QDir(prefix.path()).mkpath(QStringLiteral("share/qismora/documents"));
+    QCOMPARE(ToQt(folders.Application()), prefix.filePath(QStringLiteral("share/qismora")));
+    QCOMPARE(ToQt(folders.Documents()), prefix.filePath(QStringLiteral("share/qismora/documents")));
+    const QString own = qEnvironmentVariable("XDG_DATA_HOME") + QStringLiteral("/qismora");
+    QCOMPARE(ToQt(ProgramFolders(QStringLiteral("/nowhere/bin")).Log()), own);
+    QVERIFY(QFileInfo(own).isWritable());
+  }
+
+  void theCatalogueComesFromMenuAndCase() {
+    Find<QAction>(menu_, "About")->trigger();
+    QVERIFY(windows_->Catalogue() != nullptr && windows_->Catalogue()->isVisible());
+    QVERIFY(Find<QLabel>(windows_->Catalogue(), "Used by this program")->text() != QLatin1String("0 MiB"));
+    windows_->Catalogue()->close();
+    QTRY_VERIFY(windows_->Catalogue() == nullptr);
+    Choose(6);
+    QTRY_VERIFY(windows_->Study() != nullptr);
+    Find<QAction>(windows_->Study(), "About")->trigger();
+    QVERIFY(windows_->Catalogue() != nullptr);
+    QCOMPARE(windows_->Catalogue()->parentWidget(), windows_->Study());
+    QTest::mouseClick(Find(windows_->Study(), "Label6"), Qt::LeftButton);
+    QTRY_COMPARE(boxes_.Count(), 1);
+    QCOMPARE(boxes_.Take(), QStringList{QStringLiteral("YOU ARE WORKING ON THIS PROGRAM")});
+    QTRY_VERIFY(windows_->Catalogue() == nullptr);
+  }
+
+  void theMenuKeepsItsSizeAndIsCentredWhenMaximized() {
+    const QSize size = menu_->size();
+    menu_->resize(1000, 700);
+    QTRY_COMPARE(menu_->size(), size);
+    menu_->showMaximized();
+    auto* frame = Find(menu_, "Frame111");
+    QTRY_VERIFY(menu_->isMaximized());
+    QTRY_COMPARE(frame->x(), qMax(0, (menu_->width() - 800) / 2));
+    menu_->showNormal();
+    QTRY_COMPARE(frame->pos(), QPoint(0, 0));
+  }
+
+  // A video that is none but has the right length: the plugin comes when there is one, after the first
+  // painting, and nothing is told.
+  void whatCannotBePlayedLeavesThePanelBlank() {
+    QVERIFY2(!home_->Player().IsLoaded(), "nothing to play, nothing loaded");
+    home_->Put(home_->File(QStringLiteral("brindhaven1.avi")), QByteArray(SecondVideoLength, 'x'));
+    const QString folder = QFileInfo(QStringLiteral(QISMORA_PROGRAM)).path();
+    for (const QStringList& plugins : {QStringList(), QStringList{folder}}) {
+      menu_ = &home_->Start(plugins).MainMenu();
+      QVERIFY(!home_->Player().IsLoaded());
+      QTest::qWait(200);
+      const bool here = !plugins.isEmpty() && QFile::exists(folder + QStringLiteral("/qismora_video.so"));
+      QTRY_COMPARE(home_->Player().IsLoaded(), here);
+      QTest::mouseClick(Find(menu_, "Frame5"), Qt::LeftButton);
+      DoubleClick(Find(menu_, "Frame5"));
+      QTest::qWait(50);
+    }
+  }
+
+  // Whatever takes the focus has a name to be spoken, and no caption is cut.
+  void everyControlIsNamedAndShownWhole() {
+    AppendLine(FromQt(home_->File(QStringLiteral("popuQism.ppl"))), SessionLine(Integer(1), {}, {}, Long(1)));
+    Choose(0);
+    QTRY_VERIFY(windows_->Laws() != nullptr);
+    QTest::mouseClick(Find(menu_, "Label22"), Qt::LeftButton);
+    Find<QAction>(menu_, "About")->trigger();
+    DoubleClick(Find(menu_, "Frame2"));
+    menu_->show();
+    for (QWidget* window : QList<QWidget*>{menu_, windows_->Laws(), windows_->Log(), windows_->Resources(),
+                                           windows_->Catalogue()}) {
+      QVERIFY(QTest::qWaitForWindowExposed(window));
+      for (QWidget* widget : window->findChildren<QWidget*>()) {
+        if (!widget->isVisible()) continue;
+        if ((widget->focusPolicy() & Qt::TabFocus) != 0) {
+          QVERIFY2(!SpokenName(widget).isEmpty(), qPrintable(widget->objectName()));
+        }
+        const auto* label = qobject_cast<QLabel*>(widget);
+        if (label == nullptr || label->wordWrap()) continue;
+        QVERIFY2(label->width() >= label->sizeHint().width(), qPrintable(label->text()));
+        QVERIFY2(label->height() >= label->sizeHint().height(), qPrintable(label->text()));
+      }
+    }
+  }
+
+ private:
+  QRadioButton* Option(int index) {
+    return Find<QRadioButton>(menu_, qPrintable(QStringLiteral("Option1(%1)").arg(index)));
+  }
+
+  void Choose(int entry) {
+    menu_->activateWindow();
+    QTest::mouseClick(Option(entry), Qt::LeftButton);
+  }
+
+  int PictureShown() {
+    int shown = -1;
+    for (int i = 0; i < 6; ++i) {
+      auto* picture = Find(menu_, qPrintable(QStringLiteral("Image3(%1)").arg(i)));
+      if (picture->isVisibleTo(menu_)) shown = shown < 0 ? i : 99;
+    }
+    return shown;
+  }
+
+  BoxWatch boxes_;
+  std::unique_ptr<ShellHome> home_;
+  ProgramWindows* windows_ = nullptr;
+  InhMainWindow* menu_ = nullptr;
+};
+
+}  // namespace qismora
+
+int main(int argc, char** argv) {
+  const QTemporaryDir home;
+  for (const char* name : {"XDG_CONFIG_HOME", "XDG_DATA_HOME", "XDG_RUNTIME_DIR"}) {
+    qputenv(name, home.path().toUtf8());
+  }
+  qputenv("LC_ALL", "C.UTF-8");
+  QApplication::setStyle(new qismora::OutlinedStyle);
+  QApplication application(argc, argv);
+  qismora::ShellWindowsTest test;
+  return QTest::qExec(&test, argc, argv);
+}
+
+#include "shell_windows_test.moc"

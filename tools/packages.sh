@@ -1,0 +1,55 @@
+# shellcheck shell=bash
+# The Debian packages that ./run and ./check need, and how they come onto the machine.
+
+packages_to_run=(
+  build-essential   # compiler and linker
+  cmake             # build
+  ninja-build       # build
+  qt6-base-dev      # windows, with the plugins for X11 and for no display
+  qt6-svg-dev       # pictures
+  libqt6svg6        # pictures, the plugin that reads them
+  qt6-wayland       # windows on a Wayland desktop
+  fonts-dejavu-core # letters, where no other font is installed
+)
+
+# shellcheck disable=SC2034 # used by ./check
+packages_to_check=(
+  "${packages_to_run[@]}"
+  libgtest-dev      # tests
+  libbenchmark-dev  # benchmarks
+  clang-14          # second opinion on the core
+  libclang-rt-14-dev # sanitizers
+  clang-format-14   # layout
+  clang-tidy-14     # habits
+)
+
+# Asks apt only when a package is missing, and renews apt's lists only when they are not enough.
+install_missing() {
+  local missing=() apt=(env DEBIAN_FRONTEND=noninteractive apt-get -qq -o DPkg::Lock::Timeout=300)
+  for package in "$@"; do
+    [[ $(dpkg-query -Wf '${db:Status-Status}' "$package" 2>/dev/null) == installed* ]] || missing+=("$package")
+  done
+  [[ ${#missing[@]} -gt 0 ]] || return 0
+
+  echo "Installing ${missing[*]}"
+  if [[ $EUID -ne 0 ]]; then
+    # Nobody is there to type a password unless this is a terminal.
+    local sudo=(sudo -n)
+    [[ -t 0 && -z ${CI:-} ]] && sudo=(sudo)
+    if ! "${sudo[@]}" true 2>/dev/null; then
+      echo "Installing packages needs root or sudo, and neither is at hand." >&2
+      exit 1
+    fi
+    apt=("${sudo[@]}" "${apt[@]}")
+  fi
+  local install=(install -y --no-install-recommends "${missing[@]}")
+  "${apt[@]}" "${install[@]}" >/dev/null 2>&1 </dev/null || {
+    "${apt[@]}" update </dev/null
+    "${apt[@]}" "${install[@]}" >/dev/null </dev/null
+  }
+}
+
+# A compiler cache is used where there is one.
+if command -v ccache >/dev/null; then
+  export CMAKE_CXX_COMPILER_LAUNCHER=ccache
+fi
