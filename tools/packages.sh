@@ -2,25 +2,28 @@
 # The Debian packages that ./run and ./check need, and how they come onto the machine.
 
 packages_to_run=(
-  build-essential   # compiler and linker
-  cmake             # build
-  ninja-build       # build
-  qt6-base-dev      # windows, with the plugins for X11 and for no display
-  qt6-svg-dev       # pictures
-  libqt6svg6        # pictures, the plugin that reads them
-  qt6-wayland       # windows on a Wayland desktop
-  fonts-dejavu-core # letters, where no other font is installed
+  build-essential    # compiler and linker
+  cmake              # build
+  ninja-build        # build
+  qt6-base-dev       # windows, with the plugins for X11 and for no display
+  qt6-svg-dev        # pictures
+  libqt6svg6         # pictures, the plugin that reads them
+  qt6-multimedia-dev # the player of the two videos
+  qt6-wayland        # windows on a Wayland desktop
+  fonts-dejavu-core  # letters, where no other font is installed
+  fonts-noto-core    # letters of the documents
+  fonts-hosny-amiri  # Arabic and Urdu letters of the documents
 )
 
 # shellcheck disable=SC2034 # used by ./check
 packages_to_check=(
   "${packages_to_run[@]}"
-  libgtest-dev      # tests
-  libbenchmark-dev  # benchmarks
-  clang-14          # second opinion on the core
+  libgtest-dev       # tests
+  libbenchmark-dev   # benchmarks
+  clang-14           # second opinion on the core
   libclang-rt-14-dev # sanitizers
-  clang-format-14   # layout
-  clang-tidy-14     # habits
+  clang-format-14    # layout
+  clang-tidy-14      # habits
 )
 
 # Asks apt only when a package is missing, and renews apt's lists only when they are not enough.
