@@ -10,7 +10,8 @@ using namespace qismora;
 int main(int argc, char** argv) {
   if (!qEnvironmentVariableIsSet("DISPLAY") && !qEnvironmentVariableIsSet("WAYLAND_DISPLAY") &&
       !qEnvironmentVariableIsSet("QT_QPA_PLATFORM")) {
-    std::fputs("qismora: there is no display to open a window on; start it from a desktop session.\n", stderr);
+    std::fputs("qismora: there is no display to open a window on; start it from a desktop session.\n",
+               stderr);
     return 1;
   }
   QApplication::setStyle(new OutlinedStyle);
