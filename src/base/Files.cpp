@@ -41,9 +41,14 @@ void TextFile::Close() {
 }
 
 std::string ReadWholeFile(const std::string& path) {
-  std::ifstream stream(path, std::ios::binary);
+  std::ifstream stream(path, std::ios::binary | std::ios::ate);
   if (!stream) throw Failure(FileNotFound);
-  return {std::istreambuf_iterator<char>(stream), {}};
+  const std::streamoff size = stream.tellg();
+  std::string content(size > 0 ? static_cast<std::size_t>(size) : 0, '\0');
+  stream.seekg(0);
+  stream.read(content.data(), size);
+  if (!stream) throw Failure(PathFileAccess);
+  return content;
 }
 
 bool FileExists(const std::string& path) {

@@ -2,7 +2,6 @@
 
 #include <QBoxLayout>
 #include <QCloseEvent>
-#include <QFontInfo>
 #include <QMenuBar>
 #include <QStatusBar>
 #include <QTimer>
@@ -12,6 +11,7 @@
 #include "screens/windows/ClassIIPanel.h"
 #include "screens/windows/HeirsPanel.h"
 #include "screens/windows/HoverWatch.h"
+#include "screens/windows/Letters.h"
 #include "screens/windows/ResultPanel.h"
 #include "screens/windows/TopStrip.h"
 #include "screens/windows/Utf8.h"
@@ -37,7 +37,7 @@ CaseStudyWindow::CaseStudyWindow(CaseRecord& record, Outside& outside, int saved
   setWindowTitle(tr("Case Study - Finding shares of Quranic Sharers"));
   setAttribute(Qt::WA_DeleteOnClose);
   form_.Hide = [this] { hide(); };
-  SetLetters();
+  LimitLetters(this, largestLetters);
   FillCaseMenu(menuBar(), form_, binder_);
   BuildStatusBar();
   BuildFrame();
@@ -99,14 +99,6 @@ void CaseStudyWindow::BuildTimer() {
     timer->setInterval(form_.Timer1);
     if (form_.Timer1 > 0) timer->start();
   });
-}
-
-// The form holds letters of this size; larger ones come with the scale of the desktop.
-void CaseStudyWindow::SetLetters() {
-  QFont letters = font();
-  if (QFontInfo(letters).pixelSize() <= largestLetters) return;
-  letters.setPixelSize(largestLetters);
-  setFont(letters);
 }
 
 // Menu and status bar take their part of the form's height. Should letters be taller than usual, the window

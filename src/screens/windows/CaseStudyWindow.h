@@ -26,7 +26,6 @@ class CaseStudyWindow : public QMainWindow {
   void BuildStatusBar();
   void BuildTimer();
   void KeepOnTop();
-  void SetLetters();
   void SetSizes();
   void OrderTabs();
   void TellSize();

@@ -1,7 +1,6 @@
 #include "screens/windows/FormWindow.h"
 
 #include <QEvent>
-#include <QFontInfo>
 #include <QLabel>
 #include <QLayout>
 #include <QMenuBar>
@@ -24,7 +23,7 @@ FormWindow::FormWindow(const char* name, const QString& spoken) {
   MakeCaptionsAccessible();
   setObjectName(QString::fromLatin1(name));
   setAccessibleName(spoken);
-  SetLetters();
+  LimitLetters(this, largestLetters);
   auto* ground = new QWidget(this);
   frame_ = new QWidget(ground);
   frame_->setObjectName(QStringLiteral("Frame111"));
@@ -32,14 +31,6 @@ FormWindow::FormWindow(const char* name, const QString& spoken) {
   setCentralWidget(ground);
   statusBar()->setObjectName(QStringLiteral("StatusBar1"));
   statusBar()->setAccessibleName(tr("Status bar"));
-}
-
-// The form has room for letters of this size; larger ones come with the scale of the desktop.
-void FormWindow::SetLetters() {
-  QFont letters = font();
-  if (QFontInfo(letters).pixelSize() <= largestLetters) return;
-  letters.setPixelSize(largestLetters);
-  setFont(letters);
 }
 
 QLabel* FormWindow::AddPanel(const char* name, const QString& spoken) {
@@ -78,12 +69,6 @@ void FormWindow::changeEvent(QEvent* event) {
   QMainWindow::changeEvent(event);
   if (event->type() == QEvent::WindowStateChange) Tell();
   if (event->type() == QEvent::PaletteChange) binder_.Recolour();
-}
-
-QFont HeadingFont(QFont letters, int pixels) {
-  letters.setPixelSize(pixels);
-  letters.setBold(true);
-  return letters;
 }
 
 }  // namespace qismora

@@ -3,6 +3,7 @@
 #include <QMainWindow>
 
 #include "screens/windows/Binder.h"
+#include "screens/windows/Letters.h"
 
 namespace qismora {
 
@@ -33,13 +34,9 @@ class FormWindow : public QMainWindow {
   Binder binder_;
 
  private:
-  void SetLetters();
   void Tell();
 
   QWidget* frame_;
 };
-
-/// The letters of a heading, so many pixels high.
-QFont HeadingFont(QFont letters, int pixels);
 
 }  // namespace qismora
