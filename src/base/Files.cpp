@@ -31,7 +31,9 @@ TextFile::TextFile(const std::string& path) : stream_(path, std::ios::binary | s
 }
 
 void TextFile::Print(std::string_view text) {
-  stream_ << text << CRLF;
+  const std::string line = Join(text, CRLF);
+  content_ += line;
+  stream_ << line;
   if (!stream_) throw Failure(PathFileAccess);
 }
 
@@ -84,17 +86,6 @@ bool FolderHolds(const std::string& folder, std::string_view name) {
   });
 }
 
-void RenameFile(const std::string& from, const std::string& to, Replace replace) {
-  Guarded([&] {
-    if (replace == Replace::No && fs::exists(fs::symlink_status(to))) throw Failure(FileAlreadyExists);
-    fs::rename(from, to);
-  });
-}
-
-void CopyWholeFile(const std::string& from, const std::string& to) {
-  Guarded([&] { fs::copy_file(from, to); });
-}
-
 void DeleteFile(const std::string& path) {
   Guarded([&] { fs::remove(path); });
 }
@@ -109,7 +100,7 @@ void WriteSafely(Folders& places, const std::string& path, std::string_view cont
     stream.close();
     if (!stream) throw Failure(PathFileAccess);
     places.WriteThrough(unfinished);
-    RenameFile(unfinished, path, Replace::Yes);
+    Guarded([&] { fs::rename(unfinished, path); });
   } catch (const Failure&) {
     std::error_code ignored;
     fs::remove(unfinished, ignored);

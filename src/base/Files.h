@@ -18,9 +18,12 @@ class TextFile {
   /// Writes the text and a line break.
   void Print(std::string_view text);
   void Close();
+  /// All that was printed.
+  const std::string& Content() const { return content_; }
 
  private:
   std::ofstream stream_;
+  std::string content_;
 };
 
 /// The whole content of a file.
@@ -42,12 +45,6 @@ bool IsFileName(std::string_view name);
 /// Whether the folder holds an entry of exactly this name.
 bool FolderHolds(const std::string& folder, std::string_view name);
 
-/// Gives a file a new name. A file of that name is the failure 58, unless it may be replaced; then it stands
-/// until the new one is in its place.
-enum class Replace { No, Yes };
-void RenameFile(const std::string& from, const std::string& to, Replace replace);
-
-void CopyWholeFile(const std::string& from, const std::string& to);
 void DeleteFile(const std::string& path);
 
 /// Writes a whole file. An earlier one of the same name stands until the new content is complete on the disk.

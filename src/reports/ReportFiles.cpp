@@ -13,11 +13,11 @@ namespace {
 
 constexpr const char* nothingToSave = "Execute the program and then try to save.";
 
-std::string WorkingFile(CaseScreen& screen) { return Join(screen.World.Places.Reports(), "/FullReport"); }
-
-/// The second and the third step, behind the first; the working file is closed in every case.
-void PrintReport(CaseRecord& c, CaseScreen& screen, const std::string& stepOne) {
-  TextFile file(WorkingFile(screen));
+/// Runs the second and the third step and writes all three to the working file, which is closed in every
+/// case. Returns what was written: another program in the same folder may be writing its own report to the
+/// file.
+std::string PrintReport(CaseRecord& c, CaseScreen& screen, const std::string& stepOne) {
+  TextFile file(Join(screen.World.Places.Reports(), "/FullReport"));
   file.Print(
       "HERE IS THE COMPLETE RESULT OBTAINED FROM THE QISMORA SOFTWARE. THE COMPLETE RESULTS ARE IN THREE STEPS AND "
       "MUST BE SEEN IN TOTALITY.\r\n");
@@ -34,6 +34,7 @@ void PrintReport(CaseRecord& c, CaseScreen& screen, const std::string& stepOne) 
                     CRLF, CRLF, GeneratedBy(screen.World.Time.Now()), CRLF, CRLF));
   }
   file.Close();
+  return file.Content();
 }
 
 void MakeFullReport(CaseRecord& c, CaseScreen& screen) {
@@ -42,10 +43,10 @@ void MakeFullReport(CaseRecord& c, CaseScreen& screen) {
   // cut: that failure ends the command before any file is touched.
   const std::string stepOne = Join("STEP - 1 (INPUTS & INDIVIDUAL REPORTS):", CRLF, CRLF,
                                    WithoutEnd(screen.Text3.Text.Get(), FooterLength));
-  PrintReport(c, screen, stepOne);
-  // Read line by line, each behind a line break: the text starts with one and ends without.
-  screen.Text3.Text = Join(CRLF, WithoutEnd(ReadWholeFile(WorkingFile(screen)), 2));
-  SaveFullReportFile(screen);
+  const std::string report = PrintReport(c, screen, stepOne);
+  // Each line stands behind a line break: the text starts with one and ends without.
+  screen.Text3.Text = Join(CRLF, WithoutEnd(report, 2));
+  SaveFullReportFile(screen, report);
 }
 
 /// Whether the user lets the file of that name be replaced.
@@ -54,15 +55,6 @@ bool AskToReplaceReport(CaseScreen& screen) {
              BoxStyle::Warning, BoxButtons::YesNo,
              Join("SAVING THIS REPORT: You are already having a file of ", screen.Text1(NameBox).Text, ".",
                   CRLF, "Would you like to replace the existing file?")) == Answer::Yes;
-}
-
-/// The working file under the new name, and a copy of it in its old place.
-void MoveReport(CaseScreen& screen, const std::string& path, Replace replace) {
-  screen.World.Places.WriteThrough(WorkingFile(screen));
-  RenameFile(WorkingFile(screen), path, replace);
-  CopyWholeFile(path, WorkingFile(screen));
-  screen.World.Boxes.Tell(BoxStyle::Information,
-                          Join("Results of ", screen.Text1(NameBox).Text, " saved successfully."));
 }
 
 /// The text that the result area shows; empty when it shows none.
@@ -115,21 +107,18 @@ void CreateSaveFullReport(CaseRecord& c, CaseScreen& screen) {
   c.ReportToFile = false;
 }
 
-void SaveFullReportFile(CaseScreen& screen) {
+void SaveFullReportFile(CaseScreen& screen, const std::string& report) {
   const std::string& deceased = screen.Text1(NameBox).Text;
   // A name that is none in a folder is refused, though its ending would make it one.
   if (!deceased.empty() && !IsFileName(deceased)) return;
   const std::string path = Join(screen.World.Places.Reports(), "/", LowerCase(deceased), ".txt");
   try {
-    MoveReport(screen, path, Replace::No);
-  } catch (const Failure& failure) {
-    if (failure.Number != FileAlreadyExists || !AskToReplaceReport(screen)) return;
-    try {
-      MoveReport(screen, path, Replace::Yes);
-    } catch (const Failure&) {
-      return;
-    }
+    if (FileExists(path) && !AskToReplaceReport(screen)) return;
+    WriteSafely(screen.World.Places, path, report);
+  } catch (const Failure&) {
+    return;
   }
+  screen.World.Boxes.Tell(BoxStyle::Information, Join("Results of ", deceased, " saved successfully."));
 }
 
 void SaveResults(CaseScreen& screen) {

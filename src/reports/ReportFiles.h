@@ -10,9 +10,10 @@ namespace qismora {
 /// up to then stands in the working file.
 void CreateSaveFullReport(CaseRecord& c, CaseScreen& screen);
 
-/// Saves the working file under the lower-cased name of the deceased. An earlier report is replaced only when
-/// the user agrees, and stands until the new one is complete in its place.
-void SaveFullReportFile(CaseScreen& screen);
+/// Saves a full report under the lower-cased name of the deceased. An earlier one is replaced only when the
+/// user agrees, and stands until the new one is complete in its place. A name that is no file name, and any
+/// failure, end it without a word.
+void SaveFullReportFile(CaseScreen& screen, const std::string& report);
 
 /// The Save Results command: the heading of the result panel and the text that is shown, in a file of the
 /// user's choice. A failure ends it without a word and leaves an earlier file as it was.

@@ -97,23 +97,6 @@ TEST(Files, AKilledProgramLeavesTheEarlierFile) {
   EXPECT_EQ(ReadWholeFile(folder.File("a.txt")), "earlier");
 }
 
-TEST(Files, ANameIsGivenOnlyWhereNoneStands) {
-  const TemporaryFolder folder;
-  TextFile(folder.File("a")).Print("a");
-  TextFile(folder.File("b")).Print("b");
-  try {
-    RenameFile(folder.File("a"), folder.File("b"), Replace::No);
-    ADD_FAILURE() << "the earlier file was replaced";
-  } catch (const Failure& failure) {
-    EXPECT_EQ(failure.Number, FileAlreadyExists);
-  }
-  fs::create_symlink("nowhere", folder.File("c"));
-  EXPECT_THROW(RenameFile(folder.File("a"), folder.File("c"), Replace::No), Failure)
-      << "a dangling link is a file";
-  RenameFile(folder.File("a"), folder.File("b"), Replace::Yes);
-  EXPECT_EQ(ReadWholeFile(folder.File("b")), "a\r\n");
-}
-
 TEST(Files, NamesThatLeaveTheFolderAreNone) {
   for (const std::string& name : {std::string(""), std::string("."), std::string(".."), std::string("a/b"),
                                   std::string("a\\b"), std::string("a\0b", 3)}) {
