@@ -4,11 +4,14 @@
 #include <QComboBox>
 #include <QContextMenuEvent>
 #include <QFileDialog>
+#include <QFileInfo>
 #include <QGroupBox>
+#include <QGuiApplication>
 #include <QLabel>
 #include <QLineEdit>
 #include <QMenu>
 #include <QPlainTextEdit>
+#include <QStandardPaths>
 #include <optional>
 
 #include "Desk.h"
@@ -268,6 +271,28 @@ class CaseStudyWindowTest : public QObject {
   }
 
   // Back only hides; the close box makes an end of the form, and the next opening starts anew.
+  void ThePointerShowsAReportBeingMade() {
+    int hourglasses = 0;
+    desk_->Form().Text3.Text.WhenChanged([&] {
+      const QCursor* shape = QGuiApplication::overrideCursor();
+      hourglasses += shape != nullptr && shape->shape() == Qt::WaitCursor ? 1 : 0;
+    });
+    desk_->Find<QAction>("Exec")->trigger();
+    QVERIFY(hourglasses > 0);
+    QVERIFY(QGuiApplication::overrideCursor() == nullptr);
+  }
+
+  void ReportsGoToTheDocumentsWhereTheFolderIsClosed() {
+    // Nobody can write to a folder of the process table.
+    const QString before = QDir::currentPath();
+    QVERIFY(QDir::setCurrent(QStringLiteral("/proc/self")));
+    const std::string folder = qismora::SystemFolders().Reports();
+    QVERIFY(QDir::setCurrent(before));
+    QCOMPARE(QString::fromStdString(folder),
+             QStandardPaths::writableLocation(QStandardPaths::DocumentsLocation));
+    QVERIFY(QFileInfo(QString::fromStdString(folder)).isWritable());
+  }
+
   void BackAndClose() {
     int menus = 0;
     desk_->Form().ShowMainMenu = [&menus] { ++menus; };

@@ -4,6 +4,8 @@
 #include <QMenu>
 #include <QMenuBar>
 
+#include "screens/windows/PointerShape.h"
+
 namespace qismora {
 
 namespace {
@@ -46,7 +48,10 @@ void FillCaseMenu(QMenuBar* bar, CaseStudy& form, Binder& binder) {
     action->setVisible(entry.Where != Place::Hidden);
     if (entry.Key != noKey) action->setShortcut(entry.Key);
     if (auto run = entry.Run) {
-      QObject::connect(action, &QAction::triggered, bar, [&form, run] { (form.*run)(); });
+      QObject::connect(action, &QAction::triggered, bar, [&form, run] {
+        const PointerShape hourglass(Qt::WaitCursor);
+        (form.*run)();
+      });
     }
     if (action->objectName() == QLatin1String("AulRad")) binder.Enabled(form.AulRad, action);
     (entry.Where == Place::UnderMenu ? static_cast<QWidget*>(menu) : bar)->addAction(action);

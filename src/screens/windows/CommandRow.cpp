@@ -5,6 +5,7 @@
 
 #include "screens/windows/HoverWatch.h"
 #include "screens/windows/Pictures.h"
+#include "screens/windows/PointerShape.h"
 
 namespace qismora {
 
@@ -49,7 +50,10 @@ QWidget* CommandRow::Aul() {
   aul->setAccessibleName(tr("Aul and Radd"));
   aul->setToolTip(tr("Adjust the shares to the estate"));
   aul->setFixedSize(buttonWidth, rowHeight);
-  connect(aul, &QPushButton::clicked, this, [this] { form_.AulRadd_Click(); });
+  connect(aul, &QPushButton::clicked, this, [this] {
+    const PointerShape hourglass(Qt::WaitCursor);
+    form_.AulRadd_Click();
+  });
   // Its place stays free, so that nothing moves when it comes.
   QSizePolicy policy = aul->sizePolicy();
   policy.setRetainSizeWhenHidden(true);
@@ -63,7 +67,10 @@ QWidget* CommandRow::FullReport() {
   report->setAccessibleName(tr("Full report"));
   report->setToolTip(tr("Make the full report and save it under the name of the deceased"));
   report->setFixedSize(wideButton, rowHeight);
-  connect(report, &QPushButton::clicked, this, [this] { form_.FullReportxx_Click(); });
+  connect(report, &QPushButton::clicked, this, [this] {
+    const PointerShape hourglass(Qt::WaitCursor);
+    form_.FullReportxx_Click();
+  });
   WhenMouseMoves(report, [this] { form_.FullReportxx_MouseMove(); });
   Binder::Follow(form_.FullReportxx, [this, report] {
     report->ShowPicture(QStringLiteral("image%1").arg(form_.FullReportxx.Get()));

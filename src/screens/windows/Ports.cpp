@@ -11,6 +11,12 @@
 #include <chrono>
 #include <ctime>
 
+#ifdef Q_OS_UNIX
+#include <fcntl.h>
+#include <unistd.h>
+#endif
+
+#include "screens/windows/PointerShape.h"
 #include "screens/windows/Utf8.h"
 
 namespace qismora {
@@ -89,6 +95,7 @@ Answer QtMessageBoxes::Show(BoxStyle style, BoxButtons buttons, const std::strin
   QMessageBox box(IconOf(style), QString::fromUtf8(ApplicationTitle), ToQtLines(text), Offered(buttons),
                   Owner());
   box.setTextFormat(Qt::PlainText);
+  const PointerShape usersTurn(Qt::ArrowCursor);
   const int pressed = box.exec();
   for (const ButtonRow& row : answers) {
     if (row.Button == pressed) return row.Meaning;
@@ -106,6 +113,7 @@ std::optional<std::string> QtSaveDialog::AskPath(const std::string& suggestedNam
   dialog.setOption(QFileDialog::DontConfirmOverwrite);  // the command itself asks about replacing
   dialog.setDefaultSuffix(QStringLiteral("txt"));
   dialog.selectFile(ToQt(suggestedName));
+  const PointerShape usersTurn(Qt::ArrowCursor);
   if (dialog.exec() != QDialog::Accepted || dialog.selectedFiles().isEmpty()) return std::nullopt;
   return FromQt(dialog.selectedFiles().constFirst());
 }
@@ -136,5 +144,17 @@ std::string SystemFolders::Reports() {
 }
 
 std::string SystemFolders::Application() { return FromQt(QCoreApplication::applicationDirPath()); }
+
+// Elsewhere the system writes through in its own time.
+void SystemFolders::WriteThrough(const std::string& path) {
+#ifdef Q_OS_UNIX
+  const int file = open(path.c_str(), O_RDONLY | O_CLOEXEC);
+  if (file < 0) return;
+  fsync(file);
+  close(file);
+#else
+  Q_UNUSED(path)
+#endif
+}
 
 }  // namespace qismora

@@ -39,6 +39,7 @@ class SystemFolders : public Folders {
  public:
   std::string Reports() override;
   std::string Application() override;
+  void WriteThrough(const std::string& path) override;
 };
 
 }  // namespace qismora
