@@ -1,0 +1,121 @@
+// Plays so many random sessions after one another on one record, each on a new screen, and tells how fast
+// they were and whether memory has grown.
+//   random_sessions SESSIONS [SEED [tell]]
+// With "tell" it prints every line that it plays: the last ones before a crash are the script that led to it.
+
+#include <unistd.h>
+
+#include <chrono>
+#include <cstring>
+#include <filesystem>
+#include <fstream>
+#include <iostream>
+
+#include "fuzz/Invariants.h"
+#include "fuzz/RandomLines.h"
+#include "player/Player.h"
+#include "support/TemporaryFolder.h"
+
+namespace fs = std::filesystem;
+using namespace qismora;
+using namespace qismora::testing;
+
+namespace {
+
+#if defined(__has_feature)
+#if __has_feature(address_sanitizer)
+#define QISMORA_SANITIZED
+#endif
+#endif
+#ifdef __SANITIZE_ADDRESS__
+#define QISMORA_SANITIZED
+#endif
+
+// The sanitizer keeps freed memory back, so its growth tells nothing.
+#ifdef QISMORA_SANITIZED
+constexpr bool memoryTells = false;
+#else
+constexpr bool memoryTells = true;
+#endif
+constexpr long mostGrowth = 1024;
+constexpr unsigned longestSession = 20;
+constexpr int sessionsBetweenClearings = 100;
+
+long ResidentKilobytes() {
+  std::ifstream statm("/proc/self/statm");
+  long size = 0;
+  long resident = 0;
+  statm >> size >> resident;
+  return resident * sysconf(_SC_PAGESIZE) / 1024;
+}
+
+void Clear(const TemporaryFolder& folder) {
+  for (const auto& entry : fs::directory_iterator(folder.Path())) fs::remove_all(entry.path());
+}
+
+/// Sessions on the same record, which carries over from one to the next.
+class Sessions {
+ public:
+  Sessions(std::uint64_t seed, bool tell) : random_(seed), tell_(tell) {}
+
+  void Play(int count) {
+    for (int session = 0; session < count; ++session) {
+      // A session that hangs ends the program.
+      alarm(longestSession);
+      if (session % sessionsBetweenClearings == 0) Clear(folder_);
+      PlayOne();
+    }
+    alarm(0);
+  }
+
+ private:
+  void PlayOne() {
+    if (tell_) std::cout << "# a new screen\n";
+    Player player(record_, nowhere_, folder_.Path());
+    for (std::size_t lines = 5 + random_.Below(40); lines > 0; --lines) {
+      const std::string line = random_.Next();
+      if (tell_) std::cout << line << std::endl;
+      player.Perform(line);
+      CheckInvariants(player.Study(), record_);
+    }
+  }
+
+  RandomLines random_;
+  bool tell_;
+  std::ostream nowhere_{nullptr};
+  TemporaryFolder folder_;
+  CaseRecord record_;
+};
+
+}  // namespace
+
+int main(int argc, char** argv) {
+  if (argc < 2) {
+    std::cerr << "usage: random_sessions SESSIONS [SEED [tell]]\n";
+    return 2;
+  }
+  const int count = std::stoi(argv[1]);
+  const std::uint64_t seed = argc > 2 ? std::stoull(argv[2]) : std::random_device()();
+  const bool tell = argc > 3 && std::strcmp(argv[3], "tell") == 0;
+  std::cout << count << " random sessions with the seed " << seed << std::endl;
+
+  if (fs::exists("/dev/shm")) setenv("TMPDIR", "/dev/shm", 0);
+  Sessions sessions(seed, tell);
+  const auto begin = std::chrono::steady_clock::now();
+  // The first tenth fills the caches of the allocator and counts as the start.
+  sessions.Play(count / 10);
+  const long atStart = ResidentKilobytes();
+  sessions.Play(count / 2 - count / 10);
+  const long atHalf = ResidentKilobytes();
+  sessions.Play(count - count / 2);
+  const long atEnd = ResidentKilobytes();
+  const std::chrono::duration<double> took = std::chrono::steady_clock::now() - begin;
+
+  std::cout << static_cast<long>(count / took.count()) << " sessions a second; resident " << atStart
+            << " KiB at the start, " << atHalf << " KiB at half, " << atEnd << " KiB at the end\n";
+  if (memoryTells && atEnd - atHalf > mostGrowth) {
+    std::cerr << "memory grows\n";
+    return 1;
+  }
+  return 0;
+}

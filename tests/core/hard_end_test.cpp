@@ -1,0 +1,124 @@
+// The program is ended hard at each of its calls to the system while it saves, one after the other. Whatever
+// the moment, every earlier report and every line of the log must be whole, and the next run must save as if
+// nothing had happened.
+
+#include <gtest/gtest.h>
+#include <sys/ptrace.h>
+#include <sys/wait.h>
+
+#include <csignal>
+#include <functional>
+#include <map>
+#include <set>
+
+#include "base/Files.h"
+#include "base/Text.h"
+#include "support/SavingProgram.h"
+#include "support/TemporaryFolder.h"
+
+namespace qismora {
+namespace {
+
+namespace fs = std::filesystem;
+using testing::SavingProgram;
+using testing::TemporaryFolder;
+
+constexpr int notPermitted = 77;
+
+enum class Outcome { Ended, Killed, NotPermitted };
+
+/// Runs the program in a process of its own and kills it when it makes its call of that number to the system,
+/// before the call has done anything.
+Outcome RunUpToCall(int number, const std::function<void()>& program) {
+  const pid_t child = fork();
+  if (child == 0) {
+    if (ptrace(PTRACE_TRACEME, 0, nullptr, nullptr) != 0) _exit(notPermitted);
+    std::raise(SIGSTOP);
+    program();
+    _exit(0);
+  }
+  int status = 0;
+  waitpid(child, &status, 0);
+  if (WIFEXITED(status)) return Outcome::NotPermitted;
+  // Each call stops the program twice: when it is made, and when it returns.
+  for (int stops = 0; stops < 2 * number - 1; ++stops) {
+    ptrace(PTRACE_SYSCALL, child, nullptr, nullptr);
+    waitpid(child, &status, 0);
+    if (WIFEXITED(status)) {
+      EXPECT_EQ(WEXITSTATUS(status), 0);
+      return Outcome::Ended;
+    }
+  }
+  kill(child, SIGKILL);
+  waitpid(child, &status, 0);
+  EXPECT_TRUE(WIFSIGNALED(status));
+  return Outcome::Killed;
+}
+
+/// What lies in a folder after a run: each file with its content.
+using Content = std::map<std::string, std::string>;
+
+Content ReadFolder(const TemporaryFolder& folder) {
+  Content content;
+  for (const auto& entry : fs::directory_iterator(folder.Path()))
+    content[entry.path().filename().string()] = ReadWholeFile(entry.path().string());
+  return content;
+}
+
+/// A whole run of the program.
+void SaveAll(const TemporaryFolder& folder, int sons) {
+  SavingProgram program(folder.Path(), sons);
+  program.SaveReport();
+  program.SaveResults();
+  program.End();
+}
+
+bool IsUnfinished(const std::string& name) { return name.starts_with(".report-") && name.ends_with(".part"); }
+
+/// The folder after the hard end, held against the one before and the one after a whole run.
+void CheckFolder(const Content& found, const Content& before, const Content& after) {
+  for (const auto& [name, text] : found) {
+    if (name == "FullReport" || IsUnfinished(name)) continue;
+    ASSERT_TRUE(after.contains(name)) << name;
+    EXPECT_TRUE(text == after.at(name) || (before.contains(name) && text == before.at(name))) << name;
+  }
+  for (const auto& [name, text] : before) {
+    EXPECT_TRUE(name == "FullReport" || found.contains(name)) << name;
+  }
+}
+
+void EndAtEveryCall(bool reportsBefore) {
+  int calls = 0;
+  std::set<Content> states;
+  for (Outcome outcome = Outcome::Killed; outcome == Outcome::Killed; ++calls) {
+    SCOPED_TRACE(Join("killed at call ", calls + 1));
+    const TemporaryFolder folder;
+    if (reportsBefore) SaveAll(folder, 1);
+    const Content before = ReadFolder(folder);
+    outcome = RunUpToCall(calls + 1, [&] { SaveAll(folder, 3); });
+    if (outcome == Outcome::NotPermitted) GTEST_SKIP() << "no program may be watched here";
+    const Content found = ReadFolder(folder);
+
+    SaveAll(folder, 3);
+    Content after = ReadFolder(folder);
+    EXPECT_EQ(after["zayd.txt"], after["FullReport"]) << "the next run saves its report";
+    EXPECT_NE(after["zayd.txt"], reportsBefore ? before.at("zayd.txt") : "");
+    // A log that got its line before the end has one more after the next run.
+    const std::string line = found.contains("popuQism.ppl") ? found.at("popuQism.ppl") : "";
+    EXPECT_TRUE(after["popuQism.ppl"].starts_with(line));
+    EXPECT_TRUE(line.empty() || line.ends_with(CRLF));
+    EXPECT_EQ(line.size() % (after["popuQism.ppl"].size() - line.size()), 0U) << "whole lines";
+    after["popuQism.ppl"] = line;
+    CheckFolder(found, before, after);
+    states.insert(found);
+    if (::testing::Test::HasFailure()) return;
+  }
+  // The kills have hit the saving, and not only what comes before it.
+  EXPECT_GT(states.size(), 5U) << calls << " calls";
+}
+
+TEST(HardEnd, AtEachMomentOfTheFirstSaving) { EndAtEveryCall(false); }
+TEST(HardEnd, AtEachMomentOfSavingOverEarlierReports) { EndAtEveryCall(true); }
+
+}  // namespace
+}  // namespace qismora

@@ -1,0 +1,89 @@
+// Two programs that save at the same moment in the same folder, under the same name. The settings are a file
+// of the toolkit; two programs that share it belong to the tests of the windows.
+
+#include <gtest/gtest.h>
+#include <sys/wait.h>
+
+#include <algorithm>
+#include <functional>
+
+#include "base/Files.h"
+#include "base/Text.h"
+#include "support/SavingProgram.h"
+#include "support/TemporaryFolder.h"
+
+namespace qismora {
+namespace {
+
+namespace fs = std::filesystem;
+using testing::SavingProgram;
+using testing::TemporaryFolder;
+
+constexpr int rounds = 200;
+
+/// The report of a program that is alone in its folder.
+std::string ReportOf(int sons) {
+  const TemporaryFolder folder;
+  SavingProgram(folder.Path(), sons).SaveReport();
+  return ReadWholeFile(folder.File("zayd.txt"));
+}
+
+std::string ResultsOf(int sons) {
+  const TemporaryFolder folder;
+  SavingProgram program(folder.Path(), sons);
+  program.SaveReport();
+  program.SaveResults();
+  return ReadWholeFile(folder.File("results.txt"));
+}
+
+void RunTwoPrograms(const std::function<void(int sons)>& round) {
+  pid_t children[2] = {};
+  for (int program = 0; program < 2; ++program) {
+    children[program] = fork();
+    ASSERT_GE(children[program], 0);
+    if (children[program] != 0) continue;
+    for (int i = 0; i < rounds; ++i) round(program + 1);
+    _exit(0);
+  }
+  for (const pid_t child : children) {
+    int status = -1;
+    ASSERT_EQ(waitpid(child, &status, 0), child);
+    EXPECT_EQ(status, 0);
+  }
+}
+
+TEST(TwoPrograms, AReportUnderTheSameNameIsThatOfOneOfThem) {
+  const std::string reports[] = {ReportOf(1), ReportOf(2)};
+  const std::string results[] = {ResultsOf(1), ResultsOf(2)};
+  ASSERT_NE(reports[0], reports[1]);
+  const TemporaryFolder folder;
+  // A reader sees a whole report at every moment, not only when all is over.
+  RunTwoPrograms([&](int sons) {
+    SavingProgram program(folder.Path(), sons);
+    program.SaveReport();
+    program.SaveResults();
+    if (std::ranges::count(reports, ReadWholeFile(folder.File("zayd.txt"))) != 1) _exit(1);
+    if (std::ranges::count(results, ReadWholeFile(folder.File("results.txt"))) != 1) _exit(2);
+  });
+  EXPECT_EQ(std::ranges::count(reports, ReadWholeFile(folder.File("zayd.txt"))), 1);
+  EXPECT_EQ(std::ranges::count(results, ReadWholeFile(folder.File("results.txt"))), 1);
+  for (const auto& entry : fs::directory_iterator(folder.Path())) {
+    EXPECT_FALSE(entry.path().filename().string().ends_with(".part")) << entry.path();
+  }
+}
+
+TEST(TwoPrograms, EachSessionHasItsLine) {
+  const TemporaryFolder folder;
+  RunTwoPrograms([&](int sons) { SavingProgram(folder.Path(), sons).End(); });
+  testing::MemoryWorld world;
+  world.Folders.Folder = folder.Path();
+  const SessionTable table = ReadSessionLog(world.Ports);
+  EXPECT_EQ(table.Count, 2 * rounds);
+  for (int i = 1; i <= table.Count; ++i) {
+    EXPECT_EQ(table.Rows[static_cast<std::size_t>(i)].Start, "05/03/2024 14:07:09      ");
+    EXPECT_EQ(table.Rows[static_cast<std::size_t>(i)].Length, 0);
+  }
+}
+
+}  // namespace
+}  // namespace qismora

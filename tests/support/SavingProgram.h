@@ -1,0 +1,66 @@
+#pragma once
+
+#include <fcntl.h>
+#include <unistd.h>
+
+#include <string>
+
+#include "shell/SessionLog.h"
+#include "support/MemoryCase.h"
+
+namespace qismora::testing {
+
+/// Folders whose files are written through to the disk, as the program's are.
+class DiskFolders : public MemoryFolders {
+ public:
+  void WriteThrough(const std::string& path) override {
+    const int file = open(path.c_str(), O_RDONLY | O_CLOEXEC);
+    if (file < 0) return;
+    fsync(file);
+    close(file);
+  }
+};
+
+/// One run of the program, with a wife and so many sons, that saves all it can save in a folder. A file of an
+/// earlier run is replaced.
+class SavingProgram {
+ public:
+  SavingProgram(const std::string& folder, int sons) : folder_(folder) {
+    folders_.Folder = folder;
+    Study.Text1(GrossEstateBox).Text = "24000";
+    for (const int box : {FuneralBox, DebtsBox, WillsBox}) Study.Text1(box).Text = "0";
+    Study.Text1(NameBox).Text = "Zayd";
+    Study.Text1(1).Text = "1";
+    Study.Text1(2).Text = std::to_string(sons);
+    StartSession(shell_, ports_);
+  }
+
+  void SaveReport() {
+    world_.Boxes.Answers = {Answer::Yes};
+    Study.CreateSaveFullReport_Click();
+  }
+  void SaveResults() {
+    world_.Boxes.Answers = {Answer::Yes};
+    world_.Dialog.Paths = {folder_ + "/results.txt"};
+    Study.SaveResults_Click();
+  }
+  /// Adds the session's line to the log.
+  void End() { Inhp(shell_, record_, ports_); }
+
+ private:
+  std::string folder_;
+  MemoryWorld world_;
+  DiskFolders folders_;
+  ShellOutside ports_{{world_.Clock, world_.Boxes, world_.Dialog, world_.Settings, folders_},
+                      world_.Viewer,
+                      world_.Player,
+                      world_.Memory,
+                      world_.Program};
+  CaseRecord record_;
+  ShellRecord shell_;
+
+ public:
+  CaseStudy Study{record_, ports_, 0};
+};
+
+}  // namespace qismora::testing
