@@ -35,6 +35,15 @@ void Binder::Caption(Label& control, QLabel* widget) {
   Follow(control.Caption, [&control, widget] { widget->setText(ToQt(control.Caption.Get())); });
 }
 
+void Binder::SpokenCaption(Label& control, QLabel* widget) {
+  Caption(control, widget);
+  const QString name = widget->accessibleName();
+  Follow(control.Caption, [widget, name] {
+    const QString words = widget->text();
+    widget->setAccessibleName(words.isEmpty() ? name : name + QStringLiteral(": ") + words);
+  });
+}
+
 void Binder::Look(Label& control, QLabel* widget) {
   Colour(control.ForeColor, widget, QPalette::WindowText, QPalette::Window);
   Border(control.BorderStyle, widget);

@@ -22,6 +22,8 @@ namespace qismora {
 class Binder {
  public:
   void Caption(Label& control, QLabel* widget);
+  /// A label that shows a result: it is spoken behind the widget's accessible name.
+  void SpokenCaption(Label& control, QLabel* widget);
   /// The colour and the border that a label changes while the program runs.
   void Look(Label& control, QLabel* widget);
   void Box(TextBox& control, QLineEdit* widget);

@@ -71,7 +71,15 @@ void CaseStudyWindow::BuildFrame() {
   rows->addWidget(classII);
   setCentralWidget(ground);
 
-  WhenMouseMoves(classII, [this] { form_.Frame3_MouseMove(); });
+  // What has a hover of its own keeps it; everything else takes the decorations back.
+  for (QWidget* child : frame_->findChildren<QWidget*>()) {
+    if (child->hasMouseTracking()) continue;
+    if (child == classII || classII->isAncestorOf(child)) {
+      WhenMouseMoves(child, [this] { form_.Frame3_MouseMove(); });
+    } else {
+      WhenMouseMoves(child, [this] { form_.Frame111_MouseMove(); });
+    }
+  }
   for (QWidget* widget : {frame_, ground, static_cast<QWidget*>(this)}) {
     WhenMouseMoves(widget, [this] { form_.Frame111_MouseMove(); });
   }
@@ -86,7 +94,7 @@ void CaseStudyWindow::BuildStatusBar() {
   auto* panel = new QLabel(this);
   panel->setObjectName(QStringLiteral("StatusBar1.Panel1"));
   panel->setAccessibleName(tr("What was last computed"));
-  binder_.Caption(form_.StatusBar1, panel);
+  binder_.SpokenCaption(form_.StatusBar1, panel);
   statusBar()->addWidget(panel, 1);
 }
 

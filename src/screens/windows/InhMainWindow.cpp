@@ -182,7 +182,7 @@ QWidget* InhMainWindow::SessionNumber() {
   number->setAlignment(Qt::AlignCenter);
   number->setMinimumWidth(number->fontMetrics().horizontalAdvance(QStringLiteral("000000")));
   number->ActOn(Gesture::Click, tr("Show the sessions"), [this] { form_.Label22_Click(); });
-  binder_.Caption(form_.Label22, number);
+  binder_.SpokenCaption(form_.Label22, number);
   Binder::Follow(form_.Label22.Caption, [this, number] {
     number->setAccessibleName(tr("Number of this session: %1").arg(ToQt(form_.Label22.Caption.Get())));
   });

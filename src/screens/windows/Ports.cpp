@@ -4,7 +4,9 @@
 #include <QDir>
 #include <QFileDialog>
 #include <QFileInfo>
+#include <QLabel>
 #include <QMessageBox>
+#include <QPointer>
 #include <QSettings>
 #include <QStandardPaths>
 #include <algorithm>
@@ -59,14 +61,35 @@ QMessageBox::Icon IconOf(BoxStyle style) {
   }
 }
 
-// The window that a box belongs to. Without one it would come up behind a window that stays on top.
+// The window that a box belongs to: the one that the user was in last, also while a box before has just
+// closed and no window is active yet. Without it the box would come up behind a window that stays on top.
 QWidget* Owner() {
-  if (QWidget* active = QApplication::activeWindow()) return active;
+  static QPointer<QWidget> last;
+  QWidget* active = QApplication::activeWindow();
+  if (active != nullptr && active->windowType() == Qt::Window) last = active;
+  if (last != nullptr && last->isVisible()) return last;
   const QWidgetList windows = QApplication::topLevelWidgets();
   const auto shown = std::ranges::find_if(windows, [](const QWidget* window) {
     return window->isVisible() && window->windowType() == Qt::Window;
   });
-  return shown == windows.end() ? nullptr : *shown;
+  return shown == windows.end() ? active : *shown;
+}
+
+constexpr int longestLine = 120;
+constexpr int leastWidth = 280;
+constexpr int slack = 8;
+
+// The lines of a box are set by the program and are not broken again, unless a name in them is very long. The
+// box is wide enough for its title.
+void KeepLines(QMessageBox& box) {
+  auto* words = box.findChild<QLabel*>(QStringLiteral("qt_msgbox_label"));
+  if (words == nullptr) return;
+  int width = leastWidth;
+  for (const QString& line : words->text().split(QLatin1Char('\n'))) {
+    if (line.size() <= longestLine)
+      width = std::max(width, words->fontMetrics().horizontalAdvance(line) + slack);
+  }
+  words->setMinimumWidth(width);
 }
 
 bool CanWrite(const QString& folder) {
@@ -95,6 +118,9 @@ Answer QtMessageBoxes::Show(BoxStyle style, BoxButtons buttons, const std::strin
   QMessageBox box(IconOf(style), QString::fromUtf8(ApplicationTitle), ToQtLines(text), Offered(buttons),
                   Owner());
   box.setTextFormat(Qt::PlainText);
+  KeepLines(box);
+  // A key pressed in haste gives nothing away.
+  if (buttons != BoxButtons::Ok) box.setDefaultButton(QMessageBox::No);
   const PointerShape usersTurn(Qt::ArrowCursor);
   const int pressed = box.exec();
   for (const ButtonRow& row : answers) {

@@ -26,7 +26,7 @@ QLabel* Heading(const char* name, const QString& spoken, Label& control, Binder&
   label->setFont(bold);
   // An amount of hundreds of digits must not widen the form.
   label->setSizePolicy(QSizePolicy::Ignored, QSizePolicy::Fixed);
-  binder.Caption(control, label);
+  binder.SpokenCaption(control, label);
   binder.Look(control, label);
   return label;
 }

@@ -136,7 +136,7 @@ QWidget* SessionWindow::Selected() {
   line->setAccessibleDescription(tr("The selected session"));
   line->setTextFormat(Qt::PlainText);
   line->setTextInteractionFlags(Qt::TextSelectableByMouse);
-  binder_.Caption(form_.Label2, line);
+  binder_.SpokenCaption(form_.Label2, line);
   row->addWidget(caption);
   row->addWidget(line, 1);
   return place;
@@ -147,7 +147,7 @@ QWidget* SessionWindow::Total() {
   total->setObjectName(QStringLiteral("Label3"));
   total->setFont(HeadingFont(font(), QFontInfo(font()).pixelSize()));
   total->setTextInteractionFlags(Qt::TextSelectableByMouse);
-  binder_.Caption(form_.Label3, total);
+  binder_.SpokenCaption(form_.Label3, total);
   return total;
 }
 

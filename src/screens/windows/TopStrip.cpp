@@ -114,7 +114,7 @@ QWidget* TopStrip::Executions() {
   count->setFrameStyle(int(QFrame::StyledPanel) | int(QFrame::Sunken));
   count->setMargin(viewMargin - 2);
   count->setMinimumWidth(count->fontMetrics().horizontalAdvance(QStringLiteral("00000")) + 2 * viewMargin);
-  binder_.Caption(form_.Label13, count);
+  binder_.SpokenCaption(form_.Label13, count);
   count->ActOn(Gesture::DoubleClick, tr("Number of executions"), [this] { form_.Label13_DblClick(); });
   return count;
 }
