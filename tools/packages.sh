@@ -19,6 +19,7 @@ packages_to_run=(
 packages_to_check=(
   "${packages_to_run[@]}"
   libgtest-dev       # tests
+  python3            # the test of the pictures
   libbenchmark-dev   # benchmarks
   clang-14           # second opinion on the core
   libclang-rt-14-dev # sanitizers
