@@ -270,7 +270,6 @@ class CaseStudyWindowTest : public QObject {
     QVERIFY(desk_->Find("Image7(1)")->isVisible());
   }
 
-  // Back only hides; the close box makes an end of the form, and the next opening starts anew.
   void ThePointerShowsAReportBeingMade() {
     int hourglasses = 0;
     desk_->Form().Text3.Text.WhenChanged([&] {
@@ -287,12 +286,17 @@ class CaseStudyWindowTest : public QObject {
     const QString before = QDir::currentPath();
     QVERIFY(QDir::setCurrent(QStringLiteral("/proc/self")));
     const std::string folder = qismora::SystemFolders().Reports();
+    desk_->Open();
     QVERIFY(QDir::setCurrent(before));
+    auto* told = desk_->Find<QLabel>("StatusBar1.Panel2");
+    QCOMPARE(told->toolTip(), QString::fromStdString(folder));
+    QVERIFY(told->accessibleName().endsWith(told->toolTip()));
     QCOMPARE(QString::fromStdString(folder),
              QStandardPaths::writableLocation(QStandardPaths::DocumentsLocation));
     QVERIFY(QFileInfo(QString::fromStdString(folder)).isWritable());
   }
 
+  // Back only hides; the close box makes an end of the form, and the next opening starts anew.
   void BackAndClose() {
     int menus = 0;
     desk_->Form().ShowMainMenu = [&menus] { ++menus; };

@@ -2,6 +2,8 @@
 
 #include <QBoxLayout>
 #include <QCloseEvent>
+#include <QDir>
+#include <QLabel>
 #include <QMenuBar>
 #include <QStatusBar>
 #include <QTimer>
@@ -26,6 +28,7 @@ constexpr QSize caseSize{800, 600};
 constexpr int twips = 15;
 constexpr int margin = 6;
 constexpr int largestLetters = 12;
+constexpr int longestFolder = 300;
 
 }  // namespace
 
@@ -39,7 +42,7 @@ CaseStudyWindow::CaseStudyWindow(CaseRecord& record, Outside& outside, int saved
   form_.Hide = [this] { hide(); };
   LimitLetters(this, largestLetters);
   FillCaseMenu(menuBar(), form_, binder_);
-  BuildStatusBar();
+  BuildStatusBar(outside.Places);
   BuildFrame();
   BuildTimer();
   SetSizes();
@@ -88,7 +91,7 @@ void CaseStudyWindow::BuildFrame() {
   Binder::Follow(form_.Frame111Top, place);
 }
 
-void CaseStudyWindow::BuildStatusBar() {
+void CaseStudyWindow::BuildStatusBar(Folders& folders) {
   statusBar()->setObjectName(QStringLiteral("StatusBar1"));
   statusBar()->setAccessibleName(tr("Status bar"));
   auto* panel = new QLabel(this);
@@ -96,6 +99,17 @@ void CaseStudyWindow::BuildStatusBar() {
   panel->setAccessibleName(tr("What was last computed"));
   binder_.SpokenCaption(form_.StatusBar1, panel);
   statusBar()->addWidget(panel, 1);
+
+  // The commands that save name a file and no folder, so the folder stands here.
+  const QString folder = QDir::toNativeSeparators(ToQt(folders.Reports()));
+  auto* reports = new QLabel(this);
+  reports->setObjectName(QStringLiteral("StatusBar1.Panel2"));
+  reports->setTextFormat(Qt::PlainText);
+  const QString words = tr("Reports are saved in %1");
+  reports->setText(words.arg(fontMetrics().elidedText(folder, Qt::ElideMiddle, longestFolder)));
+  reports->setToolTip(folder);
+  reports->setAccessibleName(words.arg(folder));
+  statusBar()->addPermanentWidget(reports);
 }
 
 void CaseStudyWindow::BuildTimer() {

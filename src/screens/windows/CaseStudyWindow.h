@@ -23,7 +23,7 @@ class CaseStudyWindow : public QMainWindow {
 
  private:
   void BuildFrame();
-  void BuildStatusBar();
+  void BuildStatusBar(Folders& folders);
   void BuildTimer();
   void KeepOnTop();
   void SetSizes();

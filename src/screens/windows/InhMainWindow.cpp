@@ -1,6 +1,7 @@
 #include "screens/windows/InhMainWindow.h"
 
 #include <QAction>
+#include <QApplication>
 #include <QBoxLayout>
 #include <QCloseEvent>
 #include <QGridLayout>
@@ -8,6 +9,8 @@
 #include <QMenuBar>
 #include <QPointer>
 #include <QTimer>
+#include <QWindow>
+#include <utility>
 
 #include "screens/windows/DisclaimerText.h"
 #include "screens/windows/MenuOption.h"
@@ -43,7 +46,11 @@ InhMainWindow::InhMainWindow(CaseRecord& record, ShellRecord& shell, ShellOutsid
                              QtVideoPlayer& player)
     : FormWindow("InhMain", tr("Main menu")), form_(record, shell, outside) {
   setWindowTitle(tr("Islamic Laws of Inheritance"));
-  form_.Hide = [this] { hide(); };
+  form_.Hide = [this] {
+    // A desktop gives a window that was never placed by its program a new place at each showing.
+    windowHandle()->setFramePosition(windowHandle()->framePosition());
+    hide();
+  };
   BuildMenuBar();
   auto* rows = new QVBoxLayout(Frame111());
   rows->setSpacing(gap);
@@ -134,9 +141,9 @@ QWidget* InhMainWindow::Side(QtVideoPlayer& player) {
   video->DoubleClicked = [this] { form_.Frame5_DblClick(); };
   player.PlayIn(video);
   auto* resources = new CaptionLabel(QStringLiteral("Frame2"), side);
-  resources->setText(tr("Documents and resources"));
-  resources->setAccessibleName(resources->text());
-  resources->setToolTip(tr("Double click to open"));
+  resources->setText(tr("Documents (double click)"));
+  resources->setAccessibleName(tr("Documents and resources"));
+  resources->setToolTip(tr("Double click, or press Return, to open"));
   resources->setFrameStyle(int(QFrame::StyledPanel) | int(QFrame::Plain));
   resources->setMargin(gap / 2);
   resources->ActOn(Gesture::DoubleClick, tr("Open the documents and resources"),
@@ -253,6 +260,13 @@ void InhMainWindow::ForceSize() {
 void InhMainWindow::changeEvent(QEvent* event) {
   FormWindow::changeEvent(event);
   if (event->type() == QEvent::PaletteChange && banners_[0] != nullptr) ShowBanner();
+}
+
+// The program's icon waits for the first painting: nobody misses it before.
+void InhMainWindow::paintEvent(QPaintEvent* event) {
+  FormWindow::paintEvent(event);
+  if (std::exchange(painted_, true)) return;
+  QTimer::singleShot(0, this, [] { QApplication::setWindowIcon(ProgramIcon()); });
 }
 
 void InhMainWindow::closeEvent(QCloseEvent* event) {

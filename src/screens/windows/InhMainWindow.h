@@ -18,6 +18,7 @@ class InhMainWindow : public FormWindow {
   void TellSize(bool maximized, int width, int height) override;
   void changeEvent(QEvent* event) override;
   void closeEvent(QCloseEvent* event) override;
+  void paintEvent(QPaintEvent* event) override;
 
  private:
   void BuildMenuBar();
@@ -34,6 +35,7 @@ class InhMainWindow : public FormWindow {
   InhMain form_;
   QWidget* banners_[2] = {};
   QSize refused_;
+  bool painted_ = false;
 };
 
 }  // namespace qismora

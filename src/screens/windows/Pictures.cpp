@@ -11,8 +11,24 @@ namespace qismora {
 namespace {
 
 constexpr QSize smallIcon{20, 20};
+constexpr int iconSizes[] = {16, 24, 32, 48, 64, 128};
+constexpr int firstFullIcon = 48;
 
 }  // namespace
+
+QIcon ProgramIcon() {
+  QSvgRenderer full(QStringLiteral(":/pictures/icon.svg"));
+  QSvgRenderer plain(QStringLiteral(":/pictures/icon-small.svg"));
+  QIcon icon;
+  for (const int size : iconSizes) {
+    QPixmap pixmap(size, size);
+    pixmap.fill(Qt::transparent);
+    QPainter painter(&pixmap);
+    (size < firstFullIcon ? plain : full).render(&painter);
+    icon.addPixmap(pixmap);
+  }
+  return icon;
+}
 
 void Drawing::Show(const QString& name) {
   const QString file = QStringLiteral(":/pictures/%1.svg").arg(name);

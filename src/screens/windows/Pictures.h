@@ -1,5 +1,6 @@
 #pragma once
 
+#include <QIcon>
 #include <QPixmap>
 #include <QPushButton>
 #include <QString>
@@ -28,6 +29,9 @@ class Drawing {
   QColor ink_;
   QPixmap pixmap_;
 };
+
+/// The program's icon in the sizes of title bars and task lists; the small ones are drawn with fewer lines.
+QIcon ProgramIcon();
 
 enum class Ink { Own, Text };
 
