@@ -25,7 +25,7 @@ struct Column {
   }
 
   void Push(const std::string& text, const TextStyle& style, double width) {
-    Lines.emplace_back(ReadInline(text, style), width, Points(13));
+    Lines.emplace_back(ReadAsWritten(text, style), width, Points(13));
     Top.push_back(Height);
     Height += Lines.back().Height();
   }
@@ -103,7 +103,8 @@ void Layouter::AddVerse(const Verse& verse) {
       ContentWidth - 2 * Points(16), Points(16));
   Piece piece;
   piece.Before = Points(12);
-  piece.Height = text.Height() + name.Height() + Points(16);
+  // The pause marks over the first line need room.
+  piece.Height = text.Height() + name.Height() + Points(19);
   piece.KeepWithNext = true;
   const double height = piece.Height;
   piece.Draw = [=](QPainter& painter, QPointF at) {
@@ -111,7 +112,7 @@ void Layouter::AddVerse(const Verse& verse) {
     painter.setBrush(Tint);
     painter.drawRoundedRect(QRectF(at, QSizeF(ContentWidth, height)), Points(5), Points(5));
     name.Draw(painter, at + QPointF(Points(16), Points(6)));
-    text.Draw(painter, at + QPointF(Points(16), Points(8) + name.Height()));
+    text.Draw(painter, at + QPointF(Points(16), Points(11) + name.Height()));
   };
   pieces_.push_back(piece);
 }

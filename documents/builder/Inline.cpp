@@ -1,5 +1,6 @@
 #include "Inline.h"
 
+#include <QRegularExpression>
 #include <array>
 #include <utility>
 
@@ -61,10 +62,17 @@ void KeepTermsTogether(QString& text) {
   }
 }
 
-}  // namespace
+/// Apostrophes are curved like the quotation marks beside them, and no line ends behind an article (al-).
+void SetAsInPrint(QString& text) {
+  static const QRegularExpression joined(
+      QStringLiteral(R"(\b(al|bi|li|wa|l)-(?=\p{L}))"),
+      QRegularExpression::CaseInsensitiveOption | QRegularExpression::UseUnicodePropertiesOption);
+  constexpr char16_t hyphenThatJoins = u'\u2011';
+  text.replace('\'', QChar(u'\u2019'));
+  text.replace(joined, QString("\\1") + QChar(hyphenThatJoins));
+}
 
-StyledText ReadInline(const std::string& utf8, const TextStyle& style) {
-  QString text = WithUnicodeTanwin(QString::fromStdString(utf8));
+StyledText Read(QString text, const TextStyle& style) {
   text.replace("<br>", QString(QChar(QChar::LineSeparator)));
   StyledText read;
   TextStyle now = style;
@@ -84,6 +92,18 @@ StyledText ReadInline(const std::string& utf8, const TextStyle& style) {
   read.RightToLeft = BeginsInArabic(read.Text);
   if (!read.RightToLeft) KeepTermsTogether(read.Text);
   return read;
+}
+
+}  // namespace
+
+StyledText ReadInline(const std::string& utf8, const TextStyle& style) {
+  QString text = WithUnicodeTanwin(QString::fromStdString(utf8));
+  SetAsInPrint(text);
+  return Read(text, style);
+}
+
+StyledText ReadAsWritten(const std::string& utf8, const TextStyle& style) {
+  return Read(QString::fromStdString(utf8), style);
 }
 
 QString WithUnicodeTanwin(QString text) {

@@ -21,6 +21,9 @@ struct StyledText {
 /// set in its own font.
 StyledText ReadInline(const std::string& utf8, const TextStyle& style);
 
+/// The same for what the program answers, which is shown sign for sign as the program writes it.
+StyledText ReadAsWritten(const std::string& utf8, const TextStyle& style);
+
 /// The same letters in the code points that fonts of general use know. The text of the verses writes
 /// the open tanwīn, the doubled vowel sign whose two strokes stand apart, with three code points that
 /// mean other signs in Unicode, as the font for which it was made wants it.
