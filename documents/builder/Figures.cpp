@@ -10,8 +10,8 @@ namespace {
 
 // The trees are laid out in points from the top left corner; nodes are told by their centre and top.
 constexpr double NodeWidth = 80;
-constexpr double NodeHeight = 42;
-// The kinds of class II have longer names.
+constexpr double NodeHeight = 58;
+// The kinds of class II have longer names; their Urdu stands in the table beside the tree.
 constexpr double WideNode = 108;
 constexpr double TallNode = 52;
 
@@ -22,14 +22,16 @@ class Tree {
   Tree(const TermTable& terms, QPainter& painter, QPointF at, double width, double height)
       : terms_(terms), painter_(painter), at_(at), width_(width), height_(height) {}
 
-  /// A box with the caption of an heir on the screen and its Arabic, and where it says, a number.
+  /// A box with the caption of an heir on the screen, its Arabic and, where there is room, its Urdu, and
+  /// where it says, a number.
   void Heir(const std::string& key, Kind kind, double centre, double top, int number = 0) {
     const std::map<std::string, std::string>& term = terms_.at(key);
-    Node(term.at("english"), term.at("arabic"), kind, centre, top);
+    Node(term.at("english"), term.at("arabic"), height_ > TallNode ? term.at("urdu") : "", kind, centre, top);
     if (number > 0) Badge(number, centre - width_ / 2, top);
   }
 
-  void Node(const std::string& english, const std::string& arabic, Kind kind, double centre, double top) {
+  void Node(const std::string& english, const std::string& arabic, const std::string& urdu, Kind kind,
+            double centre, double top) {
     const QRectF box(Point(centre - width_ / 2, top), QSizeF(Points(width_), Points(height_)));
     painter_.setPen(QPen(kind == Kind::NoHeir ? Grey : Accent, Points(0.9),
                          kind == Kind::NoHeir ? Qt::DashLine : Qt::SolidLine));
@@ -40,7 +42,9 @@ class Tree {
                        : kind == Kind::NoHeir ? Grey
                                               : QColor(Qt::black);
     Text(english, 7.2, ink, box.topLeft() + QPointF(0, Points(4)), 11);
-    Text(arabic, 7.4, ink, box.bottomLeft() - QPointF(0, Points(24)), 19);
+    Text(arabic, 7.4, ink, box.bottomLeft() - QPointF(0, Points(urdu.empty() ? 24 : 41)), 19);
+    const QColor second = kind == Kind::Man || kind == Kind::Woman ? Accent : ink;
+    if (!urdu.empty()) Text(urdu, 7.4, second, box.bottomLeft() - QPointF(0, Points(23)), 19);
   }
 
   void Line(double x1, double y1, double x2, double y2) {
@@ -95,9 +99,10 @@ class Tree {
 };
 
 // The rows of the family, from the great grandparents to the great grandchildren.
-constexpr double Row = 68;
+constexpr double Row = 82;
 constexpr double Own = 3 * Row;
-constexpr double Below = Own + 2 * NodeHeight + 34;
+constexpr double Deceased = Own + NodeHeight / 2 + 2;
+constexpr double Below = Own + 2 * NodeHeight + 30;
 
 void DrawAscendants(Tree& tree) {
   const double foot = NodeHeight;
@@ -128,23 +133,25 @@ void DrawOwnGeneration(Tree& tree) {
   tree.Line(250, parents - NodeHeight / 2, 250, parents + 18);
   tree.Line(136, parents + 18, 250, parents + 18);
   tree.Line(136, parents + 18, 136, Own);
-  tree.Line(236, parents + 18, 236, Own + 22);
+  tree.Line(236, parents + 18, 236, Deceased);
   tree.Heir("31", Kind::Man, 40, Own);
   tree.Heir("30", Kind::Woman, 40, second);
   tree.Heir("22", Kind::Man, 136, Own);
   tree.Heir("23", Kind::Woman, 136, second);
   tree.Heir("33", Kind::Man, 427, Own);
   tree.Heir("32", Kind::Woman, 427, second);
-  tree.Line(276, Own + 43, 292, Own + 43);
-  tree.Node("The deceased", "الميت", Kind::Deceased, 236, Own + 22);
+  tree.Line(276, second - 2, 292, second - 2);
+  tree.Node("The deceased", "الميت", "میت", Kind::Deceased, 236, Deceased);
   tree.Heir("wives", Kind::Woman, 332, Own);
   tree.Heir("husband", Kind::Man, 332, second);
 }
 
 void DrawDescendants(Tree& tree) {
   const double foot = NodeHeight;
-  tree.Descent(236, Own + 22 + foot, 176, Below);
-  tree.Descent(236, Own + 22 + foot, 296, Below);
+  const double besideSpouses = Own + 2 * NodeHeight + 4;
+  tree.Line(236, Deceased + foot, 236, besideSpouses);
+  tree.Descent(236, besideSpouses, 176, Below);
+  tree.Descent(236, besideSpouses, 296, Below);
   tree.Heir("2", Kind::Man, 176, Below);
   tree.Heir("3", Kind::Woman, 296, Below);
   tree.Descent(176, Below + foot, 126, Below + Row);
@@ -152,7 +159,7 @@ void DrawDescendants(Tree& tree) {
   tree.Descent(296, Below + foot, 326, Below + Row);
   tree.Heir("4", Kind::Man, 126, Below + Row);
   tree.Heir("5", Kind::Woman, 226, Below + Row);
-  tree.Node("Her children", "ذوو الأرحام", Kind::NoHeir, 326, Below + Row);
+  tree.Node("Their children", "ذوو الأرحام", "ذوی الارحام", Kind::NoHeir, 326, Below + Row);
   tree.Descent(126, Below + Row + foot, 76, Below + 2 * Row);
   tree.Descent(126, Below + Row + foot, 176, Below + 2 * Row);
   tree.Heir("6", Kind::Man, 76, Below + 2 * Row);
@@ -164,7 +171,7 @@ void DrawFamily(Tree& tree) {
   DrawOwnGeneration(tree);
   DrawDescendants(tree);
   tree.Caption(
-      "Square corners: men. Round corners: women. Broken line: distant kindred, who have no box. Of the "
+      "Black is Arabic, green is Urdu. Square corners: men. Round corners: women. Broken line: distant kindred, who have no box. Of the "
       "two spouses only one kind can be alive: wives of a man, the husband of a woman.",
       260, Below + 2 * Row + 2, 205);
 }
