@@ -11,6 +11,7 @@
 #include "residue/Residuaries.h"
 #include "rules/RunSharers.h"
 #include "screens/Event.h"
+#include "shell/AppSettings.h"
 
 namespace qismora {
 
@@ -188,7 +189,7 @@ void CaseStudy::ChooseView(int index) {
     Label4(i).BorderStyle = i == index ? 1 : 0;
     Label4(i).ForeColor = i == index ? DarkRed : ButtonTextColour;
   }
-  World.Store.Write(ApplicationTitle, "LanguageSetting", "LblPressed", Join(index));
+  LblPressed.Write(World.Store, Join(index));
 }
 
 void CaseStudy::Label4_Click(int index) {

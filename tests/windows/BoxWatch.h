@@ -16,6 +16,9 @@ class BoxWatch : public QObject {
   /// The texts of the boxes so far.
   QStringList Take() { return std::exchange(texts_, {}); }
   int Count() const { return static_cast<int>(texts_.size()); }
+  /// The window that the last box belonged to, and whether that box stayed on top of all.
+  QString Owner() const { return owner_; }
+  bool WasOnTop() const { return onTop_; }
 
  protected:
   void timerEvent(QTimerEvent*) override {
@@ -23,11 +26,15 @@ class BoxWatch : public QObject {
     if (modal == nullptr) return;
     auto* box = qobject_cast<QMessageBox*>(modal);
     texts_.append(box != nullptr ? box->text() : QStringLiteral("a modal window that is no box"));
+    owner_ = modal->parentWidget() == nullptr ? QString() : modal->parentWidget()->objectName();
+    onTop_ = (modal->windowFlags() & Qt::WindowStaysOnTopHint) != 0;
     modal->close();
   }
 
  private:
   QStringList texts_;
+  QString owner_;
+  bool onTop_ = false;
 };
 
 }  // namespace qismora::testing

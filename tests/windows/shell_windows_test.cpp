@@ -1,6 +1,7 @@
 #include <QAccessible>
 #include <QAction>
 #include <QLabel>
+#include <QLibraryInfo>
 #include <QLineEdit>
 #include <QPlainTextEdit>
 #include <QProcess>
@@ -277,6 +278,18 @@ class ShellWindowsTest : public QObject {
     QCOMPARE(boxes_.Take(), QStringList{QStringLiteral("Error 53\nFile not found")});
     QVERIFY(windows_->Log()->isVisible());
     QCOMPARE(Find<QTableWidget>(windows_->Log(), "MSFlexGrid1")->rowCount(), 0);
+    QCOMPARE(boxes_.Owner(), QStringLiteral("Session"));
+    QVERIFY(!boxes_.WasOnTop());
+  }
+
+  // The case stays on top of all windows, but not of a box, wherever that comes from.
+  void noBoxIsCoveredByTheCase() {
+    Choose(6);
+    QTRY_VERIFY(windows_->Study() != nullptr);
+    Choose(11);
+    QTRY_COMPARE(boxes_.Count(), 1);
+    boxes_.Take();
+    QVERIFY(boxes_.WasOnTop());
   }
 
   void theResourcesComeByADoubleClickAndGoBack() {
@@ -341,6 +354,28 @@ class ShellWindowsTest : public QObject {
       QCOMPARE(process.exitCode(), 0);
       QCOMPARE(home_->LogLines().size(), run);
     }
+  }
+
+  // The films are there, and so is the library that plays them, but not the part of it that reads a film.
+  void withoutABackendForFilmsTheProgramRuns() {
+    const QString program = home_->File(QStringLiteral("qismora"));
+    const QString folder = QFileInfo(QStringLiteral(QISMORA_PROGRAM)).path();
+    if (!QFile::exists(folder + QStringLiteral("/qismora_video.so"))) QSKIP("built without Qt Multimedia");
+    QVERIFY(QFile::copy(QStringLiteral(QISMORA_PROGRAM), program));
+    QVERIFY(QFile::copy(folder + QStringLiteral("/qismora_video.so"),
+                        home_->File(QStringLiteral("qismora_video.so"))));
+    home_->Put(home_->File(QStringLiteral("brindhaven1.avi")), QByteArray(SecondVideoLength, 'x'));
+    home_->Put(home_->File(QStringLiteral("qt.conf")), "[Paths]\nPlugins=.\n");
+    QVERIFY(QFile::link(QLibraryInfo::path(QLibraryInfo::PluginsPath) + QStringLiteral("/platforms"),
+                        home_->File(QStringLiteral("platforms"))));
+    QProcess process;
+    process.start(program, {});
+    QVERIFY(process.waitForStarted());
+    QVERIFY2(!process.waitForFinished(1500), process.readAllStandardError().constData());
+    process.terminate();
+    QVERIFY(process.waitForFinished());
+    QCOMPARE(process.exitCode(), 0);
+    QCOMPARE(home_->LogLines().size(), 1);
   }
 
   // In a build the program's files lie beside it; installed, they lie under share, and the log of a user who

@@ -27,6 +27,7 @@ constexpr QSize bannerSize{420, 80};
 constexpr QSize pictureSize{320, 240};
 constexpr int headingSize = 20;
 constexpr int gap = 12;
+constexpr std::chrono::milliseconds settled{500};
 
 struct Entry {
   const char* Name;
@@ -248,9 +249,15 @@ void InhMainWindow::TellSize(bool maximized, int width, int height) {
   if (!maximized) ForceSize();
 }
 
-// A desktop that sizes windows by its own law gets its way: no size is refused twice in a row.
+// A desktop that sizes windows by its own law gets its way: no size is refused twice in a row, unless the
+// window has stood at its own size for a while.
 void InhMainWindow::ForceSize() {
-  if (size() == FormSize() || size() == refused_) return;
+  if (size() == FormSize()) {
+    return QTimer::singleShot(settled, this, [this] {
+      if (size() == FormSize()) refused_ = {};
+    });
+  }
+  if (size() == refused_) return;
   refused_ = size();
   QTimer::singleShot(0, this, [this] {
     if (!IsMaximizedForm()) resize(FormSize());

@@ -61,10 +61,13 @@ QMessageBox::Icon IconOf(BoxStyle style) {
   }
 }
 
+QWidget* chosenOwner = nullptr;
+
 // The window that a box belongs to: the one that the user was in last, also while a box before has just
 // closed and no window is active yet. Without it the box would come up behind a window that stays on top.
 QWidget* Owner() {
   static QPointer<QWidget> last;
+  if (chosenOwner != nullptr) return chosenOwner;
   QWidget* active = QApplication::activeWindow();
   if (active != nullptr && active->windowType() == Qt::Window) last = active;
   if (last != nullptr && last->isVisible()) return last;
@@ -73,6 +76,14 @@ QWidget* Owner() {
     return window->isVisible() && window->windowType() == Qt::Window;
   });
   return shown == windows.end() ? active : *shown;
+}
+
+// A window that stays on top would cover a box of any other window, and the program would seem to hang.
+void KeepInSight(QDialog& dialog) {
+  for (const QWidget* window : QApplication::topLevelWidgets()) {
+    const bool onTop = (window->windowFlags() & Qt::WindowStaysOnTopHint) != 0;
+    if (onTop && window->isVisible()) return dialog.setWindowFlag(Qt::WindowStaysOnTopHint);
+  }
 }
 
 constexpr int longestLine = 120;
@@ -114,11 +125,15 @@ DateTime SystemClock::Now() {
   return {local.tm_year + 1900, local.tm_mon + 1, local.tm_mday, local.tm_hour, local.tm_min, local.tm_sec};
 }
 
+BoxOwner::BoxOwner(QWidget* window) { chosenOwner = window; }
+BoxOwner::~BoxOwner() { chosenOwner = nullptr; }
+
 Answer QtMessageBoxes::Show(BoxStyle style, BoxButtons buttons, const std::string& text) {
   QMessageBox box(IconOf(style), QString::fromUtf8(ApplicationTitle), ToQtLines(text), Offered(buttons),
                   Owner());
   box.setTextFormat(Qt::PlainText);
   KeepLines(box);
+  KeepInSight(box);
   // A key pressed in haste gives nothing away.
   if (buttons != BoxButtons::Ok) box.setDefaultButton(QMessageBox::No);
   const PointerShape usersTurn(Qt::ArrowCursor);
@@ -135,6 +150,7 @@ std::optional<std::string> QtSaveDialog::AskPath(const std::string& suggestedNam
   const QString words = ToQt(filter.substr(0, filter.find('|')));
   QFileDialog dialog(Owner(), QString(), CanWrite(program) ? program : ToQt(places_.Reports()), words);
   dialog.setObjectName(QStringLiteral("CommonDialog1"));
+  KeepInSight(dialog);
   dialog.setAcceptMode(QFileDialog::AcceptSave);
   dialog.setOption(QFileDialog::DontConfirmOverwrite);  // the command itself asks about replacing
   dialog.setDefaultSuffix(QStringLiteral("txt"));

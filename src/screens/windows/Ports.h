@@ -1,5 +1,7 @@
 #pragma once
 
+#include <QWidget>
+
 #include "base/Outside.h"
 
 namespace qismora {
@@ -14,6 +16,15 @@ class SystemClock : public Clock {
 class QtMessageBoxes : public MessageBoxes {
  public:
   Answer Show(BoxStyle style, BoxButtons buttons, const std::string& text) override;
+};
+
+/// As long as one stands, boxes belong to its window, also before the desktop has made it the active one.
+class BoxOwner {
+ public:
+  explicit BoxOwner(QWidget* window);
+  ~BoxOwner();
+  BoxOwner(const BoxOwner&) = delete;
+  BoxOwner& operator=(const BoxOwner&) = delete;
 };
 
 /// Begins in the program's folder, or where reports lie if the program's folder cannot be written to.

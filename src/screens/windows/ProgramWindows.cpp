@@ -3,6 +3,7 @@
 #include <QGuiApplication>
 
 #include "base/Text.h"
+#include "screens/windows/Ports.h"
 #include "screens/windows/SessionEnd.h"
 #include "screens/windows/Utf8.h"
 
@@ -10,9 +11,16 @@ namespace qismora {
 
 namespace {
 
+constexpr QPoint besideTheMenu{40, 60};
+
 ProgramFacts Facts() {
   const std::string qt = FromQt(QString::fromLatin1(qVersion()));
-  return {QISMORA_VERSION, {Join("Qt Widgets ", qt), Join("Qt SVG ", qt), "the C++ standard library"}};
+  ProgramFacts facts = {QISMORA_VERSION, {Join("Qt Widgets ", qt), Join("Qt SVG ", qt)}};
+#ifdef QISMORA_VIDEO
+  facts.Libraries.push_back(Join("Qt Multimedia ", qt, " for the films"));
+#endif
+  facts.Libraries.emplace_back("the C++ standard library");
+  return facts;
 }
 
 void BringUp(QWidget* window) {
@@ -78,8 +86,12 @@ void ProgramWindows::ShowZummy() {
 }
 
 void ProgramWindows::ShowSession() {
-  if (session_ == nullptr) session_ = std::make_unique<SessionWindow>(outside_);
+  if (session_ == nullptr) {
+    session_ = std::make_unique<SessionWindow>(outside_);
+    session_->move(menu_.pos() + besideTheMenu);
+  }
   BringUp(session_.get());
+  const BoxOwner owner(session_.get());
   session_->Form().Open();
 }
 

@@ -44,6 +44,7 @@ void QtVideoPlayer::Load() {
     const auto make = reinterpret_cast<MakeVideoScreen>(plugin.resolve(MakeVideoScreenName));
     if (make == nullptr) continue;
     screen_ = make(panel_);
+    if (screen_ == nullptr) return;
     screen_->EndOfPlay = [this] {
       if (EndOfPlay) EndOfPlay();
     };

@@ -43,7 +43,9 @@ QurLawsWindow::QurLawsWindow(const ShellRecord& shell, MessageBoxes& boxes)
   rows->addWidget(Page(), 1);
   QLabel* panel = AddPanel("StatusBar1.Panel1", tr("Title of the page"));
   binder_.SpokenCaption(form_.StatusBar1, panel);
-  WhenMouseMoves(statusBar(), [this] { form_.StatusBar1_MouseMove(); });
+  for (QWidget* widget : {static_cast<QWidget*>(statusBar()), static_cast<QWidget*>(panel)}) {
+    WhenMouseMoves(widget, [this] { form_.StatusBar1_MouseMove(); });
+  }
   for (QWidget* widget : {Frame111(), centralWidget(), static_cast<QWidget*>(this)}) {
     WhenMouseMoves(widget, [this] { form_.Form_MouseMove(); });
   }

@@ -6,6 +6,8 @@
 #include <QCoreApplication>
 #include <QSocketNotifier>
 #include <csignal>
+#include <cstdlib>
+#include <utility>
 
 namespace qismora {
 
@@ -19,10 +21,21 @@ void Wake(int) {
   [[maybe_unused]] const ssize_t written = write(wakes[0], &any, 1);
 }
 
+// What the end of the process still has to do, while the one to do it lives.
+std::function<void()> lastThing;
+
+void DoLastThing() {
+  if (const auto act = std::exchange(lastThing, nullptr)) act();
+}
+
 }  // namespace
 
 void WhenSessionEnds(QObject* context, std::function<void()> ended) {
   QObject::connect(QCoreApplication::instance(), &QCoreApplication::aboutToQuit, context, ended);
+  // A display that goes away ends the process in the middle of its event loop.
+  lastThing = ended;
+  QObject::connect(context, &QObject::destroyed, [] { lastThing = nullptr; });
+  [[maybe_unused]] static const int registered = std::atexit(DoLastThing);
   if (wakes[0] < 0 && socketpair(AF_UNIX, SOCK_STREAM | SOCK_CLOEXEC | SOCK_NONBLOCK, 0, wakes) != 0) return;
   auto* notifier = new QSocketNotifier(wakes[1], QSocketNotifier::Read, context);
   QObject::connect(notifier, &QSocketNotifier::activated, notifier, [ended = std::move(ended)] {

@@ -1,5 +1,9 @@
+#include <QCoreApplication>
+#include <QDir>
+#include <QLibrary>
 #include <QMediaPlayer>
 #include <QPainter>
+#include <QPluginLoader>
 #include <QUrl>
 #include <QVideoFrame>
 #include <QVideoSink>
@@ -57,12 +61,25 @@ class MultimediaScreen : public QWidget, public VideoScreen {
   QImage image_;
 };
 
+// The default backend crashes on machines without its own plugins; the other one plays everywhere. A player
+// that does not find the backend it is told to take ends the program.
+bool HasBackend() {
+  for (const QString& path : QCoreApplication::libraryPaths()) {
+    const QDir folder(path + QStringLiteral("/multimedia"));
+    for (const QFileInfo& file : folder.entryInfoList({QStringLiteral("*ffmpeg*")}, QDir::Files)) {
+      QPluginLoader backend(file.filePath());
+      if (QLibrary::isLibrary(file.filePath()) && backend.load()) return true;
+    }
+  }
+  return false;
+}
+
 }  // namespace
 
 }  // namespace qismora
 
-// The default backend crashes on machines without its own plugins; the other one plays everywhere.
 extern "C" Q_DECL_EXPORT qismora::VideoScreen* MakeQismoraVideoScreen(QWidget* panel) {
+  if (!qismora::HasBackend()) return nullptr;
   qputenv("QT_MEDIA_BACKEND", "ffmpeg");
   return new qismora::MultimediaScreen(panel);
 }
