@@ -1,19 +1,16 @@
-// The documents tell the law with the program's own figures and the verses letter for letter. Here every
-// worked case is typed into the Case Study screen again, and every verse held against its data.
+// The documents and the guides tell the law with the program's own figures and the verses letter for letter.
+// Here every worked case is typed into the Case Study screen again, and every verse held against its data.
 
 #include <gtest/gtest.h>
 
 #include <algorithm>
 #include <fstream>
 #include <iterator>
-#include <map>
-#include <sstream>
 #include <string>
 #include <vector>
 
 #include "Source.h"
-#include "screens/CaseStudy.h"
-#include "support/MemoryOutside.h"
+#include "support/CasePlayer.h"
 
 namespace qismora {
 
@@ -21,91 +18,14 @@ namespace {
 
 using documents::Block;
 using documents::BlockKind;
+using documents::ReadCases;
 using documents::ReadSource;
-using documents::Trim;
 using documents::WorkedCase;
 
 const std::string Folder = DOCUMENTS_FOLDER;
 
 const std::vector<std::string> Sources = {"rules",      "history",   "development", "schools",
                                           "references", "relations", "verses"};
-
-/// The boxes by their captions; box 1 bears the caption of either spouse.
-std::map<std::string, int> BoxesByCaption(const CaseStudy& screen) {
-  std::map<std::string, int> boxes = {{"Wives", 1}, {"Husband", 1}};
-  for (const int box : HeirBoxes) boxes[screen.Label1(box).Caption.Get()] = box;
-  for (const int box : {GrossEstateBox, FuneralBox, DebtsBox, WillsBox}) {
-    boxes[screen.Label1(box).Caption.Get()] = box;
-  }
-  return boxes;
-}
-
-std::map<std::string, int> ChecksByCaption(const CaseStudy& screen) {
-  std::map<std::string, int> checks;
-  for (int i = 0; i < 12; ++i) checks[screen.Check1(i).Caption.Get()] = i;
-  return checks;
-}
-
-/// Plays worked cases, each on a screen of its own.
-class Player {
- public:
-  explicit Player(const WorkedCase& worked) {
-    const std::map<std::string, int> boxes = BoxesByCaption(screen_);
-    const std::map<std::string, int> checks = ChecksByCaption(screen_);
-    for (const int box : {GrossEstateBox, FuneralBox, DebtsBox, WillsBox}) screen_.Text1(box).Text = "0";
-    for (const auto& [caption, value] : worked.Boxes) {
-      if (caption == "Deceased") {
-        screen_.Combo1.ListIndex = value == "Female" ? Female : Male;
-      } else if (const auto box = boxes.find(caption); box != boxes.end()) {
-        screen_.Text1(box->second).Text = value;
-      } else if (const auto check = checks.find(caption); check != checks.end() && value == "ticked") {
-        screen_.Check1(check->second).Value = 1;
-      } else {
-        ADD_FAILURE() << "the screen has no " << caption << " = " << value;
-      }
-    }
-    screen_.Resid_Click();
-  }
-
-  std::vector<std::string> Residuaries() const { return Figures(); }
-
-  std::vector<std::string> AulRadd() {
-    screen_.AulRadd_Click();
-    return Figures();
-  }
-
- private:
-  /// The lines of the long text between its introduction and its footer.
-  std::vector<std::string> Figures() const {
-    std::istringstream in(screen_.Text3.Text.Get());
-    std::vector<std::string> lines;
-    for (std::string line; std::getline(in, line);) {
-      line = Trim(line);
-      if (line.rfind("©", 0) == 0) break;
-      if (line.rfind("The numbers shown", 0) != 0 && !line.empty()) lines.push_back(line);
-    }
-    return lines;
-  }
-
-  testing::MemoryWorld world_;
-  CaseRecord record_;
-  CaseStudy screen_{record_, world_.Ports, 0};
-};
-
-std::string Joined(const std::vector<std::string>& lines) {
-  std::string text;
-  for (const std::string& line : lines) text.append(line).append("\n");
-  return text;
-}
-
-/// A long line may be cut short in the document with an ellipsis.
-void Compare(const std::vector<std::string>& told, std::vector<std::string> played) {
-  for (std::size_t i = 0; i < std::min(told.size(), played.size()); ++i) {
-    const std::size_t ellipsis = told[i].find("…");
-    if (ellipsis != std::string::npos) played[i] = played[i].substr(0, ellipsis) + "…";
-  }
-  EXPECT_EQ(Joined(told), Joined(played));
-}
 
 TEST(Documents, TheWorkedCasesAreTheProgramsOwn) {
   int cases = 0;
@@ -114,12 +34,21 @@ TEST(Documents, TheWorkedCasesAreTheProgramsOwn) {
       if (block.Kind != BlockKind::Case) continue;
       ++cases;
       SCOPED_TRACE(name + ".md: " + block.Case.Title);
-      Player player(block.Case);
-      if (!block.Case.Residuaries.empty()) Compare(block.Case.Residuaries, player.Residuaries());
-      if (!block.Case.AulRadd.empty()) Compare(block.Case.AulRadd, player.AulRadd());
+      testing::CasePlayer().Play(block.Case);
     }
   }
   EXPECT_GT(cases, 30);
+}
+
+TEST(Guides, TheWorkedCasesAreTheProgramsOwn) {
+  for (const char* name : {"guide.md", "peculiarities.md"}) {
+    const std::vector<WorkedCase> cases = ReadCases(std::string(GUIDES_FOLDER "/") + name);
+    EXPECT_FALSE(cases.empty());
+    for (const WorkedCase& worked : cases) {
+      SCOPED_TRACE(std::string(name) + ": " + worked.Title);
+      testing::CasePlayer().Play(worked);
+    }
+  }
 }
 
 /// The verses of the data, each as "sura:number Arabic".

@@ -1,4 +1,5 @@
 #include <algorithm>
+#include <cctype>
 
 #include "Layout.h"
 
@@ -35,6 +36,12 @@ struct Column {
   }
 };
 
+std::string InCapitals(std::string words) {
+  std::ranges::transform(words, words.begin(),
+                         [](unsigned char c) { return static_cast<char>(std::toupper(c)); });
+  return words;
+}
+
 Column Boxes(const WorkedCase& worked, double width) {
   Column column;
   column.AddHead("TYPED INTO THE BOXES", width);
@@ -49,14 +56,12 @@ Column Answer(const WorkedCase& worked, double width) {
   Column column;
   TextStyle quiet = TableStyle();
   quiet.Colour = Grey;
-  const auto add = [&](const char* head, const std::vector<std::string>& lines) {
-    if (!lines.empty()) column.AddHead(head, width);
-    for (const std::string& line : lines) {
+  for (const Played& answer : worked.Answers) {
+    column.AddHead("THE PROGRAM ANSWERS: " + InCapitals(answer.Command), width);
+    for (const std::string& line : answer.Lines) {
       column.Push(line, line.find('=') == std::string::npos ? quiet : TableStyle(), width);
     }
-  };
-  add("THE PROGRAM ANSWERS: RESIDUARIES", worked.Residuaries);
-  add("THE PROGRAM ANSWERS: AUL & RADD", worked.AulRadd);
+  }
   return column;
 }
 

@@ -10,7 +10,20 @@ namespace qismora::documents {
 
 namespace {
 
+/// What a worked case may have played, besides `Double click CAPTION`.
+constexpr const char* commands[] = {"Residuaries", "Aul & Radd", "All Individual", "Execute Selected",
+                                    "Full Report", "Then type",  "Message",        "Files"};
+
 bool StartsWith(const std::string& text, const std::string& with) { return text.rfind(with, 0) == 0; }
+
+/// The command of a line that is one, with a colon behind it; empty for any other line.
+std::string CommandOf(const std::string& line) {
+  if (line.empty() || line.back() != ':') return "";
+  std::string words = line.substr(0, line.size() - 1);
+  const bool known =
+      StartsWith(words, "Double click ") || std::ranges::find(commands, words) != std::end(commands);
+  return known ? words : "";
+}
 
 /// Walks the lines of a source and puts the blocks together.
 class Parser {
@@ -24,6 +37,19 @@ class Parser {
     ReadHead();
     while (at_ < lines_.size()) ReadBlock();
     return std::move(source_);
+  }
+
+  std::vector<WorkedCase> RunForCases() {
+    while (More()) {
+      if (Trim(lines_[at_]) == "```case") {
+        ReadFence();
+      } else {
+        ++at_;
+      }
+    }
+    std::vector<WorkedCase> cases;
+    for (Block& block : source_.Blocks) cases.push_back(std::move(block.Case));
+    return cases;
   }
 
  private:
@@ -164,21 +190,17 @@ class Parser {
     Add(BlockKind::Case, "");
     WorkedCase& worked = source_.Blocks.back().Case;
     worked.Title = Trim(body.front());
-    std::vector<std::string>* answer = nullptr;
     for (std::size_t i = 1; i < body.size(); ++i) {
-      if (body[i] == "Residuaries:") {
-        answer = &worked.Residuaries;
-      } else if (body[i] == "Aul & Radd:") {
-        answer = &worked.AulRadd;
-      } else if (answer != nullptr) {
-        answer->push_back(Trim(body[i]));
+      if (const std::string command = CommandOf(body[i]); !command.empty()) {
+        worked.Answers.push_back({command, {}});
+      } else if (!worked.Answers.empty()) {
+        worked.Answers.back().Lines.push_back(Trim(body[i]));
       } else {
-        const std::size_t equals = body[i].find(" = ");
-        if (equals == std::string::npos) Fail("expected `box = value`: " + body[i]);
-        worked.Boxes.emplace_back(Trim(body[i].substr(0, equals)), Trim(body[i].substr(equals + 3)));
+        worked.Boxes.push_back(SplitEntry(body[i]));
+        if (worked.Boxes.back().first.empty()) Fail("expected `box = value`: " + body[i]);
       }
     }
-    if (answer == nullptr) Fail("a case without an answer");
+    if (worked.Answers.empty()) Fail("a case without an answer");
   }
 
   /// `4:11 An-Nisāʾ النساء`, and the Arabic in one line.
@@ -223,16 +245,34 @@ std::vector<std::string> SplitCells(const std::string& line) {
 
 Source ParseSource(const std::string& text) { return Parser(text).Run(); }
 
-Source ReadSource(const std::string& path) {
+namespace {
+
+/// Reads the text of a file and names the file in what it complains of.
+template <class Read>
+auto ReadFile(const std::string& path, Read read) {
   std::ifstream in(path, std::ios::binary);
   if (!in) throw std::runtime_error("cannot read " + path);
   std::ostringstream text;
   text << in.rdbuf();
   try {
-    return ParseSource(text.str());
+    return read(text.str());
   } catch (const std::exception& error) {
     throw std::runtime_error(path + ", " + error.what());
   }
+}
+
+}  // namespace
+
+Source ReadSource(const std::string& path) { return ReadFile(path, ParseSource); }
+
+std::vector<WorkedCase> ReadCases(const std::string& path) {
+  return ReadFile(path, [](const std::string& text) { return Parser(text).RunForCases(); });
+}
+
+std::pair<std::string, std::string> SplitEntry(const std::string& line) {
+  const std::size_t equals = line.find(" =");
+  if (equals == std::string::npos) return {};
+  return {Trim(line.substr(0, equals)), Trim(line.substr(equals + 2))};
 }
 
 }  // namespace qismora::documents

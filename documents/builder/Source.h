@@ -9,13 +9,18 @@ namespace qismora::documents {
 // The sources are a small subset of Markdown, read without a toolkit, so that a test can play the worked
 // cases of a document without drawing it.
 
-/// A worked case: what is typed into the boxes, by their captions, and every line of figures that the
-/// program answers.
+/// A command of the screen and every line that the program answers.
+struct Played {
+  std::string Command;
+  std::vector<std::string> Lines;
+};
+
+/// A worked case: what is typed into the boxes, by their captions, and the answers in the order of the
+/// commands.
 struct WorkedCase {
   std::string Title;
   std::vector<std::pair<std::string, std::string>> Boxes;
-  std::vector<std::string> Residuaries;
-  std::vector<std::string> AulRadd;
+  std::vector<Played> Answers;
 };
 
 /// A verse with its Arabic, letter for letter.
@@ -66,6 +71,11 @@ struct Source {
 /// Both throw a std::runtime_error that names the line which cannot be read.
 Source ParseSource(const std::string& text);
 Source ReadSource(const std::string& path);
+/// The worked cases of a text in any other Markdown.
+std::vector<WorkedCase> ReadCases(const std::string& path);
+
+/// The two sides of `box = value`.
+std::pair<std::string, std::string> SplitEntry(const std::string& line);
 
 /// The cells of a table row, `| a | b |`.
 std::vector<std::string> SplitCells(const std::string& line);
