@@ -16,7 +16,6 @@
 #include "screens/windows/OutlinedStyle.h"
 #include "screens/windows/ProgramWindows.h"
 #include "screens/windows/ShellPorts.h"
-#include "screens/windows/Utf8.h"
 #include "shell/SessionLog.h"
 #include "support/MemoryOutside.h"
 
@@ -41,10 +40,12 @@ constexpr PastSession pastSessions[] = {
     {{2024, 3, 4, 20, 1, 59}, {2024, 3, 4, 20, 14, 3}},
 };
 
-/// Everything around the program, in a folder that goes when the tour is over.
+/// Everything around the program. Its files lie below the current folder, so that a picture that shows where
+/// shows no name made for this tour alone.
 struct Surroundings {
-  explicit Surroundings(const QString& home) {
-    Folders.Folder = FromQt(home);
+  Surroundings() {
+    QDir().mkpath(QStringLiteral("Documents"));
+    Folders.Folder = "Documents";
     Memory.Figures = {8192 * mebibyte, 5120 * mebibyte, 32 * mebibyte};
     Integer number(0);
     for (const PastSession& past : pastSessions) {
@@ -111,11 +112,14 @@ class Walker : public QObject {
     return last_;
   }
 
+  /// A window that has been asked for may take a moment to come.
   template <class Object>
   Object* Find(const char* name) {
-    auto* found = InUse()->findChild<Object*>(QString::fromLatin1(name));
-    if (found == nullptr) qFatal("the window in use has no %s", name);
-    return found;
+    for (int patience = 200; patience > 0; --patience) {
+      if (auto* found = InUse()->findChild<Object*>(QString::fromLatin1(name))) return found;
+      Wait();
+    }
+    qFatal("the window in use has no %s", name);
   }
 
   void Play(const Step& step) {
@@ -206,11 +210,14 @@ Album Walk(const std::vector<Stop>& road, int argc, char** argv) {
   font.setPixelSize(letters);
   QApplication::setFont(font);
 
-  Surroundings around(home.path());
+  const QString before = QDir::currentPath();
+  QDir::setCurrent(home.path());
+  Surroundings around;
   ProgramWindows windows(around.Ports, around.Player);
   Walker walker(windows);
   Album album;
   for (const Stop& stop : road) album[QString::fromLatin1(stop.Picture)] = walker.Visit(stop);
+  QDir::setCurrent(before);
   return album;
 }
 
