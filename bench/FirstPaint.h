@@ -1,5 +1,7 @@
 #pragma once
 
+#include <sys/resource.h>
+
 #include <QApplication>
 #include <QEvent>
 #include <QTimer>
@@ -36,6 +38,16 @@ inline double Milliseconds() {
   return static_cast<double>(now.tv_sec) * 1e3 + static_cast<double>(now.tv_nsec) / 1e6;
 }
 
+/// The time that the processor has worked for this process, in milliseconds.
+inline double ProcessorTime() {
+  rusage used{};
+  getrusage(RUSAGE_SELF, &used);
+  const auto milliseconds = [](const timeval& time) {
+    return static_cast<double>(time.tv_sec) * 1e3 + static_cast<double>(time.tv_usec) / 1e3;
+  };
+  return milliseconds(used.ru_utime) + milliseconds(used.ru_stime);
+}
+
 /// The most memory that the process has had, in MiB.
 inline double PeakMemory() {
   std::ifstream status("/proc/self/status");
@@ -43,4 +55,13 @@ inline double PeakMemory() {
     if (line.starts_with("VmHWM:")) return std::stod(line.substr(6)) / 1024;
   }
   return 0;
+}
+
+/// What bench/measure.py reads: the moment, the processor's time up to it, and the peak of memory.
+inline void TellStart() { std::printf("%.3f %.3f %.2f", Milliseconds(), ProcessorTime(), PeakMemory()); }
+
+inline void EndProbe() {
+  std::printf("\n");
+  std::fflush(stdout);
+  QApplication::exit();
 }

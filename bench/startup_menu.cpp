@@ -1,12 +1,12 @@
-// The program as it starts: tells when the main menu was painted, the memory that it took, the number of its
-// widgets, and how long the Case Study takes to open from the menu, the first time and at best.
+// The program as it starts: tells when the main menu was painted, what that took, the number of its widgets,
+// and how long the Case Study takes to open from the menu, the first time and at best.
+//   startup_menu FOLDER [OPENINGS]     FOLDER stands for the program's own
 
 #include <algorithm>
 
 #include "FirstPaint.h"
 #include "screens/windows/OutlinedStyle.h"
-#include "screens/windows/ProgramWindows.h"
-#include "screens/windows/ShellPorts.h"
+#include "screens/windows/RunningProgram.h"
 
 using namespace qismora;
 
@@ -18,6 +18,10 @@ class Openings {
   Openings(ProgramWindows& windows, int count) : windows_(windows), left_(count) {}
 
   void Next() {
+    if (left_-- == 0) {
+      if (first_ > 0) std::printf(" %.2f %.2f", first_, best_);
+      return EndProbe();
+    }
     const double before = Milliseconds();
     windows_.MainMenu().Form().Option1_Click(6);
     new FirstPaint(windows_.Study(), [this, before] {
@@ -25,10 +29,7 @@ class Openings {
       if (first_ == 0) first_ = took;
       best_ = best_ == 0 ? took : std::min(best_, took);
       windows_.Study()->close();
-      if (--left_ > 0) return QTimer::singleShot(0, [this] { Next(); });
-      std::printf(" %.2f %.2f\n", first_, best_);
-      std::fflush(stdout);
-      QApplication::exit();
+      QTimer::singleShot(0, [this] { Next(); });
     });
   }
 
@@ -45,25 +46,16 @@ int main(int argc, char** argv) {
   if (argc < 2) return 2;
   QApplication::setStyle(new OutlinedStyle);
   QApplication application(argc, argv);
-  SystemClock clock;
-  QtMessageBoxes boxes;
-  ProgramFolders folders(QString::fromLocal8Bit(argv[1]));
-  QtSaveDialog dialog(folders);
-  QtSettings settings;
-  QtDocumentViewer viewer;
-  QtVideoPlayer player(folders.Plugins());
-  SystemMemory memory;
-  QtProgram program;
-  ShellOutside outside{{clock, boxes, dialog, settings, folders}, viewer, player, memory, program};
-  ProgramWindows windows(outside, player);
-  Openings openings(windows, argc > 2 ? std::stoi(argv[2]) : 1);
-  FirstPaint painted(&windows.MainMenu(), [&] {
+  RunningProgram program(QString::fromLocal8Bit(argv[1]));
+  Openings openings(program.Windows, argc > 2 ? std::stoi(argv[2]) : 0);
+  FirstPaint painted(&program.Windows.MainMenu(), [&] {
+    TellStart();
     int widgets = 0;
-    for (const QWidget* widget : windows.MainMenu().findChildren<QWidget*>())
+    for (const QWidget* widget : program.Windows.MainMenu().findChildren<QWidget*>())
       widgets += widget->isVisible() ? 1 : 0;
-    std::printf("%.3f %.2f %d", Milliseconds(), PeakMemory(), widgets);
+    std::printf(" %d", widgets);
     openings.Next();
   });
-  windows.ShowMainMenu();
+  program.Windows.ShowMainMenu();
   return QApplication::exec();
 }

@@ -2,8 +2,7 @@
 #include <cstdio>
 
 #include "screens/windows/OutlinedStyle.h"
-#include "screens/windows/ProgramWindows.h"
-#include "screens/windows/ShellPorts.h"
+#include "screens/windows/RunningProgram.h"
 
 using namespace qismora;
 
@@ -17,18 +16,7 @@ int main(int argc, char** argv) {
   QApplication::setStyle(new OutlinedStyle);
   QApplication application(argc, argv);
 
-  SystemClock clock;
-  QtMessageBoxes boxes;
-  ProgramFolders folders(QApplication::applicationDirPath());
-  QtSaveDialog dialog(folders);
-  QtSettings settings;
-  QtDocumentViewer viewer;
-  QtVideoPlayer player(folders.Plugins());
-  SystemMemory memory;
-  QtProgram program;
-  ShellOutside outside{{clock, boxes, dialog, settings, folders}, viewer, player, memory, program};
-
-  ProgramWindows windows(outside, player);
-  windows.ShowMainMenu();
+  RunningProgram program(QApplication::applicationDirPath());
+  program.Windows.ShowMainMenu();
   return QApplication::exec();
 }

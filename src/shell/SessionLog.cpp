@@ -24,6 +24,8 @@ constexpr std::size_t dateRoom = 25;
 constexpr std::size_t endPlace = 26;
 constexpr std::size_t lengthRoom = 8;
 
+constexpr int blockLength = 1 << 16;
+
 std::string LogPath(ShellOutside& world) { return Join(world.Places.Log(), "/popuQism.ppl"); }
 
 void PrintZone(std::string& line, std::string_view field) {
@@ -44,25 +46,36 @@ Integer ReadNumber(std::string_view field) {
   return error == std::errc{} && stop == end ? Integer(number) : RoundTo<Integer>(ParsePrefix(field));
 }
 
-/// The number at the start of the line; the rest of the line, behind the blanks that follow it, stays.
+/// The number at the start of the line; the rest of the line stays.
 Integer TakeNumber(std::string_view& line) {
   SkipBlanks(line);
   const std::size_t end = std::min(line.find(' '), line.size());
   const Integer number = ReadNumber(line.substr(0, end));
   line.remove_prefix(end);
-  SkipBlanks(line);
   return number;
 }
 
-/// Calls with each line of the log. An empty line is no session. The log is read at every start, so no more
-/// than a line of it is kept at a time.
+/// Calls with each line of the log. An empty line is no session. The whole log is read at every start, so it
+/// is read in blocks, and no more than a block of it is kept at a time.
 template <class Reader>
 void ReadLines(ShellOutside& world, Reader reader) {
   std::ifstream stream(LogPath(world), std::ios::binary);
   if (!stream) throw Failure(FileNotFound);
-  for (std::string line; std::getline(stream, line);) {
-    if (line.ends_with('\r')) line.pop_back();
-    if (!line.empty()) reader(std::string_view(line));
+  std::string text;
+  while (stream) {
+    const std::size_t kept = text.size();
+    text.resize(kept + blockLength);
+    stream.read(text.data() + kept, blockLength);
+    text.resize(kept + static_cast<std::size_t>(stream.gcount()));
+    if (!stream) text += '\n';  // the last line may lack its break
+    std::size_t begin = 0;
+    for (std::size_t end = text.find('\n', kept); end != std::string::npos; end = text.find('\n', begin)) {
+      std::string_view line(text.data() + begin, end - begin);
+      begin = end + 1;
+      if (line.ends_with('\r')) line.remove_suffix(1);
+      if (!line.empty()) reader(line);
+    }
+    text.erase(0, begin);
   }
 }
 
@@ -138,6 +151,7 @@ SessionTable ReadSessionLog(ShellOutside& world) {
     if (++table.Count > MostSessions) throw Failure(SubscriptOutOfRange);
     SessionRow row;
     row.Number = TakeNumber(line);
+    SkipBlanks(line);
     row.Start = line.substr(0, dateRoom);
     row.End = line.substr(std::min(endPlace, line.size()), dateRoom);
     row.Length = RoundTo<Long>(ParsePrefix(line.substr(line.size() - std::min(lengthRoom, line.size()))));

@@ -2,6 +2,7 @@
 #include <sys/wait.h>
 #include <unistd.h>
 
+#include <fstream>
 #include <set>
 
 #include "base/Files.h"
@@ -97,6 +98,8 @@ TEST(SessionLog, ADamagedLogCountsUpToTheDamage) {
   EXPECT_EQ(logged.Run(), 9);
   TextFile(logged.Path()).Print(" 3 unix line\n\n 4 next");
   EXPECT_EQ(logged.Run(), 5) << "lines may end in a single line feed, and an empty one is no session";
+  std::ofstream(logged.Path()) << " 5 " << std::string(200000, 'x') << "\n 6 without a break";
+  EXPECT_EQ(logged.Run(), 7) << "a line may be of any length, and the last one lack its break";
 }
 
 TEST(SessionLog, TheExitRunsOnceAndSavesTheExecutions) {
