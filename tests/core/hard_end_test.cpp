@@ -3,16 +3,13 @@
 // nothing had happened.
 
 #include <gtest/gtest.h>
-#include <sys/ptrace.h>
-#include <sys/wait.h>
 
-#include <csignal>
-#include <functional>
 #include <map>
 #include <set>
 
 #include "base/Files.h"
 #include "base/Text.h"
+#include "support/Processes.h"
 #include "support/SavingProgram.h"
 #include "support/TemporaryFolder.h"
 
@@ -20,40 +17,9 @@ namespace qismora {
 namespace {
 
 namespace fs = std::filesystem;
+using testing::Outcome;
 using testing::SavingProgram;
 using testing::TemporaryFolder;
-
-constexpr int notPermitted = 77;
-
-enum class Outcome { Ended, Killed, NotPermitted };
-
-/// Runs the program in a process of its own and kills it when it makes its call of that number to the system,
-/// before the call has done anything.
-Outcome RunUpToCall(int number, const std::function<void()>& program) {
-  const pid_t child = fork();
-  if (child == 0) {
-    if (ptrace(PTRACE_TRACEME, 0, nullptr, nullptr) != 0) _exit(notPermitted);
-    std::raise(SIGSTOP);
-    program();
-    _exit(0);
-  }
-  int status = 0;
-  waitpid(child, &status, 0);
-  if (WIFEXITED(status)) return Outcome::NotPermitted;
-  // Each call stops the program twice: when it is made, and when it returns.
-  for (int stops = 0; stops < 2 * number - 1; ++stops) {
-    ptrace(PTRACE_SYSCALL, child, nullptr, nullptr);
-    waitpid(child, &status, 0);
-    if (WIFEXITED(status)) {
-      EXPECT_EQ(WEXITSTATUS(status), 0);
-      return Outcome::Ended;
-    }
-  }
-  kill(child, SIGKILL);
-  waitpid(child, &status, 0);
-  EXPECT_TRUE(WIFSIGNALED(status));
-  return Outcome::Killed;
-}
 
 /// What lies in a folder after a run: each file with its content.
 using Content = std::map<std::string, std::string>;
@@ -95,7 +61,7 @@ void EndAtEveryCall(bool reportsBefore) {
     const TemporaryFolder folder;
     if (reportsBefore) SaveAll(folder, 1);
     const Content before = ReadFolder(folder);
-    outcome = RunUpToCall(calls + 1, [&] { SaveAll(folder, 3); });
+    outcome = testing::RunUpToCall(calls + 1, [&] { SaveAll(folder, 3); });
     if (outcome == Outcome::NotPermitted) GTEST_SKIP() << "no program may be watched here";
     const Content found = ReadFolder(folder);
 

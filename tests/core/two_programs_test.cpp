@@ -1,14 +1,14 @@
-// Two programs that save at the same moment in the same folder, under the same name. The settings are a file
-// of the toolkit; two programs that share it belong to the tests of the windows.
+// Two programs that save at the same moment in the same folder, under the same name. The settings are files
+// of the toolkit; two programs that share them belong to the tests of the windows.
 
 #include <gtest/gtest.h>
-#include <sys/wait.h>
 
 #include <algorithm>
 #include <functional>
 
 #include "base/Files.h"
 #include "base/Text.h"
+#include "support/Processes.h"
 #include "support/SavingProgram.h"
 #include "support/TemporaryFolder.h"
 
@@ -37,19 +37,9 @@ std::string ResultsOf(int sons) {
 }
 
 void RunTwoPrograms(const std::function<void(int sons)>& round) {
-  pid_t children[2] = {};
-  for (int program = 0; program < 2; ++program) {
-    children[program] = fork();
-    ASSERT_GE(children[program], 0);
-    if (children[program] != 0) continue;
+  testing::RunTwoPrograms([&](int program) {
     for (int i = 0; i < rounds; ++i) round(program + 1);
-    _exit(0);
-  }
-  for (const pid_t child : children) {
-    int status = -1;
-    ASSERT_EQ(waitpid(child, &status, 0), child);
-    EXPECT_EQ(status, 0);
-  }
+  });
 }
 
 TEST(TwoPrograms, AReportUnderTheSameNameIsThatOfOneOfThem) {

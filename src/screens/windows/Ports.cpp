@@ -1,6 +1,7 @@
 #include "screens/windows/Ports.h"
 
 #include <QApplication>
+#include <QDateTime>
 #include <QDir>
 #include <QFileDialog>
 #include <QFileInfo>
@@ -116,6 +117,16 @@ QString Path(const std::string& section, const std::string& key) {
   return ToQt(section) + QLatin1Char('/') + ToQt(key);
 }
 
+constexpr qint64 longestEmpty = 1000;
+
+// A program that is ended hard in the moment in which it takes the toolkit's lock leaves the lock without the
+// name of its owner. The toolkit would wait half a minute for nobody.
+void DropEmptyLock(const QSettings& store) {
+  const QFileInfo lock(store.fileName() + QStringLiteral(".lock"));
+  if (!lock.exists() || lock.size() > 0) return;
+  if (lock.lastModified().msecsTo(QDateTime::currentDateTime()) > longestEmpty) QFile::remove(lock.filePath());
+}
+
 }  // namespace
 
 DateTime SystemClock::Now() {
@@ -174,6 +185,7 @@ void QtSettings::Write(const std::string& application, const std::string& sectio
   store.setFallbacksEnabled(false);
   const QString path = Path(section, key);
   if (store.contains(path) && store.value(path).toString() == ToQt(value)) return;
+  DropEmptyLock(store);
   store.setValue(path, ToQt(value));
 }
 

@@ -1,0 +1,61 @@
+#pragma once
+
+#include <gtest/gtest.h>
+#include <sys/ptrace.h>
+#include <sys/wait.h>
+#include <unistd.h>
+
+#include <csignal>
+#include <functional>
+
+namespace qismora::testing {
+
+enum class Outcome { Ended, Killed, NotPermitted };
+
+/// Runs the program in a process of its own and kills it when it makes its call of that number to the system,
+/// before the call has done anything.
+inline Outcome RunUpToCall(int number, const std::function<void()>& program) {
+  constexpr int notPermitted = 77;
+  const pid_t child = fork();
+  if (child == 0) {
+    if (ptrace(PTRACE_TRACEME, 0, nullptr, nullptr) != 0) _exit(notPermitted);
+    std::raise(SIGSTOP);
+    program();
+    _exit(0);
+  }
+  int status = 0;
+  waitpid(child, &status, 0);
+  if (WIFEXITED(status)) return Outcome::NotPermitted;
+  // Each call stops the program twice: when it is made, and when it returns.
+  for (int stops = 0; stops < 2 * number - 1; ++stops) {
+    ptrace(PTRACE_SYSCALL, child, nullptr, nullptr);
+    waitpid(child, &status, 0);
+    if (WIFEXITED(status)) {
+      EXPECT_EQ(WEXITSTATUS(status), 0);
+      return Outcome::Ended;
+    }
+  }
+  kill(child, SIGKILL);
+  waitpid(child, &status, 0);
+  EXPECT_TRUE(WIFSIGNALED(status));
+  return Outcome::Killed;
+}
+
+/// Runs two programs at once and waits for their good end.
+inline void RunTwoPrograms(const std::function<void(int program)>& run) {
+  pid_t children[2] = {};
+  for (int program = 0; program < 2; ++program) {
+    children[program] = fork();
+    ASSERT_GE(children[program], 0);
+    if (children[program] != 0) continue;
+    run(program);
+    _exit(0);
+  }
+  for (const pid_t child : children) {
+    int status = -1;
+    ASSERT_EQ(waitpid(child, &status, 0), child);
+    EXPECT_EQ(status, 0);
+  }
+}
+
+}  // namespace qismora::testing

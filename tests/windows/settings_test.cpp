@@ -1,0 +1,170 @@
+// The settings of the running program, which are files of the toolkit: two programs that share them, and hard
+// ends while they are written. It needs no window, but processes of their own.
+
+#include <gtest/gtest.h>
+
+#include <QSettings>
+#include <chrono>
+#include <cstdlib>
+#include <set>
+
+#include "base/Files.h"
+#include "base/Text.h"
+#include "screens/windows/Ports.h"
+#include "screens/windows/Utf8.h"
+#include "shell/AppSettings.h"
+#include "shell/SessionLog.h"
+#include "support/MemoryOutside.h"
+#include "support/Processes.h"
+#include "support/TemporaryFolder.h"
+
+namespace qismora {
+namespace {
+
+namespace fs = std::filesystem;
+using testing::Outcome;
+using testing::TemporaryFolder;
+
+/// A user's own folder for settings, in memory where the machine has such a folder: each setting is written
+/// through to the disk.
+struct SettingsFolder : TemporaryFolder {
+  SettingsFolder() { QSettings::setPath(QSettings::NativeFormat, QSettings::UserScope, ToQt(Path())); }
+
+  [[maybe_unused]] static inline const int InMemory =
+      fs::exists("/dev/shm") ? setenv("TMPDIR", "/dev/shm", 0) : 0;
+};
+
+int Stored(const Setting& setting) {
+  QtSettings store;
+  return static_cast<int>(setting.Read(store).Value());
+}
+
+void Store(const Setting& setting, int number) {
+  QtSettings store;
+  setting.Write(store, std::to_string(number));
+}
+
+/// Hands the turn from one program to the other.
+class Turn {
+ public:
+  Turn() { EXPECT_EQ(pipe(ends_), 0); }
+  ~Turn() {
+    for (const int end : ends_) close(end);
+  }
+  Turn(const Turn&) = delete;
+  Turn& operator=(const Turn&) = delete;
+
+  void Give() const { EXPECT_EQ(write(ends_[1], "", 1), 1); }
+  void Await() const {
+    char any = 0;
+    EXPECT_EQ(read(ends_[0], &any, 1), 1);
+  }
+
+ private:
+  int ends_[2] = {};
+};
+
+// The toolkit knows a file that another program has changed by its size and its time. The clock of a file
+// system ticks every few milliseconds; no two users are as quick as that.
+constexpr useconds_t tick = 20000;
+
+TEST(StoredSettings, TwoProgramsThatWriteInTurnLoseNothing) {
+  constexpr int rounds = 20;
+  const SettingsFolder folder;
+  const Turn turns[2];
+  turns[0].Give();
+  testing::RunTwoPrograms([&](int program) {
+    const Setting& own = program == 0 ? LowerImage : LblPressed;
+    const Setting& other = program == 0 ? LblPressed : LowerImage;
+    for (int i = 1; i <= rounds; ++i) {
+      turns[program].Await();
+      if (Stored(own) != i - 1 || Stored(other) != i - 1 + program) _exit(1);
+      if (Stored(TimesExecuted) != 2 * (i - 1) + program) _exit(2);
+      usleep(tick);
+      Store(own, i);
+      Store(TimesExecuted, 2 * (i - 1) + program + 1);
+      turns[1 - program].Give();
+    }
+  });
+  EXPECT_EQ(Stored(LowerImage), rounds);
+  EXPECT_EQ(Stored(LblPressed), rounds);
+  EXPECT_EQ(Stored(TimesExecuted), 2 * rounds);
+}
+
+TEST(StoredSettings, TwoProgramsThatWriteAtOnceLeaveAWholeFile) {
+  constexpr int rounds = 500;
+  const SettingsFolder folder;
+  const std::string path = folder.File("Qismora/Qismora.conf");
+  const auto isWhole = [&] {
+    const std::string text = ReadWholeFile(path);
+    const int number = Stored(TimesExecuted);
+    return number > 0 && text.starts_with("[Inheritance]\nTimesExecuted=") && text.ends_with("\n");
+  };
+  testing::RunTwoPrograms([&](int program) {
+    for (int i = 1; i <= rounds; ++i) {
+      Store(TimesExecuted, 10 * i + program);
+      if (!isWhole()) _exit(1);
+    }
+  });
+  EXPECT_TRUE(isWhole());
+  EXPECT_EQ(Stored(TimesExecuted) / 10, rounds) << "the last of one of them";
+}
+
+/// All that a run of the program keeps for the next one.
+void RunOnce(const TemporaryFolder& folder, int number) {
+  Store(LowerImage, number);
+  Store(LblPressed, number);
+  testing::MemoryWorld world;
+  world.Folders.Folder = folder.Path();
+  QtSettings settings;
+  ShellOutside outside{{world.Clock, world.Boxes, world.Dialog, settings, world.Folders},
+                       world.Viewer,
+                       world.Player,
+                       world.Memory,
+                       world.Program};
+  ShellRecord shell;
+  CaseRecord record;
+  StartSession(shell, outside);
+  record.ExecCount = Long(number);
+  Inhp(shell, record, outside);
+}
+
+// The toolkit's lock without the name of its owner is waited for a while; the test makes it older instead.
+void AgeEmptyLocks(const TemporaryFolder& folder) {
+  for (const auto& entry : fs::directory_iterator(folder.File("Qismora"))) {
+    if (entry.path().extension() == ".lock" && entry.file_size() == 0)
+      fs::last_write_time(entry, fs::file_time_type::clock::now() - std::chrono::seconds(2));
+  }
+}
+
+TEST(StoredSettings, AHardEndAtAnyMomentLeavesTheOldOrTheNewAndNobodyWaitsForIt) {
+  std::set<std::string> states;
+  int calls = 0;
+  for (Outcome outcome = Outcome::Killed; outcome == Outcome::Killed; ++calls) {
+    SCOPED_TRACE(Join("killed at call ", calls + 1));
+    const SettingsFolder folder;
+    const std::string log = folder.File("popuQism.ppl");
+    RunOnce(folder, 1);
+    const std::string line = ReadWholeFile(log);
+    outcome = testing::RunUpToCall(calls + 1, [&] { RunOnce(folder, 2); });
+    if (outcome == Outcome::NotPermitted) GTEST_SKIP() << "no program may be watched here";
+
+    const std::size_t logged = ReadWholeFile(log).size();
+    states.insert(Join(Stored(LowerImage), Stored(LblPressed), Stored(TimesExecuted), " and ",
+                       static_cast<int>(logged / line.size()), " lines"));
+    EXPECT_EQ(logged % line.size(), 0U) << "whole lines";
+
+    AgeEmptyLocks(folder);
+    const auto before = std::chrono::steady_clock::now();
+    RunOnce(folder, 3);
+    EXPECT_LT(std::chrono::steady_clock::now() - before, std::chrono::seconds(10));
+    for (const Setting& setting : {LowerImage, LblPressed, TimesExecuted}) EXPECT_EQ(Stored(setting), 3);
+    EXPECT_EQ(ReadWholeFile(log).size(), logged + line.size());
+    if (::testing::Test::HasFailure()) return;
+  }
+  EXPECT_EQ(states, (std::set<std::string>{"111 and 1 lines", "211 and 1 lines", "221 and 1 lines",
+                                           "222 and 1 lines", "222 and 2 lines"}));
+}
+
+}  // namespace
+}  // namespace qismora
