@@ -117,6 +117,7 @@ void TellGrowthOverAMillionCases() {
 
 int main(int argc, char** argv) {
   benchmark::Initialize(&argc, argv);
+  benchmark::AddCustomContext("compiler", __VERSION__);
   benchmark::RunSpecifiedBenchmarks();
   qismora::TellGrowthOverAMillionCases();
   return 0;

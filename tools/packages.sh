@@ -1,5 +1,5 @@
 # shellcheck shell=bash
-# The Debian packages that ./run and ./check need, and how they come onto the machine.
+# The Debian packages that ./run, ./measure and ./check need, and how they come onto the machine.
 
 packages_to_run=(
   build-essential    # compiler and linker
@@ -15,12 +15,16 @@ packages_to_run=(
   fonts-hosny-amiri  # Arabic and Urdu letters of the documents
 )
 
-# shellcheck disable=SC2034 # used by ./check
-packages_to_check=(
+packages_to_measure=(
   "${packages_to_run[@]}"
   libgtest-dev       # tests
-  python3            # the test of the pictures
   libbenchmark-dev   # benchmarks
+  python3            # the test of the pictures, the page of measurements
+)
+
+# shellcheck disable=SC2034 # used by ./check
+packages_to_check=(
+  "${packages_to_measure[@]}"
   clang-14           # second opinion on the core
   libclang-rt-14-dev # sanitizers
   clang-format-14    # layout

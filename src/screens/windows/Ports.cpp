@@ -124,7 +124,8 @@ constexpr qint64 longestEmpty = 1000;
 void DropEmptyLock(const QSettings& store) {
   const QFileInfo lock(store.fileName() + QStringLiteral(".lock"));
   if (!lock.exists() || lock.size() > 0) return;
-  if (lock.lastModified().msecsTo(QDateTime::currentDateTime()) > longestEmpty) QFile::remove(lock.filePath());
+  if (lock.lastModified().msecsTo(QDateTime::currentDateTime()) > longestEmpty)
+    QFile::remove(lock.filePath());
 }
 
 }  // namespace

@@ -1,0 +1,176 @@
+#!/usr/bin/env python3
+"""Measures the program and writes a page of it.
+
+measure.py FOLDER PAGE [PACKAGE]     FOLDER holds startup_menu, startup_bare and qismora_bench
+"""
+
+import datetime
+import json
+import os
+import re
+import resource
+import statistics
+import subprocess
+import sys
+import tempfile
+import time
+
+STARTS = 41
+OPENINGS = 3
+REPETITIONS = 5
+MOST_TIMES = 1.3
+MOST_OPENING = 50
+BUSY = 0.1
+
+BENCHMARKS = {
+    "DoubleClickOnAnHeir": "A double click on an heir's caption",
+    "Residuaries": "The command Residuaries",
+    "SelectedReport/13": "The command Execute Selected, thirteen kinds of heir",
+    "FullReportWithoutFiles": "A full report, without its files",
+    "FullReportInMemoryFiles": "A full report with its files, on a disk in memory",
+}
+
+
+class Load:
+    """How much of the processors others have used since this was made."""
+
+    def __init__(self):
+        self.start = self.used()
+
+    @staticmethod
+    def used():
+        with open("/proc/stat") as stat:
+            ticks = [int(word) for word in stat.readline().split()[1:9]]
+        own = sum(sum(resource.getrusage(who)[:2]) for who in (resource.RUSAGE_SELF, resource.RUSAGE_CHILDREN))
+        idle = ticks[3] + ticks[4]
+        return sum(ticks), sum(ticks) - idle - own * os.sysconf("SC_CLK_TCK")
+
+    def share_of_others(self):
+        (all_before, others_before), (all_now, others_now) = self.start, self.used()
+        return max(0, (others_now - others_before) / (all_now - all_before))
+
+
+def run(*command, environment=None):
+    return subprocess.run(command, env=environment, stdout=subprocess.PIPE, stderr=subprocess.DEVNULL, text=True,
+                          check=True).stdout
+
+
+def start(command, environment):
+    """Time and processor's time to the painted window, peak memory, and what else the probe tells."""
+    before = time.monotonic() * 1000
+    told = [float(word) for word in run(*command, environment=environment).split()]
+    return [told[0] - before] + told[1:]
+
+
+def write_log(folder, lines):
+    with open(os.path.join(folder, "popuQism.ppl"), "w", newline="\r\n") as log:
+        for i in range(1, lines + 1):
+            begin, end = "05/03/2024 12:00:00", "05/03/2024 13:02:05"
+            log.write(f"{f' {i} ':<14}{begin:<28}{end:<28} 3725 \n")
+
+
+def measure_starts(programs, lines):
+    """The medians of the program and of the bare one, in turns; the number of widgets; how Case Study opens."""
+    with tempfile.TemporaryDirectory() as home:
+        environment = dict(os.environ, XDG_CONFIG_HOME=home, XDG_DATA_HOME=home, XDG_RUNTIME_DIR=home)
+        if lines:
+            write_log(home, lines)
+        menu = [os.path.join(programs, "startup_menu"), home]
+        # The first run writes the settings; after it nothing is there for the first time.
+        widgets = int(start(menu, environment)[3])
+        bare = [os.path.join(programs, "startup_bare"), str(widgets)]
+        start(bare, environment)
+        runs = [(start(menu + [str(OPENINGS)], environment), start(bare, environment)) for _ in range(STARTS)]
+    median = lambda program, column: statistics.median(run[program][column] for run in runs)
+    return [(median(0, column), median(1, column)) for column in range(3)], widgets, (median(0, 4), median(0, 5))
+
+
+def measure_cases(programs):
+    """The medians of the benchmarks in microseconds, the memory over a million cases, the compiler."""
+    with tempfile.TemporaryDirectory() as folder:
+        out = os.path.join(folder, "benchmarks.json")
+        names = "|".join(BENCHMARKS)
+        told = run(os.path.join(programs, "qismora_bench"), f"--benchmark_filter=^({names})$",
+                   f"--benchmark_repetitions={REPETITIONS}", f"--benchmark_out={out}")
+        with open(out) as file:
+            result = json.load(file)
+    medians = {row["run_name"]: row["real_time"] for row in result["benchmarks"]
+               if row.get("aggregate_name") == "median"}
+    growth = re.search(r"(\d+) KiB before, (\d+) KiB after", told)
+    return medians, growth.groups(), result["context"]["compiler"]
+
+
+def model_of_processor():
+    with open("/proc/cpuinfo") as file:
+        return next((line.split(":")[1].strip() for line in file if line.startswith("model name")),
+                    "unknown")
+
+
+def told_load(others):
+    share = f"others used {100 * others:.0f} % of the processors meanwhile"
+    return f"{share}: the machine was busy, so times are too high and ratios coarse" if others > BUSY else share
+
+
+def beside(what, unit, both, limit=""):
+    mine, plain = both
+    return f"| {what} | {mine:.1f} {unit} | {plain:.1f} {unit} | {mine / plain:.2f} | {limit} |"
+
+
+def write_page(path, programs, packages):
+    load = Load()
+    (quick, cpu, memory), widgets, openings = measure_starts(programs, 0)
+    (quick_log, cpu_log, memory_log), _, _ = measure_starts(programs, 10000)
+    cases, growth, compiler = measure_cases(programs)
+    qt = run("qtpaths6", "--query", "QT_VERSION").strip()
+    limit = f"{MOST_TIMES}"
+    rows = [
+        "# Measurements",
+        "",
+        "Written by `./measure`. Times are of this machine; ratios tell more.",
+        "",
+        "| | |",
+        "|---|---|",
+        f"| Day | {datetime.date.today()} |",
+        f"| Machine | {os.cpu_count()} cores, {model_of_processor()} |",
+        f"| Load | {told_load(load.share_of_others())} |",
+        f"| Built with | C++ compiler {compiler.strip()}, optimized; Qt {qt}, windows drawn offscreen |",
+        "",
+        "## Start",
+        "",
+        "From the start of the process to the painted main menu, beside a bare Qt program that shows as many plain",
+        f"widgets: {widgets} labels and radio buttons. Medians of {STARTS} starts of each, in turns, no film loaded.",
+        "",
+        "| | Qismora | Bare program | Ratio | At most |",
+        "|---|---|---|---|---|",
+        beside("Painted, no log", "ms", quick, limit),
+        beside("Painted, 10,000 lines in the log", "ms", quick_log, limit),
+        beside("Processor's time, no log", "ms", cpu),
+        beside("Processor's time, 10,000 lines in the log", "ms", cpu_log),
+        beside("Peak memory, no log", "MiB", memory, limit),
+        beside("Peak memory, 10,000 lines in the log", "MiB", memory_log, limit),
+        "",
+        f"Case Study opened {OPENINGS} times in each of these runs; the medians:",
+        "",
+        "| | | At most |",
+        "|---|---|---|",
+        f"| Opens from the menu, the first time | {openings[0]:.1f} ms | {MOST_OPENING} ms |",
+        f"| Opens from the menu, the best of {OPENINGS} times | {openings[1]:.1f} ms | |",
+        "",
+        "## Cases, without windows",
+        "",
+        f"Seven heirs where nothing else is said. Medians of {REPETITIONS} runs of many repetitions.",
+        "",
+        "| | |",
+        "|---|---|",
+        *(f"| {words} | {cases[name]:.0f} µs |" for name, words in BENCHMARKS.items()),
+        f"| Memory before and after a million cases | {growth[0]} and {growth[1]} KiB |",
+    ]
+    rows += ["", "## Size", "", "| | |", "|---|---|"] if packages else []
+    rows += [f"| Debian package `{os.path.basename(package)}` | {os.path.getsize(package) / 2**20:.2f} MiB |"
+             for package in packages]
+    with open(path, "w") as page:
+        page.write("\n".join(rows) + "\n")
+    print("\n".join(rows))
+
+
+write_page(sys.argv[2], sys.argv[1], sys.argv[3:])
