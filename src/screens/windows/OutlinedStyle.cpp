@@ -1,9 +1,9 @@
 #include "screens/windows/OutlinedStyle.h"
 
-#include <QIconEngine>
 #include <QPainter>
-#include <QPointer>
 #include <QStyleOption>
+
+#include "screens/windows/LateIcon.h"
 
 namespace qismora {
 
@@ -42,29 +42,17 @@ void DrawGroup(QPainter* painter, const QPalette& palette, const QRect& rect) {
   for (const int x : {rect.left(), rect.right()}) painter->fillRect(x, rect.top(), 1, rect.height(), line);
 }
 
-/// An icon of a style, made only when it is drawn.
-class LateIcon : public QIconEngine {
- public:
-  LateIcon(QStyle* style, QStyle::StandardPixmap which) : style_(style), which_(which) {}
-
-  void paint(QPainter* painter, const QRect& rect, QIcon::Mode mode, QIcon::State state) override {
-    Icon().paint(painter, rect, Qt::AlignCenter, mode, state);
-  }
-  QPixmap pixmap(const QSize& size, QIcon::Mode mode, QIcon::State state) override {
-    return Icon().pixmap(size, 1, mode, state);
-  }
-  QIconEngine* clone() const override { return new LateIcon(*this); }
-
- private:
-  QIcon Icon() const { return style_ == nullptr ? QIcon() : style_->standardIcon(which_); }
-
-  QPointer<QStyle> style_;
-  QStyle::StandardPixmap which_;
-};
-
 }  // namespace
 
 OutlinedStyle::OutlinedStyle() : QProxyStyle(QStringLiteral("fusion")) {}
+
+// Every menu bar asks for the sign that stands where it is too narrow for its entries. Making it has the
+// toolkit load all that it can read pictures with, so it waits until such a menu bar comes.
+QIcon OutlinedStyle::standardIcon(StandardPixmap which, const QStyleOption* option,
+                                  const QWidget* widget) const {
+  if (which == SP_ToolBarHorizontalExtensionButton) return QIcon(new LateIcon(baseStyle(), which));
+  return QProxyStyle::standardIcon(which, option, widget);
+}
 
 void OutlinedStyle::drawPrimitive(PrimitiveElement element, const QStyleOption* option, QPainter* painter,
                                   const QWidget* widget) const {
@@ -81,14 +69,6 @@ void OutlinedStyle::drawPrimitive(PrimitiveElement element, const QStyleOption* 
     DrawOutline(painter, option->palette, option->rect, boxStrength,
                 radio ? option->rect.width() / 2.0 : roundness);
   }
-}
-
-// Every menu bar asks for the sign that stands where it is too narrow for its entries. Making it has the
-// toolkit load all that it can read pictures with, so it waits until such a menu bar comes.
-QIcon OutlinedStyle::standardIcon(StandardPixmap which, const QStyleOption* option,
-                                  const QWidget* widget) const {
-  if (which == SP_ToolBarHorizontalExtensionButton) return QIcon(new LateIcon(baseStyle(), which));
-  return QProxyStyle::standardIcon(which, option, widget);
 }
 
 }  // namespace qismora

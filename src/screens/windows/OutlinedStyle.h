@@ -11,9 +11,10 @@ class OutlinedStyle : public QProxyStyle {
  public:
   OutlinedStyle();
 
+  QIcon standardIcon(StandardPixmap which, const QStyleOption* option, const QWidget* widget) const override;
+
   void drawPrimitive(PrimitiveElement element, const QStyleOption* option, QPainter* painter,
                      const QWidget* widget) const override;
-  QIcon standardIcon(StandardPixmap which, const QStyleOption* option, const QWidget* widget) const override;
 };
 
 }  // namespace qismora
