@@ -20,13 +20,13 @@ double Luminance(const QColor& colour) {
   return 0.2126 * Linear(colour.redF()) + 0.7152 * Linear(colour.greenF()) + 0.0722 * Linear(colour.blueF());
 }
 
+}  // namespace
+
 double Contrast(const QColor& one, const QColor& other) {
   const double a = Luminance(one) + 0.05;
   const double b = Luminance(other) + 0.05;
   return std::max(a, b) / std::min(a, b);
 }
-
-}  // namespace
 
 QColor Readable(QColor wanted, const QColor& ground) {
   const float towards = Luminance(ground) < 0.18 ? step : -step;

@@ -5,6 +5,9 @@
 
 namespace qismora {
 
+/// How far two colours stand apart, from 1 for alike to 21 for black and white.
+double Contrast(const QColor& one, const QColor& other);
+
 /// The tone nearest to the wanted one that can be read on the ground: lighter on a dark ground, darker on
 /// a bright one.
 QColor Readable(QColor wanted, const QColor& ground);

@@ -3,6 +3,7 @@
 #include <QPainter>
 #include <QStyleOption>
 
+#include "screens/windows/Colours.h"
 #include "screens/windows/LateIcon.h"
 
 namespace qismora {
@@ -10,23 +11,30 @@ namespace qismora {
 namespace {
 
 constexpr int darkGround = 64;
-constexpr int boxStrength = 110;
+constexpr double blackAndWhite = 20;
 constexpr double groupStrength = 0.2;
+constexpr double gridStrength = 0.3;
+constexpr double frameStrength = 0.45;
+constexpr double fullStrength = 0.8;
+constexpr int focusTint = 36;
 constexpr int titleMargin = 3;
 constexpr qreal roundness = 2;
 
-void DrawOutline(QPainter* painter, const QPalette& palette, const QRect& rect, int strength,
-                 qreal round = roundness) {
-  QColor line = palette.color(QPalette::WindowText);
-  line.setAlpha(strength);
-  painter->save();
-  painter->setRenderHint(QPainter::Antialiasing);
-  painter->setPen(line);
-  painter->setBrush(Qt::NoBrush);
-  const QRectF edge = QRectF(rect).adjusted(0.5, 0.5, -0.5, -0.5);
-  painter->drawRoundedRect(edge, round, round);
-  painter->restore();
-}
+struct Letters {
+  QPalette::ColorRole Ink;
+  QPalette::ColorRole Ground;
+};
+
+// Of what is selected the ground gives way: its letters are mostly black or white already.
+constexpr Letters letters[] = {
+    {QPalette::WindowText, QPalette::Window},
+    {QPalette::Text, QPalette::Base},
+    {QPalette::ButtonText, QPalette::Button},
+    {QPalette::Highlight, QPalette::HighlightedText},
+    {QPalette::Link, QPalette::Window},
+    {QPalette::LinkVisited, QPalette::Window},
+    {QPalette::ToolTipText, QPalette::ToolTipBase},
+};
 
 QColor Between(const QColor& ground, const QColor& ink, double strength) {
   const auto mixed = [strength](int from, int to) { return from + static_cast<int>((to - from) * strength); };
@@ -34,12 +42,51 @@ QColor Between(const QColor& ground, const QColor& ink, double strength) {
           mixed(ground.blue(), ink.blue())};
 }
 
+/// The colour of an outline, stronger where the desktop asks for contrast above all.
+QColor Line(const QPalette& palette, double strength) {
+  const QColor ground = palette.color(QPalette::Window);
+  const QColor ink = palette.color(QPalette::Active, QPalette::WindowText);
+  return Between(ground, ink, Contrast(ink, ground) > blackAndWhite ? fullStrength : strength);
+}
+
+/// Whether the frames of the style itself are too faint.
+bool NeedsOutlines(const QPalette& palette) {
+  const QColor ground = palette.color(QPalette::Window);
+  return ground.lightness() <= darkGround ||
+         Contrast(palette.color(QPalette::Active, QPalette::WindowText), ground) > blackAndWhite;
+}
+
+QColor FocusColour(const QPalette& palette) {
+  return Readable(palette.color(QPalette::Active, QPalette::Highlight), palette.color(QPalette::Window));
+}
+
+bool HasKeyboard(const QStyleOption& option) {
+  constexpr QStyle::State both = QStyle::State_HasFocus | QStyle::State_KeyboardFocusChange;
+  return (option.state & both) == both;
+}
+
+void DrawOutline(QPainter* painter, const QColor& line, const QRect& rect, qreal round = roundness,
+                 const QBrush& ground = Qt::NoBrush) {
+  painter->save();
+  painter->setRenderHint(QPainter::Antialiasing);
+  painter->setPen(line);
+  painter->setBrush(ground);
+  painter->drawRoundedRect(QRectF(rect).adjusted(0.5, 0.5, -0.5, -0.5), round, round);
+  painter->restore();
+}
+
 // Filled bars of one plain colour: large tinted or smooth frames would start the painter's threads.
-void DrawGroup(QPainter* painter, const QPalette& palette, const QRect& rect) {
-  const QColor line =
-      Between(palette.color(QPalette::Window), palette.color(QPalette::WindowText), groupStrength);
+void DrawBars(QPainter* painter, const QColor& line, const QRect& rect) {
   for (const int y : {rect.top(), rect.bottom()}) painter->fillRect(rect.left(), y, rect.width(), 1, line);
   for (const int x : {rect.left(), rect.right()}) painter->fillRect(x, rect.top(), 1, rect.height(), line);
+}
+
+void DrawFocus(QPainter* painter, const QStyleOption& option) {
+  if ((option.state & QStyle::State_KeyboardFocusChange) == 0) return;
+  const QColor line = FocusColour(option.palette);
+  QColor tint = line;
+  tint.setAlpha(focusTint);
+  DrawOutline(painter, line, option.rect, roundness, tint);
 }
 
 }  // namespace
@@ -54,21 +101,74 @@ QIcon OutlinedStyle::standardIcon(StandardPixmap which, const QStyleOption* opti
   return QProxyStyle::standardIcon(which, option, widget);
 }
 
+// Many a dark desktop leaves links dark blue, and entries that cannot be chosen nearly invisible.
+void OutlinedStyle::polish(QPalette& palette) {
+  QProxyStyle::polish(palette);
+  for (const QPalette::ColorGroup group : {QPalette::Active, QPalette::Inactive, QPalette::Disabled}) {
+    for (const auto& [ink, ground] : letters) {
+      const QColor wanted = palette.color(group, ink);
+      const QColor readable = Readable(wanted, palette.color(group, ground));
+      if (readable != wanted) palette.setColor(group, ink, readable);
+    }
+  }
+}
+
 void OutlinedStyle::drawPrimitive(PrimitiveElement element, const QStyleOption* option, QPainter* painter,
                                   const QWidget* widget) const {
-  if (element == PE_FrameGroupBox) {
-    const int title = qMax(pixelMetric(PM_IndicatorHeight), option->fontMetrics.height()) + titleMargin;
-    DrawGroup(painter, option->palette, option->rect.adjusted(0, title, 0, 0));
-    return;
+  const QPalette& palette = option->palette;
+  switch (element) {
+    case PE_FrameGroupBox: {
+      const int title = qMax(pixelMetric(PM_IndicatorHeight), option->fontMetrics.height()) + titleMargin;
+      return DrawBars(painter, Line(palette, groupStrength), option->rect.adjusted(0, title, 0, 0));
+    }
+    case PE_FrameFocusRect:
+      return DrawFocus(painter, *option);
+    case PE_Frame:
+      if (HasKeyboard(*option)) return DrawBars(painter, FocusColour(palette), option->rect);
+      if (NeedsOutlines(palette)) return DrawBars(painter, Line(palette, frameStrength), option->rect);
+      break;
+    default:
+      break;
   }
   QProxyStyle::drawPrimitive(element, option, painter, widget);
   const bool radio = element == PE_IndicatorRadioButton;
   const bool framed = radio || element == PE_PanelLineEdit || element == PE_IndicatorCheckBox ||
                       element == PE_PanelButtonCommand;
-  if (framed && option->palette.color(QPalette::Window).lightness() <= darkGround) {
-    DrawOutline(painter, option->palette, option->rect, boxStrength,
-                radio ? option->rect.width() / 2.0 : roundness);
+  if (!framed) return;
+  const qreal round = radio ? option->rect.width() / 2.0 : roundness;
+  if (HasKeyboard(*option)) {
+    DrawOutline(painter, FocusColour(palette), option->rect, round);
+  } else if (NeedsOutlines(palette)) {
+    DrawOutline(painter, Line(palette, frameStrength), option->rect, round);
   }
+}
+
+// The entry of the bar that the keys have reached looks like one that the mouse has opened.
+void OutlinedStyle::drawControl(ControlElement element, const QStyleOption* option, QPainter* painter,
+                                const QWidget* widget) const {
+  const auto* entry = qstyleoption_cast<const QStyleOptionMenuItem*>(option);
+  if (element == CE_MenuBarItem && entry != nullptr && (entry->state & State_Selected) != 0) {
+    QStyleOptionMenuItem opened = *entry;
+    opened.state |= State_Sunken;
+    return QProxyStyle::drawControl(element, &opened, painter, widget);
+  }
+  QProxyStyle::drawControl(element, option, painter, widget);
+}
+
+void OutlinedStyle::drawComplexControl(ComplexControl control, const QStyleOptionComplex* option,
+                                       QPainter* painter, const QWidget* widget) const {
+  QProxyStyle::drawComplexControl(control, option, painter, widget);
+  if (control != CC_ScrollBar || !NeedsOutlines(option->palette)) return;
+  DrawOutline(painter, Line(option->palette, frameStrength),
+              subControlRect(control, option, SC_ScrollBarSlider, widget));
+}
+
+int OutlinedStyle::styleHint(StyleHint hint, const QStyleOption* option, const QWidget* widget,
+                             QStyleHintReturn* returned) const {
+  if (hint == SH_Table_GridLineColor && option != nullptr && NeedsOutlines(option->palette)) {
+    return static_cast<int>(Line(option->palette, gridStrength).rgba());
+  }
+  return QProxyStyle::styleHint(hint, option, widget, returned);
 }
 
 }  // namespace qismora

@@ -5,16 +5,25 @@
 namespace qismora {
 
 /// The style of all windows: forms are laid out to the pixel, so it is the same on every desktop. Groups are
-/// plain outlines; on a dark ground, where their own frames can hardly be seen, boxes and buttons get one
-/// too.
+/// plain outlines. On a dark ground and in black and white, where their own frames can hardly be seen, boxes,
+/// buttons and texts get one too. Whatever has the focus of the keyboard stands in a clear frame, and every
+/// desktop's letters are made readable on its grounds.
 class OutlinedStyle : public QProxyStyle {
  public:
   OutlinedStyle();
 
   QIcon standardIcon(StandardPixmap which, const QStyleOption* option, const QWidget* widget) const override;
 
+  using QProxyStyle::polish;
+  void polish(QPalette& palette) override;
   void drawPrimitive(PrimitiveElement element, const QStyleOption* option, QPainter* painter,
                      const QWidget* widget) const override;
+  void drawControl(ControlElement element, const QStyleOption* option, QPainter* painter,
+                   const QWidget* widget) const override;
+  void drawComplexControl(ComplexControl control, const QStyleOptionComplex* option, QPainter* painter,
+                          const QWidget* widget) const override;
+  int styleHint(StyleHint hint, const QStyleOption* option, const QWidget* widget,
+                QStyleHintReturn* returned) const override;
 };
 
 }  // namespace qismora
