@@ -1,12 +1,13 @@
 #pragma once
 
-#include <QPlainTextEdit>
 #include <functional>
+
+#include "screens/windows/ReadingText.h"
 
 namespace qismora {
 
 /// The disclaimer, over the menu. A double click or Escape hides it.
-class DisclaimerText : public QPlainTextEdit {
+class DisclaimerText : public ReadingText {
  public:
   explicit DisclaimerText(QWidget* parent);
 

@@ -5,12 +5,12 @@
 #include <QCloseEvent>
 #include <QLineEdit>
 #include <QMenuBar>
-#include <QPlainTextEdit>
 #include <QStatusBar>
 #include <utility>
 
 #include "screens/windows/HeadingLabel.h"
 #include "screens/windows/HoverWatch.h"
+#include "screens/windows/ReadingText.h"
 #include "screens/windows/Utf8.h"
 
 namespace qismora {
@@ -20,7 +20,6 @@ namespace {
 constexpr int headingSize = 20;
 constexpr int titleSize = 15;
 constexpr int pageMargin = 12;
-constexpr int tabLetters = 8;
 
 }  // namespace
 
@@ -83,13 +82,7 @@ QWidget* QurLawsWindow::Title() {
 // There is no panel of other products beside the page, so the focus that is meant for it goes to the page,
 // where the keys scroll.
 QWidget* QurLawsWindow::Page() {
-  auto* page = new QPlainTextEdit(Frame111());
-  page->setObjectName(QStringLiteral("Text2"));
-  page->setAccessibleName(tr("Page"));
-  page->setReadOnly(true);
-  page->setTextInteractionFlags(Qt::TextSelectableByMouse | Qt::TextSelectableByKeyboard);
-  page->setTabChangesFocus(true);
-  page->setTabStopDistance(page->fontMetrics().averageCharWidth() * tabLetters);
+  auto* page = new ReadingText(QStringLiteral("Text2"), tr("Page"), Frame111());
   page->document()->setDocumentMargin(pageMargin);
   binder_.Text(form_.Text2, page);
   WhenMouseMoves(page->viewport(), [this] { form_.Text2_MouseMove(); });
