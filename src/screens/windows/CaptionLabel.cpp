@@ -38,7 +38,7 @@ void CaptionLabel::focusInEvent(QFocusEvent* event) {
 
 // The frame leads whoever goes by keyboard; a click needs none.
 void CaptionLabel::PaintFocus() {
-  if (!hasFocus() || clickedInto_) return;
+  if (!HasKeyboard()) return;
   QStyleOptionFocusRect option;
   option.initFrom(this);
   option.state |= QStyle::State_KeyboardFocusChange;
@@ -53,7 +53,8 @@ void CaptionLabel::paintEvent(QPaintEvent*) {
   drawFrame(&painter);
   const QRect box = contentsRect().marginsRemoved({margin(), margin(), margin(), margin()});
   const int flags = int(QStyle::visualAlignment(layoutDirection(), alignment())) | int(Qt::TextSingleLine);
-  style()->drawItemText(&painter, box, flags, palette(), isEnabled(), text(), foregroundRole());
+  const QString words = text().isEmpty() && HasKeyboard() ? accessibleName() : text();
+  style()->drawItemText(&painter, box, flags, palette(), isEnabled(), words, foregroundRole());
 }
 
 QSize CaptionLabel::sizeHint() const {

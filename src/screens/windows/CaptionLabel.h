@@ -8,8 +8,9 @@ namespace qismora {
 enum class Gesture { Click, DoubleClick };
 
 /// A label that acts: on its gesture of the mouse, on Return and Space, by the one entry of its context
-/// menu, and when a screen reader presses it. Before it is told to act it is a plain label. It has one line
-/// and sets it itself: a QLabel that takes the focus would keep a text document for it.
+/// menu, and when a screen reader presses it. Before it is told to act it is a plain label. One without words
+/// shows its spoken name while the keyboard is on it. It has one line and sets it itself: a QLabel that takes
+/// the focus would keep a text document for it.
 class CaptionLabel : public QLabel {
  public:
   CaptionLabel(const QString& name, QWidget* parent);
@@ -35,6 +36,7 @@ class CaptionLabel : public QLabel {
   void mouseReleaseEvent(QMouseEvent* event) override;
   void mouseDoubleClickEvent(QMouseEvent* event) override;
   void contextMenuEvent(QContextMenuEvent* event) override;
+  bool HasKeyboard() const { return hasFocus() && !clickedInto_; }
   void PaintFocus();
 
  private:
@@ -44,8 +46,5 @@ class CaptionLabel : public QLabel {
   bool down_ = false;
   bool clickedInto_ = false;
 };
-
-/// Lets screen readers see the labels that act as buttons. Once is enough.
-void MakeCaptionsAccessible();
 
 }  // namespace qismora

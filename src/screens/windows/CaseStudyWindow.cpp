@@ -8,11 +8,13 @@
 #include <QStatusBar>
 #include <QTimer>
 
+#include "screens/windows/Accessibles.h"
 #include "screens/windows/CaptionLabel.h"
 #include "screens/windows/CaseMenu.h"
 #include "screens/windows/ClassIIPanel.h"
 #include "screens/windows/HeirsPanel.h"
 #include "screens/windows/HoverWatch.h"
+#include "screens/windows/Keyboard.h"
 #include "screens/windows/Letters.h"
 #include "screens/windows/ResultPanel.h"
 #include "screens/windows/TopStrip.h"
@@ -34,7 +36,7 @@ constexpr int longestFolder = 300;
 
 CaseStudyWindow::CaseStudyWindow(CaseRecord& record, Outside& outside, int savedLanguage)
     : form_(record, outside, savedLanguage) {
-  MakeCaptionsAccessible();
+  MakeAccessible();
   setObjectName(QStringLiteral("CaseStudy"));
   setAccessibleName(tr("Case Study"));
   setWindowTitle(tr("Case Study - Finding shares of Quranic Sharers"));
@@ -47,6 +49,7 @@ CaseStudyWindow::CaseStudyWindow(CaseRecord& record, Outside& outside, int saved
   BuildTimer();
   SetSizes();
   OrderTabs();
+  OpenToKeyboard(this);
   KeepOnTop();
 }
 

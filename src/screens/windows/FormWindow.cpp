@@ -6,7 +6,8 @@
 #include <QMenuBar>
 #include <QStatusBar>
 
-#include "screens/windows/CaptionLabel.h"
+#include "screens/windows/Accessibles.h"
+#include "screens/windows/Keyboard.h"
 
 namespace qismora {
 
@@ -20,10 +21,11 @@ constexpr int largestLetters = 14;
 }  // namespace
 
 FormWindow::FormWindow(const char* name, const QString& spoken) {
-  MakeCaptionsAccessible();
+  MakeAccessible();
   setObjectName(QString::fromLatin1(name));
   setAccessibleName(spoken);
   LimitLetters(this, largestLetters);
+  OpenToKeyboard(this);
   auto* ground = new QWidget(this);
   frame_ = new QWidget(ground);
   frame_->setObjectName(QStringLiteral("Frame111"));

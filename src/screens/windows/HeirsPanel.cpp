@@ -71,6 +71,8 @@ constexpr int boxWidth = 40;
 constexpr QSize pictureSize{80, 20};
 constexpr int pictureColumnWidth = 66;
 
+constexpr const char* inUrdu = "%1, in Urdu";
+constexpr const char* inArabic = "%1, in Arabic";
 constexpr const char* boxTip = "%1\nDouble-click or F2: 0 or 1";
 constexpr const char* captionTip = "%1\nDouble-click or Enter: compute the share";
 
@@ -151,12 +153,12 @@ CaptionLabel* HeirsPanel::AddCaption(int box, const QString& spoken) {
 }
 
 // The pictures stand beside the caption, which stays readable in every view, and act as it does.
-void HeirsPanel::AddPicture(int row, int column, int box, const QString& name, const QString& file,
-                            Picture& control) {
+void HeirsPanel::AddPicture(int row, int column, int box, const QString& spoken, const QString& name,
+                            const QString& file, Picture& control) {
   auto* picture = new PictureLabel(name, QStringLiteral("captions/") + file, Ink::Text, this);
   picture->setFixedSize(pictureSize);
   picture->setAlignment(Qt::AlignRight | Qt::AlignVCenter);
-  picture->setAccessibleName(tr("Caption picture, %1").arg(file));
+  picture->setAccessibleName(spoken);
   picture->ActOn(Gesture::DoubleClick, tr("Compute the share"), [this, box] { form_.Label1_DblClick(box); });
   picture->setFocusPolicy(Qt::NoFocus);
   picture->setAttribute(Qt::WA_TransparentForMouseEvents, !picture->HasPicture());
@@ -171,10 +173,10 @@ void HeirsPanel::AddHeir(int row, int column, int box, const QString& spoken) {
   CaptionLabel* caption = AddCaption(box, spoken);
   caption->setBuddy(input);
   grid_->addWidget(caption, row, column);
-  AddPicture(row, column, box, QStringLiteral("Image%1").arg(number + 9), QStringLiteral("urdu-%1").arg(box),
-             form_.Image(number + 9));
-  AddPicture(row, column, box, Indexed("Image41", number + 2), QStringLiteral("arabic-%1").arg(box),
-             form_.Image41(number + 2));
+  AddPicture(row, column, box, tr(inUrdu).arg(spoken), QStringLiteral("Image%1").arg(number + 9),
+             QStringLiteral("urdu-%1").arg(box), form_.Image(number + 9));
+  AddPicture(row, column, box, tr(inArabic).arg(spoken), Indexed("Image41", number + 2),
+             QStringLiteral("arabic-%1").arg(box), form_.Image41(number + 2));
   grid_->addWidget(input, row, column + 2, Qt::AlignVCenter);
 }
 
@@ -192,10 +194,16 @@ void HeirsPanel::AddSpouse(int row) {
     caption->setToolTip(tr(captionTip).arg(words));
   });
   grid_->addWidget(caption, row, 0);
-  AddPicture(row, 0, 1, Indexed("Image30", 0), QStringLiteral("urdu-wives"), form_.Image30(0));
-  AddPicture(row, 0, 1, Indexed("Image30", 1), QStringLiteral("urdu-husband"), form_.Image30(1));
-  AddPicture(row, 0, 1, Indexed("Image41", 0), QStringLiteral("arabic-wives"), form_.Image41(0));
-  AddPicture(row, 0, 1, Indexed("Image41", 1), QStringLiteral("arabic-husband"), form_.Image41(1));
+  const QString spouses[] = {tr("Wives"), tr("Husband")};
+  const QString files[] = {QStringLiteral("wives"), QStringLiteral("husband")};
+  for (const int i : {0, 1}) {
+    AddPicture(row, 0, 1, tr(inUrdu).arg(spouses[i]), Indexed("Image30", i),
+               QStringLiteral("urdu-") + files[i], form_.Image30(i));
+  }
+  for (const int i : {0, 1}) {
+    AddPicture(row, 0, 1, tr(inArabic).arg(spouses[i]), Indexed("Image41", i),
+               QStringLiteral("arabic-") + files[i], form_.Image41(i));
+  }
   grid_->addWidget(input, row, 2, Qt::AlignVCenter);
 }
 
@@ -210,7 +218,8 @@ void HeirsPanel::AddEstate(int row, int box, const QString& spoken) {
   grid_->addWidget(input, row, rightColumn + 1, 1, 2, Qt::AlignVCenter);
 }
 
-// A caption without words or box: it loads the case and computes nothing.
+// A caption without words or box: it loads the case and computes nothing. Its name shows when Tab comes to
+// it.
 void HeirsPanel::AddBlankCaption(int row) {
   CaptionLabel* caption = AddCaption(12, tr("Load the case only"));
   caption->setToolTip({});

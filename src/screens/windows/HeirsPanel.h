@@ -25,7 +25,8 @@ class HeirsPanel : public QGroupBox {
   void AddBlankCaption(int row);
   CaseBox* AddBox(int box, const QString& spoken);
   CaptionLabel* AddCaption(int box, const QString& spoken);
-  void AddPicture(int row, int column, int box, const QString& name, const QString& file, Picture& control);
+  void AddPicture(int row, int column, int box, const QString& spoken, const QString& name,
+                  const QString& file, Picture& control);
 
   CaseStudy& form_;
   Binder& binder_;

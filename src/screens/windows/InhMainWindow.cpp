@@ -60,8 +60,10 @@ InhMainWindow::InhMainWindow(CaseRecord& record, ShellRecord& shell, ShellOutsid
   rows->addWidget(Foot());
 
   QLabel* panel = AddPanel("StatusBar1.Panel3", tr("Entry under the mouse"));
-  Binder::Follow(form_.StatusBar1.Caption,
-                 [this, panel] { panel->setText(SpokenCaption(form_.StatusBar1.Caption)); });
+  Binder::Follow(form_.StatusBar1.Caption, [this, panel, name = panel->accessibleName()] {
+    panel->setText(SpokenCaption(form_.StatusBar1.Caption));
+    panel->setAccessibleName(name + QStringLiteral(": ") + panel->text());
+  });
   Binder::Follow(form_.Hourglass, [this] { form_.Hourglass ? setCursor(Qt::WaitCursor) : unsetCursor(); });
   FollowPlace(form_.Frame111Left, form_.Frame111Top);
   SetSizes();

@@ -2,13 +2,33 @@
 
 #include <QKeyEvent>
 #include <QMouseEvent>
+#include <QPainter>
+#include <QStyle>
+#include <QStyleOptionFocusRect>
 #include <utility>
 
 namespace qismora {
 
+namespace {
+
+constexpr int focusRoom = 2;
+
+}  // namespace
+
 VideoPanel::VideoPanel(QWidget* parent) : QFrame(parent) {
   setObjectName(QStringLiteral("Frame5"));
   setAccessibleName(tr("Animation"));
+  setAccessibleDescription(tr("Return: the other one. Space: once more."));
+  setContentsMargins(focusRoom, focusRoom, focusRoom, focusRoom);
+}
+
+// Around what plays, which covers everything else.
+void VideoPanel::paintEvent(QPaintEvent*) {
+  if (!hasFocus()) return;
+  QStyleOptionFocusRect option;
+  option.initFrom(this);
+  QPainter painter(this);
+  style()->drawPrimitive(QStyle::PE_FrameFocusRect, &option, &painter, this);
 }
 
 void VideoPanel::keyPressEvent(QKeyEvent* event) {

@@ -15,6 +15,7 @@ class VideoPanel : public QFrame {
   std::function<void()> DoubleClicked;
 
  protected:
+  void paintEvent(QPaintEvent* event) override;
   void keyPressEvent(QKeyEvent* event) override;
   void mousePressEvent(QMouseEvent* event) override;
   void mouseReleaseEvent(QMouseEvent* event) override;

@@ -8,6 +8,7 @@
 #include <QMenuBar>
 #include <QPushButton>
 
+#include "screens/windows/Keyboard.h"
 #include "screens/windows/Utf8.h"
 #include "shell/Documents.h"
 
@@ -36,6 +37,7 @@ ZummyWindow::ZummyWindow(CaseRecord& record, ShellRecord& shell, ShellOutside& o
   columns->addWidget(Buttons());
   columns->addWidget(Holders(), 1);
   setCentralWidget(ground);
+  OpenToKeyboard(this);
 }
 
 QWidget* ZummyWindow::Buttons() {

@@ -22,7 +22,7 @@ class MultimediaScreen : public QWidget, public VideoScreen {
     setObjectName(QStringLiteral("MediaPlayer1"));
     setAccessibleName(tr("Animation"));
     setAttribute(Qt::WA_TransparentForMouseEvents);
-    resize(panel->size());
+    setGeometry(panel->contentsRect());
     auto* sink = new QVideoSink(this);
     player_->setVideoSink(sink);
     connect(sink, &QVideoSink::videoFrameChanged, this, [this](const QVideoFrame& frame) {
