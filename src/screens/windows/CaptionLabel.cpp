@@ -41,7 +41,7 @@ void CaptionLabel::PaintFocus() {
   if (!HasKeyboard()) return;
   QStyleOptionFocusRect option;
   option.initFrom(this);
-  option.state |= QStyle::State_KeyboardFocusChange;
+  option.rect = rect().marginsRemoved({frameWidth(), frameWidth(), frameWidth(), frameWidth()});
   option.backgroundColor = palette().color(backgroundRole());
   QPainter painter(this);
   style()->drawPrimitive(QStyle::PE_FrameFocusRect, &option, &painter, this);

@@ -5,6 +5,7 @@
 #include <QDir>
 #include <QLabel>
 #include <QMenuBar>
+#include <QPlainTextEdit>
 #include <QStatusBar>
 #include <QTimer>
 
@@ -143,7 +144,8 @@ void CaseStudyWindow::KeepOnTop() {
   move(windowPlace);
 }
 
-// Tab leads from box to box, as a case is typed, and only then to the captions that compute.
+// Tab leads from box to box, as a case is typed, and on to the text of the answer; only then to the captions
+// that compute. The texts are covered as yet: what takes no focus has no place in the order.
 void CaseStudyWindow::OrderTabs() {
   QWidget* last = nullptr;
   const auto chain = [&](const QList<QWidget*>& widgets, bool captions) {
@@ -155,8 +157,11 @@ void CaseStudyWindow::OrderTabs() {
     }
   };
   const QList<QWidget*> all = frame_->findChildren<QWidget*>();
+  const auto texts = frame_->findChildren<QPlainTextEdit*>();
+  for (QPlainTextEdit* text : texts) text->setFocusPolicy(Qt::StrongFocus);
   chain(all, false);
   chain(all, true);
+  for (QPlainTextEdit* text : texts) text->setFocusPolicy(Qt::NoFocus);
 }
 
 void CaseStudyWindow::TellSize() {

@@ -25,6 +25,7 @@ namespace {
 
 constexpr QSize bannerSize{420, 80};
 constexpr QSize pictureSize{320, 240};
+constexpr QMargins focusRoom{2, 2, 2, 2};
 constexpr int headingSize = 20;
 constexpr int gap = 12;
 constexpr std::chrono::milliseconds settled{500};
@@ -168,7 +169,7 @@ QWidget* InhMainWindow::Pictures() {
   for (int i = 0; i < form_.Image3.Size; ++i) {
     auto* picture =
         new PictureLabel(Indexed("Image3", i), QStringLiteral("image3-%1").arg(i), Ink::Own, place);
-    picture->setFixedSize(pictureSize);
+    picture->setGeometry(QRect(QPoint(), pictureSize).marginsRemoved(focusRoom));
     picture->setAccessibleName(tr("Picture %1").arg(i + 1));
     picture->setAttribute(Qt::WA_TransparentForMouseEvents);
     binder_.Visible(form_.Image3(i).Visible, picture);

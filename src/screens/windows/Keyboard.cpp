@@ -34,7 +34,7 @@ class FirstEntry : public QObject {
 
 // A menu bar offers no way in but the Alt key.
 void PressAlt(QMainWindow* window) {
-  QKeyEvent down(QEvent::ShortcutOverride, Qt::Key_Alt, Qt::AltModifier);
+  QKeyEvent down(QEvent::KeyPress, Qt::Key_Alt, Qt::AltModifier);
   QCoreApplication::sendEvent(window, &down);
   QKeyEvent up(QEvent::KeyRelease, Qt::Key_Alt, Qt::NoModifier);
   QCoreApplication::sendEvent(window, &up);
@@ -43,7 +43,6 @@ void PressAlt(QMainWindow* window) {
 }  // namespace
 
 void OpenToKeyboard(QMainWindow* window) {
-  window->setAttribute(Qt::WA_KeyboardFocusChange);
   auto* lead = new QShortcut(Qt::Key_F10, window);
   QObject::connect(lead, &QShortcut::activated, window, [window] { PressAlt(window); });
   new FirstEntry(window->menuBar());

@@ -1,5 +1,6 @@
 #include "screens/windows/OutlinedStyle.h"
 
+#include <QAbstractScrollArea>
 #include <QPainter>
 #include <QStyleOption>
 
@@ -16,6 +17,9 @@ constexpr double groupStrength = 0.2;
 constexpr double gridStrength = 0.3;
 constexpr double frameStrength = 0.45;
 constexpr double fullStrength = 0.8;
+constexpr double brightStrength = 0.28;
+constexpr QMargins oneLine{1, 1, 1, 1};
+constexpr int brighterButton = 150;
 constexpr int focusTint = 36;
 constexpr int titleMargin = 3;
 constexpr qreal roundness = 2;
@@ -25,15 +29,17 @@ struct Letters {
   QPalette::ColorRole Ground;
 };
 
-// Of what is selected the ground gives way: its letters are mostly black or white already.
+// Of what is selected the ground gives way: its letters are mostly black or white already. Menus have a
+// ground between those of windows and of boxes.
 constexpr Letters letters[] = {
     {QPalette::WindowText, QPalette::Window},
     {QPalette::Text, QPalette::Base},
+    {QPalette::Text, QPalette::Window},
     {QPalette::ButtonText, QPalette::Button},
-    {QPalette::Highlight, QPalette::HighlightedText},
     {QPalette::Link, QPalette::Window},
     {QPalette::LinkVisited, QPalette::Window},
     {QPalette::ToolTipText, QPalette::ToolTipBase},
+    {QPalette::Highlight, QPalette::HighlightedText},
 };
 
 QColor Between(const QColor& ground, const QColor& ink, double strength) {
@@ -56,14 +62,17 @@ bool NeedsOutlines(const QPalette& palette) {
          Contrast(palette.color(QPalette::Active, QPalette::WindowText), ground) > blackAndWhite;
 }
 
+bool IsText(const QWidget* widget) { return qobject_cast<const QAbstractScrollArea*>(widget) != nullptr; }
+
+// On a dark ground buttons are brighter than the window.
 QColor FocusColour(const QPalette& palette) {
-  return Readable(palette.color(QPalette::Active, QPalette::Highlight), palette.color(QPalette::Window));
+  const QColor window = palette.color(QPalette::Window);
+  const QColor ground = window.lightness() <= darkGround ? window.lighter(brighterButton) : window;
+  return Readable(palette.color(QPalette::Active, QPalette::Highlight), ground);
 }
 
-bool HasKeyboard(const QStyleOption& option) {
-  constexpr QStyle::State both = QStyle::State_HasFocus | QStyle::State_KeyboardFocusChange;
-  return (option.state & both) == both;
-}
+// Shown from the first moment of a window, and not only once a key has moved it.
+bool HasFocus(const QStyleOption& option) { return (option.state & QStyle::State_HasFocus) != 0; }
 
 void DrawOutline(QPainter* painter, const QColor& line, const QRect& rect, qreal round = roundness,
                  const QBrush& ground = Qt::NoBrush) {
@@ -81,8 +90,19 @@ void DrawBars(QPainter* painter, const QColor& line, const QRect& rect) {
   for (const int x : {rect.left(), rect.right()}) painter->fillRect(x, rect.top(), 1, rect.height(), line);
 }
 
+// A text has room for a second line within the first: it shows the focus.
+void DrawFrame(QPainter* painter, const QStyleOption& option, const QWidget* widget) {
+  const QPalette& palette = option.palette;
+  const QColor usual = NeedsOutlines(palette)
+                           ? Line(palette, frameStrength)
+                           : Between(palette.color(QPalette::Window), Qt::black, brightStrength);
+  DrawBars(painter, HasFocus(option) ? FocusColour(palette) : usual, option.rect);
+  if (!IsText(widget)) return;
+  DrawBars(painter, HasFocus(option) ? FocusColour(palette) : palette.color(QPalette::Base),
+           option.rect.marginsRemoved(oneLine));
+}
+
 void DrawFocus(QPainter* painter, const QStyleOption& option) {
-  if ((option.state & QStyle::State_KeyboardFocusChange) == 0) return;
   const QColor line = FocusColour(option.palette);
   QColor tint = line;
   tint.setAlpha(focusTint);
@@ -118,15 +138,14 @@ void OutlinedStyle::drawPrimitive(PrimitiveElement element, const QStyleOption* 
   const QPalette& palette = option->palette;
   switch (element) {
     case PE_FrameGroupBox: {
-      const int title = qMax(pixelMetric(PM_IndicatorHeight), option->fontMetrics.height()) + titleMargin;
+      const int title =
+          qMax(pixelMetric(PM_IndicatorHeight, option, widget), option->fontMetrics.height()) + titleMargin;
       return DrawBars(painter, Line(palette, groupStrength), option->rect.adjusted(0, title, 0, 0));
     }
     case PE_FrameFocusRect:
       return DrawFocus(painter, *option);
     case PE_Frame:
-      if (HasKeyboard(*option)) return DrawBars(painter, FocusColour(palette), option->rect);
-      if (NeedsOutlines(palette)) return DrawBars(painter, Line(palette, frameStrength), option->rect);
-      break;
+      return DrawFrame(painter, *option, widget);
     default:
       break;
   }
@@ -136,8 +155,9 @@ void OutlinedStyle::drawPrimitive(PrimitiveElement element, const QStyleOption* 
                       element == PE_PanelButtonCommand;
   if (!framed) return;
   const qreal round = radio ? option->rect.width() / 2.0 : roundness;
-  if (HasKeyboard(*option)) {
+  if (HasFocus(*option)) {
     DrawOutline(painter, FocusColour(palette), option->rect, round);
+    DrawOutline(painter, FocusColour(palette), option->rect.marginsRemoved(oneLine), round);
   } else if (NeedsOutlines(palette)) {
     DrawOutline(painter, Line(palette, frameStrength), option->rect, round);
   }
@@ -161,6 +181,11 @@ void OutlinedStyle::drawComplexControl(ComplexControl control, const QStyleOptio
   if (control != CC_ScrollBar || !NeedsOutlines(option->palette)) return;
   DrawOutline(painter, Line(option->palette, frameStrength),
               subControlRect(control, option, SC_ScrollBarSlider, widget));
+}
+
+int OutlinedStyle::pixelMetric(PixelMetric metric, const QStyleOption* option, const QWidget* widget) const {
+  const int usual = QProxyStyle::pixelMetric(metric, option, widget);
+  return metric == PM_DefaultFrameWidth && IsText(widget) ? usual + 1 : usual;
 }
 
 int OutlinedStyle::styleHint(StyleHint hint, const QStyleOption* option, const QWidget* widget,

@@ -1,6 +1,7 @@
 #include "screens/windows/ProgramWindows.h"
 
 #include <QGuiApplication>
+#include <QWindow>
 
 #include "base/Text.h"
 #include "screens/windows/Ports.h"
@@ -23,7 +24,11 @@ ProgramFacts Facts() {
   return facts;
 }
 
+// A window that comes back stands where it stood.
 void BringUp(QWidget* window) {
+  if (QWindow* shown = window->windowHandle(); shown != nullptr && !shown->isVisible()) {
+    shown->setFramePosition(shown->framePosition());
+  }
   window->setWindowState(window->windowState() & ~Qt::WindowMinimized);
   window->show();
   window->raise();

@@ -4,6 +4,7 @@
 #include <QClipboard>
 #include <QGridLayout>
 #include <QGuiApplication>
+#include <QShortcut>
 
 #include "base/Text.h"
 #include "screens/windows/AnswerLabel.h"
@@ -74,6 +75,11 @@ ResultPanel::ResultPanel(CaseStudy& form, Binder& binder, QWidget* parent) : QWi
     widget->setContextMenuPolicy(Qt::ActionsContextMenu);
   }
   for (ReadingText* text : {narrative, report}) text->addAction(copy);
+
+  auto* lead = new QShortcut(Qt::Key_F7, this);
+  connect(lead, &QShortcut::activated, this, [&form, narrative, report] {
+    if (!form.Frame5.Visible) (form.Text3.Visible ? report : narrative)->setFocus(Qt::ShortcutFocusReason);
+  });
 
   // What lies under the cover is out of the way of the Tab key too.
   Binder::Follow(form.Frame5.Visible, [&form, narrative, report, copy] {

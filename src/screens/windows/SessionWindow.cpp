@@ -34,7 +34,6 @@ SessionWindow::SessionWindow(ShellOutside& outside) : form_(outside) {
   leave->setShortcuts({QKeySequence(Qt::Key_Escape), QKeySequence(QKeySequence::Close)});
   connect(leave, &QAction::triggered, this, &QWidget::close);
   addAction(leave);
-  setAttribute(Qt::WA_KeyboardFocusChange);
 
   auto* ground = new QWidget(this);
   setCentralWidget(ground);

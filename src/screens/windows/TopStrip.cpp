@@ -13,6 +13,7 @@ namespace qismora {
 namespace {
 
 constexpr QSize animationSize{26, 26};
+constexpr QMargins focusRoom{1, 1, 1, 1};
 constexpr QSize ornamentSize{24, 24};
 constexpr int viewMargin = 4;
 
@@ -94,7 +95,7 @@ QWidget* TopStrip::Animation() {
   for (int i = 0; i < 3; ++i) {
     auto* picture =
         new PictureLabel(Indexed("Image42", i), QStringLiteral("image42-%1").arg(i), Ink::Own, place);
-    picture->setFixedSize(animationSize);
+    picture->setGeometry(QRect(QPoint(), animationSize).marginsRemoved(focusRoom));
     picture->setAccessibleName(tr("Animation, picture %1").arg(i));
     picture->ActOn(Gesture::Click, words, [this] { form_.Image42_Click(); });
     picture->setFocusPolicy(Qt::NoFocus);

@@ -1,0 +1,328 @@
+#include <QAbstractButton>
+#include <QAction>
+#include <QApplication>
+#include <QClipboard>
+#include <QComboBox>
+#include <QGroupBox>
+#include <QHash>
+#include <QHelpEvent>
+#include <QLabel>
+#include <QLineEdit>
+#include <QMenu>
+#include <QMenuBar>
+#include <QPlainTextEdit>
+#include <QTableWidget>
+#include <QTest>
+#include <QToolTip>
+
+#include "base/Files.h"
+#include "screens/windows/Colours.h"
+#include "screens/windows/OutlinedStyle.h"
+#include "shell/SessionLog.h"
+#include "windows/BoxWatch.h"
+#include "windows/ShellHome.h"
+
+namespace qismora {
+
+using testing::BoxWatch;
+using testing::ShellHome;
+
+namespace {
+
+/// What a desktop sets; the rest, as the links, it leaves as it is.
+struct Theme {
+  const char* Name;
+  QRgb Window;
+  QRgb Base;
+  QRgb Letters;
+  QRgb Highlight;
+  QRgb Highlighted;
+};
+
+constexpr Theme themes[] = {
+    {"bright", 0xFFEFEFEF, 0xFFFFFFFF, 0xFF000000, 0xFF308CC6, 0xFFFFFFFF},
+    {"dark", 0xFF353535, 0xFF232323, 0xFFFFFFFF, 0xFF2A82DA, 0xFF000000},
+    {"white on black", 0xFF000000, 0xFF000000, 0xFFFFFFFF, 0xFF1AEBFF, 0xFF000000},
+    {"black on white", 0xFFFFFFFF, 0xFFFFFFFF, 0xFF000000, 0xFF37006E, 0xFFFFFFFF},
+};
+
+QPalette PaletteOf(const Theme& theme) {
+  QPalette palette(QColor(theme.Window), QColor(theme.Window));
+  palette.setColor(QPalette::Base, theme.Base);
+  for (const QPalette::ColorGroup group : {QPalette::Active, QPalette::Inactive}) {
+    for (const auto role : {QPalette::WindowText, QPalette::Text, QPalette::ButtonText}) {
+      palette.setColor(group, role, theme.Letters);
+    }
+  }
+  palette.setColor(QPalette::Link, Qt::blue);
+  palette.setColor(QPalette::Highlight, theme.Highlight);
+  palette.setColor(QPalette::HighlightedText, theme.Highlighted);
+  return palette;
+}
+
+/// The colour that a widget writes with; none if it writes nothing.
+QColor InkOf(const QWidget* widget) {
+  const auto ink = [widget](const QString& words, QPalette::ColorRole role) {
+    return words.isEmpty() ? QColor() : widget->palette().color(role);
+  };
+  if (const auto* label = qobject_cast<const QLabel*>(widget))
+    return ink(label->text(), label->foregroundRole());
+  if (const auto* group = qobject_cast<const QGroupBox*>(widget))
+    return ink(group->title(), QPalette::WindowText);
+  if (const auto* button = qobject_cast<const QAbstractButton*>(widget)) {
+    return ink(button->text(), button->isCheckable() ? QPalette::WindowText : QPalette::ButtonText);
+  }
+  const QString any = QStringLiteral("any");
+  if (qobject_cast<const QComboBox*>(widget) || qobject_cast<const QMenuBar*>(widget)) {
+    return ink(any, QPalette::ButtonText);
+  }
+  const bool writes = qobject_cast<const QLineEdit*>(widget) || qobject_cast<const QPlainTextEdit*>(widget) ||
+                      qobject_cast<const QTableWidget*>(widget);
+  return writes ? ink(any, QPalette::Text) : QColor();
+}
+
+QRect PlaceIn(const QImage& picture, const QWidget* widget) {
+  const qreal scale = picture.devicePixelRatio();
+  const QPoint corner = widget->mapTo(widget->window(), QPoint());
+  return QRect(corner * scale, widget->size() * scale).intersected(picture.rect());
+}
+
+/// The colour within a widget that there is most of; a gradient counts as one.
+QColor GroundOf(const QImage& picture, const QRect& place) {
+  constexpr QRgb alike = 0xFFF0F0F0;
+  QHash<QRgb, int> counts;
+  QRgb most = 0;
+  const QRect inside = place.marginsRemoved({3, 3, 3, 3});
+  for (int y = inside.top(); y <= inside.bottom(); ++y) {
+    for (int x = inside.left(); x <= inside.right(); ++x) {
+      const QRgb colour = picture.pixel(x, y);
+      if (++counts[colour & alike] > counts[most & alike]) most = colour;
+    }
+  }
+  return most;
+}
+
+/// How many points changed so much that nobody overlooks it.
+int PlainChanges(const QImage& one, const QImage& other) {
+  int changes = 0;
+  for (int y = 0; y < one.height(); ++y) {
+    for (int x = 0; x < one.width(); ++x) {
+      if (one.pixel(x, y) == other.pixel(x, y)) continue;
+      if (Contrast(one.pixel(x, y), other.pixel(x, y)) >= 3) ++changes;
+    }
+  }
+  return changes;
+}
+
+}  // namespace
+
+class ComfortTest : public QObject {
+  Q_OBJECT
+
+ private slots:
+  void init() {
+    bright_ = QApplication::palette();
+    home_ = std::make_unique<ShellHome>();
+    windows_ = &home_->Start();
+    menu_ = &windows_->MainMenu();
+    InhMain& form = menu_->Form();
+    form.ShowCaseStudy();
+    study_ = windows_->Study();
+  }
+  void cleanup() {
+    home_.reset();
+    QApplication::setPalette(bright_);
+  }
+
+  void lettersCanBeRead_data() { EachTheme(); }
+  // Also when the desktop changes its colours under the open windows.
+  void lettersCanBeRead() {
+    const QList<QWidget*> windows = OpenAll();
+    Change();
+    study_->Form().Frame5.Visible = false;
+    study_->Form().Text3.ForeColor = Red;
+    study_->Form().Text3.Visible = true;
+    menu_->Form().Option1_MouseMove(3);
+    QMenu* analysis = Find<QAction>(study_, "CaseAnalysis")->menu();
+    QVERIFY(!analysis->actions().constLast()->isEnabled());
+    analysis->popup(QPoint(0, 0));
+    const QColor faint = analysis->palette().color(QPalette::Disabled, QPalette::Text);
+    const QImage entries = analysis->grab().toImage();
+    QVERIFY(Contrast(faint, GroundOf(entries, entries.rect())) >= 4.5);
+    analysis->close();
+    for (QWidget* window : windows) {
+      const QImage picture = window->grab().toImage();
+      for (const QWidget* widget : window->findChildren<QWidget*>()) {
+        const QColor ink = InkOf(widget);
+        if (!widget->isVisible() || widget->window() != window || !ink.isValid()) continue;
+        const QColor ground = GroundOf(picture, PlaceIn(picture, widget));
+        const QString told = QStringLiteral("%1 %2: %3 on %4")
+                                 .arg(QString::fromLatin1(widget->metaObject()->className()),
+                                      widget->objectName(), ink.name(), ground.name());
+        QVERIFY2(Contrast(ink, ground) >= 4.5, qPrintable(told));
+      }
+    }
+    const QColor red = Find(study_, "Text3")->palette().color(QPalette::Text);
+    QVERIFY2(red.red() > red.green() + 60 && red.red() > red.blue() + 60, "it is still red");
+    for (const auto group : {QPalette::Active, QPalette::Inactive}) {
+      const QPalette palette = QApplication::palette();
+      QVERIFY(Contrast(palette.color(group, QPalette::Highlight),
+                       palette.color(group, QPalette::HighlightedText)) >= 4.5);
+    }
+  }
+
+  void focusCanBeSeen_data() { EachTheme(); }
+  // Tab leads through all of a window and back to where it began, and each stop can be seen.
+  void focusCanBeSeen() {
+    const QList<QWidget*> windows = OpenAll();
+    Change();
+    study_->Form().Label4_Click(2);
+    study_->Form().Frame5.Visible = false;
+    for (QWidget* window : windows) {
+      window->activateWindow();
+      QVERIFY(QTest::qWaitForWindowActive(window));
+      window->grab();  // pictures come after the first painting
+      QTest::keyClick(window, Qt::Key_Tab);
+      const QWidget* first = window->focusWidget();
+      QSet<QWidget*> stops;
+      for (QWidget* stop = window->focusWidget(); !stops.contains(stop); stop = window->focusWidget()) {
+        stops.insert(stop);
+        const QRect place(stop->mapTo(window, QPoint()), stop->size());
+        const QImage with = window->grab(place).toImage();
+        QTest::keyClick(window, Qt::Key_Tab);
+        if (window->focusWidget() == stop && stops.size() == 1) break;  // it is the only one
+        const QImage without = window->grab(place).toImage();
+        QVERIFY2(PlainChanges(with, without) > 16, qPrintable(stop->objectName()));
+      }
+      QCOMPARE(window->focusWidget(), first);
+    }
+  }
+
+  // The ways that only keys have: into the bar, back although two entries share a letter, to the answer.
+  void keysLeadEverywhere() {
+    study_->activateWindow();
+    QVERIFY(QTest::qWaitForWindowActive(study_));
+    auto* box = Find(study_, "Text1(2)");
+    box->setFocus();
+    QTest::keyClick(box, Qt::Key_F10);
+    QCOMPARE(study_->menuBar()->activeAction(), Find<QAction>(study_, "Back"));
+    QTest::keyClick(study_->menuBar(), Qt::Key_Escape);
+    QVERIFY(box->hasFocus());
+    QTest::keyClick(box, Qt::Key_F7);
+    QVERIFY2(box->hasFocus(), "there is no answer yet");
+    QTest::keyClick(box, Qt::Key_F5);
+    QTest::keyClick(box, Qt::Key_F7);
+    QVERIFY(Find(study_, "Text3")->hasFocus());
+    QTest::keyClick(Find(study_, "Text3"), Qt::Key_Backtab);
+    QCOMPARE(study_->focusWidget()->objectName(), QStringLiteral("FullReportxx"));
+    for (int time = 0; time < 2; ++time) {
+      QTest::keyClick(study_->focusWidget(), Qt::Key_B, Qt::AltModifier);
+      QTRY_VERIFY(!study_->isVisible());
+      QVERIFY(windows_->Catalogue() == nullptr);
+      menu_->Form().ShowCaseStudy();
+      study_->activateWindow();
+      QVERIFY(QTest::qWaitForWindowActive(study_));
+    }
+  }
+
+  void resultsAreCopiedWhole() {
+    QClipboard* clipboard = QApplication::clipboard();
+    clipboard->setText(QStringLiteral("before"));
+    auto* copy = Find<QAction>(study_, "CopyResults");
+    QVERIFY2(!copy->isEnabled(), "there is no answer yet");
+    Find<QLineEdit>(study_, "Text1(3)")->setText(QStringLiteral("2"));
+    study_->Form().Label1_DblClick(3);
+    study_->activateWindow();
+    QVERIFY(QTest::qWaitForWindowActive(study_));
+    auto* narrative = Find<QPlainTextEdit>(study_, "Text2");
+    QTest::keyClick(narrative, Qt::Key_C, Qt::ControlModifier);
+    QCOMPARE(clipboard->text(), narrative->toPlainText());
+    QTest::keyClick(narrative, Qt::Key_C, Qt::ControlModifier | Qt::ShiftModifier);
+    QCOMPARE(clipboard->text(),
+             QStringLiteral("DAUGHTERS' SHARE\n6667  (2/3)\n\n") + narrative->toPlainText());
+    QTest::keyClick(narrative, Qt::Key_Right, Qt::ShiftModifier);
+    QTest::keyClick(narrative, Qt::Key_C, Qt::ControlModifier);
+    QCOMPARE(clipboard->text().size(), 1);
+
+    study_->Form().Resid_Click();
+    auto* report = Find<QPlainTextEdit>(study_, "Text3");
+    copy->trigger();
+    QVERIFY(clipboard->text().endsWith(report->toPlainText()));
+    QContextMenuEvent menuKey(QContextMenuEvent::Keyboard, QPoint(), QPoint());
+    QApplication::sendEvent(report, &menuKey);
+    auto* menu = qobject_cast<QMenu*>(QApplication::activePopupWidget());
+    QVERIFY(menu != nullptr && menu->actions().contains(copy));
+    menu->close();
+    for (const char* line : {"Label2", "Label3"}) QVERIFY(Find(study_, line)->actions().contains(copy));
+  }
+
+  void anAmountOfHundredsOfDigitsIsToldWhole() {
+    auto* amount = Find<QLabel>(study_, "Label3");
+    study_->Form().Frame5.Visible = false;
+    const QSize size = study_->size();
+    const std::string digits(300, '9');
+    study_->Form().Label3.Caption = digits + "  (1/2)";
+    const QImage whole = amount->grab().toImage();
+    study_->Form().Label3.Caption = digits + "  (2/3)";
+    QVERIFY2(amount->grab().toImage() != whole, "the fraction is seen");
+    QCOMPARE(study_->size(), size);
+    QHelpEvent hover(QEvent::ToolTip, QPoint(5, 5), amount->mapToGlobal(QPoint(5, 5)));
+    QApplication::sendEvent(amount, &hover);
+    QCOMPARE(QToolTip::text().remove('\n'), amount->text());
+    QVERIFY(amount->accessibleName().endsWith(amount->text()));
+  }
+
+ private:
+  template <class Widget = QWidget>
+  Widget* Find(QWidget* window, const char* name) {
+    auto* found = window->findChild<Widget*>(QString::fromLatin1(name));
+    if (found == nullptr) qFatal("There is no %s", name);
+    return found;
+  }
+
+  static void EachTheme() {
+    QTest::addColumn<int>("theme");
+    int number = 0;
+    for (const Theme& theme : themes) QTest::newRow(theme.Name) << number++;
+  }
+
+  void Change() {
+    QFETCH(const int, theme);
+    QPalette palette = PaletteOf(themes[theme]);
+    QApplication::style()->polish(palette);
+    QApplication::setPalette(palette);
+    QTRY_COMPARE(study_->palette().color(QPalette::Window), QColor(themes[theme].Window));
+  }
+
+  QList<QWidget*> OpenAll() {
+    AppendLine(FromQt(home_->File(QStringLiteral("popuQism.ppl"))), SessionLine(Integer(1), {}, {}, Long(1)));
+    menu_->Form().ShowQurLaws();
+    menu_->Form().ShowSession();
+    menu_->Form().ShowCatalogue();
+    menu_->Form().ShowZummy();
+    return {menu_, study_, windows_->Laws(), windows_->Log(), windows_->Resources(), windows_->Catalogue()};
+  }
+
+  BoxWatch boxes_;
+  QPalette bright_;
+  std::unique_ptr<ShellHome> home_;
+  ProgramWindows* windows_ = nullptr;
+  InhMainWindow* menu_ = nullptr;
+  CaseStudyWindow* study_ = nullptr;
+};
+
+}  // namespace qismora
+
+int main(int argc, char** argv) {
+  const QTemporaryDir home;
+  for (const char* name : {"XDG_CONFIG_HOME", "XDG_DATA_HOME", "XDG_RUNTIME_DIR"}) {
+    qputenv(name, home.path().toUtf8());
+  }
+  QApplication::setStyle(new qismora::OutlinedStyle);
+  QApplication application(argc, argv);
+  QDir::setCurrent(home.path());
+  qismora::ComfortTest test;
+  return QTest::qExec(&test, argc, argv);
+}
+
+#include "comfort_test.moc"
