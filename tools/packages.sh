@@ -19,12 +19,17 @@ packages_to_measure=(
   "${packages_to_run[@]}"
   libgtest-dev       # tests
   libbenchmark-dev   # benchmarks
-  python3            # the test of the pictures, the page of measurements
+  python3            # the tests of the pictures and of what a screen reader hears, the page of measurements
 )
 
 # shellcheck disable=SC2034 # used by ./check
 packages_to_check=(
   "${packages_to_measure[@]}"
+  python3-pyatspi    # what a screen reader hears
+  at-spi2-core       # what a screen reader hears
+  dbus-daemon        # the bus that it hears it on
+  xvfb               # the screen that nobody sees
+  openbox            # the windows on it
   clang-14           # second opinion on the core
   libclang-rt-14-dev # sanitizers
   clang-format-14    # layout

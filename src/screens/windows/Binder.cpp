@@ -40,7 +40,8 @@ void Binder::SpokenCaption(Label& control, QLabel* widget) {
   const QString name = widget->accessibleName();
   Follow(control.Caption, [widget, name] {
     const QString words = widget->text();
-    widget->setAccessibleName(words.isEmpty() ? name : name + QStringLiteral(": ") + words);
+    const bool both = !name.isEmpty() && !words.isEmpty();
+    widget->setAccessibleName(both ? name + QStringLiteral(": ") + words : name + words);
   });
 }
 

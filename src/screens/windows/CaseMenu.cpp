@@ -1,5 +1,6 @@
 #include "screens/windows/CaseMenu.h"
 
+#include <QAccessible>
 #include <QAction>
 #include <QMenu>
 #include <QMenuBar>
@@ -48,9 +49,14 @@ void FillCaseMenu(QMenuBar* bar, CaseStudy& form, Binder& binder) {
     action->setVisible(entry.Where != Place::Hidden);
     if (entry.Key != noKey) action->setShortcut(entry.Key);
     if (auto run = entry.Run) {
-      QObject::connect(action, &QAction::triggered, bar, [&form, run] {
+      const auto act = [&form, run] {
         const PointerShape hourglass(Qt::WaitCursor);
         (form.*run)();
+      };
+      // The command may open a modal box, and a screen reader that chose it must not wait for the answer.
+      QObject::connect(action, &QAction::triggered, bar, [bar, act] {
+        if (!QAccessible::isActive()) return act();
+        QMetaObject::invokeMethod(bar, act, Qt::QueuedConnection);
       });
     }
     if (action->objectName() == QLatin1String("AulRad")) binder.Enabled(form.AulRad, action);

@@ -14,7 +14,8 @@ constexpr int rowMargin = 9;
 }  // namespace
 
 MenuOption::MenuOption(OptionButton& control, const QString& name, QWidget* parent)
-    : QRadioButton(ToQt(control.Caption), parent), control_(control) {
+    : QRadioButton(parent), control_(control) {
+  setText(ToQt(control.Caption));  // not before: a screen reader is told at once what kind of button it is
   setObjectName(name);
   setAccessibleName(SpokenCaption(control.Caption));
   setAutoExclusive(false);  // the form itself clears the group

@@ -133,7 +133,7 @@ QWidget* SessionWindow::Selected() {
   binder_.Caption(form_.Label4, caption);
   auto* line = new QLabel(place);
   line->setObjectName(QStringLiteral("Label2"));
-  line->setAccessibleDescription(tr("The selected session"));
+  line->setAccessibleName(tr("The selected session"));
   line->setTextFormat(Qt::PlainText);
   line->setTextInteractionFlags(Qt::TextSelectableByMouse);
   binder_.SpokenCaption(form_.Label2, line);
