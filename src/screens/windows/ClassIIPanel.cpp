@@ -16,6 +16,8 @@ namespace {
 
 constexpr int columns = 3;
 constexpr int rows = 4;
+// The frame of the focus reaches out of a caption; the small box shows the focus of a covered one.
+constexpr int focusMargin = 4;
 
 }  // namespace
 
@@ -71,11 +73,11 @@ void ClassIIPanel::AddCover(int column, const QString& frameName, Property<bool>
   };
   frame->setAutoFillBackground(picture->HasPicture());
   auto* inside = new QHBoxLayout(frame);
-  inside->setContentsMargins(0, 0, 0, 0);
+  inside->setContentsMargins(focusMargin, 0, 0, 0);
   inside->addWidget(picture);
   auto* beside = new QHBoxLayout;
   beside->addSpacing(style()->pixelMetric(QStyle::PM_IndicatorWidth) +
-                     style()->pixelMetric(QStyle::PM_CheckBoxLabelSpacing));
+                     style()->pixelMetric(QStyle::PM_CheckBoxLabelSpacing) - focusMargin);
   beside->addWidget(frame);
   grid_->addLayout(beside, 0, column, rows, 1);
   binder_.Visible(visible, frame);

@@ -9,7 +9,7 @@ namespace qismora {
 
 namespace {
 
-constexpr double leastContrast = 4.5;
+constexpr double blackAndWhite = 20;
 constexpr float step = 0.02F;
 
 double Linear(float channel) {
@@ -28,9 +28,14 @@ double Contrast(const QColor& one, const QColor& other) {
   return std::max(a, b) / std::min(a, b);
 }
 
-QColor Readable(QColor wanted, const QColor& ground) {
+bool IsBlackAndWhite(const QPalette& palette) {
+  const QColor ink = palette.color(QPalette::Active, QPalette::WindowText);
+  return Contrast(ink, palette.color(QPalette::Active, QPalette::Window)) > blackAndWhite;
+}
+
+QColor Readable(QColor wanted, const QColor& ground, double contrast) {
   const float towards = Luminance(ground) < 0.18 ? step : -step;
-  while (Contrast(wanted, ground) < leastContrast) {
+  while (Contrast(wanted, ground) < contrast) {
     const float lightness = wanted.lightnessF() + towards;
     if (lightness < 0.0F || lightness > 1.0F) return towards > 0 ? QColor(Qt::white) : QColor(Qt::black);
     wanted = QColor::fromHslF(std::max(wanted.hslHueF(), 0.0F), wanted.hslSaturationF(), lightness);
@@ -39,10 +44,13 @@ QColor Readable(QColor wanted, const QColor& ground) {
 }
 
 QColor InkOf(int colour, const QPalette& palette, QPalette::ColorRole text, QPalette::ColorRole ground) {
-  if (colour == HighlightColour) return Readable(palette.color(QPalette::Highlight), palette.color(ground));
+  const double contrast = IsBlackAndWhite(palette) ? HighContrast : LeastContrast;
+  if (colour == HighlightColour) {
+    return Readable(palette.color(QPalette::Highlight), palette.color(ground), contrast);
+  }
   if (colour <= Black) return palette.color(text);
   const QColor wanted(colour & 0xFF, (colour >> 8) & 0xFF, (colour >> 16) & 0xFF);
-  return Readable(wanted, palette.color(ground));
+  return Readable(wanted, palette.color(ground), contrast);
 }
 
 }  // namespace qismora

@@ -8,9 +8,15 @@ namespace qismora {
 /// How far two colours stand apart, from 1 for alike to 21 for black and white.
 double Contrast(const QColor& one, const QColor& other);
 
+/// A desktop of nothing but black and white, which asks for contrast above all.
+bool IsBlackAndWhite(const QPalette& palette);
+
+inline constexpr double LeastContrast = 4.5;
+inline constexpr double HighContrast = 7;
+
 /// The tone nearest to the wanted one that can be read on the ground: lighter on a dark ground, darker on
 /// a bright one.
-QColor Readable(QColor wanted, const QColor& ground);
+QColor Readable(QColor wanted, const QColor& ground, double contrast = LeastContrast);
 
 /// A colour number of a control on this desktop. Black and the colours of the system are what the desktop
 /// writes with.

@@ -12,7 +12,6 @@ namespace qismora {
 namespace {
 
 constexpr int darkGround = 64;
-constexpr double blackAndWhite = 20;
 constexpr double groupStrength = 0.2;
 constexpr double gridStrength = 0.3;
 constexpr double frameStrength = 0.45;
@@ -50,16 +49,13 @@ QColor Between(const QColor& ground, const QColor& ink, double strength) {
 
 /// The colour of an outline, stronger where the desktop asks for contrast above all.
 QColor Line(const QPalette& palette, double strength) {
-  const QColor ground = palette.color(QPalette::Window);
-  const QColor ink = palette.color(QPalette::Active, QPalette::WindowText);
-  return Between(ground, ink, Contrast(ink, ground) > blackAndWhite ? fullStrength : strength);
+  return Between(palette.color(QPalette::Window), palette.color(QPalette::Active, QPalette::WindowText),
+                 IsBlackAndWhite(palette) ? fullStrength : strength);
 }
 
 /// Whether the frames of the style itself are too faint.
 bool NeedsOutlines(const QPalette& palette) {
-  const QColor ground = palette.color(QPalette::Window);
-  return ground.lightness() <= darkGround ||
-         Contrast(palette.color(QPalette::Active, QPalette::WindowText), ground) > blackAndWhite;
+  return IsBlackAndWhite(palette) || palette.color(QPalette::Window).lightness() <= darkGround;
 }
 
 bool IsText(const QWidget* widget) { return qobject_cast<const QAbstractScrollArea*>(widget) != nullptr; }
@@ -124,10 +120,11 @@ QIcon OutlinedStyle::standardIcon(StandardPixmap which, const QStyleOption* opti
 // Many a dark desktop leaves links dark blue, and entries that cannot be chosen nearly invisible.
 void OutlinedStyle::polish(QPalette& palette) {
   QProxyStyle::polish(palette);
+  const double contrast = IsBlackAndWhite(palette) ? HighContrast : LeastContrast;
   for (const QPalette::ColorGroup group : {QPalette::Active, QPalette::Inactive, QPalette::Disabled}) {
     for (const auto& [ink, ground] : letters) {
       const QColor wanted = palette.color(group, ink);
-      const QColor readable = Readable(wanted, palette.color(group, ground));
+      const QColor readable = Readable(wanted, palette.color(group, ground), contrast);
       if (readable != wanted) palette.setColor(group, ink, readable);
     }
   }
@@ -150,6 +147,9 @@ void OutlinedStyle::drawPrimitive(PrimitiveElement element, const QStyleOption* 
       break;
   }
   QProxyStyle::drawPrimitive(element, option, painter, widget);
+  if (element == PE_PanelMenu && NeedsOutlines(palette)) {
+    return DrawBars(painter, Line(palette, frameStrength), option->rect);
+  }
   const bool radio = element == PE_IndicatorRadioButton;
   const bool framed = radio || element == PE_PanelLineEdit || element == PE_IndicatorCheckBox ||
                       element == PE_PanelButtonCommand;
@@ -163,7 +163,8 @@ void OutlinedStyle::drawPrimitive(PrimitiveElement element, const QStyleOption* 
   }
 }
 
-// The entry of the bar that the keys have reached looks like one that the mouse has opened.
+// The entry of the bar that the keys have reached looks like one that the mouse has opened. Borders are drawn
+// here since the toolkit loses a side of them at 125 percent.
 void OutlinedStyle::drawControl(ControlElement element, const QStyleOption* option, QPainter* painter,
                                 const QWidget* widget) const {
   const auto* entry = qstyleoption_cast<const QStyleOptionMenuItem*>(option);
@@ -171,6 +172,10 @@ void OutlinedStyle::drawControl(ControlElement element, const QStyleOption* opti
     QStyleOptionMenuItem opened = *entry;
     opened.state |= State_Sunken;
     return QProxyStyle::drawControl(element, &opened, painter, widget);
+  }
+  const auto* frame = qstyleoption_cast<const QStyleOptionFrame*>(option);
+  if (element == CE_ShapedFrame && frame != nullptr && frame->frameShape == QFrame::Box) {
+    return DrawBars(painter, frame->palette.color(QPalette::WindowText), frame->rect);
   }
   QProxyStyle::drawControl(element, option, painter, widget);
 }
