@@ -66,3 +66,9 @@ install_missing() {
 if command -v ccache >/dev/null; then
   export CMAKE_CXX_COMPILER_LAUNCHER=ccache
 fi
+
+# Makes the Debian package of a build. The times in it are that of the newest entry of its changelog.
+pack() {
+  SOURCE_DATE_EPOCH=$(dpkg-parsechangelog -l packaging/debian/changelog -S Timestamp) \
+    cpack --config "$1/CPackConfig.cmake"
+}
