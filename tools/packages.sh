@@ -34,6 +34,10 @@ packages_to_check=(
   libclang-rt-14-dev # sanitizers
   clang-format-14    # layout
   clang-tidy-14      # habits
+  desktop-file-utils # the entry in the desktop's menu
+  appstream          # the description for software centres
+  mandoc             # the manual page
+  lintian            # the Debian package
 )
 
 # Asks apt only when a package is missing, and renews apt's lists only when they are not enough.
@@ -69,6 +73,7 @@ fi
 
 # Makes the Debian package of a build. The times in it are that of the newest entry of its changelog.
 pack() {
+  rm -rf "$1/package"
   SOURCE_DATE_EPOCH=$(dpkg-parsechangelog -l packaging/debian/changelog -S Timestamp) \
     cpack --config "$1/CPackConfig.cmake"
 }

@@ -15,13 +15,15 @@
 
 namespace qismora::testing {
 
-/// The program with its real windows and ports, in a folder of its own. Only its end and the viewer of
-/// documents are caught.
+/// The program with its real windows and ports, in a folder of its own or where it is installed. Only its end
+/// and the viewer of documents are caught.
 class ShellHome : public QObject {
   Q_OBJECT
 
  public:
-  ShellHome() : folders_(folder_.filePath(QStringLiteral("bin"))), dialog_(folders_) {
+  ShellHome() : ShellHome(QString()) {}
+  explicit ShellHome(const QString& binaries)
+      : folders_(binaries.isEmpty() ? folder_.filePath(QStringLiteral("bin")) : binaries), dialog_(folders_) {
     QDir(folder_.path()).mkpath(QStringLiteral("bin"));
     QDesktopServices::setUrlHandler(QStringLiteral("file"), this, "open");
     for (const char* application : {ApplicationTitle, "Qismora"}) {
