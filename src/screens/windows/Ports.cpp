@@ -11,8 +11,6 @@
 #include <QSettings>
 #include <QStandardPaths>
 #include <algorithm>
-#include <chrono>
-#include <ctime>
 
 #ifdef Q_OS_UNIX
 #include <fcntl.h>
@@ -131,10 +129,10 @@ void DropEmptyLock(const QSettings& store) {
 }  // namespace
 
 DateTime SystemClock::Now() {
-  const std::time_t now = std::chrono::system_clock::to_time_t(std::chrono::system_clock::now());
-  std::tm local{};
-  localtime_r(&now, &local);
-  return {local.tm_year + 1900, local.tm_mon + 1, local.tm_mday, local.tm_hour, local.tm_min, local.tm_sec};
+  const QDateTime now = QDateTime::currentDateTime();
+  const QDate day = now.date();
+  const QTime time = now.time();
+  return {day.year(), day.month(), day.day(), time.hour(), time.minute(), time.second()};
 }
 
 BoxOwner::BoxOwner(QWidget* window) { chosenOwner = window; }
