@@ -84,8 +84,8 @@ class InstalledTest : public QObject {
     program.start(binaries_ + QStringLiteral("/qismora"), {});
     QVERIFY(program.waitForStarted());
     if (QFile::exists(plugin_)) {
-      QTRY_VERIFY_WITH_TIMEOUT(Uses(program.processId(), plugin_), 20000);
-      QTRY_VERIFY_WITH_TIMEOUT(Uses(program.processId(), share_ + QStringLiteral("/brindhaven1.avi")), 20000);
+      QTRY_VERIFY_WITH_TIMEOUT(Uses(program.processId(), plugin_), 10000);
+      QTRY_VERIFY_WITH_TIMEOUT(Uses(program.processId(), share_ + QStringLiteral("/brindhaven1.avi")), 10000);
     } else {
       QTest::qWait(1000);
     }
