@@ -71,9 +71,11 @@ if command -v ccache >/dev/null; then
   export CMAKE_CXX_COMPILER_LAUNCHER=ccache
 fi
 
-# Makes the Debian package of a build. The times in it are that of the newest entry of its changelog.
-pack() {
+# Makes the Debian package of a build. The times in it are that of the newest entry of its changelog, and everybody
+# can read what is in it, also where the builder's own files are private.
+pack() (
+  umask 022
   rm -rf "$1/package"
   SOURCE_DATE_EPOCH=$(dpkg-parsechangelog -l packaging/debian/changelog -S Timestamp) \
     cpack --config "$1/CPackConfig.cmake"
-}
+)
