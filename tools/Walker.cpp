@@ -11,6 +11,7 @@
 #include <QScrollBar>
 #include <QTemporaryDir>
 #include <QTest>
+#include <utility>
 
 #include "base/Files.h"
 #include "screens/windows/OutlinedStyle.h"
@@ -92,8 +93,11 @@ class Walker : public QObject {
  protected:
   void timerEvent(QTimerEvent*) override {
     auto* box = qobject_cast<QMessageBox*>(QApplication::activeModalWidget());
-    if (box == nullptr) return;
-    if (box_.isNull()) box_ = Taken(box);
+    if (box == nullptr || !box->isActiveWindow()) return;
+    // A box looks different until it has the focus.
+    const QImage before = std::exchange(coming_, Taken(box));
+    if (coming_ != before) return;
+    if (box_.isNull()) box_ = coming_;
     QTest::keyClick(box, Qt::Key_Return);
   }
 
@@ -184,6 +188,7 @@ class Walker : public QObject {
   ProgramWindows& windows_;
   QPointer<QWidget> last_;
   QImage box_;
+  QImage coming_;
 };
 
 /// Desktop, scale and style of whoever starts the tour are out of the picture.

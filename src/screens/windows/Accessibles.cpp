@@ -46,7 +46,9 @@ class CaptionAccessible : public PressAccessible {
   }
 
   QStringList actionNames() const override {
-    return label_->Acts() ? PressAccessible::actionNames() : QAccessibleWidget::actionNames();
+    QStringList names = PressAccessible::actionNames();
+    if (!label_->Acts()) names.removeAll(pressAction());
+    return names;
   }
 
  private:
