@@ -104,7 +104,7 @@ void Layouter::AddVerse(const Verse& verse) {
   small.Bold = true;
   const std::string number = std::to_string(verse.Surah) + ":" + std::to_string(verse.Number);
   const TextBlock name(
-      ReadInline("Sūra " + verse.SurahName + " (" + verse.SurahArabic + ") " + number, small),
+      ReadInline("Sūrat " + verse.SurahName + " (" + verse.SurahArabic + ") " + number, small),
       ContentWidth - 2 * Points(16), Points(16));
   Piece piece;
   piece.Before = Points(12);
