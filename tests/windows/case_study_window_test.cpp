@@ -12,9 +12,11 @@
 #include <QMenu>
 #include <QPlainTextEdit>
 #include <QStandardPaths>
+#include <QWheelEvent>
 #include <optional>
 
 #include "Desk.h"
+#include "screens/windows/Pictures.h"
 
 using qismora::testing::Desk;
 
@@ -116,6 +118,10 @@ class CaseStudyWindowTest : public QObject {
 
   void GenderAndView() {
     auto* gender = desk_->Find<QComboBox>("Combo1");
+    desk_->Find("Text1(2)")->setFocus();
+    QWheelEvent passing({3, 3}, gender->mapToGlobal(QPointF(3, 3)), {}, {0, -120}, {}, {}, {}, false);
+    QApplication::sendEvent(gender, &passing);
+    QCOMPARE(gender->currentIndex(), 0);
     QTest::keyClick(gender, Qt::Key_Down);
     QCOMPARE(desk_->TextOf("Label1(1)"), QString("Husband"));
     QCOMPARE(desk_->Find("Text1(1)")->accessibleName(), QString("Husband"));
@@ -142,9 +148,13 @@ class CaseStudyWindowTest : public QObject {
 
   // The panels over the captions of class II answer a question by a double click, and tick by a click.
   void ClassIIPanels() {
+    desk_->Click("Label4(0)");
     auto* third = desk_->Find<QCheckBox>("Check1(4)");
     QWidget* panel = desk_->Find("Image37(1)");
     const QPoint line(10, panel->height() * 3 / 8);
+    QTRY_VERIFY(!static_cast<qismora::PictureLabel*>(panel)->PictureRect().isEmpty());
+    QTest::mouseClick(panel, Qt::LeftButton, {}, QPoint(panel->width() - 2, line.y()));
+    QVERIFY2(!third->isChecked(), "beside the captions nothing is ticked");
     QTest::mouseClick(panel, Qt::LeftButton, {}, line);
     QVERIFY(third->isChecked());
     desk_->Expect("WE ARE CLASS II RESIDUARIES");

@@ -93,6 +93,7 @@ void CaptionLabel::mouseReleaseEvent(QMouseEvent* event) {
 void CaptionLabel::mouseDoubleClickEvent(QMouseEvent* event) {
   if (!Acts() || event->button() != Qt::LeftButton) return QLabel::mouseDoubleClickEvent(event);
   if (gesture_ == Gesture::Click) return mousePressEvent(event);
+  if (PressedAgain) PressedAgain(event->position().toPoint());
   Act();
 }
 

@@ -26,6 +26,8 @@ class CaptionLabel : public QLabel {
 
   /// Called with the place where the mouse goes down for a click, ahead of the action.
   std::function<void(const QPoint&)> Pressed;
+  /// Called with the place when that turns out to be the first half of a double click, ahead of the action.
+  std::function<void(const QPoint&)> PressedAgain;
 
  protected:
   bool event(QEvent* event) override;

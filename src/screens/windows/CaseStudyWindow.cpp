@@ -109,7 +109,7 @@ void CaseStudyWindow::BuildStatusBar(Folders& folders) {
   auto* reports = new QLabel(this);
   reports->setObjectName(QStringLiteral("StatusBar1.Panel2"));
   reports->setTextFormat(Qt::PlainText);
-  const QString words = tr("Reports are saved in %1");
+  const QString words = tr("Full reports are saved in %1");
   reports->setText(words.arg(fontMetrics().elidedText(folder, Qt::ElideMiddle, longestFolder)));
   reports->setToolTip(folder);
   reports->setAccessibleName(words.arg(folder));

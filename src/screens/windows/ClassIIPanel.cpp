@@ -1,13 +1,11 @@
 #include "screens/windows/ClassIIPanel.h"
 
-#include <QApplication>
 #include <QBoxLayout>
 #include <QCheckBox>
 #include <QGridLayout>
 #include <QStyle>
 
 #include "screens/windows/Names.h"
-#include "screens/windows/Pictures.h"
 #include "screens/windows/Utf8.h"
 
 namespace qismora {
@@ -63,13 +61,17 @@ void ClassIIPanel::AddCover(int column, const QString& frameName, Property<bool>
   auto* picture = new PictureLabel(Indexed("Image37", image), file, Ink::Text, frame);
   picture->setAlignment(Qt::AlignLeft | Qt::AlignVCenter);
   picture->setAccessibleName(tr("Who inherits among class II"));
-  picture->ActOn(Gesture::DoubleClick, tr("Explain class II residuaries"), [this, image] { Explain(image); });
+  picture->ActOn(Gesture::DoubleClick, tr("Explain class II residuaries"),
+                 [this, image] { form_.Image37_DblClick(image); });
+  // A click on a line ticks its box, as one on a caption does. A double click is a question, and takes the
+  // tick of its first half back.
   picture->Pressed = [this, picture, column](const QPoint& place) {
-    const int row = place.y() * rows / qMax(1, picture->height());
-    const int index = row * columns + column;
-    clicked_ = checks_[static_cast<std::size_t>(index)];
-    clicked_->toggle();
-    sinceClick_.start();
+    clicked_ = CheckAt(*picture, column, place);
+    if (clicked_ != nullptr) clicked_->toggle();
+  };
+  picture->PressedAgain = [this, picture, column](const QPoint& place) {
+    if (clicked_ != nullptr && clicked_ == CheckAt(*picture, column, place)) clicked_->toggle();
+    clicked_ = nullptr;
   };
   frame->setAutoFillBackground(picture->HasPicture());
   auto* inside = new QHBoxLayout(frame);
@@ -83,13 +85,11 @@ void ClassIIPanel::AddCover(int column, const QString& frameName, Property<bool>
   binder_.Visible(visible, frame);
 }
 
-// A click on a panel ticks the box of its line, as one on a caption does. A double click is a question,
-// and takes the tick of its first half back.
-void ClassIIPanel::Explain(int image) {
-  const bool half = clicked_ != nullptr && !sinceClick_.hasExpired(QApplication::doubleClickInterval());
-  if (half) clicked_->toggle();
-  clicked_ = nullptr;
-  form_.Image37_DblClick(image);
+// The box whose caption is drawn there; none beside the captions.
+QCheckBox* ClassIIPanel::CheckAt(const PictureLabel& picture, int column, const QPoint& place) const {
+  if (picture.HasPicture() && !picture.PictureRect().contains(place)) return nullptr;
+  const int row = place.y() * rows / qMax(1, picture.height());
+  return checks_[static_cast<std::size_t>(row * columns + column)];
 }
 
 }  // namespace qismora

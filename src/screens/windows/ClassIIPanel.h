@@ -1,11 +1,11 @@
 #pragma once
 
-#include <QElapsedTimer>
 #include <QGroupBox>
 #include <array>
 
 #include "screens/CaseStudy.h"
 #include "screens/windows/Binder.h"
+#include "screens/windows/Pictures.h"
 
 class QCheckBox;
 class QGridLayout;
@@ -22,14 +22,13 @@ class ClassIIPanel : public QGroupBox {
   void AddChecks();
   void AddCover(int column, const QString& frameName, Property<bool>& visible, int image,
                 const QString& file);
-  void Explain(int image);
+  QCheckBox* CheckAt(const PictureLabel& picture, int column, const QPoint& place) const;
 
   CaseStudy& form_;
   Binder& binder_;
   QGridLayout* grid_;
   std::array<QCheckBox*, 12> checks_{};
   QCheckBox* clicked_ = nullptr;
-  QElapsedTimer sinceClick_;
 };
 
 }  // namespace qismora

@@ -93,8 +93,8 @@ void PictureLabel::paintEvent(QPaintEvent* event) {
   const QPixmap pixmap = drawing_.For(this, contentsRect().size(), ink);
   if (pixmap.isNull()) return;
   const QSize size = pixmap.deviceIndependentSize().toSize();
-  QPainter painter(this);
-  painter.drawPixmap(QStyle::alignedRect(Qt::LeftToRight, alignment(), size, contentsRect()), pixmap);
+  place_ = QStyle::alignedRect(Qt::LeftToRight, alignment(), size, contentsRect());
+  QPainter(this).drawPixmap(place_, pixmap);
 }
 
 PictureButton::PictureButton(const QString& name, const QString& text, QWidget* parent)

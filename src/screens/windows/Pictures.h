@@ -41,6 +41,8 @@ class PictureLabel : public CaptionLabel {
   PictureLabel(const QString& name, const QString& picture, Ink ink, QWidget* parent);
 
   bool HasPicture() const { return drawing_.Exists(); }
+  /// Where the picture is drawn; empty before that.
+  QRect PictureRect() const { return place_; }
   /// Gives the label the face of a button with its picture and its text.
   void Raise() { raised_ = true; }
 
@@ -52,6 +54,7 @@ class PictureLabel : public CaptionLabel {
 
   Drawing drawing_;
   Ink ink_;
+  QRect place_;
   bool raised_ = false;
 };
 

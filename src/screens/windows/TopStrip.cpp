@@ -2,6 +2,7 @@
 
 #include <QBoxLayout>
 #include <QComboBox>
+#include <QWheelEvent>
 
 #include "screens/windows/CaseBox.h"
 #include "screens/windows/HoverWatch.h"
@@ -18,6 +19,18 @@ constexpr QSize ornamentSize{24, 24};
 constexpr int viewMargin = 4;
 
 constexpr const char* viewNames[] = {"Urdu view", "English view", "Arabic view"};
+
+/// A wheel that is turned on the way over the list must not change who has died.
+class GenderList : public QComboBox {
+ public:
+  using QComboBox::QComboBox;
+
+ protected:
+  void wheelEvent(QWheelEvent* event) override {
+    if (hasFocus()) return QComboBox::wheelEvent(event);
+    event->ignore();
+  }
+};
 
 }  // namespace
 
@@ -40,7 +53,8 @@ TopStrip::TopStrip(CaseStudy& form, Binder& binder, QWidget* parent)
 
 void TopStrip::AddGender() {
   auto* caption = new CaptionLabel(Indexed("Label1", 0), this);
-  auto* gender = new QComboBox(this);
+  auto* gender = new GenderList(this);
+  gender->setFocusPolicy(Qt::StrongFocus);
   gender->setObjectName(QStringLiteral("Combo1"));
   gender->setAccessibleName(tr("Gender of the deceased"));
   caption->setAccessibleName(tr("Gender of the deceased"));
