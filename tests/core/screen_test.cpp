@@ -1,5 +1,6 @@
 #include <gtest/gtest.h>
 
+#include "screens/Misreading.h"
 #include "support/MemoryCase.h"
 
 namespace qismora {
@@ -140,6 +141,28 @@ TEST(Screen, BackAndTheCloseBoxShowTheMenu) {
   study.Back_Click();
   EXPECT_EQ(road, "hide menu menu hide ");
   EXPECT_TRUE(study.Frame5.Visible);
+}
+
+TEST(Screen, TellsWhatIsReadWhereThatIsNotWhatStandsThere) {
+  const struct {
+    const char* Typed;
+    bool Whole;
+    const char* Told;
+  } rows[] = {
+      {"24000", true, ""},
+      {" 24000 ", true, ""},
+      {"12.50", false, ""},
+      {"12.50", true, "Read as 12"},
+      {"24,000", false, "Read as 24"},
+      {"24.000", false, ""},
+      {"2.4e4", false, "Read as 24000"},
+      {"-1", true, "Read as -1"},
+      {"&H10", true, "Read as 16"},
+      {"", true, "This is no number and is not read: the figure of the run before stays."},
+      {"24 000", false, "This is no number and is not read: the figure of the run before stays."},
+      {"9e99", true, "This is too large to be read."},
+  };
+  for (const auto& row : rows) EXPECT_EQ(Misreading(row.Typed, row.Whole), row.Told) << row.Typed;
 }
 
 TEST(Screen, AnyTextInAnyBoxIsAnsweredAndNothingEscapes) {

@@ -59,12 +59,19 @@ void Binder::Border(Property<int>& control, QLabel* widget) {
 void Binder::Box(TextBox& control, QLineEdit* widget) {
   Follow(control.Text, [&control, widget] {
     const QString text = ToQt(control.Text.Get());
-    if (widget->text() != text) widget->setText(text);
+    if (widget->text() == text) return;
+    if (widget->text().isEmpty()) return widget->setText(text);
+    // Unlike a text that is set, one that is put in place of another can be undone.
+    widget->selectAll();
+    widget->insert(text);
   });
   QObject::connect(widget, &QLineEdit::textChanged, widget,
                    [&control](const QString& text) { control.Text = FromQt(text); });
   Colour(control.ForeColor, widget, QPalette::Text, QPalette::Base);
-  control.FocusWanted = [widget] { widget->setFocus(Qt::TabFocusReason); };
+  control.FocusWanted = [widget] {
+    widget->setFocus(Qt::TabFocusReason);
+    widget->selectAll();  // what is typed next replaces what was wrong
+  };
 }
 
 void Binder::Text(TextBox& control, QPlainTextEdit* widget) {

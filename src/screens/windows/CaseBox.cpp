@@ -7,11 +7,15 @@
 #include <QStyleOptionFrame>
 #include <utility>
 
+#include "screens/windows/Colours.h"
+
 namespace qismora {
 
 namespace {
 
 constexpr int rowMargin = 4;
+const QColor amber(255, 176, 0);
+constexpr double tint = 0.35;
 
 }  // namespace
 
@@ -46,6 +50,10 @@ void CaseBox::keyPressEvent(QKeyEvent* event) {
       if (Toggle) Toggle();
       selectAll();
       return;
+    case Qt::Key_Return:
+    case Qt::Key_Enter:
+      if (Explain && event->modifiers().testFlag(Qt::ControlModifier)) return Explain();
+      return QLineEdit::keyPressEvent(event);
     case Qt::Key_Up:
       focusNextPrevChild(false);
       return;
@@ -61,6 +69,10 @@ void CaseBox::contextMenuEvent(QContextMenuEvent* event) {
   QMenu* menu = createStandardContextMenu();
   menu->setAttribute(Qt::WA_DeleteOnClose);
   menu->addSeparator();
+  if (Explain) {
+    QAction* explain = menu->addAction(tr("Explain this share"), this, [this] { Explain(); });
+    explain->setShortcut(Qt::CTRL | Qt::Key_Return);
+  }
   QAction* toggle = menu->addAction(tr("Toggle between 0 and 1"), this, [this] {
     if (Toggle) Toggle();
   });
@@ -69,9 +81,24 @@ void CaseBox::contextMenuEvent(QContextMenuEvent* event) {
                                                              : event->globalPos());
 }
 
+void CaseBox::SetTip(const QString& tip) {
+  tip_ = tip;
+  Mark(mark_);
+}
+
+void CaseBox::Mark(const QString& words) {
+  mark_ = words;
+  setToolTip(words.isEmpty() ? tip_ : words + QStringLiteral("\n\n") + tip_);
+  setAccessibleDescription(words);
+  update();
+}
+
 // A box that only tells has the colour of the form.
 void CaseBox::initStyleOption(QStyleOptionFrame* option) const {
   QLineEdit::initStyleOption(option);
+  if (!mark_.isEmpty()) {
+    option->palette.setColor(QPalette::Base, Between(palette().color(QPalette::Base), amber, tint));
+  }
   if (isReadOnly()) option->palette.setBrush(QPalette::Base, palette().window());
 }
 

@@ -6,12 +6,19 @@
 namespace qismora {
 
 /// A box that a figure of the case is typed into. A double click, F2 or an entry of its context menu
-/// toggles it; the arrows lead to the boxes above and below.
+/// toggles it, Ctrl+Return or an entry explains the share of its heir; the arrows lead to the boxes above and
+/// below.
 class CaseBox : public QLineEdit {
  public:
   CaseBox(const QString& name, QWidget* parent);
 
   std::function<void()> Toggle;
+  std::function<void()> Explain;
+  /// What the box is for; its tool tip.
+  void SetTip(const QString& tip);
+  /// Where something else is read than what stands there at first sight: the box is tinted and its tool tip
+  /// says so. No words take the mark away.
+  void Mark(const QString& words);
 
   /// No higher than the rows of the form allow.
   QSize sizeHint() const override;
@@ -27,6 +34,8 @@ class CaseBox : public QLineEdit {
 
  private:
   bool entering_ = false;
+  QString tip_;
+  QString mark_;
 };
 
 }  // namespace qismora

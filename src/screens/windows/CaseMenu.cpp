@@ -31,7 +31,7 @@ constexpr Entry entries[] = {
     {"FullReport", "&All Individual", Place::UnderMenu, &CaseStudy::FullReport_Click, noKey},
     {"Exec", "Execute &Selected", Place::UnderMenu, &CaseStudy::Exec_Click, noKey},
     {"Resid", "&Residuaries", Place::UnderMenu, &CaseStudy::Resid_Click, Qt::Key_F5},
-    {"AulRad", "Au&l && Radd", Place::UnderMenu, &CaseStudy::AulRad_Click, Qt::Key_F6},
+    {"AulRad", "Au&l && Radd", Place::UnderMenu, &CaseStudy::AulRad_Click, noKey},
     {"CreateSaveFullReport", "&Full Report", Place::Bar, &CaseStudy::CreateSaveFullReport_Click, noKey},
     {"SaveResults", "&Save Results", Place::Bar, &CaseStudy::SaveResults_Click, noKey},
     {"About", "A&bout", Place::Bar, &CaseStudy::About_Click, noKey},

@@ -6,6 +6,7 @@
 #include <QLabel>
 #include <QMenuBar>
 #include <QPlainTextEdit>
+#include <QScreen>
 #include <QStatusBar>
 #include <QTimer>
 
@@ -18,6 +19,7 @@
 #include "screens/windows/Keyboard.h"
 #include "screens/windows/Letters.h"
 #include "screens/windows/ResultPanel.h"
+#include "screens/windows/SmallScreen.h"
 #include "screens/windows/TopStrip.h"
 #include "screens/windows/Utf8.h"
 
@@ -133,10 +135,10 @@ void CaseStudyWindow::SetSizes() {
   const int bars = menuBar()->sizeHint().height() + statusBar()->sizeHint().height();
   const int below = caseSize.height() - windowSize.height() + bars;
   frame_->layout()->setContentsMargins(margin, margin, margin + 1, below + margin);
-  const QSize more = frame_->layout()->totalMinimumSize().expandedTo(caseSize) - caseSize;
-  frame_->resize(caseSize + more);
-  resize(windowSize + more);
-  setMinimumSize(windowSize + more);
+  frameSize_ = frame_->layout()->totalMinimumSize().expandedTo(caseSize);
+  frame_->resize(frameSize_);
+  const QSize needed = windowSize + frameSize_ - caseSize;
+  FitWindow(this, needed, needed - QSize(0, bars), screen()->availableSize());
 }
 
 void CaseStudyWindow::KeepOnTop() {
@@ -164,8 +166,12 @@ void CaseStudyWindow::OrderTabs() {
   for (QPlainTextEdit* text : texts) text->setFocusPolicy(Qt::NoFocus);
 }
 
+// A larger window shows more of the answer; a maximized one has the form in its middle.
 void CaseStudyWindow::TellSize() {
-  form_.Form_Resize(isMaximized() || isFullScreen(), width() * twips, height() * twips);
+  const bool maximized = isMaximized() || isFullScreen();
+  const QSize more = size() - (windowSize + frameSize_ - caseSize);
+  frame_->resize(maximized ? frameSize_ : frameSize_ + more.expandedTo({0, 0}));
+  form_.Form_Resize(maximized, width() * twips, height() * twips);
 }
 
 void CaseStudyWindow::resizeEvent(QResizeEvent* event) {

@@ -33,6 +33,7 @@ class CaseStudyWindow : public QMainWindow {
   CaseStudy form_;
   Binder binder_;
   QWidget* frame_ = nullptr;
+  QSize frameSize_;
 };
 
 }  // namespace qismora

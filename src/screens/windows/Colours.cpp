@@ -53,4 +53,10 @@ QColor InkOf(int colour, const QPalette& palette, QPalette::ColorRole text, QPal
   return Readable(wanted, palette.color(ground), contrast);
 }
 
+QColor Between(const QColor& ground, const QColor& ink, double strength) {
+  const auto mixed = [strength](int from, int to) { return from + static_cast<int>((to - from) * strength); };
+  return {mixed(ground.red(), ink.red()), mixed(ground.green(), ink.green()),
+          mixed(ground.blue(), ink.blue())};
+}
+
 }  // namespace qismora

@@ -22,4 +22,7 @@ QColor Readable(QColor wanted, const QColor& ground, double contrast = LeastCont
 /// writes with.
 QColor InkOf(int colour, const QPalette& palette, QPalette::ColorRole text, QPalette::ColorRole ground);
 
+/// The colour so far on the way from the ground to the ink, 0 to 1.
+QColor Between(const QColor& ground, const QColor& ink, double strength);
+
 }  // namespace qismora

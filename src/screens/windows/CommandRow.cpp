@@ -2,6 +2,7 @@
 
 #include <QBoxLayout>
 #include <QPushButton>
+#include <QShortcut>
 
 #include "screens/windows/HoverWatch.h"
 #include "screens/windows/Pictures.h"
@@ -48,11 +49,16 @@ QWidget* CommandRow::Aul() {
   auto* aul = new QPushButton(tr("Aul/ Radd"), this);
   aul->setObjectName(QStringLiteral("AulRadd"));
   aul->setAccessibleName(tr("Aul and Radd"));
-  aul->setToolTip(tr("Adjust the shares to the estate"));
+  aul->setToolTip(tr("Adjust the shares to the estate (F6)"));
   aul->setFixedSize(buttonWidth, rowHeight);
-  connect(aul, &QPushButton::clicked, this, [this] {
+  const auto adjust = [this] {
     const PointerShape hourglass(Qt::WaitCursor);
     form_.AulRadd_Click();
+  };
+  connect(aul, &QPushButton::clicked, this, adjust);
+  // The menu's entry stays disabled where only the button is offered; the key serves both.
+  connect(new QShortcut(Qt::Key_F6, this), &QShortcut::activated, this, [this, adjust] {
+    if (form_.AulRadd.Visible || form_.AulRad.Enabled) adjust();
   });
   // Its place stays free, so that nothing moves when it comes.
   QSizePolicy policy = aul->sizePolicy();

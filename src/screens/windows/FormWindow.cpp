@@ -4,10 +4,12 @@
 #include <QLabel>
 #include <QLayout>
 #include <QMenuBar>
+#include <QScreen>
 #include <QStatusBar>
 
 #include "screens/windows/Accessibles.h"
 #include "screens/windows/Keyboard.h"
+#include "screens/windows/SmallScreen.h"
 
 namespace qismora {
 
@@ -56,8 +58,7 @@ void FormWindow::SetSizes() {
   frame_->layout()->setContentsMargins(margin, margin, margin, margin + bars);
   const QSize size = frame_->layout()->totalMinimumSize().expandedTo(formSize);
   frame_->resize(size);
-  setMinimumSize(size);
-  resize(size);
+  FitWindow(this, size, size - QSize(0, bars), screen()->availableSize());
 }
 
 void FormWindow::Tell() { TellSize(IsMaximizedForm(), width() * twips, height() * twips); }

@@ -5,6 +5,7 @@
 #include <algorithm>
 #include <span>
 
+#include "screens/Misreading.h"
 #include "screens/windows/CaptionLabel.h"
 #include "screens/windows/CaseBox.h"
 #include "screens/windows/Names.h"
@@ -136,10 +137,14 @@ HeirsPanel::HeirsPanel(CaseStudy& form, Binder& binder, QWidget* parent)
 CaseBox* HeirsPanel::AddBox(int box, const QString& spoken) {
   auto* widget = new CaseBox(Indexed("Text1", box), this);
   widget->setAccessibleName(spoken);
-  widget->setToolTip(tr(boxTip).arg(spoken));
+  widget->SetTip(tr(boxTip).arg(spoken));
   widget->setAlignment(Qt::AlignRight);
   widget->Toggle = [this, box] { form_.Text1_DblClick(box); };
   binder_.Box(form_.Text1(box), widget);
+  if (box == NetEstateBox) return widget;  // the program writes it
+  Binder::Follow(form_.Text1(box).Text, [this, box, widget] {
+    widget->Mark(ToQt(Misreading(form_.Text1(box).Text.Get(), box != GrossEstateBox)));
+  });
   return widget;
 }
 
@@ -170,6 +175,7 @@ void HeirsPanel::AddHeir(int row, int column, int box, const QString& spoken) {
   const int number = PictureNumber(box);
   CaseBox* input = AddBox(box, spoken);
   input->setFixedWidth(boxWidth);
+  input->Explain = [this, box] { form_.Label1_DblClick(box); };
   CaptionLabel* caption = AddCaption(box, spoken);
   caption->setBuddy(input);
   grid_->addWidget(caption, row, column);
@@ -184,12 +190,13 @@ void HeirsPanel::AddHeir(int row, int column, int box, const QString& spoken) {
 void HeirsPanel::AddSpouse(int row) {
   CaseBox* input = AddBox(1, {});
   input->setFixedWidth(boxWidth);
+  input->Explain = [this] { form_.Label1_DblClick(1); };
   CaptionLabel* caption = AddCaption(1, {});
   caption->setBuddy(input);
   Binder::Follow(form_.Label1(1).Caption, [this, input, caption] {
     const QString words = ToQt(form_.Label1(1).Caption.Get());
     input->setAccessibleName(words);
-    input->setToolTip(tr(boxTip).arg(words));
+    input->SetTip(tr(boxTip).arg(words));
     caption->setAccessibleName(words);
     caption->setToolTip(tr(captionTip).arg(words));
   });

@@ -41,12 +41,6 @@ constexpr Letters letters[] = {
     {QPalette::Highlight, QPalette::HighlightedText},
 };
 
-QColor Between(const QColor& ground, const QColor& ink, double strength) {
-  const auto mixed = [strength](int from, int to) { return from + static_cast<int>((to - from) * strength); };
-  return {mixed(ground.red(), ink.red()), mixed(ground.green(), ink.green()),
-          mixed(ground.blue(), ink.blue())};
-}
-
 /// The colour of an outline, stronger where the desktop asks for contrast above all.
 QColor Line(const QPalette& palette, double strength) {
   return Between(palette.color(QPalette::Window), palette.color(QPalette::Active, QPalette::WindowText),

@@ -1,5 +1,6 @@
 #include <QCoreApplication>
 #include <QDir>
+#include <QEvent>
 #include <QLibrary>
 #include <QMediaPlayer>
 #include <QPainter>
@@ -8,6 +9,7 @@
 #include <QVideoFrame>
 #include <QVideoSink>
 #include <QWidget>
+#include <utility>
 
 #include "screens/windows/video/VideoScreen.h"
 
@@ -37,16 +39,29 @@ class MultimediaScreen : public QWidget, public VideoScreen {
           if (status == QMediaPlayer::EndOfMedia && EndOfPlay) EndOfPlay();
         },
         Qt::QueuedConnection);
+    window()->installEventFilter(this);
     show();
   }
 
   void Play(const QString& file) override {
+    resting_ = false;
     player_->stop();
     player_->setSource(QUrl::fromLocalFile(file));
     player_->play();
   }
 
  protected:
+  // Nobody looks at a film behind the window in use, and it keeps the processor busy.
+  bool eventFilter(QObject*, QEvent* event) override {
+    if (event->type() == QEvent::WindowDeactivate && player_->playbackState() == QMediaPlayer::PlayingState) {
+      resting_ = true;
+      player_->pause();
+    } else if (event->type() == QEvent::WindowActivate && std::exchange(resting_, false)) {
+      player_->play();
+    }
+    return false;
+  }
+
   void paintEvent(QPaintEvent*) override {
     if (image_.isNull()) return;
     QRect place(QPoint(), image_.size().scaled(size(), Qt::KeepAspectRatio));
@@ -59,6 +74,7 @@ class MultimediaScreen : public QWidget, public VideoScreen {
  private:
   QMediaPlayer* player_;
   QImage image_;
+  bool resting_ = false;
 };
 
 // The default backend crashes on machines without its own plugins; the other one plays everywhere. A player
