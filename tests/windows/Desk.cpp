@@ -10,7 +10,10 @@
 namespace qismora::testing {
 
 Desk::Desk() : before_(QDir::currentPath()) {
-  qputenv("XDG_CONFIG_HOME", home_.path().toLocal8Bit());
+  // The toolkit asks but once where settings lie.
+  static const QTemporaryDir settings;
+  qputenv("XDG_CONFIG_HOME", settings.path().toLocal8Bit());
+  QDir(settings.filePath(QStringLiteral("Qismora"))).removeRecursively();
   QDir::setCurrent(home_.path());
   QObject::connect(&watchdog_, &QTimer::timeout, &watchdog_, [this] {
     if (auto* box = qobject_cast<QMessageBox*>(QApplication::activeModalWidget())) Answer(*box);
