@@ -120,7 +120,9 @@ class Walker : public QObject {
   template <class Object>
   Object* Find(const char* name) {
     for (int patience = 200; patience > 0; --patience) {
-      if (auto* found = InUse()->findChild<Object*>(QString::fromLatin1(name))) return found;
+      QWidget* window = InUse();
+      Object* found = window == nullptr ? nullptr : window->findChild<Object*>(QString::fromLatin1(name));
+      if (found != nullptr) return found;
       Wait();
     }
     qFatal("the window in use has no %s", name);

@@ -148,8 +148,9 @@ bool LookAlike(const QImage& kept, const QImage& taken) {
 
 /// Holds the pictures that are kept in a folder against those just taken.
 bool Compare(const Album& album, const QDir& folder) {
-  bool same = true;
-  for (const QString& file : folder.entryList({QStringLiteral("*.png")}, QDir::Files)) {
+  const QStringList files = folder.entryList({QStringLiteral("*.png")}, QDir::Files);
+  bool same = !files.isEmpty();
+  for (const QString& file : files) {
     const auto taken = album.find(QString(file).remove(QStringLiteral(".png")));
     if (taken != album.end() && LookAlike(QImage(folder.filePath(file)), taken->second)) continue;
     std::fprintf(stderr, "%s is out of date\n", qPrintable(folder.filePath(file)));

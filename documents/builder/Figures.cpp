@@ -171,8 +171,9 @@ void DrawFamily(Tree& tree) {
   DrawOwnGeneration(tree);
   DrawDescendants(tree);
   tree.Caption(
-      "Black is Arabic, green is Urdu. Square corners: men. Round corners: women. Broken line: distant kindred, who have no box. Of the "
-      "two spouses only one kind can be alive: wives of a man, the husband of a woman.",
+      "Black is Arabic, green is Urdu. Square corners: men. Round corners: women. Broken line: distant "
+      "kindred, who have no box. Of the two spouses only one kind can be alive: wives of a man, the husband "
+      "of a woman.",
       260, Below + 2 * Row + 2, 205);
 }
 

@@ -15,6 +15,17 @@
 
 namespace qismora::testing {
 
+/// Whether the program has a file open or loaded.
+inline bool Uses(qint64 process, const QString& file) {
+  const QString folder = QStringLiteral("/proc/%1/").arg(process);
+  for (const QFileInfo& open :
+       QDir(folder + QStringLiteral("fd")).entryInfoList(QDir::Files | QDir::System)) {
+    if (open.symLinkTarget() == file) return true;
+  }
+  QFile maps(folder + QStringLiteral("maps"));
+  return maps.open(QIODevice::ReadOnly) && maps.readAll().contains(file.toUtf8() + '\n');
+}
+
 /// The program with its real windows and ports, in a folder of its own or where it is installed. Only its end
 /// and the viewer of documents are caught.
 class ShellHome : public QObject {

@@ -23,6 +23,24 @@ VIEWER = '#!/bin/sh\necho "$1" >> "$OPENED"\n'
 PARTS = {"list", "list item", "table cell", "column header", "row header", "popup menu"}
 
 
+@contextlib.contextmanager
+def screen():
+    """The number of a display that nobody sees."""
+    told, tell = os.pipe()
+    server = subprocess.Popen(["Xvfb", "-displayfd", str(tell), "-screen", "0", "1280x1024x24", "-nolisten", "tcp"],
+                              pass_fds=[tell], stderr=subprocess.DEVNULL)
+    os.close(tell)
+    try:
+        with os.fdopen(told) as line:
+            number = line.readline().strip()
+        if not number:
+            raise RuntimeError("Xvfb did not start")
+        yield f":{number}"
+    finally:
+        server.terminate()
+        server.wait()
+
+
 def stage():
     """Runs this script once more, on a display and a bus of its own."""
     missing = [name for name in NEEDED if shutil.which(name) is None]
@@ -31,14 +49,9 @@ def stage():
     if missing:
         print("Skipped, the program was not walked: there is no", ", ".join(missing))
         return 77
-    with tempfile.TemporaryDirectory() as home:
-        told, tell = os.pipe()
-        display = subprocess.Popen(["Xvfb", "-displayfd", str(tell), "-screen", "0", "1280x1024x24", "-nolisten", "tcp"],
-                                   pass_fds=[tell], stderr=subprocess.DEVNULL)
-        os.close(tell)
-        with os.fdopen(told) as line:
-            number = line.readline().strip()
-        environment = {**os.environ, "DISPLAY": f":{number}", "QT_QPA_PLATFORM": "xcb", "LC_ALL": "C.UTF-8",
+    # The last of the bus may still write while the folder goes.
+    with tempfile.TemporaryDirectory(ignore_cleanup_errors=True) as home, screen() as display:
+        environment = {**os.environ, "DISPLAY": display, "QT_QPA_PLATFORM": "xcb", "LC_ALL": "C.UTF-8",
                        "QT_LINUX_ACCESSIBILITY_ALWAYS_ON": "1", "HOME": home, "XDG_CONFIG_HOME": home,
                        "XDG_DATA_HOME": home, "XDG_CACHE_HOME": home, "XDG_RUNTIME_DIR": home,
                        "PATH": f"{home}:{os.environ['PATH']}", "OPENED": f"{home}/opened"}
@@ -48,20 +61,17 @@ def stage():
         viewer.write_text(VIEWER)
         viewer.chmod(0o755)
         noise = Path(home, "bus.log")
+        manager = subprocess.Popen(["openbox"], env=environment, stdout=subprocess.DEVNULL, stderr=subprocess.DEVNULL)
         try:
-            manager = subprocess.Popen(["openbox"], env=environment, stdout=subprocess.DEVNULL,
-                                       stderr=subprocess.DEVNULL)
             with open(noise, "w") as log:
                 walk = [sys.executable, "-B", "-W", "ignore", __file__, *sys.argv[1:], "--inside"]
                 result = subprocess.run(["dbus-run-session", "--", *walk], env=environment, stdout=log, stderr=log).returncode
             if result != 0:
                 print(noise.read_text())
-            manager.terminate()
-            manager.wait()
             return result
         finally:
-            display.terminate()
-            display.wait()
+            manager.terminate()
+            manager.wait()
 
 
 def wait_for(what, condition):
@@ -121,8 +131,8 @@ class Program(unittest.TestCase):
         self.opened.unlink(missing_ok=True)
         self.start()
 
-    def start(self):
-        self.process = subprocess.Popen([self.folder / "bin" / "qismora"], cwd=self.folder)
+    def start(self, environment=None):
+        self.process = subprocess.Popen([self.folder / "bin" / "qismora"], cwd=self.folder, env=environment)
         self.addCleanup(self.process.wait)
         self.addCleanup(self.process.kill)
         desktop = pyatspi.Registry.getDesktop(0)
@@ -269,11 +279,19 @@ class Program(unittest.TestCase):
         self.find(log, "label", "Total duration: 0day(s):00h:")
         self.leave()
 
+    def test_a_display_that_goes_away_leaves_the_line_of_the_session(self):
+        self.leave()
+        with screen() as display:
+            self.start({**os.environ, "DISPLAY": display})
+        self.assertEqual(self.process.wait(PATIENCE), 1)
+        lines = (self.folder / "bin" / "popuQism.ppl").read_text().splitlines()
+        self.assertEqual([line.split()[0] for line in lines], ["1", "2"])
+
 
 if __name__ == "__main__":
     if sys.argv[-1] != "--inside":
         sys.exit(stage())
     import pyatspi
 
-    Program.program = sys.argv[1]
+    Program.program = os.path.abspath(sys.argv[1])
     unittest.main(argv=sys.argv[:1], verbosity=2)

@@ -96,7 +96,8 @@ QColor GroundOf(const QImage& picture, const QRect& place) {
   for (int y = inside.top(); y <= inside.bottom(); ++y) {
     for (int x = inside.left(); x <= inside.right(); ++x) {
       const QRgb colour = picture.pixel(x, y);
-      if (++counts[colour & alike] > counts[most & alike]) most = colour;
+      const int count = ++counts[colour & alike];
+      if (count > counts.value(most & alike)) most = colour;
     }
   }
   return most;
@@ -132,6 +133,7 @@ class ComfortTest : public QObject {
   void cleanup() {
     home_.reset();
     QApplication::setPalette(bright_);
+    QCOMPARE(boxes_.Take(), QStringList());
   }
 
   void lettersCanBeRead_data() { EachTheme(); }
@@ -232,6 +234,7 @@ class ComfortTest : public QObject {
     QVERIFY2(!copy->isEnabled(), "there is no answer yet");
     Find<QLineEdit>(study_, "Text1(3)")->setText(QStringLiteral("2"));
     study_->Form().Label1_DblClick(3);
+    QCOMPARE(boxes_.Take(), QStringList{QStringLiteral("Current data executed successfully.")});
     study_->activateWindow();
     QVERIFY(QTest::qWaitForWindowActive(study_));
     auto* narrative = Find<QPlainTextEdit>(study_, "Text2");
@@ -245,6 +248,7 @@ class ComfortTest : public QObject {
     QCOMPARE(clipboard->text().size(), 1);
 
     study_->Form().Resid_Click();
+    QCOMPARE(boxes_.Take().size(), 1);
     auto* report = Find<QPlainTextEdit>(study_, "Text3");
     copy->trigger();
     QVERIFY(clipboard->text().endsWith(report->toPlainText()));

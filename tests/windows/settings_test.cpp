@@ -31,7 +31,7 @@ struct SettingsFolder : TemporaryFolder {
   SettingsFolder() { QSettings::setPath(QSettings::NativeFormat, QSettings::UserScope, ToQt(Path())); }
 
   [[maybe_unused]] static inline const int InMemory =
-      fs::exists("/dev/shm") ? setenv("TMPDIR", "/dev/shm", 0) : 0;
+      access("/dev/shm", W_OK) == 0 ? setenv("TMPDIR", "/dev/shm", 0) : 0;
 };
 
 int Stored(const Setting& setting) {

@@ -22,6 +22,7 @@ namespace qismora {
 
 using testing::BoxWatch;
 using testing::ShellHome;
+using testing::Uses;
 
 namespace {
 
@@ -371,7 +372,9 @@ class ShellWindowsTest : public QObject {
     QProcess process;
     process.start(program, {});
     QVERIFY(process.waitForStarted());
-    QVERIFY2(!process.waitForFinished(1500), process.readAllStandardError().constData());
+    QTRY_VERIFY_WITH_TIMEOUT(Uses(process.processId(), home_->File(QStringLiteral("qismora_video.so"))),
+                             10000);
+    QVERIFY2(!process.waitForFinished(300), process.readAllStandardError().constData());
     process.terminate();
     QVERIFY(process.waitForFinished());
     QCOMPARE(process.exitCode(), 0);

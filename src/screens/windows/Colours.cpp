@@ -33,6 +33,10 @@ bool IsBlackAndWhite(const QPalette& palette) {
   return Contrast(ink, palette.color(QPalette::Active, QPalette::Window)) > blackAndWhite;
 }
 
+double WantedContrast(const QPalette& palette) {
+  return IsBlackAndWhite(palette) ? HighContrast : LeastContrast;
+}
+
 QColor Readable(QColor wanted, const QColor& ground, double contrast) {
   const float towards = Luminance(ground) < 0.18 ? step : -step;
   while (Contrast(wanted, ground) < contrast) {
@@ -44,7 +48,7 @@ QColor Readable(QColor wanted, const QColor& ground, double contrast) {
 }
 
 QColor InkOf(int colour, const QPalette& palette, QPalette::ColorRole text, QPalette::ColorRole ground) {
-  const double contrast = IsBlackAndWhite(palette) ? HighContrast : LeastContrast;
+  const double contrast = WantedContrast(palette);
   if (colour == HighlightColour) {
     return Readable(palette.color(QPalette::Highlight), palette.color(ground), contrast);
   }

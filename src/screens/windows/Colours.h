@@ -13,6 +13,7 @@ bool IsBlackAndWhite(const QPalette& palette);
 
 inline constexpr double LeastContrast = 4.5;
 inline constexpr double HighContrast = 7;
+double WantedContrast(const QPalette& palette);
 
 /// The tone nearest to the wanted one that can be read on the ground: lighter on a dark ground, darker on
 /// a bright one.

@@ -23,14 +23,14 @@ constexpr int focusTint = 36;
 constexpr int titleMargin = 3;
 constexpr qreal roundness = 2;
 
-struct Letters {
+struct InkOnGround {
   QPalette::ColorRole Ink;
   QPalette::ColorRole Ground;
 };
 
 // Of what is selected the ground gives way: its letters are mostly black or white already. Menus have a
 // ground between those of windows and of boxes.
-constexpr Letters letters[] = {
+constexpr InkOnGround letters[] = {
     {QPalette::WindowText, QPalette::Window},
     {QPalette::Text, QPalette::Base},
     {QPalette::Text, QPalette::Window},
@@ -52,13 +52,13 @@ bool NeedsOutlines(const QPalette& palette) {
   return IsBlackAndWhite(palette) || palette.color(QPalette::Window).lightness() <= darkGround;
 }
 
-bool IsText(const QWidget* widget) { return qobject_cast<const QAbstractScrollArea*>(widget) != nullptr; }
+bool Scrolls(const QWidget* widget) { return qobject_cast<const QAbstractScrollArea*>(widget) != nullptr; }
 
 // On a dark ground buttons are brighter than the window.
 QColor FocusColour(const QPalette& palette) {
   const QColor window = palette.color(QPalette::Window);
   const QColor ground = window.lightness() <= darkGround ? window.lighter(brighterButton) : window;
-  return Readable(palette.color(QPalette::Active, QPalette::Highlight), ground);
+  return Readable(palette.color(QPalette::Active, QPalette::Highlight), ground, WantedContrast(palette));
 }
 
 // Shown from the first moment of a window, and not only once a key has moved it.
@@ -87,7 +87,7 @@ void DrawFrame(QPainter* painter, const QStyleOption& option, const QWidget* wid
                            ? Line(palette, frameStrength)
                            : Between(palette.color(QPalette::Window), Qt::black, brightStrength);
   DrawBars(painter, HasFocus(option) ? FocusColour(palette) : usual, option.rect);
-  if (!IsText(widget)) return;
+  if (!Scrolls(widget)) return;
   DrawBars(painter, HasFocus(option) ? FocusColour(palette) : palette.color(QPalette::Base),
            option.rect.marginsRemoved(oneLine));
 }
@@ -114,7 +114,7 @@ QIcon OutlinedStyle::standardIcon(StandardPixmap which, const QStyleOption* opti
 // Many a dark desktop leaves links dark blue, and entries that cannot be chosen nearly invisible.
 void OutlinedStyle::polish(QPalette& palette) {
   QProxyStyle::polish(palette);
-  const double contrast = IsBlackAndWhite(palette) ? HighContrast : LeastContrast;
+  const double contrast = WantedContrast(palette);
   for (const QPalette::ColorGroup group : {QPalette::Active, QPalette::Inactive, QPalette::Disabled}) {
     for (const auto& [ink, ground] : letters) {
       const QColor wanted = palette.color(group, ink);
@@ -184,7 +184,7 @@ void OutlinedStyle::drawComplexControl(ComplexControl control, const QStyleOptio
 
 int OutlinedStyle::pixelMetric(PixelMetric metric, const QStyleOption* option, const QWidget* widget) const {
   const int usual = QProxyStyle::pixelMetric(metric, option, widget);
-  return metric == PM_DefaultFrameWidth && IsText(widget) ? usual + 1 : usual;
+  return metric == PM_DefaultFrameWidth && Scrolls(widget) ? usual + 1 : usual;
 }
 
 int OutlinedStyle::styleHint(StyleHint hint, const QStyleOption* option, const QWidget* widget,

@@ -1,8 +1,8 @@
 #pragma once
 
-#include <QWidget>
-
 #include "base/Outside.h"
+
+class QWidget;
 
 namespace qismora {
 

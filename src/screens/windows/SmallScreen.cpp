@@ -8,10 +8,9 @@
 namespace qismora {
 
 void FitWindow(QMainWindow* window, const QSize& needed, const QSize& form, const QSize& room) {
-  QSize size = needed.boundedTo(room);
+  const int title = window->style()->pixelMetric(QStyle::PM_TitleBarHeight);
+  QSize size = needed.boundedTo(room - QSize(0, title));
   if (size != needed) {
-    const int title = window->style()->pixelMetric(QStyle::PM_TitleBarHeight);
-    size.setHeight(std::min(size.height(), room.height() - title));
     QWidget* focus = window->focusWidget();
     auto* scroll = new QScrollArea(window);
     scroll->setFrameShape(QFrame::NoFrame);
