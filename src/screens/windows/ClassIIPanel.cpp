@@ -88,8 +88,8 @@ void ClassIIPanel::AddCover(int column, const QString& frameName, Property<bool>
 // The box whose caption is drawn there; none beside the captions.
 QCheckBox* ClassIIPanel::CheckAt(const PictureLabel& picture, int column, const QPoint& place) const {
   if (picture.HasPicture() && !picture.PictureRect().contains(place)) return nullptr;
-  const int row = place.y() * rows / qMax(1, picture.height());
-  return checks_[static_cast<std::size_t>(row * columns + column)];
+  const int index = place.y() * rows / qMax(1, picture.height()) * columns + column;
+  return checks_[static_cast<std::size_t>(index)];
 }
 
 }  // namespace qismora
