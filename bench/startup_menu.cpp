@@ -5,8 +5,8 @@
 #include <algorithm>
 
 #include "FirstPaint.h"
-#include "screens/windows/OutlinedStyle.h"
-#include "screens/windows/RunningProgram.h"
+#include "windows/platform/RunningProgram.h"
+#include "windows/style/OutlinedStyle.h"
 
 using namespace qismora;
 

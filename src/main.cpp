@@ -1,8 +1,8 @@
 #include <QApplication>
 #include <cstdio>
 
-#include "screens/windows/OutlinedStyle.h"
-#include "screens/windows/RunningProgram.h"
+#include "windows/platform/RunningProgram.h"
+#include "windows/style/OutlinedStyle.h"
 
 using namespace qismora;
 

@@ -14,11 +14,11 @@
 #include <utility>
 
 #include "base/Files.h"
-#include "screens/windows/OutlinedStyle.h"
-#include "screens/windows/ProgramWindows.h"
-#include "screens/windows/ShellPorts.h"
 #include "shell/SessionLog.h"
 #include "support/MemoryOutside.h"
+#include "windows/forms/ProgramWindows.h"
+#include "windows/platform/ShellPorts.h"
+#include "windows/style/OutlinedStyle.h"
 
 namespace qismora::tour {
 

@@ -9,8 +9,8 @@
 #include <QTimer>
 #include <deque>
 
-#include "screens/windows/CaseStudyWindow.h"
-#include "screens/windows/Ports.h"
+#include "windows/casestudy/CaseStudyWindow.h"
+#include "windows/platform/Ports.h"
 
 namespace qismora::testing {
 

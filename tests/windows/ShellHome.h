@@ -7,11 +7,11 @@
 #include <QUrl>
 #include <memory>
 
-#include "screens/windows/ProgramWindows.h"
-#include "screens/windows/ShellPorts.h"
-#include "screens/windows/Utf8.h"
 #include "shell/Documents.h"
 #include "support/MemoryOutside.h"
+#include "windows/forms/ProgramWindows.h"
+#include "windows/platform/ShellPorts.h"
+#include "windows/platform/Utf8.h"
 
 namespace qismora::testing {
 

@@ -14,8 +14,8 @@
 #include <optional>
 
 #include "Desk.h"
-#include "screens/windows/Colours.h"
-#include "screens/windows/OutlinedStyle.h"
+#include "windows/style/Colours.h"
+#include "windows/style/OutlinedStyle.h"
 
 using qismora::testing::Desk;
 

@@ -17,7 +17,7 @@
 #include <optional>
 
 #include "Desk.h"
-#include "screens/windows/Pictures.h"
+#include "windows/style/Pictures.h"
 
 using qismora::testing::Desk;
 

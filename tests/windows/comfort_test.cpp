@@ -16,11 +16,11 @@
 #include <QToolTip>
 
 #include "base/Files.h"
-#include "screens/windows/Colours.h"
-#include "screens/windows/OutlinedStyle.h"
 #include "shell/SessionLog.h"
 #include "windows/BoxWatch.h"
 #include "windows/ShellHome.h"
+#include "windows/style/Colours.h"
+#include "windows/style/OutlinedStyle.h"
 
 namespace qismora {
 

@@ -5,9 +5,9 @@
 #include <QRadioButton>
 #include <QTest>
 
-#include "screens/windows/OutlinedStyle.h"
 #include "windows/BoxWatch.h"
 #include "windows/ShellHome.h"
+#include "windows/style/OutlinedStyle.h"
 
 namespace qismora {
 

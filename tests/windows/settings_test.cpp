@@ -10,13 +10,13 @@
 
 #include "base/Files.h"
 #include "base/Text.h"
-#include "screens/windows/Ports.h"
-#include "screens/windows/Utf8.h"
 #include "shell/AppSettings.h"
 #include "shell/SessionLog.h"
 #include "support/MemoryOutside.h"
 #include "support/Processes.h"
 #include "support/TemporaryFolder.h"
+#include "windows/platform/Ports.h"
+#include "windows/platform/Utf8.h"
 
 namespace qismora {
 namespace {

@@ -12,11 +12,11 @@
 #include <csignal>
 
 #include "base/Files.h"
-#include "screens/windows/OutlinedStyle.h"
 #include "shell/SessionLog.h"
 #include "shell/Videos.h"
 #include "windows/BoxWatch.h"
 #include "windows/ShellHome.h"
+#include "windows/style/OutlinedStyle.h"
 
 namespace qismora {
 

@@ -1,0 +1,105 @@
+#include "windows/casestudy/CaseBox.h"
+
+#include <QContextMenuEvent>
+#include <QKeyEvent>
+#include <QMenu>
+#include <QMouseEvent>
+#include <QStyleOptionFrame>
+#include <utility>
+
+#include "windows/style/Colours.h"
+
+namespace qismora {
+
+namespace {
+
+constexpr int rowMargin = 4;
+const QColor amber(255, 176, 0);
+constexpr double tint = 0.35;
+
+}  // namespace
+
+CaseBox::CaseBox(const QString& name, QWidget* parent) : QLineEdit(parent) { setObjectName(name); }
+
+QSize CaseBox::sizeHint() const {
+  return {QLineEdit::sizeHint().width(), fontMetrics().height() + rowMargin};
+}
+
+QSize CaseBox::minimumSizeHint() const { return {0, sizeHint().height()}; }
+
+void CaseBox::focusInEvent(QFocusEvent* event) {
+  entering_ = event->reason() == Qt::MouseFocusReason;
+  QLineEdit::focusInEvent(event);
+}
+
+// The first click into a box takes its whole text, as Tab does: what is typed next replaces the 0.
+void CaseBox::mouseReleaseEvent(QMouseEvent* event) {
+  QLineEdit::mouseReleaseEvent(event);
+  if (std::exchange(entering_, false) && !hasSelectedText()) selectAll();
+}
+
+void CaseBox::mouseDoubleClickEvent(QMouseEvent* event) {
+  if (event->button() != Qt::LeftButton) return QLineEdit::mouseDoubleClickEvent(event);
+  if (Toggle) Toggle();
+  selectAll();
+}
+
+void CaseBox::keyPressEvent(QKeyEvent* event) {
+  switch (event->key()) {
+    case Qt::Key_F2:
+      if (Toggle) Toggle();
+      selectAll();
+      return;
+    case Qt::Key_Return:
+    case Qt::Key_Enter:
+      if (Explain && event->modifiers().testFlag(Qt::ControlModifier)) return Explain();
+      return QLineEdit::keyPressEvent(event);
+    case Qt::Key_Up:
+      focusNextPrevChild(false);
+      return;
+    case Qt::Key_Down:
+      focusNextPrevChild(true);
+      return;
+    default:
+      QLineEdit::keyPressEvent(event);
+  }
+}
+
+void CaseBox::contextMenuEvent(QContextMenuEvent* event) {
+  QMenu* menu = createStandardContextMenu();
+  menu->setAttribute(Qt::WA_DeleteOnClose);
+  menu->addSeparator();
+  if (Explain) {
+    QAction* explain = menu->addAction(tr("Explain this share"), this, [this] { Explain(); });
+    explain->setShortcut(Qt::CTRL | Qt::Key_Return);
+  }
+  QAction* toggle = menu->addAction(tr("Toggle between 0 and 1"), this, [this] {
+    if (Toggle) Toggle();
+  });
+  toggle->setShortcut(Qt::Key_F2);
+  menu->popup(event->reason() == QContextMenuEvent::Keyboard ? mapToGlobal(rect().bottomLeft())
+                                                             : event->globalPos());
+}
+
+void CaseBox::SetTip(const QString& tip) {
+  tip_ = tip;
+  Mark(mark_);
+}
+
+void CaseBox::Mark(const QString& words) {
+  mark_ = words;
+  setToolTip(words.isEmpty() ? tip_ : words + QStringLiteral("\n\n") + tip_);
+  setAccessibleDescription(words);
+  update();
+}
+
+// A box that only tells has the colour of the form.
+void CaseBox::initStyleOption(QStyleOptionFrame* option) const {
+  QLineEdit::initStyleOption(option);
+  if (!mark_.isEmpty()) {
+    option->palette.setColor(QPalette::Base, Between(palette().color(QPalette::Base), amber, tint));
+  }
+  if (isReadOnly()) option->palette.setBrush(QPalette::Base, palette().window());
+}
+
+}  // namespace qismora

@@ -1,0 +1,67 @@
+#include "windows/casestudy/CaseMenu.h"
+
+#include <QAccessible>
+#include <QAction>
+#include <QMenu>
+#include <QMenuBar>
+
+#include "windows/style/PointerShape.h"
+
+namespace qismora {
+
+namespace {
+
+enum class Place { Bar, Hidden, Menu, UnderMenu };
+
+struct Entry {
+  const char* Name;
+  const char* Caption;
+  Place Where;
+  void (CaseStudy::*Run)();
+  Qt::Key Key;
+};
+
+constexpr Qt::Key noKey = Qt::Key_unknown;
+
+constexpr Entry entries[] = {
+    {"Back", "&Back", Place::Bar, &CaseStudy::Back_Click, noKey},
+    {"AulRaddxx", "±Aul&Radd", Place::Hidden, nullptr, noKey},
+    {"TestValues", "&TestValues", Place::Hidden, &CaseStudy::TestValues_Click, noKey},
+    {"CaseAnalysis", "Case &Analysis", Place::Menu, nullptr, noKey},
+    {"FullReport", "&All Individual", Place::UnderMenu, &CaseStudy::FullReport_Click, noKey},
+    {"Exec", "Execute &Selected", Place::UnderMenu, &CaseStudy::Exec_Click, noKey},
+    {"Resid", "&Residuaries", Place::UnderMenu, &CaseStudy::Resid_Click, Qt::Key_F5},
+    {"AulRad", "Au&l && Radd", Place::UnderMenu, &CaseStudy::AulRad_Click, noKey},
+    {"CreateSaveFullReport", "&Full Report", Place::Bar, &CaseStudy::CreateSaveFullReport_Click, noKey},
+    {"SaveResults", "&Save Results", Place::Bar, &CaseStudy::SaveResults_Click, noKey},
+    {"About", "A&bout", Place::Bar, &CaseStudy::About_Click, noKey},
+};
+
+}  // namespace
+
+void FillCaseMenu(QMenuBar* bar, CaseStudy& form, Binder& binder) {
+  QMenu* menu = nullptr;
+  for (const Entry& entry : entries) {
+    const QString caption = QString::fromUtf8(entry.Caption);
+    if (entry.Where == Place::Menu) menu = new QMenu(caption, bar);
+    QAction* action = entry.Where == Place::Menu ? menu->menuAction() : new QAction(caption, bar);
+    action->setObjectName(QString::fromLatin1(entry.Name));
+    action->setVisible(entry.Where != Place::Hidden);
+    if (entry.Key != noKey) action->setShortcut(entry.Key);
+    if (auto run = entry.Run) {
+      const auto act = [&form, run] {
+        const PointerShape hourglass(Qt::WaitCursor);
+        (form.*run)();
+      };
+      // The command may open a modal box, and a screen reader that chose it must not wait for the answer.
+      QObject::connect(action, &QAction::triggered, bar, [bar, act] {
+        if (!QAccessible::isActive()) return act();
+        QMetaObject::invokeMethod(bar, act, Qt::QueuedConnection);
+      });
+    }
+    if (action->objectName() == QLatin1String("AulRad")) binder.Enabled(form.AulRad, action);
+    (entry.Where == Place::UnderMenu ? static_cast<QWidget*>(menu) : bar)->addAction(action);
+  }
+}
+
+}  // namespace qismora

@@ -1,0 +1,100 @@
+#include "windows/casestudy/CommandRow.h"
+
+#include <QBoxLayout>
+#include <QPushButton>
+#include <QShortcut>
+
+#include "windows/style/Pictures.h"
+#include "windows/style/PointerShape.h"
+#include "windows/widgets/HoverWatch.h"
+
+namespace qismora {
+
+namespace {
+
+constexpr int rowHeight = 28;
+constexpr int buttonWidth = 84;
+constexpr int wideButton = 104;
+
+}  // namespace
+
+CommandRow::CommandRow(CaseStudy& form, Binder& binder, QWidget* parent)
+    : QWidget(parent), form_(form), binder_(binder) {
+  setFixedHeight(rowHeight);
+  auto* row = new QHBoxLayout(this);
+  row->setContentsMargins(0, 0, 0, 0);
+  row->setSpacing(4);
+  row->addWidget(Clear());
+  row->addWidget(Aul());
+  row->addStretch();
+  row->addWidget(FullReport());
+  AddHidden();
+}
+
+QWidget* CommandRow::Clear() {
+  auto* clear = new PictureLabel(QStringLiteral("Image2"), QStringLiteral("image2"), Ink::Own, this);
+  clear->Raise();
+  clear->setFixedSize(buttonWidth, rowHeight);
+  clear->setText(tr("Clear"));
+  clear->setAccessibleName(tr("Clear the case"));
+  clear->setToolTip(tr("Clear all heirs and the results"));
+  clear->ActOn(Gesture::Click, tr("Clear the case"), [this] { form_.Image2_Click(); });
+  clear->Pressed = [this](const QPoint&) { form_.Image2_MouseDown(); };
+  binder_.Visible(form_.Image2.Visible, clear);
+  binder_.Border(form_.Image2.BorderStyle, clear);
+  return clear;
+}
+
+QWidget* CommandRow::Aul() {
+  auto* aul = new QPushButton(tr("Aul/ Radd"), this);
+  aul->setObjectName(QStringLiteral("AulRadd"));
+  aul->setAccessibleName(tr("Aul and Radd"));
+  aul->setToolTip(tr("Adjust the shares to the estate (F6)"));
+  aul->setFixedSize(buttonWidth, rowHeight);
+  const auto adjust = [this] {
+    const PointerShape hourglass(Qt::WaitCursor);
+    form_.AulRadd_Click();
+  };
+  connect(aul, &QPushButton::clicked, this, adjust);
+  // The menu's entry stays disabled where only the button is offered; the key serves both.
+  connect(new QShortcut(Qt::Key_F6, this), &QShortcut::activated, this, [this, adjust] {
+    if (form_.AulRadd.Visible || form_.AulRad.Enabled) adjust();
+  });
+  // Its place stays free, so that nothing moves when it comes.
+  QSizePolicy policy = aul->sizePolicy();
+  policy.setRetainSizeWhenHidden(true);
+  aul->setSizePolicy(policy);
+  binder_.Visible(form_.AulRadd.Visible, aul);
+  return aul;
+}
+
+QWidget* CommandRow::FullReport() {
+  auto* report = new PictureButton(QStringLiteral("FullReportxx"), tr("Full report"), this);
+  report->setAccessibleName(tr("Full report"));
+  report->setToolTip(tr("Make the full report and save it under the name of the deceased"));
+  report->setFixedSize(wideButton, rowHeight);
+  connect(report, &QPushButton::clicked, this, [this] {
+    const PointerShape hourglass(Qt::WaitCursor);
+    form_.FullReportxx_Click();
+  });
+  WhenMouseMoves(report, [this] { form_.FullReportxx_MouseMove(); });
+  Binder::Follow(form_.FullReportxx, [this, report] {
+    report->ShowPicture(QStringLiteral("image%1").arg(form_.FullReportxx.Get()));
+  });
+  return report;
+}
+
+void CommandRow::AddHidden() {
+  auto* selected = new QPushButton(tr("Execute Sel."), this);
+  selected->setObjectName(QStringLiteral("SelectedReport"));
+  connect(selected, &QPushButton::clicked, this, [this] { form_.SelectedReport_Click(); });
+  auto* residuaries = new QPushButton(tr("Residuaries"), this);
+  residuaries->setObjectName(QStringLiteral("Residuaries"));
+  connect(residuaries, &QPushButton::clicked, this, [this] { form_.Residuaries_Click(); });
+  for (QPushButton* button : {selected, residuaries}) {
+    button->setAccessibleName(button->text());
+    button->hide();
+  }
+}
+
+}  // namespace qismora

@@ -1,0 +1,236 @@
+#include "windows/casestudy/HeirsPanel.h"
+
+#include <QGridLayout>
+#include <QLabel>
+#include <algorithm>
+#include <span>
+
+#include "screens/Misreading.h"
+#include "windows/casestudy/CaseBox.h"
+#include "windows/platform/Utf8.h"
+#include "windows/style/Pictures.h"
+#include "windows/widgets/CaptionLabel.h"
+#include "windows/widgets/Names.h"
+
+namespace qismora {
+
+namespace {
+
+enum class Kind { Title, Spouse, Heir, Estate, Blank };
+
+/// What stands in a row, and the words that a screen reader says and a tool tip shows.
+struct Row {
+  Kind What;
+  int Box;
+  const char* Words;
+};
+
+constexpr Row leftRows[] = {
+    {Kind::Title, 0, "Spouse and descendants"},
+    {Kind::Spouse, 1, ""},
+    {Kind::Heir, 2, "Sons"},
+    {Kind::Heir, 3, "Daughters"},
+    {Kind::Heir, 4, "Grandsons (son's sons)"},
+    {Kind::Heir, 5, "Granddaughters (son's daughters)"},
+    {Kind::Heir, 6, "Great-grandsons (son's son's sons)"},
+    {Kind::Heir, 7, "Great-granddaughters (son's son's daughters)"},
+    {Kind::Title, 0, "Brothers and sisters"},
+    {Kind::Heir, 22, "Full brothers"},
+    {Kind::Heir, 23, "Full sisters"},
+    {Kind::Heir, 30, "Consanguine sisters (same father)"},
+    {Kind::Heir, 31, "Consanguine brothers (same father)"},
+    {Kind::Heir, 32, "Uterine sisters (same mother)"},
+    {Kind::Heir, 33, "Uterine brothers (same mother)"},
+    {Kind::Blank, 12, ""},
+};
+
+constexpr Row rightRows[] = {
+    {Kind::Title, 0, "Ascendants"},
+    {Kind::Heir, 13, "Father"},
+    {Kind::Heir, 14, "Grandfather (father's father)"},
+    {Kind::Heir, 15, "Great-grandfather (father's father's father)"},
+    {Kind::Heir, 16, "Mother"},
+    {Kind::Heir, 17, "Mother's mother"},
+    {Kind::Heir, 18, "Great-grandmother (mother's mother's mother)"},
+    {Kind::Heir, 19, "Father's mother"},
+    {Kind::Heir, 20, "Grandfather's mother (father's father's mother)"},
+    {Kind::Heir, 21, "Father's grandmother (father's mother's mother)"},
+    {Kind::Title, 0, "Estate"},
+    {Kind::Estate, GrossEstateBox, "Gross estate"},
+    {Kind::Estate, FuneralBox, "Funeral expenses"},
+    {Kind::Estate, DebtsBox, "Debts"},
+    {Kind::Estate, WillsBox, "Wills"},
+    {Kind::Estate, NetEstateBox, "Net estate"},
+};
+
+// Columns of the grid: caption, picture and box of the left heirs, a gap, and the same on the right.
+constexpr int rightColumn = 4;
+constexpr int gapColumn = 3;
+constexpr int gapWidth = 14;
+constexpr int boxWidth = 40;
+// A picture reaches over the end of its caption's column, where only short captions meet long pictures.
+constexpr QSize pictureSize{80, 20};
+constexpr int pictureColumnWidth = 66;
+
+constexpr const char* inUrdu = "%1, in Urdu";
+constexpr const char* inArabic = "%1, in Arabic";
+constexpr const char* boxTip = "%1\nDouble-click or F2: 0 or 1";
+constexpr const char* captionTip = "%1\nDouble-click or Enter: compute the share";
+
+/// The number of a box among those that have a caption picture of their own.
+int PictureNumber(int box) {
+  return static_cast<int>(std::ranges::find(HeirBoxes, box) - HeirBoxes.begin()) - 1;
+}
+
+QLabel* Title(const char* words, QWidget* parent) {
+  auto* title = new QLabel(QString::fromUtf8(words), parent);
+  QFont bold = title->font();
+  bold.setBold(true);
+  title->setFont(bold);
+  return title;
+}
+
+}  // namespace
+
+HeirsPanel::HeirsPanel(CaseStudy& form, Binder& binder, QWidget* parent)
+    : QGroupBox(parent), form_(form), binder_(binder), grid_(new QGridLayout(this)) {
+  setObjectName(QStringLiteral("Frame1"));
+  setAccessibleName(tr("Heirs and estate of the deceased"));
+  binder.Box(form.Frame1, this);
+  grid_->setContentsMargins(8, 2, 8, 4);
+  grid_->setHorizontalSpacing(4);
+  grid_->setVerticalSpacing(1);
+  grid_->setColumnMinimumWidth(gapColumn, gapWidth);
+  for (const int column : {0, rightColumn}) {
+    grid_->setColumnStretch(column, 1);
+    grid_->setColumnMinimumWidth(column + 1, pictureColumnWidth);
+  }
+
+  int column = 0;
+  for (const std::span<const Row> rows : {std::span<const Row>(leftRows), std::span<const Row>(rightRows)}) {
+    int line = 0;
+    for (const Row& row : rows) {
+      const QString words = QString::fromUtf8(row.Words);
+      switch (row.What) {
+        case Kind::Title:
+          grid_->addWidget(Title(row.Words, this), line, column, 1, 3, Qt::AlignBottom);
+          break;
+        case Kind::Spouse:
+          AddSpouse(line);
+          break;
+        case Kind::Heir:
+          AddHeir(line, column, row.Box, words);
+          break;
+        case Kind::Estate:
+          AddEstate(line, row.Box, words);
+          break;
+        case Kind::Blank:
+          AddBlankCaption(line);
+          break;
+      }
+      grid_->setRowStretch(line++, 1);
+    }
+    column = rightColumn;
+  }
+}
+
+CaseBox* HeirsPanel::AddBox(int box, const QString& spoken) {
+  auto* widget = new CaseBox(Indexed("Text1", box), this);
+  widget->setAccessibleName(spoken);
+  widget->SetTip(tr(boxTip).arg(spoken));
+  widget->setAlignment(Qt::AlignRight);
+  widget->Toggle = [this, box] { form_.Text1_DblClick(box); };
+  binder_.Box(form_.Text1(box), widget);
+  if (box == NetEstateBox) return widget;  // the program writes it
+  Binder::Follow(form_.Text1(box).Text, [this, box, widget] {
+    widget->Mark(ToQt(Misreading(form_.Text1(box).Text.Get(), box != GrossEstateBox)));
+  });
+  return widget;
+}
+
+CaptionLabel* HeirsPanel::AddCaption(int box, const QString& spoken) {
+  auto* caption = new CaptionLabel(Indexed("Label1", box), this);
+  binder_.Caption(form_.Label1(box), caption);
+  caption->ActOn(Gesture::DoubleClick, tr("Compute the share"), [this, box] { form_.Label1_DblClick(box); });
+  caption->setAccessibleName(spoken);
+  caption->setToolTip(tr(captionTip).arg(spoken));
+  return caption;
+}
+
+// The pictures stand beside the caption, which stays readable in every view, and act as it does.
+void HeirsPanel::AddPicture(int row, int column, int box, const QString& spoken, const QString& name,
+                            const QString& file, Picture& control) {
+  auto* picture = new PictureLabel(name, QStringLiteral("captions/") + file, Ink::Text, this);
+  picture->setFixedSize(pictureSize);
+  picture->setAlignment(Qt::AlignRight | Qt::AlignVCenter);
+  picture->setAccessibleName(spoken);
+  picture->ActOn(Gesture::DoubleClick, tr("Compute the share"), [this, box] { form_.Label1_DblClick(box); });
+  picture->setFocusPolicy(Qt::NoFocus);
+  picture->setAttribute(Qt::WA_TransparentForMouseEvents, !picture->HasPicture());
+  binder_.Visible(control.Visible, picture);
+  grid_->addWidget(picture, row, column, 1, 2, Qt::AlignRight | Qt::AlignVCenter);
+}
+
+void HeirsPanel::AddHeir(int row, int column, int box, const QString& spoken) {
+  const int number = PictureNumber(box);
+  CaseBox* input = AddBox(box, spoken);
+  input->setFixedWidth(boxWidth);
+  input->Explain = [this, box] { form_.Label1_DblClick(box); };
+  CaptionLabel* caption = AddCaption(box, spoken);
+  caption->setBuddy(input);
+  grid_->addWidget(caption, row, column);
+  AddPicture(row, column, box, tr(inUrdu).arg(spoken), QStringLiteral("Image%1").arg(number + 9),
+             QStringLiteral("urdu-%1").arg(box), form_.Image(number + 9));
+  AddPicture(row, column, box, tr(inArabic).arg(spoken), Indexed("Image41", number + 2),
+             QStringLiteral("arabic-%1").arg(box), form_.Image41(number + 2));
+  grid_->addWidget(input, row, column + 2, Qt::AlignVCenter);
+}
+
+// Wives or husband, as the gender of the deceased has it.
+void HeirsPanel::AddSpouse(int row) {
+  CaseBox* input = AddBox(1, {});
+  input->setFixedWidth(boxWidth);
+  input->Explain = [this] { form_.Label1_DblClick(1); };
+  CaptionLabel* caption = AddCaption(1, {});
+  caption->setBuddy(input);
+  Binder::Follow(form_.Label1(1).Caption, [this, input, caption] {
+    const QString words = ToQt(form_.Label1(1).Caption.Get());
+    input->setAccessibleName(words);
+    input->SetTip(tr(boxTip).arg(words));
+    caption->setAccessibleName(words);
+    caption->setToolTip(tr(captionTip).arg(words));
+  });
+  grid_->addWidget(caption, row, 0);
+  const QString spouses[] = {tr("Wives"), tr("Husband")};
+  const QString files[] = {QStringLiteral("wives"), QStringLiteral("husband")};
+  for (const int i : {0, 1}) {
+    AddPicture(row, 0, 1, tr(inUrdu).arg(spouses[i]), Indexed("Image30", i),
+               QStringLiteral("urdu-") + files[i], form_.Image30(i));
+  }
+  for (const int i : {0, 1}) {
+    AddPicture(row, 0, 1, tr(inArabic).arg(spouses[i]), Indexed("Image41", i),
+               QStringLiteral("arabic-") + files[i], form_.Image41(i));
+  }
+  grid_->addWidget(input, row, 2, Qt::AlignVCenter);
+}
+
+void HeirsPanel::AddEstate(int row, int box, const QString& spoken) {
+  CaseBox* input = AddBox(box, spoken);
+  input->setReadOnly(box == NetEstateBox);
+  auto* caption = new CaptionLabel(Indexed("Label1", box), this);
+  caption->setAccessibleName(spoken);
+  caption->setBuddy(input);
+  binder_.Caption(form_.Label1(box), caption);
+  grid_->addWidget(caption, row, rightColumn);
+  grid_->addWidget(input, row, rightColumn + 1, 1, 2, Qt::AlignVCenter);
+}
+
+// A caption without words or box: it loads the case and computes nothing. Its name shows when Tab comes to
+// it.
+void HeirsPanel::AddBlankCaption(int row) {
+  CaptionLabel* caption = AddCaption(12, tr("Load the case only"));
+  caption->setToolTip({});
+  grid_->addWidget(caption, row, 0, 1, 3);
+}
+
+}  // namespace qismora

@@ -1,0 +1,17 @@
+#pragma once
+
+#include <QWidget>
+
+#include "screens/CaseStudy.h"
+#include "windows/widgets/Binder.h"
+
+namespace qismora {
+
+/// The commands, and under them heading, amount and text of the answer. Frame5 lies over amount and text
+/// whenever there is no answer to read.
+class ResultPanel : public QWidget {
+ public:
+  ResultPanel(CaseStudy& form, Binder& binder, QWidget* parent);
+};
+
+}  // namespace qismora

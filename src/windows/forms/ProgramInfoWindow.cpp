@@ -1,0 +1,72 @@
+#include "windows/forms/ProgramInfoWindow.h"
+
+#include <QBoxLayout>
+#include <QDialogButtonBox>
+#include <QFormLayout>
+#include <QLabel>
+#include <QPushButton>
+
+#include "windows/forms/FormWindow.h"
+#include "windows/platform/Utf8.h"
+#include "windows/style/Pictures.h"
+
+namespace qismora {
+
+namespace {
+
+constexpr QSize iconSize{96, 96};
+constexpr int textWidth = 340;
+constexpr int gap = 12;
+
+void AddRow(QFormLayout* rows, const QString& heading, const QString& text) {
+  auto* label = new QLabel(text, rows->parentWidget());
+  label->setObjectName(heading);
+  label->setAccessibleName(heading + QStringLiteral(": ") + text);
+  label->setTextFormat(Qt::PlainText);
+  label->setWordWrap(true);
+  label->setMinimumWidth(textWidth);
+  label->setTextInteractionFlags(Qt::TextSelectableByMouse);
+  auto* caption = new QLabel(heading, rows->parentWidget());
+  caption->setFont(HeadingFont(caption->font(), QFontInfo(caption->font()).pixelSize()));
+  caption->setAlignment(Qt::AlignTop);
+  caption->setSizePolicy(QSizePolicy::Preferred, QSizePolicy::Expanding);
+  rows->addRow(caption, label);
+}
+
+}  // namespace
+
+ProgramInfoWindow::ProgramInfoWindow(const ProgramFacts& facts, MemoryMeter& memory, QWidget* parent)
+    : QDialog(parent), form_(facts, memory) {
+  setObjectName(QStringLiteral("prginfo"));
+  setAccessibleName(tr("About this program"));
+  setWindowTitle(tr("About Qismora"));
+  setAttribute(Qt::WA_DeleteOnClose);
+  auto* icon = new PictureLabel(QStringLiteral("Icon"), QStringLiteral("icon"), Ink::Own, this);
+  icon->setFixedSize(iconSize);
+  icon->setAccessibleName(tr("Icon of the program"));
+
+  auto* table = new QWidget(this);
+  auto* rows = new QFormLayout(table);
+  rows->setContentsMargins(0, 0, 0, 0);
+  rows->setVerticalSpacing(gap / 2);
+  rows->setHorizontalSpacing(gap);
+  for (const InfoRow& row : form_.Rows) AddRow(rows, ToQt(row.Heading), ToQt(row.Text));
+  AddRow(rows, tr("Memory of the machine"), ToQt(form_.TotalMemory.Get()));
+  AddRow(rows, tr("Free memory"), ToQt(form_.FreeMemory.Get()));
+  AddRow(rows, tr("Used by this program"), ToQt(form_.UsedMemory.Get()));
+
+  auto* buttons = new QDialogButtonBox(QDialogButtonBox::Close, this);
+  buttons->button(QDialogButtonBox::Close)->setAccessibleName(tr("Close"));
+  connect(buttons, &QDialogButtonBox::rejected, this, &QWidget::close);
+  auto* middle = new QHBoxLayout;
+  middle->setSpacing(2 * gap);
+  middle->addWidget(icon, 0, Qt::AlignTop);
+  middle->addWidget(table, 1);
+  auto* all = new QVBoxLayout(this);
+  all->setSpacing(gap);
+  all->addLayout(middle);
+  all->addWidget(buttons);
+  all->setSizeConstraint(QLayout::SetFixedSize);
+}
+
+}  // namespace qismora

@@ -1,0 +1,113 @@
+#include "windows/forms/ProgramWindows.h"
+
+#include <QGuiApplication>
+#include <QWindow>
+
+#include "base/Text.h"
+#include "windows/platform/Ports.h"
+#include "windows/platform/SessionEnd.h"
+#include "windows/platform/Utf8.h"
+
+namespace qismora {
+
+namespace {
+
+constexpr QPoint besideTheMenu{40, 60};
+
+ProgramFacts Facts() {
+  const std::string qt = FromQt(QString::fromLatin1(qVersion()));
+  ProgramFacts facts = {QISMORA_VERSION, {Join("Qt Widgets ", qt), Join("Qt SVG ", qt)}};
+#ifdef QISMORA_VIDEO
+  facts.Libraries.push_back(Join("Qt Multimedia ", qt, " for the films"));
+#endif
+  facts.Libraries.emplace_back("the C++ standard library");
+  return facts;
+}
+
+// A window that comes back stands where it stood.
+void BringUp(QWidget* window) {
+  if (QWindow* shown = window->windowHandle(); shown != nullptr && !shown->isVisible()) {
+    shown->setFramePosition(shown->framePosition());
+  }
+  window->setWindowState(window->windowState() & ~Qt::WindowMinimized);
+  window->show();
+  window->raise();
+  window->activateWindow();
+}
+
+}  // namespace
+
+ProgramWindows::ProgramWindows(ShellOutside& outside, QtVideoPlayer& player)
+    : outside_(outside), menu_(record_, shell_, outside, player) {
+  InhMain& form = menu_.Form();
+  form.ShowQurLaws = [this] { ShowQurLaws(); };
+  form.FocusText5OfQurLaws = [this] { laws_->Form().Text5.SetFocus(); };
+  form.ShowCaseStudy = [this] { ShowCaseStudy(); };
+  form.ShowZummy = [this] { ShowZummy(); };
+  form.ShowSession = [this] { ShowSession(); };
+  form.ShowCatalogue = [this] { ShowCatalogue(&menu_); };
+  QGuiApplication::setQuitOnLastWindowClosed(false);  // only the exit routine ends the program
+  WhenSessionEnds(&menu_, [&form] { form.Exitz_Click(); });
+}
+
+ProgramWindows::~ProgramWindows() {
+  delete catalogue_;
+  delete laws_;
+  delete study_;
+}
+
+void ProgramWindows::ShowMainMenu() { BringUp(&menu_); }
+
+// While a page is open, the menu loads the form with another one.
+void ProgramWindows::ShowQurLaws() {
+  if (laws_ == nullptr) {
+    laws_ = new QurLawsWindow(shell_, outside_.Boxes);
+    laws_->Form().ShowMainMenu = [this] { ShowMainMenu(); };
+    laws_->move(menu_.pos());
+  } else {
+    laws_->Form().Form_Load();
+  }
+  BringUp(laws_);
+}
+
+void ProgramWindows::ShowCaseStudy() {
+  if (study_ == nullptr) {
+    study_ = new CaseStudyWindow(record_, outside_, static_cast<int>(shell_.SavedLanguage.Value()));
+    CaseStudy& form = study_->Form();
+    form.ShowMainMenu = [this] { ShowMainMenu(); };
+    form.ShowCatalogue = [this] { ShowCatalogue(study_); };
+    form.HideCatalogue = [this] { HideCatalogue(); };
+  }
+  BringUp(study_);
+}
+
+void ProgramWindows::ShowZummy() {
+  if (zummy_ == nullptr) {
+    zummy_ = std::make_unique<ZummyWindow>(record_, shell_, outside_);
+    zummy_->Form().ShowMainMenu = [this] { ShowMainMenu(); };
+  }
+  zummy_->move(menu_.pos());
+  BringUp(zummy_.get());
+}
+
+void ProgramWindows::ShowSession() {
+  if (session_ == nullptr) {
+    session_ = std::make_unique<SessionWindow>(outside_);
+    session_->move(menu_.pos() + besideTheMenu);
+  }
+  BringUp(session_.get());
+  const BoxOwner owner(session_.get());
+  session_->Form().Open();
+}
+
+void ProgramWindows::ShowCatalogue(QWidget* from) {
+  delete catalogue_;
+  catalogue_ = new ProgramInfoWindow(Facts(), outside_.clsMemory, from);
+  BringUp(catalogue_);
+}
+
+void ProgramWindows::HideCatalogue() {
+  if (catalogue_ != nullptr) catalogue_->close();
+}
+
+}  // namespace qismora

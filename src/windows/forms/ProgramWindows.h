@@ -1,0 +1,55 @@
+#pragma once
+
+#include <QPointer>
+#include <memory>
+
+#include "screens/ProgramInfo.h"
+#include "windows/casestudy/CaseStudyWindow.h"
+#include "windows/forms/InhMainWindow.h"
+#include "windows/forms/ProgramInfoWindow.h"
+#include "windows/forms/QurLawsWindow.h"
+#include "windows/forms/SessionWindow.h"
+#include "windows/forms/ZummyWindow.h"
+
+namespace qismora {
+
+/// All windows of the program and the ways between them. The main menu lives for the whole run; every other
+/// window is made when it is first wanted.
+class ProgramWindows {
+ public:
+  ProgramWindows(ShellOutside& outside, QtVideoPlayer& player);
+  ~ProgramWindows();
+  ProgramWindows(const ProgramWindows&) = delete;
+  ProgramWindows& operator=(const ProgramWindows&) = delete;
+
+  void ShowMainMenu();
+
+  InhMainWindow& MainMenu() { return menu_; }
+  /// The windows that stand at the moment; none that is closed.
+  CaseStudyWindow* Study() const { return study_; }
+  QurLawsWindow* Laws() const { return laws_; }
+  ZummyWindow* Resources() const { return zummy_.get(); }
+  SessionWindow* Log() const { return session_.get(); }
+  ProgramInfoWindow* Catalogue() const { return catalogue_; }
+  CaseRecord& Record() { return record_; }
+
+ private:
+  void ShowQurLaws();
+  void ShowCaseStudy();
+  void ShowZummy();
+  void ShowSession();
+  void ShowCatalogue(QWidget* from);
+  void HideCatalogue();
+
+  ShellOutside& outside_;
+  CaseRecord record_;
+  ShellRecord shell_;
+  InhMainWindow menu_;
+  QPointer<CaseStudyWindow> study_;
+  QPointer<QurLawsWindow> laws_;
+  std::unique_ptr<ZummyWindow> zummy_;
+  std::unique_ptr<SessionWindow> session_;
+  QPointer<ProgramInfoWindow> catalogue_;
+};
+
+}  // namespace qismora

@@ -1,0 +1,80 @@
+#include "windows/forms/ZummyWindow.h"
+
+#include <QAction>
+#include <QBoxLayout>
+#include <QCloseEvent>
+#include <QGroupBox>
+#include <QLabel>
+#include <QMenuBar>
+#include <QPushButton>
+
+#include "shell/Documents.h"
+#include "windows/platform/Utf8.h"
+#include "windows/widgets/Keyboard.h"
+
+namespace qismora {
+
+namespace {
+
+constexpr int gap = 12;
+constexpr QSize leastButton{170, 34};
+
+}  // namespace
+
+ZummyWindow::ZummyWindow(CaseRecord& record, ShellRecord& shell, ShellOutside& outside)
+    : form_(record, shell, outside) {
+  setObjectName(QStringLiteral("Zummy"));
+  setAccessibleName(tr("Documents"));
+  setWindowTitle(ToQt(ZummyTitle));
+  form_.Hide = [this] { hide(); };
+  QAction* back = menuBar()->addAction(tr("&Back"));
+  back->setObjectName(QStringLiteral("Back"));
+  back->setShortcut(Qt::Key_Escape);
+  connect(back, &QAction::triggered, this, [this] { form_.Back_Click(); });
+  auto* ground = new QWidget(this);
+  auto* columns = new QHBoxLayout(ground);
+  columns->setSpacing(gap);
+  columns->addWidget(Buttons());
+  columns->addWidget(Holders(), 1);
+  setCentralWidget(ground);
+  OpenToKeyboard(this);
+}
+
+QWidget* ZummyWindow::Buttons() {
+  auto* place = new QWidget(this);
+  auto* rows = new QVBoxLayout(place);
+  rows->setContentsMargins(0, 0, 0, 0);
+  for (const ZummyButton& row : ZummyButtons) {
+    auto* button = new QPushButton(ToQt(row.Caption), place);
+    button->setObjectName(QString::fromLatin1(row.Name));
+    button->setAccessibleName(button->text());
+    button->setMinimumSize(leastButton);
+    button->setAutoDefault(true);  // Return presses it, as Space does
+    connect(button, &QPushButton::clicked, this, [this, click = row.Click] { (form_.*click)(); });
+    rows->addWidget(button);
+  }
+  return place;
+}
+
+QWidget* ZummyWindow::Holders() {
+  auto* place = new QGroupBox(tr("Documents"), this);
+  place->setAccessibleName(tr("Documents"));
+  auto* rows = new QVBoxLayout(place);
+  for (const Document& document : Documents) {
+    auto* holder = new QLabel(ToQt(document.FileName), place);
+    holder->setObjectName(QStringLiteral("OLE%1").arg(document.Number));
+    holder->setAccessibleName(ToQt(document.Title));
+    holder->setTextFormat(Qt::PlainText);
+    holder->setFrameStyle(int(QFrame::StyledPanel) | int(QFrame::Plain));
+    holder->setMargin(gap / 2);
+    rows->addWidget(holder);
+  }
+  return place;
+}
+
+void ZummyWindow::closeEvent(QCloseEvent* event) {
+  form_.Form_QueryUnload();
+  event->accept();
+}
+
+}  // namespace qismora

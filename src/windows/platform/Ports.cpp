@@ -1,0 +1,213 @@
+#include "windows/platform/Ports.h"
+
+#include <QApplication>
+#include <QDateTime>
+#include <QDir>
+#include <QFileDialog>
+#include <QFileInfo>
+#include <QLabel>
+#include <QMessageBox>
+#include <QPointer>
+#include <QSettings>
+#include <QStandardPaths>
+#include <algorithm>
+
+#ifdef Q_OS_UNIX
+#include <fcntl.h>
+#include <unistd.h>
+#endif
+
+#include "windows/platform/Utf8.h"
+#include "windows/style/PointerShape.h"
+
+namespace qismora {
+
+namespace {
+
+struct ButtonRow {
+  QMessageBox::StandardButton Button;
+  Answer Meaning;
+};
+
+constexpr ButtonRow answers[] = {
+    {QMessageBox::Ok, Answer::Ok},
+    {QMessageBox::Yes, Answer::Yes},
+    {QMessageBox::No, Answer::No},
+    {QMessageBox::Cancel, Answer::Cancel},
+};
+
+QMessageBox::StandardButtons Offered(BoxButtons buttons) {
+  switch (buttons) {
+    case BoxButtons::YesNo:
+      return QMessageBox::Yes | QMessageBox::No;
+    case BoxButtons::YesNoCancel:
+      return QMessageBox::Yes | QMessageBox::No | QMessageBox::Cancel;
+    default:
+      return QMessageBox::Ok;
+  }
+}
+
+QMessageBox::Icon IconOf(BoxStyle style) {
+  switch (style) {
+    case BoxStyle::Information:
+      return QMessageBox::Information;
+    case BoxStyle::Warning:
+      return QMessageBox::Warning;
+    case BoxStyle::Critical:
+      return QMessageBox::Critical;
+    default:
+      return QMessageBox::NoIcon;
+  }
+}
+
+QWidget* chosenOwner = nullptr;
+
+// The window that a box belongs to: the one that the user was in last, also while a box before has just
+// closed and no window is active yet. Without it the box would come up behind a window that stays on top.
+QWidget* Owner() {
+  static QPointer<QWidget> last;
+  if (chosenOwner != nullptr) return chosenOwner;
+  QWidget* active = QApplication::activeWindow();
+  if (active != nullptr && active->windowType() == Qt::Window) last = active;
+  if (last != nullptr && last->isVisible()) return last;
+  const QWidgetList windows = QApplication::topLevelWidgets();
+  const auto shown = std::ranges::find_if(windows, [](const QWidget* window) {
+    return window->isVisible() && window->windowType() == Qt::Window;
+  });
+  return shown == windows.end() ? active : *shown;
+}
+
+// A window that stays on top would cover a box of any other window, and the program would seem to hang.
+void KeepInSight(QDialog& dialog) {
+  for (const QWidget* window : QApplication::topLevelWidgets()) {
+    const bool onTop = (window->windowFlags() & Qt::WindowStaysOnTopHint) != 0;
+    if (onTop && window->isVisible()) return dialog.setWindowFlag(Qt::WindowStaysOnTopHint);
+  }
+}
+
+constexpr int longestLine = 120;
+constexpr int leastWidth = 280;
+constexpr int slack = 8;
+
+// The lines of a box are set by the program and are not broken again, unless a name in them is very long. The
+// box is wide enough for its title.
+void KeepLines(QMessageBox& box) {
+  auto* words = box.findChild<QLabel*>(QStringLiteral("qt_msgbox_label"));
+  if (words == nullptr) return;
+  int width = leastWidth;
+  for (const QString& line : words->text().split(QLatin1Char('\n'))) {
+    if (line.size() <= longestLine)
+      width = std::max(width, words->fontMetrics().horizontalAdvance(line) + slack);
+  }
+  words->setMinimumWidth(width);
+}
+
+bool CanWrite(const QString& folder) {
+  const QFileInfo info(folder);
+  return info.isDir() && info.isWritable();
+}
+
+QSettings Open(const std::string& application) {
+  return {QSettings::NativeFormat, QSettings::UserScope, QStringLiteral("Qismora"), ToQt(application)};
+}
+
+QString Path(const std::string& section, const std::string& key) {
+  return ToQt(section) + QLatin1Char('/') + ToQt(key);
+}
+
+constexpr qint64 longestEmpty = 1000;
+
+// A program that is ended hard in the moment in which it takes the toolkit's lock leaves the lock without the
+// name of its owner. The toolkit would wait half a minute for nobody.
+void DropEmptyLock(const QSettings& store) {
+  const QFileInfo lock(store.fileName() + QStringLiteral(".lock"));
+  if (!lock.exists() || lock.size() > 0) return;
+  if (lock.lastModified().msecsTo(QDateTime::currentDateTime()) > longestEmpty)
+    QFile::remove(lock.filePath());
+}
+
+}  // namespace
+
+DateTime SystemClock::Now() {
+  const QDateTime now = QDateTime::currentDateTime();
+  const QDate day = now.date();
+  const QTime time = now.time();
+  return {day.year(), day.month(), day.day(), time.hour(), time.minute(), time.second()};
+}
+
+BoxOwner::BoxOwner(QWidget* window) { chosenOwner = window; }
+BoxOwner::~BoxOwner() { chosenOwner = nullptr; }
+
+Answer QtMessageBoxes::Show(BoxStyle style, BoxButtons buttons, const std::string& text) {
+  QMessageBox box(IconOf(style), QString::fromUtf8(ApplicationTitle), ToQtLines(text), Offered(buttons),
+                  Owner());
+  box.setTextFormat(Qt::PlainText);
+  KeepLines(box);
+  KeepInSight(box);
+  // A key pressed in haste gives nothing away.
+  if (buttons != BoxButtons::Ok) box.setDefaultButton(QMessageBox::No);
+  const PointerShape usersTurn(Qt::ArrowCursor);
+  const int pressed = box.exec();
+  for (const ButtonRow& row : answers) {
+    if (row.Button == pressed) return row.Meaning;
+  }
+  return Answer::Cancel;
+}
+
+std::optional<std::string> QtSaveDialog::AskPath(const std::string& suggestedName,
+                                                 const std::string& filter) {
+  const QString program = ToQt(places_.Application());
+  const QString words = ToQt(filter.substr(0, filter.find('|')));
+  QFileDialog dialog(Owner(), QString(), CanWrite(program) ? program : ToQt(places_.Reports()), words);
+  dialog.setObjectName(QStringLiteral("CommonDialog1"));
+  KeepInSight(dialog);
+  dialog.setAcceptMode(QFileDialog::AcceptSave);
+  dialog.setOption(QFileDialog::DontConfirmOverwrite);  // the command itself asks about replacing
+  dialog.setDefaultSuffix(QStringLiteral("txt"));
+  dialog.selectFile(ToQt(suggestedName));
+  const PointerShape usersTurn(Qt::ArrowCursor);
+  if (dialog.exec() != QDialog::Accepted || dialog.selectedFiles().isEmpty()) return std::nullopt;
+  return FromQt(dialog.selectedFiles().constFirst());
+}
+
+std::string QtSettings::Read(const std::string& application, const std::string& section,
+                             const std::string& key) {
+  QSettings store = Open(application);
+  store.setFallbacksEnabled(false);
+  return FromQt(store.value(Path(section, key)).toString());
+}
+
+// What stands there already is not written again: opening a screen would otherwise touch the disk.
+void QtSettings::Write(const std::string& application, const std::string& section, const std::string& key,
+                       const std::string& value) {
+  QSettings store = Open(application);
+  store.setFallbacksEnabled(false);
+  const QString path = Path(section, key);
+  if (store.contains(path) && store.value(path).toString() == ToQt(value)) return;
+  DropEmptyLock(store);
+  store.setValue(path, ToQt(value));
+}
+
+std::string SystemFolders::Reports() {
+  const QString current = QDir::currentPath();
+  if (CanWrite(current)) return FromQt(current);
+  const QString documents = QStandardPaths::writableLocation(QStandardPaths::DocumentsLocation);
+  QDir().mkpath(documents);
+  return FromQt(documents);
+}
+
+std::string SystemFolders::Application() { return FromQt(QCoreApplication::applicationDirPath()); }
+
+// Elsewhere the system writes through in its own time.
+void SystemFolders::WriteThrough(const std::string& path) {
+#ifdef Q_OS_UNIX
+  const int file = open(path.c_str(), O_RDONLY | O_CLOEXEC);
+  if (file < 0) return;
+  fsync(file);
+  close(file);
+#else
+  Q_UNUSED(path)
+#endif
+}
+
+}  // namespace qismora

@@ -1,0 +1,57 @@
+#include "windows/platform/QtVideoPlayer.h"
+
+#include <QEvent>
+#include <QLibrary>
+#include <QTimer>
+#include <utility>
+
+#include "windows/platform/Utf8.h"
+
+namespace qismora {
+
+void QtVideoPlayer::SetFile(const std::string& path) { file_ = ToQt(path); }
+
+void QtVideoPlayer::Play() {
+  wanted_ = true;
+  if (painted_) Start();
+}
+
+void QtVideoPlayer::PlayIn(QWidget* panel) {
+  panel_ = panel;
+  panel->installEventFilter(this);
+}
+
+// The panel is the last of the window to be waited for; what is to be played comes behind its first painting.
+bool QtVideoPlayer::eventFilter(QObject* watched, QEvent* event) {
+  if (event->type() == QEvent::Paint && watched == panel_ && !std::exchange(painted_, true)) {
+    panel_->removeEventFilter(this);
+    QTimer::singleShot(0, this, [this] { Start(); });
+  }
+  return false;
+}
+
+void QtVideoPlayer::Start() {
+  if (!wanted_ || panel_ == nullptr) return;
+  Load();
+  if (screen_ != nullptr) screen_->Play(file_);
+}
+
+void QtVideoPlayer::Load() {
+  if (std::exchange(tried_, true)) return;
+  for (const QString& folder : folders_) {
+    QLibrary plugin(folder + QLatin1Char('/') + QLatin1String(VideoPluginName));
+    plugin.setLoadHints(QLibrary::PreventUnloadHint);
+    const auto make = reinterpret_cast<MakeVideoScreen>(plugin.resolve(MakeVideoScreenName));
+    if (make == nullptr) continue;
+    screen_ = make(panel_);
+    if (screen_ == nullptr) return;
+    screen_->EndOfPlay = [this] {
+      if (EndOfPlay) EndOfPlay();
+    };
+    connect(panel_, &QObject::destroyed, this, [this] { screen_ = nullptr; });
+    panel_->setFocusPolicy(Qt::StrongFocus);
+    return;
+  }
+}
+
+}  // namespace qismora

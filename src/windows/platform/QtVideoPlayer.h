@@ -1,0 +1,41 @@
+#pragma once
+
+#include <QObject>
+#include <QPointer>
+#include <QStringList>
+#include <QWidget>
+
+#include "base/Outside.h"
+#include "windows/video/VideoScreen.h"
+
+namespace qismora {
+
+/// Plays in a panel by means of the video plugin, which is loaded when there is something to play and the
+/// panel has been painted. Without the plugin the panel stays blank.
+class QtVideoPlayer : public QObject, public VideoPlayer {
+ public:
+  /// The folders that the plugin may lie in.
+  explicit QtVideoPlayer(QStringList folders) : folders_(std::move(folders)) {}
+
+  void SetFile(const std::string& path) override;
+  void Play() override;
+
+  void PlayIn(QWidget* panel);
+  bool IsLoaded() const { return screen_ != nullptr; }
+
+  bool eventFilter(QObject* watched, QEvent* event) override;
+
+ private:
+  void Start();
+  void Load();
+
+  QStringList folders_;
+  QPointer<QWidget> panel_;
+  QString file_;
+  VideoScreen* screen_ = nullptr;  // belongs to the panel
+  bool wanted_ = false;
+  bool painted_ = false;
+  bool tried_ = false;
+};
+
+}  // namespace qismora

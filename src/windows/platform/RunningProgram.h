@@ -1,0 +1,26 @@
+#pragma once
+
+#include "windows/forms/ProgramWindows.h"
+#include "windows/platform/ShellPorts.h"
+
+namespace qismora {
+
+/// The program as it runs: its windows over the real ports to the outside world.
+struct RunningProgram {
+  /// The folder of the program's binary.
+  explicit RunningProgram(const QString& binaries) : Places(binaries) {}
+
+  SystemClock Time;
+  QtMessageBoxes Boxes;
+  ProgramFolders Places;
+  QtSaveDialog Dialog{Places};
+  QtSettings Store;
+  QtDocumentViewer Viewer;
+  QtVideoPlayer Player{Places.Plugins()};
+  SystemMemory Memory;
+  QtProgram Running;
+  ShellOutside Outside{{Time, Boxes, Dialog, Store, Places}, Viewer, Player, Memory, Running};
+  ProgramWindows Windows{Outside, Player};
+};
+
+}  // namespace qismora
