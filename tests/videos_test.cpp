@@ -6,26 +6,26 @@
 #include <map>
 
 #include "Avi.h"
-#include "Films.h"
+#include "MenuVideos.h"
 
-namespace qismora::film {
+namespace qismora::video {
 namespace {
 
-/// The chunks of a film, as a player reads them.
+/// Reads the chunks of a video as a player does.
 class Reader {
  public:
   explicit Reader(QByteArray content) : content_(std::move(content)) { Walk(0, content_.size()); }
 
   quint32 Number(qsizetype at) const { return qFromLittleEndian<quint32>(content_.constData() + at); }
   QByteArray Code(qsizetype at) const { return content_.mid(at, 4); }
-  /// Where the one chunk of this name has its content.
+  /// The offset of the content of the only chunk with this code.
   qsizetype At(const char* code) const {
     EXPECT_EQ(places_.count(code), 1U) << code;
     const auto found = places_.find(code);
     return found == places_.end() ? 8 : found->second;
   }
   quint32 LengthAt(qsizetype content) const { return Number(content - 4); }
-  /// The frames that the index leads to.
+  /// The frames that the index points to.
   QList<QByteArray> Frames() const {
     QList<QByteArray> frames;
     const qsizetype index = At("idx1");
@@ -38,10 +38,9 @@ class Reader {
     }
     return frames;
   }
-  qsizetype FrameChunks() const { return static_cast<qsizetype>(places_.count("00dc")); }
 
  private:
-  // The place of a list is that of its type, from where the index counts.
+  // The offset of a list is that of its type, which the index is relative to.
   void Walk(qsizetype at, qsizetype end) {
     while (at < end) {
       ASSERT_LE(at + 8, end);
@@ -60,9 +59,9 @@ class Reader {
   std::multimap<std::string, qsizetype> places_;
 };
 
-QByteArray Built(const Film& film) {
-  QFile file(QStringLiteral(FILMS_FOLDER "/%1").arg(QLatin1String(film.FileName)));
-  EXPECT_TRUE(file.open(QIODevice::ReadOnly)) << film.FileName;
+QByteArray Built(const Video& video) {
+  QFile file(QStringLiteral(VIDEO_DIRECTORY "/%1").arg(QLatin1String(video.FileName)));
+  EXPECT_TRUE(file.open(QIODevice::ReadOnly)) << video.FileName;
   return file.readAll();
 }
 
@@ -70,7 +69,7 @@ QImage Decoded(const QByteArray& jpeg) {
   return QImage::fromData(jpeg, "JPG").convertToFormat(QImage::Format_RGB32);
 }
 
-/// How much the colours of two pictures differ, from 0 to 255.
+/// The mean difference of the colours of two pictures, from 0 to 255.
 double Difference(const QImage& one, const QImage& other) {
   double sum = 0;
   for (int y = 0; y < one.height(); ++y) {
@@ -83,64 +82,38 @@ double Difference(const QImage& one, const QImage& other) {
   return sum / (3.0 * one.width() * one.height());
 }
 
-TEST(Films, HaveTheLengthsThatTheProgramPlays) {
+TEST(MenuVideos, HaveTheLengthsThatTheProgramPlays) {
   const std::map<std::string, qsizetype> lengths{{"brindhaven.avi", 1069056}, {"brindhaven1.avi", 941056}};
-  for (const Film& film : films) EXPECT_EQ(Built(film).size(), lengths.at(film.FileName)) << film.FileName;
+  for (const Video& video : videos)
+    EXPECT_EQ(Built(video).size(), lengths.at(video.FileName)) << video.FileName;
 }
 
-TEST(Films, TellTheirFormAndTheirFramesToPlayers) {
-  for (const Film& film : films) {
-    const Reader reader(Built(film));
-    const auto width = static_cast<quint32>(frameSize.width());
-    const auto height = static_cast<quint32>(frameSize.height());
-    const auto count = static_cast<quint32>(film.Frames);
-    EXPECT_EQ(reader.At("AVI "), 8);
-    const qsizetype main = reader.At("avih");
-    EXPECT_EQ(reader.LengthAt(main), 56U);
-    EXPECT_EQ(reader.Number(main), 1000000U / framesPerSecond);
-    EXPECT_EQ(reader.Number(main + 16), count);
-    EXPECT_EQ(reader.Number(main + 32), width);
-    EXPECT_EQ(reader.Number(main + 36), height);
-    const qsizetype stream = reader.At("strh");
-    EXPECT_EQ(reader.LengthAt(stream), 56U);
-    EXPECT_EQ(reader.Code(stream) + reader.Code(stream + 4), "vidsMJPG");
-    EXPECT_EQ(reader.Number(stream + 24), reader.Number(stream + 20) * framesPerSecond);
-    EXPECT_EQ(reader.Number(stream + 32), count);
-    EXPECT_EQ(reader.Number(stream + 52), width + (height << 16));
-    const qsizetype format = reader.At("strf");
-    EXPECT_EQ(reader.LengthAt(format), 40U);
-    EXPECT_EQ(reader.Number(format + 4), width);
-    EXPECT_EQ(reader.Number(format + 8), height);
-    EXPECT_EQ(reader.Code(format + 16), "MJPG");
-    EXPECT_EQ(reader.FrameChunks(), film.Frames);
-    EXPECT_EQ(reader.Frames().size(), film.Frames);
-  }
-}
-
-// What a viewer would be startled by: a frame that is none, a jump from one frame to the next, a joint that
-// shows where the second film follows the first and then itself.
-TEST(Films, RunWithoutJumpsAndWithoutJoints) {
+// What a viewer would notice: a frame that is no picture, a jump from one frame to the next, a seam where the
+// second video follows the first and then itself.
+TEST(MenuVideos, RunWithoutJumpsAndSeams) {
   constexpr double jump = 15;
-  constexpr double joint = 1.5;
+  constexpr double seam = 1.5;
   QImage last;
-  for (const Film* film : {&films[0], &films[1], &films[1]}) {
-    double limit = joint;
-    for (const QByteArray& jpeg : Reader(Built(*film)).Frames()) {
+  for (const Video* video : {&videos[0], &videos[1], &videos[1]}) {
+    double limit = seam;
+    const QList<QByteArray> frames = Reader(Built(*video)).Frames();
+    ASSERT_EQ(frames.size(), video->Frames) << video->FileName;
+    for (const QByteArray& jpeg : frames) {
       const QImage image = Decoded(jpeg);
-      ASSERT_EQ(image.size(), frameSize) << film->FileName;
-      const double way = last.isNull() ? 0 : Difference(last, image);
-      ASSERT_LT(way, limit) << film->FileName;
+      ASSERT_EQ(image.size(), frameSize) << video->FileName;
+      const double difference = last.isNull() ? 0 : Difference(last, image);
+      ASSERT_LT(difference, limit) << video->FileName;
       limit = jump;
       last = image;
     }
   }
 }
 
-TEST(Films, AreTheSameBytesWheneverTheyAreMade) {
-  for (const Film& film : films) EXPECT_TRUE(FileOf(film) == Built(film)) << film.FileName;
+TEST(MenuVideos, AreReproducible) {
+  for (const Video& video : videos) EXPECT_TRUE(FileOf(video) == Built(video)) << video.FileName;
 }
 
-TEST(Avi, IsFilledToItsLengthOrRefused) {
+TEST(Avi, IsPaddedToItsLengthOrRefused) {
   const QList<QByteArray> frames{"odd", "even", ""};
   const QSize size(16, 16);
   constexpr qsizetype least = 320;
@@ -154,4 +127,4 @@ TEST(Avi, IsFilledToItsLengthOrRefused) {
 }
 
 }  // namespace
-}  // namespace qismora::film
+}  // namespace qismora::video

@@ -4,22 +4,22 @@
 #include <QIODevice>
 #include <algorithm>
 
-namespace qismora::film {
+namespace qismora::video {
 
 namespace {
 
-constexpr int chunkHead = 8;
+constexpr int chunkHeader = 8;
 constexpr quint32 hasIndex = 0x10;
 constexpr quint32 isKeyFrame = 0x10;
 constexpr quint32 defaultQuality = 0xffffffff;
 
-/// Puts fields into a chunk, in the order of bytes of the format.
+/// Appends fields to a chunk, little-endian.
 class Fields {
  public:
   Fields() : stream_(&bytes_, QIODevice::WriteOnly) { stream_.setByteOrder(QDataStream::LittleEndian); }
 
-  Fields& Code(const char* fourLetters) {
-    stream_.writeRawData(fourLetters, 4);
+  Fields& Code(const char* fourCharacterCode) {
+    stream_.writeRawData(fourCharacterCode, 4);
     return *this;
   }
   Fields& Long(qsizetype number) {
@@ -37,7 +37,7 @@ class Fields {
   QDataStream stream_;
 };
 
-/// A chunk begins at an even place; its stated length leaves the byte that sees to it out.
+/// A chunk begins at an even offset. Its length field does not count the padding byte.
 QByteArray Chunk(const char* code, const QByteArray& content) {
   QByteArray chunk = Fields().Code(code).Long(content.size()).Bytes() + content;
   if (content.size() % 2 != 0) chunk.append('\0');
@@ -87,10 +87,10 @@ QByteArray StreamHeader(const QList<QByteArray>& frames, QSize size, int framesP
 }
 
 QByteArray PictureFormat(QSize size) {
-  constexpr int headSize = 40;
+  constexpr int headerSize = 40;
   constexpr int bits = 24;
   return Fields()
-      .Long(headSize)
+      .Long(headerSize)
       .Long(size.width())
       .Long(size.height())
       .Short(1)
@@ -108,23 +108,23 @@ QByteArray PictureFormat(QSize size) {
 
 QByteArray Avi(const QList<QByteArray>& frames, QSize size, int framesPerSecond, qsizetype length) {
   qsizetype largest = 0;
-  QByteArray film;
+  QByteArray video;
   Fields index;
   for (const QByteArray& frame : frames) {
     largest = std::max(largest, frame.size());
-    // The index counts from the name of the list, not from its first frame.
-    index.Code("00dc").Long(isKeyFrame).Long(film.size() + 4).Long(frame.size());
-    film += Chunk("00dc", frame);
+    // Offsets in the index are relative to the type of the list, not to its first frame.
+    index.Code("00dc").Long(isKeyFrame).Long(video.size() + 4).Long(frame.size());
+    video += Chunk("00dc", frame);
   }
   const QByteArray stream = Chunk("strh", StreamHeader(frames, size, framesPerSecond, largest)) +
                             Chunk("strf", PictureFormat(size));
   const QByteArray header =
       Chunk("avih", MainHeader(frames, size, framesPerSecond, largest)) + List("strl", stream);
   const QByteArray content =
-      "AVI " + List("hdrl", header) + List("movi", film) + Chunk("idx1", index.Bytes());
-  const qsizetype rest = length - chunkHead - content.size();
-  if (rest < chunkHead || rest % 2 != 0) return {};
-  return Chunk("RIFF", content + Chunk("JUNK", QByteArray(rest - chunkHead, '\0')));
+      "AVI " + List("hdrl", header) + List("movi", video) + Chunk("idx1", index.Bytes());
+  const qsizetype rest = length - chunkHeader - content.size();
+  if (rest < chunkHeader || rest % 2 != 0) return {};
+  return Chunk("RIFF", content + Chunk("JUNK", QByteArray(rest - chunkHeader, '\0')));
 }
 
-}  // namespace qismora::film
+}  // namespace qismora::video

@@ -4,10 +4,10 @@
 #include <QList>
 #include <QSize>
 
-namespace qismora::film {
+namespace qismora::video {
 
-/// A motion-JPEG film in the file format that players on every platform know, filled up to exactly the given
-/// length with a chunk that they skip. Empty when the frames do not fit.
+/// Returns a motion-JPEG video in the AVI format, padded to exactly `length` bytes with a chunk that players
+/// skip. Empty when the frames do not fit.
 QByteArray Avi(const QList<QByteArray>& frames, QSize size, int framesPerSecond, qsizetype length);
 
-}  // namespace qismora::film
+}  // namespace qismora::video

@@ -4,7 +4,7 @@
 #include <algorithm>
 #include <cmath>
 
-namespace qismora::film {
+namespace qismora::video {
 
 namespace {
 
@@ -12,16 +12,16 @@ QPolygonF TileOf(int sides, double edge, double turn) {
   return Regular(sides, edge / 2 / std::sin(M_PI / sides), turn);
 }
 
-/// Where the line from p meets the line from q.
-QPointF Crossing(QPointF p, QPointF towardsP, QPointF q, QPointF towardsQ) {
-  const double determinant = towardsQ.x() * towardsP.y() - towardsP.x() * towardsQ.y();
-  const double way = ((q.y() - p.y()) * towardsQ.x() - (q.x() - p.x()) * towardsQ.y()) / determinant;
-  return p + way * towardsP;
+/// The intersection of two lines, each given by a point and a direction.
+QPointF Intersection(QPointF p, QPointF directionP, QPointF q, QPointF directionQ) {
+  const double determinant = directionQ.x() * directionP.y() - directionP.x() * directionQ.y();
+  const double distance = ((q.y() - p.y()) * directionQ.x() - (q.x() - p.x()) * directionQ.y()) / determinant;
+  return p + distance * directionP;
 }
 
 }  // namespace
 
-double Length(QPointF way) { return std::hypot(way.x(), way.y()); }
+double Length(QPointF vector) { return std::hypot(vector.x(), vector.y()); }
 
 QPointF Polar(double radius, double angle) {
   const double radians = qDegreesToRadians(angle);
@@ -43,16 +43,16 @@ QPolygonF EightStar(double radius, double turn) {
 
 QPolygonF ContactStar(const QPolygonF& tile, double lean) {
   const auto count = tile.size();
-  const auto middle = [&](qsizetype k) { return (tile[k % count] + tile[(k + 1) % count]) / 2; };
+  const auto midpoint = [&](qsizetype k) { return (tile[k % count] + tile[(k + 1) % count]) / 2; };
   const auto along = [&](qsizetype k) {
-    const QPointF way = tile[(k + 1) % count] - tile[k % count];
-    return qRadiansToDegrees(std::atan2(way.y(), way.x()));
+    const QPointF edge = tile[(k + 1) % count] - tile[k % count];
+    return qRadiansToDegrees(std::atan2(edge.y(), edge.x()));
   };
   QPolygonF corners;
   for (qsizetype k = 0; k < count; ++k) {
-    corners << middle(k)
-            << Crossing(middle(k), Polar(1, along(k) + lean), middle(k + 1),
-                        Polar(1, along(k + 1) + 180 - lean));
+    corners << midpoint(k)
+            << Intersection(midpoint(k), Polar(1, along(k) + lean), midpoint(k + 1),
+                            Polar(1, along(k + 1) + 180 - lean));
   }
   return corners;
 }
@@ -63,8 +63,8 @@ std::vector<Tile> OctagonsAndSquares(double edge, double reach) {
   const QPolygonF octagon = TileOf(8, edge, 22.5);
   const QPolygonF square = TileOf(4, edge, 0);
   std::vector<Tile> tiles;
-  const auto add = [&](QPointF middle, const QPolygonF& outline) {
-    if (Length(middle) < reach + edge) tiles.push_back({middle, outline});
+  const auto add = [&](QPointF centre, const QPolygonF& outline) {
+    if (Length(centre) < reach + edge) tiles.push_back({centre, outline});
   };
   for (int i = -count; i <= count; ++i) {
     for (int j = -count; j <= count; ++j) {
@@ -80,4 +80,4 @@ double Eased(double moment, double start, double end) {
   return x * x * x * (x * (6 * x - 15) + 10);
 }
 
-}  // namespace qismora::film
+}  // namespace qismora::video

@@ -10,7 +10,7 @@
 
 #include "Geometry.h"
 
-namespace qismora::film {
+namespace qismora::video {
 
 namespace {
 
@@ -28,31 +28,31 @@ constexpr double strap = 5.6;
 constexpr double gap = 1.7;
 constexpr double rosette = 15.5;
 constexpr double eye = 5.6;
-/// A block of JPEG: the line around the field lies within one, which keeps it cheap.
+/// One JPEG block: the line around the field lies within it, which saves bytes.
 constexpr double border = 8;
 constexpr double borderLine = 2;
 
 const QRectF frame(QPointF(), frameSize);
 
-/// How far a corner of the frame lies from the middle.
+/// The distance of a corner of the frame from its centre.
 const double reach = Length(frame.center());
 
 QPen Pen(QRgb colour, double width) {
   return {QColor(colour), width, Qt::SolidLine, Qt::FlatCap, Qt::MiterJoin};
 }
 
-/// How far a tile has opened: it begins when the wave from the middle comes to it.
+/// How far a tile has opened, from 0 to 1. It begins when the wave from the centre reaches it.
 double Opened(const Tile& tile, double unfolded) {
   constexpr double opening = 0.42;
-  const double start = std::min(1.0, Length(tile.Middle) / reach) * (1 - opening);
+  const double start = std::min(1.0, Length(tile.Centre) / reach) * (1 - opening);
   return Eased(unfolded, start, start + opening);
 }
 
-/// A bud has the form of its tile and folds into the star while it grows.
+/// A bud has the shape of its tile and folds into the star while it grows.
 QPolygonF StarIn(const Tile& tile, double opened, double lean) {
   const double bud = 180.0 / static_cast<double>(tile.Outline.size());
   const QPolygonF star = ContactStar(tile.Outline, bud + (lean - bud) * opened);
-  return QTransform::fromTranslate(tile.Middle.x(), tile.Middle.y()).scale(opened, opened).map(star);
+  return QTransform::fromTranslate(tile.Centre.x(), tile.Centre.y()).scale(opened, opened).map(star);
 }
 
 void DrawStar(QPainter& painter, const Tile& tile, double opened, double lean) {
@@ -61,8 +61,8 @@ void DrawStar(QPainter& painter, const Tile& tile, double opened, double lean) {
   painter.drawPolygon(StarIn(tile, opened, lean));
 }
 
-/// Of the two straps that cross at the middle of an edge, the left one goes over. The gap beside it opens
-/// from nothing when all stars have met.
+/// Where two straps cross at the midpoint of an edge, the left one passes over the other. The gap beside it
+/// opens when all stars have met.
 void Weave(QPainter& painter, const std::vector<Tile>& tiles, const Stance& stance) {
   const double both = strap + 2 * gap * Eased(stance.Unfolded, 0.88, 1);
   if (both <= strap) return;
@@ -70,36 +70,36 @@ void Weave(QPainter& painter, const std::vector<Tile>& tiles, const Stance& stan
   const double half = both / 2 * (1 / std::sin(angle) + std::abs(1 / std::tan(angle)));
   QPainterPath over;
   QPainterPath longer;
-  const auto line = [](QPainterPath& path, QPointF middle, QPointF arm) {
-    path.moveTo(middle - arm);
-    path.lineTo(middle + arm);
+  const auto line = [](QPainterPath& path, QPointF centre, QPointF arm) {
+    path.moveTo(centre - arm);
+    path.lineTo(centre + arm);
   };
   for (const Tile& tile : tiles) {
     const QPolygonF star = StarIn(tile, 1, stance.Lean);
     for (qsizetype k = 0; k < star.size(); k += 2) {
-      const QPointF way = (star[k + 1] - star[k]) / Length(star[k + 1] - star[k]);
-      line(over, star[k], half * way);
-      line(longer, star[k], (half + 1) * way);
+      const QPointF direction = (star[k + 1] - star[k]) / Length(star[k + 1] - star[k]);
+      line(over, star[k], half * direction);
+      line(longer, star[k], (half + 1) * direction);
     }
   }
   painter.strokePath(over, Pen(night, both));
   painter.strokePath(longer, Pen(sand, strap));
 }
 
-void DrawRosette(QPainter& painter, QPointF middle, double size, double turn) {
+void DrawRosette(QPainter& painter, QPointF centre, double size, double turn) {
   painter.setPen(Qt::NoPen);
   painter.setBrush(QColor(amber));
-  painter.drawPolygon(EightStar(rosette * size, turn).translated(middle));
+  painter.drawPolygon(EightStar(rosette * size, turn).translated(centre));
   painter.setBrush(QColor(night));
-  painter.drawPolygon(Regular(8, eye * size, turn + 22.5).translated(middle));
+  painter.drawPolygon(Regular(8, eye * size, turn + 22.5).translated(centre));
 }
 
-/// The edges of all tiles, which the stars grow into.
+/// Draws the edges of all tiles; they fade while the stars grow.
 void DrawPlan(QPainter& painter, const std::vector<Tile>& tiles, double unfolded) {
   painter.setOpacity(1 - Eased(unfolded, 0.5, 1));
   painter.setBrush(Qt::NoBrush);
   painter.setPen(Pen(deep, 1.5));
-  for (const Tile& tile : tiles) painter.drawPolygon(tile.Outline.translated(tile.Middle));
+  for (const Tile& tile : tiles) painter.drawPolygon(tile.Outline.translated(tile.Centre));
   painter.setOpacity(1);
 }
 
@@ -114,8 +114,8 @@ void DrawField(QPainter& painter, const Stance& stance) {
   for (const Tile& tile : tiles) {
     if (tile.Outline.size() == 4) continue;
     const double opened = Opened(tile, stance.Unfolded);
-    const double size = tile.Middle.isNull() ? 1 : opened;
-    DrawRosette(painter, tile.Middle, size, stance.RosetteTurn - 90 * (1 - opened));
+    const double size = tile.Centre.isNull() ? 1 : opened;
+    DrawRosette(painter, tile.Centre, size, stance.RosetteTurn - 90 * (1 - opened));
   }
 }
 
@@ -131,7 +131,7 @@ void DrawBorder(QPainter& painter) {
   painter.drawRect(field.adjusted(-half, -half, half, half));
 }
 
-/// The light falls on the middle. Dark sides are calm, and they spare the bytes that the middle needs.
+/// Darkens the field towards its sides, which draws the eye to the centre and saves bytes.
 void DrawShade(QPainter& painter) {
   constexpr int stops = 10;
   QRadialGradient shade(frame.center(), reach);
@@ -158,4 +158,4 @@ void Draw(QPainter& painter, const Stance& stance) {
   DrawShade(painter);
 }
 
-}  // namespace qismora::film
+}  // namespace qismora::video
