@@ -25,6 +25,7 @@ packages_to_measure=(
 # shellcheck disable=SC2034 # used by ./check
 packages_to_check=(
   "${packages_to_measure[@]}"
+  python3-pyqt6.qtsvg python3-fonttools libharfbuzz-bin # the tool that draws the caption pictures
   python3-pyatspi    # what a screen reader hears
   at-spi2-core       # what a screen reader hears
   dbus-daemon        # the bus that it hears it on

@@ -10,7 +10,7 @@ import math
 from lettering import Face, bounds, check_letters, moved
 from svg import Drawing, path_data
 
-INK = "#123456"
+CAPTION_COLOUR = "#123456"
 HEIGHT = 26
 MARGIN = 0.5
 COLUMNS = 3
@@ -28,13 +28,13 @@ def read_terms(table):
 
 
 def write_lines(file, outlines, baseline):
-    """One line of writing under the other, each HEIGHT high, all beginning at the left edge: there stand
-    the tick boxes."""
+    """One line of text below the other, each HEIGHT high, all beginning at the left edge, where the
+    check boxes are."""
     placed = []
     for row, outline in enumerate(outlines):
         placed += moved(outline, MARGIN - bounds(outline)[0], row * HEIGHT + baseline)
     drawing = Drawing(math.ceil(bounds(placed)[2] + MARGIN), HEIGHT * len(outlines))
-    drawing.lines.append(f'<g fill="{INK}"><path d="{path_data(placed)}"/></g>')
+    drawing.lines.append(f'<g fill="{CAPTION_COLOUR}"><path d="{path_data(placed)}"/></g>')
     drawing.save(file)
 
 

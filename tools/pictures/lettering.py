@@ -1,4 +1,4 @@
-"""Words as filled outlines: shaped by HarfBuzz, drawn with the glyphs of the font.
+"""Text as filled outlines: shaped by HarfBuzz, drawn with the glyphs of the font.
 
 Qt 6.4 misplaces the joined letters of Nastaliq and a user need not have the fonts, so the writing is
 turned into outlines here, once and for all.
@@ -14,7 +14,7 @@ from fontTools.ttLib import TTFont
 
 
 class OutlinePen(BasePen):
-    """Collects the outline of a glyph that stands at (x, y), with y growing downwards."""
+    """Collects the outline of a glyph at (x, y), with y growing downwards."""
 
     def __init__(self, glyphs, x, y, scale, outline):
         super().__init__(glyphs)
@@ -73,7 +73,7 @@ class Face:
 
 
 def bounds(outline):
-    """The ink of an outline: left, top, right, bottom."""
+    """The bounding box of an outline: left, top, right, bottom."""
     boxes, at = [], None
     for command, points in outline:
         if command == "Q":
@@ -91,8 +91,8 @@ def moved(outline, dx, dy):
     return [(command, [(x + dx, y + dy) for x, y in points]) for command, points in outline]
 
 
-# The letters that Urdu and Arabic write differently. The one form in the place of the other looks right
-# in some joints and wrong in others, and no search finds it.
+# The letters that Urdu and Arabic write differently. One form in place of the other looks right
+# in some positions and wrong in others, and no search finds it.
 FOREIGN = {"ur": "يكهةىأإ", "ar": "یکہھےںپٹڑچگ"}
 
 

@@ -1,7 +1,7 @@
 #!/usr/bin/python3 -B
-"""Makes all pictures of the program, its icon in the usual sizes, and the list of resources.
+"""Makes all pictures of the program and its icon in the usual sizes.
 
-Usage: make.py [folder]; without a folder they go where the program takes them from."""
+Usage: make.py [DIRECTORY]; the default is `pictures/`."""
 
 import sys
 from pathlib import Path
@@ -16,7 +16,7 @@ from scenes import make_scenes
 
 PICTURES = Path(__file__).resolve().parents[2] / "pictures"
 
-# Below this size the icon's details would run together.
+# Below this size the details of the icon would blur.
 DETAILED = 48
 ICON_SIZES = (16, 24, 32, 48, 64, 128, 256, 512)
 
@@ -33,13 +33,6 @@ def make_icon_sizes(folder):
         image.save(str(folder / "icons" / f"{size}.png"))
 
 
-def list_resources(folder):
-    files = sorted(path.relative_to(folder).as_posix() for path in folder.rglob("*.svg"))
-    lines = ["<RCC>", '  <qresource prefix="/pictures">', *(f"    <file>{name}</file>" for name in files),
-             "  </qresource>", "</RCC>", ""]
-    (folder / "pictures.qrc").write_text("\n".join(lines), encoding="utf-8", newline="\n")
-
-
 def main():
     folder = Path(sys.argv[1]) if len(sys.argv) > 1 else PICTURES
     make_captions(PICTURES / "terms.tsv", folder / "captions")
@@ -47,7 +40,6 @@ def main():
     make_icons(folder)
     make_banners(folder)
     make_icon_sizes(folder)
-    list_resources(folder)
 
 
 if __name__ == "__main__":
