@@ -11,8 +11,6 @@ packages_to_run=(
   qt6-multimedia-dev # the player of the two videos
   qt6-wayland        # windows on a Wayland desktop
   fonts-dejavu-core  # letters, where no other font is installed
-  fonts-noto-core    # letters of the documents
-  fonts-hosny-amiri  # Arabic and Urdu letters of the documents
 )
 
 packages_to_measure=(
@@ -39,6 +37,16 @@ packages_to_check=(
   appstream          # the description for software centres
   mandoc             # the manual page
   lintian            # the Debian package
+  poppler-utils      # the text of the PDF documents
+  fonts-noto-core    # the default font that the tests of the windows measure
+)
+
+# shellcheck disable=SC2034 # used by tools/documents
+packages_to_set_documents=(
+  chromium           # typesetting
+  python3-markdown   # reads the sources
+  fonts-noto-core    # Latin and Urdu
+  fonts-hosny-amiri  # Arabic
 )
 
 # Asks apt only when a package is missing, and renews apt's lists only when they are not enough.

@@ -9,10 +9,10 @@
 #include <string>
 #include <vector>
 
-#include "Source.h"
 #include "screens/CaseStudy.h"
 #include "support/MemoryOutside.h"
 #include "support/TemporaryFolder.h"
+#include "support/WorkedCase.h"
 
 namespace qismora::testing {
 
