@@ -24,6 +24,8 @@ packages_to_measure=(
 packages_to_check=(
   "${packages_to_measure[@]}"
   python3-pyqt6.qtsvg python3-fonttools libharfbuzz-bin # the tool that draws the caption pictures
+  fonts-noto-core    # Urdu captions, and the default font that the tests of the windows measure
+  fonts-hosny-amiri  # Arabic captions
   python3-pyatspi    # what a screen reader hears
   at-spi2-core       # what a screen reader hears
   dbus-daemon        # the bus that it hears it on
@@ -38,7 +40,6 @@ packages_to_check=(
   mandoc             # the manual page
   lintian            # the Debian package
   poppler-utils      # the text of the PDF documents
-  fonts-noto-core    # the default font that the tests of the windows measure
 )
 
 # shellcheck disable=SC2034 # used by tools/documents
