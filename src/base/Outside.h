@@ -1,5 +1,6 @@
 #pragma once
 
+#include <exception>
 #include <functional>
 #include <optional>
 #include <string>
@@ -31,10 +32,19 @@ enum class BoxStyle { Plain, Information, Warning, Critical };
 enum class BoxButtons { Ok, YesNo, YesNoCancel };
 enum class Answer { Ok, Yes, No, Cancel };
 
-/// Modal message boxes. Lines of a text are parted by CRLF; the title is the application's.
+/// Thrown by a message box that ended without its user: with the program, the desktop session or the display.
+/// Nobody has agreed to anything, so the command that asked is abandoned. It is no Failure, so that no
+/// handler of a rule takes it for one.
+class Unanswered : public std::exception {
+ public:
+  const char* what() const noexcept override { return "a message box ended unanswered"; }
+};
+
+/// Modal message boxes. CRLF separates the lines of a text; the title is the application's.
 class MessageBoxes {
  public:
   virtual ~MessageBoxes() = default;
+  /// What the user answered. A box that was not answered throws Unanswered.
   virtual Answer Show(BoxStyle style, BoxButtons buttons, const std::string& text) = 0;
 
   void Tell(BoxStyle style, const std::string& text) { Show(style, BoxButtons::Ok, text); }

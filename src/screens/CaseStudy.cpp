@@ -96,9 +96,18 @@ constexpr int brightestColour = 0xFFFFFF;
 
 }  // namespace
 
+// An abandoned command must not leave the sign that a report run is going on.
 template <class Body>
 void CaseStudy::Event(Body body) {
-  GuardedEvent(World.Boxes, body);
+  GuardedEvent(World.Boxes, [&] {
+    const bool loaded = record_.CaseLoaded;
+    try {
+      body();
+    } catch (const Unanswered&) {
+      record_.CaseLoaded = loaded;
+      throw;
+    }
+  });
 }
 
 CaseStudy::CaseStudy(CaseRecord& record, Outside& outside, int savedLanguage)

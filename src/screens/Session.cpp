@@ -26,13 +26,15 @@ Session::Session(ShellOutside& outside) : outside_(outside) {
 }
 
 void Session::Open() {
-  try {
-    TotalSeconds = Long(0);
-    FillGrid();
-    TotalTime();
-  } catch (const Failure& failure) {
-    outside_.Boxes.Tell(BoxStyle::Plain, Join("Error ", failure.Number, CRLF, failure.Description()));
-  }
+  GuardedEvent(outside_.Boxes, [&] {
+    try {
+      TotalSeconds = Long(0);
+      FillGrid();
+      TotalTime();
+    } catch (const Failure& failure) {
+      outside_.Boxes.Tell(BoxStyle::Plain, Join("Error ", failure.Number, CRLF, failure.Description()));
+    }
+  });
 }
 
 // The newest session stands first, and a row stays empty at the end. Until a row is picked, the selected line

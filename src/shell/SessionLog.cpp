@@ -94,6 +94,18 @@ void LogSession(const ShellRecord& shell, const CaseRecord& c, ShellOutside& wor
   AppendLine(LogPath(world), SessionLine(shell.SessionNumber, shell.SessionStart, now, seconds));
 }
 
+/// The program ends whether or not the message was read.
+void ReportOpenLog(ShellOutside& world) {
+  try {
+    world.Boxes.Tell(
+        BoxStyle::Critical,
+        Join("Unexpected error has occured within the", CRLF, "Program. Contact your Software vendor.", CRLF,
+             "Continued use of this package may lead", CRLF, "to some other complications."));
+  } catch (const Unanswered&) {
+    return;
+  }
+}
+
 /// At least two digits; the sign of a clock that was set back stands in front of them.
 std::string TwoPlaces(Long number) {
   const int value = static_cast<int>(number.Value());
@@ -123,12 +135,7 @@ void Inhp(ShellRecord& shell, const CaseRecord& c, ShellOutside& world) {
   try {
     LogSession(shell, c, world);
   } catch (const Failure& failure) {
-    if (failure.Number == FileAlreadyOpen) {
-      world.Boxes.Tell(
-          BoxStyle::Critical,
-          Join("Unexpected error has occured within the", CRLF, "Program. Contact your Software vendor.",
-               CRLF, "Continued use of this package may lead", CRLF, "to some other complications."));
-    }
+    if (failure.Number == FileAlreadyOpen) ReportOpenLog(world);
   }
   world.Running.End();
 }

@@ -23,20 +23,24 @@ class MemoryBoxes : public MessageBoxes {
     BoxStyle Style;
     BoxButtons Buttons;
     std::string Text;
+    Answer Given = Answer::Ok;
   };
 
   /// A box with a choice takes the first answer of the queue, or No when it is empty.
   Answer Show(BoxStyle style, BoxButtons buttons, const std::string& text) override {
     Shown.push_back({style, buttons, text});
     if (buttons == BoxButtons::Ok) return Answer::Ok;
-    if (Answers.empty()) return Answer::No;
+    if (QuestionsEnd) throw Unanswered();
+    if (Answers.empty()) return Shown.back().Given = Answer::No;
     const Answer answer = Answers.front();
     Answers.pop_front();
-    return answer;
+    return Shown.back().Given = answer;
   }
 
   std::vector<Box> Shown;
   std::deque<Answer> Answers;
+  /// Questions end unanswered, as with the program.
+  bool QuestionsEnd = false;
 };
 
 class MemoryDialog : public SaveDialog {
