@@ -79,7 +79,8 @@ class Folders {
   virtual std::string Log() { return Application(); }
   /// Where the documents lie that are delivered with the program.
   virtual std::string Documents() { return Application() + "/documents"; }
-  /// Has a closed file written through to the disk, as far as the platform can.
+  /// Has a file or a folder written through to the disk, as far as the platform can. A disk that fails is a
+  /// failure.
   virtual void WriteThrough(const std::string& path) { static_cast<void>(path); }
 };
 
@@ -122,6 +123,14 @@ class Program {
   virtual void End() = 0;
 };
 
+/// What came of a command that saves: the file, and the reason where it was not saved.
+struct SaveOutcome {
+  std::string Path;
+  std::string Reason;
+
+  bool Saved() const { return Reason.empty(); }
+};
+
 /// What a case works with, handed to its screen.
 struct Outside {
   Clock& Time;
@@ -129,6 +138,8 @@ struct Outside {
   SaveDialog& Dialog;
   Settings& Store;
   Folders& Places;
+  /// Raised when a command has saved a file or could not; not when the user changed his mind.
+  std::function<void(const SaveOutcome&)> SaveEnded = {};
 };
 
 /// All of it, handed to the screens around the case.

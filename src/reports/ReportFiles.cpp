@@ -1,8 +1,10 @@
 #include "reports/ReportFiles.h"
 
+#include <algorithm>
+
 #include "aulradd/AulRadd.h"
 #include "base/Dates.h"
-#include "base/Files.h"
+#include "base/NewFile.h"
 #include "base/Text.h"
 #include "reports/ReportRuns.h"
 #include "residue/Residuaries.h"
@@ -13,28 +15,44 @@ namespace {
 
 constexpr const char* nothingToSave = "Execute the program and then try to save.";
 
-/// Runs the second and the third step and writes all three to the working file, which is closed in every
-/// case. Returns what was written: another program in the same folder may be writing its own report to the
-/// file.
+std::string ReportPath(const CaseScreen& screen, std::string_view name) {
+  return Join(screen.World.Places.Reports(), "/", name);
+}
+std::string WorkingFile(const CaseScreen& screen) { return ReportPath(screen, "FullReport"); }
+
+void EndSave(const CaseScreen& screen, const std::string& path, const std::string& reason = "") {
+  if (screen.World.SaveEnded) screen.World.SaveEnded({path, reason});
+}
+
+/// Runs the second and the third step and writes all three to the working file. A failure leaves in it what
+/// was printed up to then; an abandoned run leaves it as it was. Returns what was written: another program in
+/// the same folder may be writing its own report to the file.
 std::string PrintReport(CaseRecord& c, CaseScreen& screen, const std::string& stepOne) {
-  TextFile file(Join(screen.World.Places.Reports(), "/FullReport"));
-  file.Print(
-      "HERE IS THE COMPLETE RESULT OBTAINED FROM THE QISMORA SOFTWARE. THE COMPLETE RESULTS ARE IN THREE STEPS AND "
-      "MUST BE SEEN IN TOTALITY.\r\n");
-  file.Print(stepOne);
+  NewFile file(screen.World.Places, WorkingFile(screen), Replace::OwnFile);
+  std::string report;
+  const auto print = [&](std::string_view text) { report.append(text).append(CRLF); };
+  try {
+    print(
+        "HERE IS THE COMPLETE RESULT OBTAINED FROM THE QISMORA SOFTWARE. THE COMPLETE RESULTS ARE IN THREE STEPS AND "
+        "MUST BE SEEN IN TOTALITY.\r\n");
+    print(stepOne);
 
-  RunResiduaries(c, screen);
-  file.Print(Join("STEP - 2 (RESIDUARIES [ASABA'T]):", CRLF, CRLF, c.ResiduaryReport));
+    RunResiduaries(c, screen);
+    print(Join("STEP - 2 (RESIDUARIES [ASABA'T]):", CRLF, CRLF, c.ResiduaryReport));
 
-  if (c.AulRaddState == AulBesideResiduary || c.AulRaddState == Aul || c.AulRaddState == Radd) {
-    RunAulRadd(c, screen);
-    file.Print(Join(CRLF, "STEP - 3 (AUL/ RADD):", CRLF, CRLF, screen.Text3.Text));
-  } else {
-    file.Print(Join(CRLF, "STEP - 3 (AUL/ RADD):", CRLF, CRLF, "AUL OR RADD NOT APPLICABLE IN THIS CASE.",
-                    CRLF, CRLF, GeneratedBy(screen.World.Time.Now()), CRLF, CRLF));
+    if (c.AulRaddState == AulBesideResiduary || c.AulRaddState == Aul || c.AulRaddState == Radd) {
+      RunAulRadd(c, screen);
+      print(Join(CRLF, "STEP - 3 (AUL/ RADD):", CRLF, CRLF, screen.Text3.Text));
+    } else {
+      print(Join(CRLF, "STEP - 3 (AUL/ RADD):", CRLF, CRLF, "AUL OR RADD NOT APPLICABLE IN THIS CASE.", CRLF,
+                 CRLF, GeneratedBy(screen.World.Time.Now()), CRLF, CRLF));
+    }
+  } catch (const Failure&) {
+    file.Commit(report);
+    throw;
   }
-  file.Close();
-  return file.Content();
+  file.Commit(report);
+  return report;
 }
 
 void MakeFullReport(CaseRecord& c, CaseScreen& screen) {
@@ -64,60 +82,76 @@ std::string ShownText(const CaseScreen& screen) {
   return "";
 }
 
-void WriteResults(CaseScreen& screen, const std::string& path) {
-  const std::string text = ShownText(screen);
-  if (text.empty()) {
-    // The file is opened before its content is looked at, and goes again.
-    TextFile(path).Close();
-    screen.World.Boxes.Tell(BoxStyle::Warning, nothingToSave);
-    DeleteFile(path);
-    return;
-  }
-  WriteSafely(screen.World.Places, path, Join(screen.Label2.Caption, CRLF, text, CRLF));
+/// Whether the user lets the file of that name be replaced.
+bool AskToReplaceResults(CaseScreen& screen, const std::string& name) {
+  return screen.World.Boxes.Show(BoxStyle::Warning, BoxButtons::YesNoCancel,
+                                 Join("File with the name ", name, " already exists in the folder.", CRLF,
+                                      "Would you like to replace the existing file?")) == Answer::Yes;
 }
 
-void ChooseAndSave(CaseScreen& screen) {
-  const std::optional<std::string> path =
-      screen.World.Dialog.AskPath(screen.Text1(NameBox).Text, "All Text Files (*.txt)|*.txt");
-  if (!path) return;
-  const std::size_t separator = path->rfind('/');
-  const std::string name = path->substr(separator + 1);
-  const std::string folder = path->substr(0, separator);
-  if (!IsFileName(name)) return;
-  if (FolderHolds(folder, name)) {
-    const Answer answer =
-        screen.World.Boxes.Show(BoxStyle::Warning, BoxButtons::YesNoCancel,
-                                Join("File with the name ", name, " already exists in the folder.", CRLF,
-                                     "Would you like to replace the existing file?"));
-    if (answer != Answer::Yes) return;
+/// Saves what is shown under a path of the user's choice. A link that the user chose is followed: he means
+/// the file that it leads to.
+void SaveShownText(CaseScreen& screen, const std::string& path) {
+  const std::size_t separator = path.rfind('/');
+  const std::string name = path.substr(separator + 1);
+  if (!IsFileName(name)) throw FileFailure(PathFileAccess, "this is no file name");
+  const std::vector<std::string> File1 = ListFiles(path.substr(0, separator));
+  const bool exists = std::ranges::find(File1, name) != File1.end();
+  if (exists && !AskToReplaceResults(screen, name)) return;
+
+  const std::string text = ShownText(screen);
+  if (text.empty()) {
+    screen.World.Boxes.Tell(BoxStyle::Warning, nothingToSave);
+    return;
   }
-  WriteResults(screen, *path);
+  WriteSafely(screen.World.Places, exists ? FollowLinks(path) : path,
+              Join(screen.Label2.Caption, CRLF, text, CRLF), exists ? Replace::Agreed : Replace::Nothing);
+  EndSave(screen, path);
 }
+
+/// Silences the messages of the stages while it stands.
+class ReportingToFile {
+ public:
+  explicit ReportingToFile(CaseRecord& c) : record_(c) { record_.ReportToFile = true; }
+  ~ReportingToFile() { record_.ReportToFile = false; }
+  ReportingToFile(const ReportingToFile&) = delete;
+  ReportingToFile& operator=(const ReportingToFile&) = delete;
+
+ private:
+  CaseRecord& record_;
+};
 
 }  // namespace
 
 void CreateSaveFullReport(CaseRecord& c, CaseScreen& screen) {
-  c.ReportToFile = true;
+  const ReportingToFile reporting(c);
   try {
     MakeFullReport(c, screen);
+  } catch (const FileFailure& failure) {
+    EndSave(screen, WorkingFile(screen), failure.Reason);
   } catch (const Failure&) {
-    c.ReportToFile = false;
-    return;
+    EndSave(screen, WorkingFile(screen), "the case could not be worked out");
   }
-  c.ReportToFile = false;
 }
 
 void SaveFullReportFile(CaseScreen& screen, const std::string& report) {
   const std::string& deceased = screen.Text1(NameBox).Text;
-  // A name that is none in a folder is refused, though its ending would make it one.
-  if (!deceased.empty() && !IsFileName(deceased)) return;
-  const std::string path = Join(screen.World.Places.Reports(), "/", LowerCase(deceased), ".txt");
+  const std::string name = Join(LowerCase(deceased), ".txt");
+  const std::string path = ReportPath(screen, name);
+  Folders& places = screen.World.Places;
   try {
-    if (FileExists(path) && !AskToReplaceReport(screen)) return;
-    WriteSafely(screen.World.Places, path, report);
-  } catch (const Failure&) {
-    return;
+    if (!IsFileName(name)) throw FileFailure(PathFileAccess, "this is no file name");
+    try {
+      WriteSafely(places, path, report, Replace::Nothing);
+    } catch (const Failure& failure) {
+      if (failure.Number != FileAlreadyExists) throw;
+      if (!AskToReplaceReport(screen)) return EndSave(screen, WorkingFile(screen));
+      WriteSafely(places, path, report, Replace::Agreed);
+    }
+  } catch (const FileFailure& failure) {
+    return EndSave(screen, path, failure.Reason);
   }
+  EndSave(screen, path);
   screen.World.Boxes.Tell(BoxStyle::Information, Join("Results of ", deceased, " saved successfully."));
 }
 
@@ -126,10 +160,13 @@ void SaveResults(CaseScreen& screen) {
     screen.World.Boxes.Tell(BoxStyle::Warning, nothingToSave);
     return;
   }
+  const std::optional<std::string> path =
+      screen.World.Dialog.AskPath(screen.Text1(NameBox).Text, "All Text Files (*.txt)|*.txt");
+  if (!path) return;
   try {
-    ChooseAndSave(screen);
-  } catch (const Failure&) {
-    return;
+    SaveShownText(screen, *path);
+  } catch (const FileFailure& failure) {
+    EndSave(screen, *path, failure.Reason);
   }
 }
 

@@ -6,17 +6,17 @@
 namespace qismora {
 
 /// The Full Report command: runs the case in three steps, writes them to the working file "FullReport", shows
-/// the file and saves it under the name of the deceased. Any failure ends it without a word; what was printed
-/// up to then stands in the working file.
+/// the file and saves it under the name of the deceased. Any failure ends it without a message box; what was
+/// printed up to then stands in the working file. What came of it is raised as SaveEnded.
 void CreateSaveFullReport(CaseRecord& c, CaseScreen& screen);
 
-/// Saves a full report under the lower-cased name of the deceased. An earlier one is replaced only when the
-/// user agrees, and stands until the new one is complete in its place. A name that is no file name, and any
-/// failure, end it without a word.
+/// Saves a full report under the lower-cased name of the deceased. Whatever exists under it, a folder too, is
+/// asked about; an earlier file stands until the new one is complete in its place. A name that is no file
+/// name, and any failure, end it without a message box.
 void SaveFullReportFile(CaseScreen& screen, const std::string& report);
 
 /// The Save Results command: the heading of the result panel and the text that is shown, in a file of the
-/// user's choice. A failure ends it without a word and leaves an earlier file as it was.
+/// user's choice. A failure ends it without a message box and leaves an earlier file as it was.
 void SaveResults(CaseScreen& screen);
 
 }  // namespace qismora

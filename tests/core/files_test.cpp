@@ -1,13 +1,15 @@
-#include "base/Files.h"
-
 #include <gtest/gtest.h>
 #include <sys/resource.h>
+#include <sys/stat.h>
 #include <sys/wait.h>
 #include <unistd.h>
 
+#include <algorithm>
 #include <csignal>
+#include <filesystem>
+#include <fstream>
 
-#include "base/Failure.h"
+#include "base/NewFile.h"
 #include "support/MemoryOutside.h"
 #include "support/TemporaryFolder.h"
 
@@ -35,44 +37,143 @@ class FullDisk {
   rlimit before_{};
 };
 
-std::size_t EntriesOf(const std::string& folder) {
-  return static_cast<std::size_t>(std::distance(fs::directory_iterator(folder), fs::directory_iterator()));
+std::vector<std::string> EntriesOf(const std::string& folder) {
+  std::vector<std::string> names;
+  for (const auto& entry : fs::directory_iterator(folder)) names.push_back(entry.path().filename().string());
+  std::ranges::sort(names);
+  return names;
+}
+
+void Write(const std::string& path, const std::string& content, Replace replace = Replace::Agreed) {
+  MemoryFolders places;
+  WriteSafely(places, path, content, replace);
 }
 
 TEST(Files, ASafelyWrittenFileHasItsContentAndNothingIsLeftBeside) {
   const TemporaryFolder folder;
-  MemoryFolders places;
-  WriteSafely(places, folder.File("a.txt"), "one");
-  WriteSafely(places, folder.File("a.txt"), "two");
+  Write(folder.File("a.txt"), "one");
+  Write(folder.File("a.txt"), "two");
   EXPECT_EQ(ReadWholeFile(folder.File("a.txt")), "two");
-  EXPECT_EQ(EntriesOf(folder.Path()), 1U);
+  EXPECT_EQ(EntriesOf(folder.Path()), std::vector<std::string>{"a.txt"});
 }
 
 TEST(Files, AFullDiskLeavesTheEarlierFile) {
   const TemporaryFolder folder;
-  MemoryFolders places;
-  WriteSafely(places, folder.File("a.txt"), "earlier");
+  Write(folder.File("a.txt"), "earlier");
   {
     const FullDisk full(100);
-    EXPECT_THROW(WriteSafely(places, folder.File("a.txt"), std::string(100000, 'x')), Failure);
-    EXPECT_THROW(
-        {
-          TextFile file(folder.File("b.txt"));
-          for (int i = 0; i < 1000; ++i) file.Print(std::string(100, 'x'));
-          file.Close();
-        },
-        Failure);
+    EXPECT_THROW(Write(folder.File("a.txt"), std::string(100000, 'x')), FileFailure);
   }
   EXPECT_EQ(ReadWholeFile(folder.File("a.txt")), "earlier");
-  EXPECT_EQ(EntriesOf(folder.Path()), 2U) << "no half-written file is left";
+  EXPECT_EQ(EntriesOf(folder.Path()), std::vector<std::string>{"a.txt"}) << "no half-written file is left";
 }
 
 TEST(Files, AFolderThatCannotBeWrittenToIsAFailure) {
-  MemoryFolders places;
-  EXPECT_THROW(WriteSafely(places, "/proc/none/a.txt", "x"), Failure);
-  EXPECT_THROW(TextFile("/proc/none/a.txt"), Failure);
-  EXPECT_THROW(FolderHolds("/proc/none", "a.txt"), Failure);
+  EXPECT_THROW(Write("/proc/none/a.txt", "x"), FileFailure);
+  EXPECT_THROW(ListFiles("/proc/none"), FileFailure);
   EXPECT_THROW(ReadWholeFile("/proc/none/a.txt"), Failure);
+}
+
+TEST(Files, ALineThatAFullDiskTearsIsTakenBack) {
+  const TemporaryFolder folder;
+  AppendLine(folder.File("log"), "first");
+  {
+    const FullDisk full(10);
+    EXPECT_THROW(AppendLine(folder.File("log"), "second"), FileFailure);
+  }
+  EXPECT_EQ(ReadWholeFile(folder.File("log")), "first\r\n");
+}
+
+/// Everything but an ordinary file that may have a name, under names that say what it is.
+struct Obstacles {
+  Obstacles() {
+    std::ofstream(Folder.File("elsewhere")) << "not ours";
+    fs::create_symlink(Folder.File("elsewhere"), Folder.File("link"));
+    fs::create_symlink(Folder.File("nothing"), Folder.File("dangling link"));
+    fs::create_symlink("/dev/zero", Folder.File("link to a device"));
+    fs::create_hard_link(Folder.File("elsewhere"), Folder.File("second name"));
+    mkfifo(Folder.File("pipe").c_str(), 0600);
+    fs::create_directory(Folder.File("folder"));
+  }
+
+  TemporaryFolder Folder;
+  static constexpr const char* Names[] = {"link",        "dangling link", "link to a device",
+                                          "second name", "pipe",          "folder"};
+};
+
+// A pipe or a device that is waited for hangs the test.
+TEST(Files, NothingIsWrittenThroughOrReplacedUnaskedAndNothingIsWaitedFor) {
+  const Obstacles obstacles;
+  const std::vector<std::string> before = EntriesOf(obstacles.Folder.Path());
+  for (const char* name : Obstacles::Names) {
+    const std::string path = obstacles.Folder.File(name);
+    const fs::file_type type = fs::symlink_status(path).type();
+    EXPECT_THROW(Write(path, "x", Replace::OwnFile), FileFailure) << name;
+    EXPECT_THROW(Write(path, "x", Replace::Nothing), FileFailure) << name;
+    EXPECT_THROW(AppendLine(path, "x"), FileFailure) << name;
+    if (name != std::string("second name")) {
+      EXPECT_THROW(ReadWholeFile(path), FileFailure) << name;
+    }
+    EXPECT_EQ(fs::symlink_status(path).type(), type) << name;
+  }
+  EXPECT_EQ(ReadWholeFile(obstacles.Folder.File("elsewhere")), "not ours");
+  EXPECT_EQ(EntriesOf(obstacles.Folder.Path()), before);
+}
+
+TEST(Files, AnAgreedReplacementTakesTheNameAndLeavesWhatALinkPointsTo) {
+  const Obstacles obstacles;
+  for (const char* name : {"link", "dangling link", "second name"}) {
+    Write(obstacles.Folder.File(name), "new", Replace::Agreed);
+    EXPECT_EQ(ReadWholeFile(obstacles.Folder.File(name)), "new") << name;
+  }
+  for (const char* name : {"pipe", "folder"}) {
+    EXPECT_THROW(Write(obstacles.Folder.File(name), "new", Replace::Agreed), FileFailure) << name;
+  }
+  EXPECT_EQ(ReadWholeFile(obstacles.Folder.File("elsewhere")), "not ours");
+  EXPECT_FALSE(fs::exists(obstacles.Folder.File("nothing")));
+}
+
+TEST(Files, LinksAreFollowedToTheirEnd) {
+  const TemporaryFolder folder;
+  fs::create_directory(folder.File("far"));
+  fs::create_symlink("far/second", folder.File("first"));
+  fs::create_symlink("end", folder.File("far/second"));
+  EXPECT_EQ(FollowLinks(folder.File("first")), folder.File("far/end"));
+  fs::create_symlink("round", folder.File("round"));
+  EXPECT_THROW(FollowLinks(folder.File("round")), FileFailure);
+}
+
+TEST(Files, AReplacedFileKeepsItsPermissions) {
+  const TemporaryFolder folder;
+  Write(folder.File("a.txt"), "earlier");
+  constexpr auto own = fs::perms::owner_read | fs::perms::owner_write;
+  fs::permissions(folder.File("a.txt"), own);
+  Write(folder.File("a.txt"), "later");
+  EXPECT_EQ(fs::status(folder.File("a.txt")).permissions(), own);
+}
+
+/// A disk that reports an error when it shall write through: first the file, or its folder.
+class FailingDisk : public MemoryFolders {
+ public:
+  explicit FailingDisk(int good) : good_(good) {}
+  void WriteThrough(const std::string&) override {
+    if (good_-- == 0) throw FileFailure(EIO);
+  }
+
+ private:
+  int good_;
+};
+
+TEST(Files, ADiskThatFailsToWriteThroughLeavesTheEarlierFile) {
+  const TemporaryFolder folder;
+  Write(folder.File("a.txt"), "earlier");
+  for (const int good : {0, 1}) {
+    FailingDisk disk(good);
+    EXPECT_THROW(WriteSafely(disk, folder.File("a.txt"), "later", Replace::Agreed), FileFailure);
+    EXPECT_EQ(ReadWholeFile(folder.File("a.txt")), "earlier");
+    EXPECT_EQ(EntriesOf(folder.Path()).size(), 1U);
+  }
+  EXPECT_THROW(SyncToDisk(folder.File("missing")), FileFailure);
 }
 
 /// Ends the program hard at the moment when the new content is written and the old file still stands.
@@ -81,20 +182,27 @@ class KilledWhileSaving : public MemoryFolders {
   void WriteThrough(const std::string&) override { std::raise(SIGKILL); }
 };
 
-TEST(Files, AKilledProgramLeavesTheEarlierFile) {
+TEST(Files, AKilledProgramLeavesTheEarlierFileAndTheNextSaveCleansUp) {
   const TemporaryFolder folder;
-  MemoryFolders places;
-  WriteSafely(places, folder.File("a.txt"), "earlier");
+  Write(folder.File("a.txt"), "earlier");
   const pid_t child = fork();
   if (child == 0) {
     KilledWhileSaving killed;
-    WriteSafely(killed, folder.File("a.txt"), "later");
+    WriteSafely(killed, folder.File("a.txt"), "later", Replace::Agreed);
     _exit(0);
   }
   int status = 0;
   waitpid(child, &status, 0);
   ASSERT_TRUE(WIFSIGNALED(status));
   EXPECT_EQ(ReadWholeFile(folder.File("a.txt")), "earlier");
+  ASSERT_EQ(EntriesOf(folder.Path()).size(), 2U);
+
+  MemoryFolders places;
+  NewFile running(places, folder.File("b.txt"), Replace::Nothing);
+  std::ofstream(folder.File(".report-of-mine.part")) << "a name of the user's own";
+  Write(folder.File("a.txt"), "later");
+  running.Commit("b");
+  EXPECT_EQ(EntriesOf(folder.Path()), (std::vector<std::string>{".report-of-mine.part", "a.txt", "b.txt"}));
 }
 
 TEST(Files, NamesThatLeaveTheFolderAreNone) {

@@ -44,12 +44,12 @@ bool IsUnfinished(const std::string& name) { return name.starts_with(".report-")
 /// The folder after the hard end, held against the one before and the one after a whole run.
 void CheckFolder(const Content& found, const Content& before, const Content& after) {
   for (const auto& [name, text] : found) {
-    if (name == "FullReport" || IsUnfinished(name)) continue;
+    if (IsUnfinished(name)) continue;
     ASSERT_TRUE(after.contains(name)) << name;
     EXPECT_TRUE(text == after.at(name) || (before.contains(name) && text == before.at(name))) << name;
   }
   for (const auto& [name, text] : before) {
-    EXPECT_TRUE(name == "FullReport" || found.contains(name)) << name;
+    EXPECT_TRUE(found.contains(name)) << name;
   }
 }
 
@@ -69,6 +69,7 @@ void EndAtEveryCall(bool reportsBefore) {
     Content after = ReadFolder(folder);
     EXPECT_EQ(after["zayd.txt"], after["FullReport"]) << "the next run saves its report";
     EXPECT_NE(after["zayd.txt"], reportsBefore ? before.at("zayd.txt") : "");
+    for (const auto& [name, text] : after) EXPECT_FALSE(IsUnfinished(name)) << name << " is never removed";
     // A log that got its line before the end has one more after the next run.
     const std::string line = found.contains("popuQism.ppl") ? found.at("popuQism.ppl") : "";
     EXPECT_TRUE(after["popuQism.ppl"].starts_with(line));

@@ -4,6 +4,7 @@
 
 #include <algorithm>
 #include <csignal>
+#include <fstream>
 
 #include "base/Files.h"
 #include "support/MemoryCase.h"
@@ -24,7 +25,18 @@ class ReportFiles : public ::testing::Test {
     Case.TypeEstate("24000");
     Case.Type(1, "1");
     Case.Type(2, "1");
+    Case.World.Ports.SaveEnded = [this](const SaveOutcome& outcome) { Outcomes.push_back(outcome); };
   }
+
+  /// The last outcome, which is taken; its reason is empty where the file was saved.
+  std::pair<std::string, std::string> Outcome() {
+    if (Outcomes.empty()) return {"none", "none"};
+    const SaveOutcome last = Outcomes.back();
+    EXPECT_EQ(Outcomes.size(), 1U);
+    Outcomes.clear();
+    return {last.Path.substr(std::min(last.Path.size(), Folder.Path().size() + 1)), last.Reason};
+  }
+  using Ended = std::pair<std::string, std::string>;
 
   std::vector<std::string> Names() const {
     std::vector<std::string> names;
@@ -36,14 +48,14 @@ class ReportFiles : public ::testing::Test {
 
   TemporaryFolder Folder;
   MemoryCase Case;
+  std::vector<SaveOutcome> Outcomes;
 };
 
 TEST_F(ReportFiles, ANameThatIsNoFileNameSavesNothingAndOverwritesNothing) {
   fs::create_directory(Folder.File("reports"));
   Case.World.Folders.Folder = Folder.File("reports");
-  for (const std::string& name :
-       {std::string("../escaped"), std::string("a/b"), std::string("a\\b"), std::string("."),
-        std::string(".."), std::string("a\0b", 3), std::string(300, 'x')}) {
+  for (const std::string& name : {std::string("../escaped"), std::string("a/b"), std::string("a\\b"),
+                                  std::string("a\0b", 3), std::string(300, 'x')}) {
     Case.World.Boxes.Shown.clear();
     Case.Type(NameBox, name);
     Case.Study->CreateSaveFullReport_Click();
@@ -53,7 +65,15 @@ TEST_F(ReportFiles, ANameThatIsNoFileNameSavesNothingAndOverwritesNothing) {
         << name;
     EXPECT_TRUE(fs::exists(Folder.File("reports/FullReport"))) << name;
     EXPECT_FALSE(Case.Study->Text3.Text.Get().empty()) << "the report is still shown";
+    EXPECT_EQ(Outcome().second, name.size() == 300 ? "the name is too long" : "this is no file name");
   }
+}
+
+TEST_F(ReportFiles, ANameOfDotsIsAFileName) {
+  Case.Type(NameBox, ".");
+  Case.Study->CreateSaveFullReport_Click();
+  EXPECT_EQ(Names(), (std::vector<std::string>{"..txt", "FullReport"}));
+  EXPECT_EQ(Outcome(), Ended("..txt", ""));
 }
 
 TEST_F(ReportFiles, AnEarlierReportStandsUntilTheUserAgrees) {
@@ -64,6 +84,7 @@ TEST_F(ReportFiles, AnEarlierReportStandsUntilTheUserAgrees) {
   Case.Type(2, "3");
   Case.Study->CreateSaveFullReport_Click();
   EXPECT_EQ(ReadWholeFile(Folder.File("zayd.txt")), earlier);
+  EXPECT_EQ(Outcomes.back().Path, Folder.File("FullReport")) << "that is where the new report lies";
 
   Case.World.Boxes.Answers = {Answer::Yes};
   Case.Study->CreateSaveFullReport_Click();
@@ -122,6 +143,93 @@ TEST_F(ReportFiles, CancelLeavesEverythingAsItWas) {
   EXPECT_EQ(Case.World.Dialog.Suggested, "ABDULLAH");
   EXPECT_TRUE(Names().empty());
   EXPECT_EQ(Case.Study->Text2.Text.Get(), text);
+}
+
+TEST_F(ReportFiles, AFullReportAsksBeforeItReplacesWhateverHasTheName) {
+  Case.Type(NameBox, "Zayd");
+  std::ofstream(Folder.File("elsewhere")) << "not ours";
+  fs::create_symlink(Folder.File("elsewhere"), Folder.File("zayd.txt"));
+  for (const Answer answer : {Answer::No, Answer::Yes}) {
+    Case.World.Boxes.Answers = {answer};
+    Case.Study->CreateSaveFullReport_Click();
+    EXPECT_EQ(fs::is_symlink(Folder.File("zayd.txt")), answer == Answer::No);
+    EXPECT_EQ(ReadWholeFile(Folder.File("elsewhere")), "not ours");
+  }
+  fs::remove(Folder.File("zayd.txt"));
+  fs::create_directory(Folder.File("zayd.txt"));
+  Outcomes.clear();
+  Case.World.Boxes.Shown.clear();
+  Case.World.Boxes.Answers = {Answer::Yes};
+  Case.Study->CreateSaveFullReport_Click();
+  ASSERT_EQ(Case.World.Boxes.Shown.size(), 1U);
+  EXPECT_EQ(Case.World.Boxes.Shown[0].Buttons, BoxButtons::YesNo);
+  EXPECT_EQ(Outcome(), Ended("zayd.txt", "a folder has this name"));
+}
+
+TEST_F(ReportFiles, AWorkingFileThatIsNotTheProgramsOwnEndsTheCommand) {
+  std::ofstream(Folder.File("elsewhere")) << "not ours";
+  fs::create_hard_link(Folder.File("elsewhere"), Folder.File("FullReport"));
+  Case.Study->CreateSaveFullReport_Click();
+  EXPECT_EQ(Names(), (std::vector<std::string>{"FullReport", "elsewhere"}));
+  EXPECT_EQ(ReadWholeFile(Folder.File("elsewhere")), "not ours");
+  EXPECT_EQ(Outcome(), Ended("FullReport", "the file has a second name"));
+  EXPECT_TRUE(Case.World.Boxes.Shown.empty());
+}
+
+TEST_F(ReportFiles, ResultsSavedOntoALinkGoToTheFileThatItLeadsTo) {
+  fs::create_directory(Folder.File("far"));
+  std::ofstream(Folder.File("far/file")) << "earlier";
+  fs::create_symlink("far/file", Folder.File("link.txt"));
+  Case.Study->Label1_DblClick(1);
+  Case.World.Dialog.Paths = {Folder.File("link.txt")};
+  Case.World.Boxes.Answers = {Answer::Yes};
+  Case.Study->SaveResults_Click();
+  EXPECT_TRUE(fs::is_symlink(Folder.File("link.txt")));
+  EXPECT_TRUE(ReadWholeFile(Folder.File("far/file")).starts_with("WIFE'S SHARE\r\n"));
+  EXPECT_EQ(Outcome(), Ended("link.txt", ""));
+}
+
+// The list of files holds no folders, so that nobody is asked.
+TEST_F(ReportFiles, ResultsAreNotSavedOverAFolder) {
+  fs::create_directory(Folder.File("results"));
+  Case.Study->Label1_DblClick(1);
+  Case.World.Boxes.Shown.clear();
+  Case.World.Dialog.Paths = {Folder.File("results")};
+  Case.Study->SaveResults_Click();
+  EXPECT_TRUE(Case.World.Boxes.Shown.empty());
+  EXPECT_EQ(Outcome(), Ended("results", "a folder has this name"));
+}
+
+TEST_F(ReportFiles, AnEmptyPanelLeavesAnEarlierFileThatTheUserAgreedToReplace) {
+  std::ofstream(Folder.File("earlier.txt")) << "earlier";
+  Case.Study->Text2.Text = "hidden";
+  Case.Study->Text2.Visible = false;
+  Case.Study->Text3.Visible = true;
+  for (const char* name : {"earlier.txt", "new.txt"}) {
+    Case.World.Dialog.Paths = {Folder.File(name)};
+    Case.World.Boxes.Answers = {Answer::Yes};
+    Case.Study->SaveResults_Click();
+    EXPECT_EQ(Case.World.Boxes.Shown.back().Text, "Execute the program and then try to save.");
+  }
+  EXPECT_EQ(Names(), std::vector<std::string>{"earlier.txt"});
+  EXPECT_EQ(ReadWholeFile(Folder.File("earlier.txt")), "earlier");
+  EXPECT_TRUE(Outcomes.empty());
+}
+
+TEST_F(ReportFiles, AnUnansweredQuestionAbandonsItsCommand) {
+  Case.World.Boxes.QuestionsEnd = true;
+  Case.Type(WillsBox, "20000");
+  Case.Study->CreateSaveFullReport_Click();
+  EXPECT_TRUE(Names().empty()) << "nobody has agreed to the larger will";
+  EXPECT_EQ(Case.World.Boxes.Shown.size(), 1U) << "no message follows";
+  EXPECT_FALSE(Case.Record.ReportToFile);
+  EXPECT_FALSE(Case.Record.CaseLoaded);
+  EXPECT_TRUE(Outcomes.empty());
+
+  Case.Type(WillsBox, "0");
+  std::ofstream(Folder.File("abdullah.txt")) << "earlier";
+  Case.Study->CreateSaveFullReport_Click();
+  EXPECT_EQ(ReadWholeFile(Folder.File("abdullah.txt")), "earlier");
 }
 
 TEST_F(ReportFiles, SavedResultsKeepTheScriptsOfTheName) {

@@ -2,6 +2,7 @@
 #include <sys/wait.h>
 #include <unistd.h>
 
+#include <filesystem>
 #include <fstream>
 #include <set>
 
@@ -84,9 +85,9 @@ TEST(SessionLog, SessionsAreNumberedFromTheLogItself) {
   EXPECT_EQ(logged.Run(), 2);
   logged.Add(41, noon, later, 1);
   EXPECT_EQ(logged.Run(), 42);
-  DeleteFile(logged.Path());
+  std::filesystem::remove(logged.Path());
   EXPECT_EQ(logged.Run(), 1);
-  TextFile(logged.Path()).Close();
+  std::ofstream(logged.Path()).close();
   EXPECT_EQ(logged.Run(), 1) << "an empty log";
 }
 
@@ -96,7 +97,7 @@ TEST(SessionLog, ADamagedLogCountsUpToTheDamage) {
   AppendLine(logged.Path(), " 99999 too large a number");
   logged.Add(10, noon, later, 1);
   EXPECT_EQ(logged.Run(), 9);
-  TextFile(logged.Path()).Print(" 3 unix line\n\n 4 next");
+  std::ofstream(logged.Path()) << " 3 unix line\n\n 4 next\r\n";
   EXPECT_EQ(logged.Run(), 5) << "lines may end in a single line feed, and an empty one is no session";
   std::ofstream(logged.Path()) << " 5 " << std::string(200000, 'x') << "\n 6 without a break";
   EXPECT_EQ(logged.Run(), 7) << "a line may be of any length, and the last one lack its break";
@@ -249,7 +250,7 @@ TEST(SessionForm, FiveThousandLinesFitAndOneMoreIsAnError) {
 
 TEST(SessionForm, AnEmptyLogShowsAnEmptyGrid) {
   Logged logged;
-  TextFile(logged.Path()).Close();
+  std::ofstream(logged.Path()).close();
   Session form(logged.World.Ports);
   form.Open();
   EXPECT_EQ(form.MSFlexGrid1.Rows.size(), 3U);

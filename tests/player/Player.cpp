@@ -5,7 +5,7 @@
 #include <filesystem>
 
 #include "aulradd/FindLCM.h"
-#include "base/Files.h"
+#include "base/NewFile.h"
 #include "base/Text.h"
 #include "screens/Event.h"
 
@@ -171,8 +171,11 @@ void Player::Write(std::string_view rest) {
   const std::string name(TakeWord(rest));
   if (!IsFileName(name)) throw NoCommand();
   try {
-    TextFile(Path(name)).Print(rest);
+    fs::remove(Path(name));
+    WriteSafely(folders_, Path(name), Join(rest, CRLF), Replace::Nothing);
   } catch (const Failure&) {
+    throw NoCommand();
+  } catch (const fs::filesystem_error&) {
     throw NoCommand();
   }
 }

@@ -1,10 +1,8 @@
 #pragma once
 
-#include <fcntl.h>
-#include <unistd.h>
-
 #include <string>
 
+#include "base/Files.h"
 #include "shell/SessionLog.h"
 #include "support/MemoryCase.h"
 
@@ -13,12 +11,7 @@ namespace qismora::testing {
 /// Folders whose files are written through to the disk, as the program's are.
 class DiskFolders : public MemoryFolders {
  public:
-  void WriteThrough(const std::string& path) override {
-    const int file = open(path.c_str(), O_RDONLY | O_CLOEXEC);
-    if (file < 0) return;
-    fsync(file);
-    close(file);
-  }
+  void WriteThrough(const std::string& path) override { SyncToDisk(path); }
 };
 
 /// One run of the program, with a wife and so many sons, that saves all it can save in a folder. A file of an
