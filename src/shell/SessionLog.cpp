@@ -4,7 +4,6 @@
 #include <charconv>
 #include <chrono>
 #include <cmath>
-#include <fstream>
 #include <string_view>
 
 #include "base/Dates.h"
@@ -24,7 +23,7 @@ constexpr std::size_t dateRoom = 25;
 constexpr std::size_t endPlace = 26;
 constexpr std::size_t lengthRoom = 8;
 
-constexpr int blockLength = 1 << 16;
+constexpr std::size_t blockLength = 1 << 16;
 
 std::string LogPath(ShellOutside& world) { return Join(world.Places.Log(), "/popuQism.ppl"); }
 
@@ -55,28 +54,35 @@ Integer TakeNumber(std::string_view& line) {
   return number;
 }
 
-/// Calls with each line of the log. An empty line is no session. The whole log is read at every start, so it
-/// is read in blocks, and no more than a block of it is kept at a time.
+/// Whether a full disk has torn the line within its number: the number of a whole line has a blank behind it.
+bool IsNumberTorn(std::string_view line, bool closed) {
+  SkipBlanks(line);
+  return !closed && line.find(' ') == std::string_view::npos;
+}
+
+/// Calls with each line of the log, and whether its end is there, which the last line may lack. An empty line
+/// is no session. The whole log is read at every start, so it is read in blocks, and no more than a block of
+/// it is kept at a time.
 template <class Reader>
 void ReadLines(ShellOutside& world, Reader reader) {
-  std::ifstream stream(LogPath(world), std::ios::binary);
-  if (!stream) throw Failure(FileNotFound);
+  InputFile file(LogPath(world));
   std::string text;
-  while (stream) {
+  for (bool more = true; more;) {
     const std::size_t kept = text.size();
     text.resize(kept + blockLength);
-    stream.read(text.data() + kept, blockLength);
-    text.resize(kept + static_cast<std::size_t>(stream.gcount()));
-    if (!stream) text += '\n';  // the last line may lack its break
+    text.resize(kept + file.Read(text.data() + kept, blockLength));
+    more = text.size() == kept + blockLength;
     std::size_t begin = 0;
     for (std::size_t end = text.find('\n', kept); end != std::string::npos; end = text.find('\n', begin)) {
       std::string_view line(text.data() + begin, end - begin);
       begin = end + 1;
       if (line.ends_with('\r')) line.remove_suffix(1);
-      if (!line.empty()) reader(line);
+      if (!line.empty()) reader(line, true);
     }
     text.erase(0, begin);
   }
+  if (text.ends_with('\r')) text.pop_back();
+  if (!text.empty()) reader(text, false);
 }
 
 std::chrono::sys_seconds TimePoint(const DateTime& when) {
@@ -122,7 +128,10 @@ Long Remainder(Long number, int divisor) { return Long(number.Value() % divisor)
 void StartSession(ShellRecord& shell, ShellOutside& world) {
   shell.SessionStart = world.Time.Now();
   try {
-    ReadLines(world, [&](std::string_view line) { shell.SessionNumber = TakeNumber(line); });
+    ReadLines(world, [&](std::string_view line, bool closed) {
+      // A torn number was the next one when it was written.
+      shell.SessionNumber = IsNumberTorn(line, closed) ? shell.SessionNumber + Integer(1) : TakeNumber(line);
+    });
   } catch (const Failure&) {
     // A log that is missing or damaged counts up to where it could be read.
   }
@@ -154,7 +163,7 @@ Long SecondsBetween(const DateTime& start, const DateTime& end) {
 
 SessionTable ReadSessionLog(ShellOutside& world) {
   SessionTable table;
-  ReadLines(world, [&](std::string_view line) {
+  ReadLines(world, [&](std::string_view line, bool) {
     if (++table.Count > MostSessions) throw Failure(SubscriptOutOfRange);
     SessionRow row;
     row.Number = TakeNumber(line);

@@ -1,4 +1,5 @@
 #include <gtest/gtest.h>
+#include <sys/stat.h>
 #include <sys/wait.h>
 #include <unistd.h>
 
@@ -101,6 +102,31 @@ TEST(SessionLog, ADamagedLogCountsUpToTheDamage) {
   EXPECT_EQ(logged.Run(), 5) << "lines may end in a single line feed, and an empty one is no session";
   std::ofstream(logged.Path()) << " 5 " << std::string(200000, 'x') << "\n 6 without a break";
   EXPECT_EQ(logged.Run(), 7) << "a line may be of any length, and the last one lack its break";
+}
+
+// Wherever a full disk tears a line: it is closed, no session is glued to it, and no number repeats.
+TEST(SessionLog, ATornLineTakesNoOtherAlong) {
+  const std::string whole = Join(SessionLine(Integer(12), noon, later, Long(3725)), CRLF);
+  for (std::size_t torn = 1; torn < whole.size(); ++torn) {
+    Logged logged;
+    logged.Add(11, noon, later, 1);
+    std::ofstream(logged.Path(), std::ios::app) << whole.substr(0, torn);
+    EXPECT_EQ(logged.Run(), 13) << torn;
+    EXPECT_EQ(logged.Run(), 14) << torn;
+    const SessionTable table = ReadSessionLog(logged.World.Ports);
+    ASSERT_EQ(table.Count, 4) << torn;
+    EXPECT_EQ(table.Rows[3].Number, 13) << torn;
+    EXPECT_EQ(table.Rows[3].Start, "05/03/2024 14:07:09      ") << torn;
+  }
+}
+
+TEST(SessionLog, ALogThatIsNoOrdinaryFileIsNeitherReadNorWritten) {
+  Logged logged;
+  ASSERT_EQ(mkfifo(logged.Path().c_str(), 0600), 0);
+  EXPECT_EQ(logged.Run(), 1) << "a pipe is not waited for";
+  std::filesystem::remove(logged.Path());
+  std::filesystem::create_symlink("/dev/zero", logged.Path());
+  EXPECT_EQ(logged.Run(), 1) << "a device has no end";
 }
 
 TEST(SessionLog, TheExitRunsOnceAndSavesTheExecutions) {
