@@ -1,5 +1,8 @@
 #include "fuzz/RandomLines.h"
 
+#include <string>
+#include <vector>
+
 #include "base/Text.h"
 #include "case/CaseScreen.h"
 
@@ -43,6 +46,13 @@ constexpr const char* answers[] = {"answer Yes",      "answer Yes",
                                    "file .",          "file a\\b",
                                    "file FullReport", "write zayd.txt an earlier report",
                                    "write .txt ",     "write FullReport half"};
+
+// Commands that only together reach what they reach: a file that is replaced, and a panel that shows nothing
+// while the hidden text holds something.
+const std::vector<std::string> replacing = {"write out.txt earlier", "file out.txt", "answer Yes",
+                                            "click SaveResults"};
+const std::vector<std::string> emptyPanel = {"click Resid", "type Text1(1) 5", "doubleclick Label1(2)",
+                                             "click AulRadd"};
 
 // What people type, and what nobody should.
 constexpr const char* oddTexts[] = {
@@ -104,6 +114,15 @@ constexpr int largestLetter = 255;
 }  // namespace
 
 std::string RandomLines::Next() {
+  if (!next_.empty()) {
+    const std::string line = next_.front();
+    next_.pop_front();
+    return line;
+  }
+  if (Below(64) == 0) {
+    if (Below(2) == 0) next_.assign(emptyPanel.begin(), emptyPanel.end());
+    next_.insert(next_.end(), replacing.begin(), replacing.end());
+  }
   switch (Below(16)) {
     case 0:
     case 1:

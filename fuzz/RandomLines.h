@@ -1,5 +1,6 @@
 #pragma once
 
+#include <deque>
 #include <random>
 #include <string>
 
@@ -22,6 +23,7 @@ class RandomLines {
   std::string Numbers();
 
   std::mt19937_64 random_;
+  std::deque<std::string> next_;
 };
 
 }  // namespace qismora::testing

@@ -12,6 +12,7 @@
 #include <iostream>
 
 #include "fuzz/Invariants.h"
+#include "fuzz/Obstacles.h"
 #include "fuzz/RandomLines.h"
 #include "player/Player.h"
 #include "support/TemporaryFolder.h"
@@ -70,20 +71,31 @@ class Sessions {
 
  private:
   void PlayOne() {
-    if (tell_) std::cout << "# a new screen\n";
+    Say("# a new screen");
     Player player(record_, nowhere_, folder_.Path());
     for (std::size_t lines = 5 + random_.Below(40); lines > 0; --lines) {
       const std::string line = random_.Next();
-      if (tell_) std::cout << line << std::endl;
+      if (random_.Below(8) == 0) Say("# " + obstacles_.Place(random_));
+      player.Boxes().QuestionsEnd = random_.Below(16) == 0;
+      if (player.Boxes().QuestionsEnd) Say("# questions end unanswered");
+      Say(line);
+      const bool command = line.starts_with("click ");
+      if (command) obstacles_.Look(player.Boxes());
       player.Perform(line);
       CheckInvariants(player.Study(), record_);
+      if (command) obstacles_.Check(player.Boxes());
     }
+  }
+
+  void Say(const std::string& line) const {
+    if (tell_) std::cout << line << std::endl;
   }
 
   RandomLines random_;
   bool tell_;
   std::ostream nowhere_{nullptr};
   TemporaryFolder folder_;
+  Obstacles obstacles_{folder_.Path()};
   CaseRecord record_;
 };
 

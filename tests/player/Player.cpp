@@ -181,11 +181,12 @@ void Player::Write(std::string_view rest) {
 }
 
 void Player::Cat(std::string_view rest) {
-  if (!IsFileName(rest) || !FileExists(Path(rest))) {
+  try {
+    if (!IsFileName(rest)) throw Failure(FileNotFound);
+    PrintPieces(out_, "  | ", ReadWholeFile(Path(rest)));
+  } catch (const Failure&) {
     out_ << "  no file\n";
-    return;
   }
-  PrintPieces(out_, "  | ", ReadWholeFile(Path(rest)));
 }
 
 void Player::List(std::string_view rest) {

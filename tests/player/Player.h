@@ -29,6 +29,7 @@ class Player {
   void Perform(std::string_view line);
 
   const CaseStudy& Study() const { return *study_; }
+  MemoryBoxes& Boxes() { return boxes_; }
 
  private:
   void Open();
