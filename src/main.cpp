@@ -1,22 +1,28 @@
 #include <QApplication>
 #include <cstdio>
+#include <cstdlib>
 
 #include "windows/platform/RunningProgram.h"
 #include "windows/style/OutlinedStyle.h"
 
 using namespace qismora;
 
+namespace {
+
+// Where no display can be opened, because there is none or because it is dead, Qt would abort.
+void ReportNoDisplay(QtMsgType type, const QMessageLogContext&, const QString& message) {
+  if (type != QtFatalMsg) return static_cast<void>(std::fprintf(stderr, "%s\n", qPrintable(message)));
+  std::fputs("qismora: there is no display to open a window on; start it from a desktop session.\n", stderr);
+  std::_Exit(EXIT_FAILURE);
+}
+
+}  // namespace
+
 int main(int argc, char** argv) {
-#if defined(Q_OS_UNIX) && !defined(Q_OS_DARWIN)
-  if (!qEnvironmentVariableIsSet("DISPLAY") && !qEnvironmentVariableIsSet("WAYLAND_DISPLAY") &&
-      !qEnvironmentVariableIsSet("QT_QPA_PLATFORM")) {
-    std::fputs("qismora: there is no display to open a window on; start it from a desktop session.\n",
-               stderr);
-    return 1;
-  }
-#endif
+  qInstallMessageHandler(ReportNoDisplay);
   QApplication::setStyle(new OutlinedStyle);
   QApplication application(argc, argv);
+  qInstallMessageHandler(nullptr);
 
   RunningProgram program(QApplication::applicationDirPath());
   program.Windows.ShowMainMenu();
