@@ -69,23 +69,11 @@ install_missing() {
     fi
     apt=("${sudo[@]}" "${apt[@]}")
   fi
-  local install=(install -y --no-install-recommends "${missing[@]}")
-  "${apt[@]}" "${install[@]}" >/dev/null 2>&1 </dev/null || {
-    "${apt[@]}" update </dev/null
-    "${apt[@]}" "${install[@]}" >/dev/null </dev/null
-  }
+  # What is there stays: a package that could only come in the place of another is an error.
+  local errors install=(install -y --no-install-recommends --no-remove "${missing[@]}")
+  errors=$("${apt[@]}" "${install[@]}" 2>&1 >/dev/null </dev/null) && return
+  "${apt[@]}" update </dev/null && "${apt[@]}" "${install[@]}" >/dev/null </dev/null && return
+  echo "$errors" >&2
+  echo "These packages could not be installed: ${missing[*]}" >&2
+  exit 1
 }
-
-# A compiler cache is used where there is one.
-if command -v ccache >/dev/null; then
-  export CMAKE_CXX_COMPILER_LAUNCHER=ccache
-fi
-
-# Makes the Debian package of a build. The times in it are that of the newest entry of its changelog, and everybody
-# can read what is in it, also where the builder's own files are private.
-pack() (
-  umask 022
-  rm -rf "$1/package"
-  SOURCE_DATE_EPOCH=$(dpkg-parsechangelog -l packaging/debian/changelog -S Timestamp) \
-    cpack --config "$1/CPackConfig.cmake"
-)
