@@ -43,10 +43,12 @@ std::string ProgramFolders::Application() {
   return FromQt(FirstFolder({binaries_ + QStringLiteral("/../share/qismora"), binaries_}));
 }
 
+// Where the program is installed nothing is written, not even by root, who could.
 std::string ProgramFolders::Log() {
   const QString program = ToQt(Application());
   const QString log = program + QStringLiteral("/popuQism.ppl");
-  if (CanWrite(QFileInfo::exists(log) ? log : program)) return FromQt(program);
+  const bool installed = program != QDir::cleanPath(binaries_);
+  if (!installed && CanWrite(QFileInfo::exists(log) ? log : program)) return FromQt(program);
   const QString own =
       QStandardPaths::writableLocation(QStandardPaths::GenericDataLocation) + QStringLiteral("/qismora");
   QDir().mkpath(own);
