@@ -2,10 +2,15 @@
 // ends while they are written. It needs no window, but processes of their own.
 
 #include <gtest/gtest.h>
+#include <sched.h>
+#include <sys/mount.h>
+#include <sys/stat.h>
+#include <sys/wait.h>
 
 #include <QSettings>
 #include <chrono>
 #include <cstdlib>
+#include <fstream>
 #include <set>
 
 #include "base/Files.h"
@@ -108,6 +113,57 @@ TEST(StoredSettings, TwoProgramsThatWriteAtOnceLeaveAWholeFile) {
   });
   EXPECT_TRUE(isWhole());
   EXPECT_EQ(Stored(TimesExecuted) / 10, rounds) << "the last of one of them";
+}
+
+/// Gives this process a small disk of its own at the path; false where that is not permitted.
+bool MountSmallDisk(const std::string& path) {
+  if (unshare(CLONE_NEWNS) != 0 && unshare(CLONE_NEWUSER | CLONE_NEWNS) != 0) return false;
+  return mount(nullptr, "/", nullptr, MS_REC | MS_PRIVATE, nullptr) == 0 &&
+         mount("tmpfs", path.c_str(), "tmpfs", 0, "size=64k") == 0;
+}
+
+/// Fills the disk but for so many blocks.
+void Fill(const std::string& path, std::size_t blocks) {
+  constexpr std::size_t block = 4096;
+  std::ofstream file(path, std::ios::binary);
+  while (file && fs::space(fs::path(path).parent_path()).available > blocks * block)
+    file << std::string(block, ' ') << std::flush;
+}
+
+TEST(StoredSettings, ADiskThatIsAllButFullKeepsTheOldContentOrTakesTheNew) {
+  constexpr int notPermitted = 77;
+  const SettingsFolder folder;
+  const pid_t child = fork();
+  if (child == 0) {
+    if (!MountSmallDisk(folder.Path())) _exit(notPermitted);
+    Store(TimesExecuted, 5);
+    const std::string path = folder.File("Qismora/Qismora.conf");
+    for (std::size_t blocks = 0; blocks < 8; ++blocks) {
+      Fill(folder.File("filled"), blocks);
+      Store(TimesExecuted, 6);
+      const std::string found = ReadWholeFile(path);
+      if (found != "[Inheritance]\nTimesExecuted=5\n" && found != "[Inheritance]\nTimesExecuted=6\n")
+        _exit(1);
+    }
+    _exit(0);
+  }
+  int status = 0;
+  ASSERT_EQ(waitpid(child, &status, 0), child);
+  ASSERT_TRUE(WIFEXITED(status));
+  if (WEXITSTATUS(status) == notPermitted) GTEST_SKIP() << "no disk may be mounted here";
+  EXPECT_EQ(WEXITSTATUS(status), 0);
+}
+
+// A pipe that is waited for hangs the test.
+TEST(StoredSettings, OnlyAnOrdinaryFileIsReadOrWritten) {
+  for (const char* name : {"Qismora/Qismora.conf", "Qismora/Qismora.conf.lock", "Qismora.conf"}) {
+    const SettingsFolder folder;
+    fs::create_directory(folder.File("Qismora"));
+    ASSERT_EQ(mkfifo(folder.File(name).c_str(), 0600), 0);
+    EXPECT_EQ(Stored(TimesExecuted), 0);
+    Store(TimesExecuted, 1);
+    EXPECT_TRUE(fs::is_fifo(folder.File(name))) << name;
+  }
 }
 
 /// All that a run of the program keeps for the next one.

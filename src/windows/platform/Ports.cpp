@@ -10,13 +10,10 @@
 #include <QPointer>
 #include <QSettings>
 #include <QStandardPaths>
+#include <QTemporaryFile>
 #include <algorithm>
 
-#ifdef Q_OS_UNIX
-#include <fcntl.h>
-#include <unistd.h>
-#endif
-
+#include "base/Files.h"
 #include "windows/platform/Utf8.h"
 #include "windows/style/PointerShape.h"
 
@@ -115,6 +112,36 @@ QString Path(const std::string& section, const std::string& key) {
   return ToQt(section) + QLatin1Char('/') + ToQt(key);
 }
 
+/// The base of the folders for settings. Nothing has the name that is asked for, so nothing is read.
+QDir SettingsFolder() {
+  const QString nothing = QStringLiteral("-");
+  QDir folder =
+      QFileInfo(QSettings(QSettings::NativeFormat, QSettings::UserScope, nothing, nothing).fileName())
+          .absoluteDir();
+  folder.cdUp();
+  return folder;
+}
+
+// Qt opens what it finds under the names of its files, waits for a pipe and reads a device without end.
+bool AreOrdinary(const std::string& application) {
+  const QDir folder = SettingsFolder();
+  const QString own = QStringLiteral("Qismora/%1.conf").arg(ToQt(application));
+  const QString names[] = {own, own + QStringLiteral(".lock"), QStringLiteral("Qismora.conf")};
+  return std::ranges::all_of(names, [&](const QString& name) {
+    const QFileInfo found(folder.filePath(name));
+    return found.isFile() || !found.exists();
+  });
+}
+
+// Qt does not notice that the disk is full when it replaces a file, and leaves an empty one.
+bool HasSpace(const QSettings& store) {
+  constexpr int ample = 1 << 16;
+  const QDir folder = QFileInfo(store.fileName()).absoluteDir();
+  folder.mkpath(QStringLiteral("."));
+  QTemporaryFile trial(folder.filePath(QStringLiteral("trial-XXXXXX")));
+  return trial.open() && trial.write(QByteArray(ample, ' ')) == ample && trial.flush();
+}
+
 constexpr qint64 longestEmpty = 1000;
 
 // A program that is ended hard in the moment in which it takes the toolkit's lock leaves the lock without the
@@ -172,6 +199,7 @@ std::optional<std::string> QtSaveDialog::AskPath(const std::string& suggestedNam
 
 std::string QtSettings::Read(const std::string& application, const std::string& section,
                              const std::string& key) {
+  if (!AreOrdinary(application)) return {};
   QSettings store = Open(application);
   store.setFallbacksEnabled(false);
   return FromQt(store.value(Path(section, key)).toString());
@@ -180,10 +208,12 @@ std::string QtSettings::Read(const std::string& application, const std::string& 
 // What stands there already is not written again: opening a screen would otherwise touch the disk.
 void QtSettings::Write(const std::string& application, const std::string& section, const std::string& key,
                        const std::string& value) {
+  if (!AreOrdinary(application)) return;
   QSettings store = Open(application);
   store.setFallbacksEnabled(false);
   const QString path = Path(section, key);
   if (store.contains(path) && store.value(path).toString() == ToQt(value)) return;
+  if (!HasSpace(store)) return;
   DropEmptyLock(store);
   store.setValue(path, ToQt(value));
 }
@@ -198,16 +228,6 @@ std::string SystemFolders::Reports() {
 
 std::string SystemFolders::Application() { return FromQt(QCoreApplication::applicationDirPath()); }
 
-// Elsewhere the system writes through in its own time.
-void SystemFolders::WriteThrough(const std::string& path) {
-#ifdef Q_OS_UNIX
-  const int file = open(path.c_str(), O_RDONLY | O_CLOEXEC);
-  if (file < 0) return;
-  fsync(file);
-  close(file);
-#else
-  Q_UNUSED(path)
-#endif
-}
+void SystemFolders::WriteThrough(const std::string& path) { SyncToDisk(path); }
 
 }  // namespace qismora
