@@ -1,0 +1,151 @@
+#include "screens/DivisionInput.h"
+
+#include <algorithm>
+
+#include "base/Text.h"
+#include "residue/ClassII.h"
+#include "screens/HeirFields.h"
+
+namespace qismora {
+
+namespace {
+
+constexpr std::size_t mostWholeDigits = 15;  // of 999,999,999,999,999.99
+constexpr std::size_t mostDecimals = 2;
+
+bool AreDigits(std::string_view text) {
+  return !text.empty() && std::ranges::all_of(text, [](char c) { return c >= '0' && c <= '9'; });
+}
+
+std::string_view WithoutBlanks(std::string_view text) {
+  const std::size_t first = text.find_first_not_of(' ');
+  if (first == std::string_view::npos) return {};
+  return text.substr(first, text.find_last_not_of(' ') - first + 1);
+}
+
+/// Whether digits are grouped by commas: behind a first group of one up to as many digits come groups of that
+/// size, the last of them of three.
+bool AreGroupedBy(std::size_t size, std::string_view text) {
+  constexpr std::size_t lastSize = 3;
+  const std::size_t first = text.find(',');
+  if (first == std::string_view::npos || first > size || !AreDigits(text.substr(0, first))) return false;
+  text.remove_prefix(first + 1);
+  while (text.size() > lastSize) {
+    if (text.size() <= size || text[size] != ',' || !AreDigits(text.substr(0, size))) return false;
+    text.remove_prefix(size + 1);
+  }
+  return text.size() == lastSize && AreDigits(text);
+}
+
+bool IsWholePart(std::string_view text) {
+  return AreDigits(text) || AreGroupedBy(3, text) || AreGroupedBy(2, text);
+}
+
+/// The digits alone, without commas and leading zeros.
+std::string Digits(std::string_view text) {
+  std::string digits(text);
+  std::erase(digits, ',');
+  digits.erase(0, digits.find_first_not_of('0'));
+  return digits;
+}
+
+/// Up to 17 digits fit.
+std::int64_t Number(std::string_view digits) {
+  std::int64_t number = 0;
+  for (const char c : digits) number = number * 10 + (c - '0');
+  return number;
+}
+
+constexpr const char* faultWords[] = {
+    "",
+    " is not a whole number",
+    " is more than ",
+    " is not an amount",
+    " has more than two decimals",
+    " is more than 999,999,999,999,999.99",
+};
+
+/// Reads the fields one after the other and notes those that cannot be read.
+class Fields {
+ public:
+  explicit Fields(const CaseScreen& screen) : screen_(screen) {}
+
+  int Heads(std::string_view caption, int index, int most) {
+    return static_cast<int>(Noted(caption, index, ReadHeads(screen_.Text1(index).Text.Get(), most), most));
+  }
+  faraid::Hundredths Amount(std::string_view caption, int index) {
+    return Noted(caption, index, ReadAmount(screen_.Text1(index).Text.Get()), 0);
+  }
+
+  std::vector<UnreadableField> Unreadable;
+
+ private:
+  std::int64_t Noted(std::string_view caption, int index, const FieldReading& reading, int most) {
+    if (reading.Fault != FieldFault::None) {
+      Unreadable.push_back({std::string(caption), screen_.Text1(index).Text, reading.Fault, most});
+    }
+    return reading.Value;
+  }
+
+  const CaseScreen& screen_;
+};
+
+}  // namespace
+
+std::string_view CaptionOf(faraid::Kind kind) {
+  const auto index = static_cast<std::size_t>(kind);
+  if (index < HeirFields.size()) return HeirFields[index].Caption;
+  return kind == faraid::Kind::Remainder ? "Remainder" : ClassIIRows[index - HeirFields.size()].Caption;
+}
+
+FieldReading ReadHeads(std::string_view text, int most) {
+  text = WithoutBlanks(text);
+  if (!AreDigits(text)) return {0, FieldFault::NotWhole};
+  const std::string digits = Digits(text);
+  // No field takes more than three digits.
+  const std::int64_t heads = digits.size() > 3 ? most + 1 : Number(digits);
+  return heads > most ? FieldReading{0, FieldFault::TooMany} : FieldReading{heads};
+}
+
+FieldReading ReadAmount(std::string_view text) {
+  text = WithoutBlanks(text);
+  const std::size_t point = text.find('.');
+  const bool hasPoint = point != std::string_view::npos;
+  std::string decimals(hasPoint ? text.substr(point + 1) : "0");
+  if (!IsWholePart(text.substr(0, point)) || !AreDigits(decimals)) return {0, FieldFault::NotAnAmount};
+  if (decimals.size() > mostDecimals) return {0, FieldFault::TooManyDecimals};
+  const std::string digits = Digits(text.substr(0, point));
+  if (digits.size() > mostWholeDigits) return {0, FieldFault::TooMuch};
+  decimals.resize(mostDecimals, '0');
+  return {Number(digits + decimals)};
+}
+
+std::string English(const UnreadableField& field) {
+  std::string words =
+      Join(field.Caption, ": \"", field.Text, "\"", faultWords[static_cast<int>(field.Fault)]);
+  if (field.Fault == FieldFault::TooMany) words += Join(field.Most);
+  return words;
+}
+
+DivisionInput ReadDivisionInput(const CaseScreen& screen, bool heirsConsent) {
+  const faraid::Kind otherSpouse =
+      screen.Combo1.ListIndex == Female ? faraid::Kind::Wives : faraid::Kind::Husband;
+  DivisionInput input;
+  Fields fields(screen);
+  for (const HeirField& field : HeirFields) {
+    if (field.Heir == otherSpouse) continue;
+    input.Family[field.Heir] = fields.Heads(field.Caption, field.Index, faraid::MostOf(field.Heir));
+  }
+  for (int i = 0; i < screen.Check1.Size; ++i) {
+    input.Family[ClassIIKind(i)] = screen.Check1(i).Value == 1 ? 1 : 0;
+  }
+  input.Estate.Gross = fields.Amount("Gross Estate", GrossEstateBox);
+  input.Estate.Funeral = fields.Amount("Funeral exp.", FuneralBox);
+  input.Estate.Debts = fields.Amount("Debts", DebtsBox);
+  input.Estate.Bequests = fields.Amount("Will(s)", WillsBox);
+  input.Estate.HeirsConsent = heirsConsent;
+  input.Unreadable = std::move(fields.Unreadable);
+  return input;
+}
+
+}  // namespace qismora

@@ -1,0 +1,101 @@
+#include "screens/DivisionText.h"
+
+#include "base/Text.h"
+#include "faraid/Amounts.h"
+#include "screens/HeirFields.h"
+
+namespace qismora {
+
+namespace {
+
+using faraid::Standing;
+
+std::string StandingText(const faraid::Row& row) {
+  switch (row.As) {
+    case Standing::Sharer:
+      return "sharer";
+    case Standing::Residuary:
+      return "residuary";
+    case Standing::SharerAndResiduary:
+      return "sharer and residuary";
+    case Standing::Excluded:
+      return Join("excluded by ", CaptionOf(row.Excluder));
+    case Standing::TwoThirdsTaken:
+      return "two thirds are taken";
+    case Standing::NotAnHeir:
+      return "not an heir in this school";
+    case Standing::NothingLeft:
+      return "nothing is left";
+  }
+  return {};
+}
+
+std::string EachText(const faraid::Row& row, const faraid::Amount& amount) {
+  if (amount.HeadsWithOneMore == 0) return AmountText(amount.Each);
+  if (amount.HeadsWithOneMore == row.Heads) return AmountText(amount.Each + 1);
+  return Join(AmountText(amount.Each), " or ", AmountText(amount.Each + 1));
+}
+
+/// A class II kind takes as one and has no count.
+std::string HeirLine(const faraid::Row& row, const faraid::Amount& amount) {
+  const std::string share = FractionText(row.Share);
+  const std::string together = AmountText(amount.Together);
+  if (row.Heir == faraid::Kind::Remainder) return Join("Remainder: ", share, ", ", together);
+
+  const bool hasCount = !faraid::ClassII.Has(row.Heir);
+  std::string line(CaptionOf(row.Heir));
+  if (hasCount) line += Join(" ", row.Heads);
+  if (row.Share == 0) return Join(line, ": nothing, ", StandingText(row));
+  if (!hasCount) return Join(line, ": ", share, ", ", together, ", ", StandingText(row));
+  return Join(line, ": ", share, ", each ", FractionText(row.PerHead), ", ", together, ", each ",
+              EachText(row, amount), ", ", StandingText(row));
+}
+
+std::string BaseLine(const faraid::Division& division) {
+  const std::string raised =
+      division.RaisedTo > 0 ? Join(", raised to ", std::to_string(division.RaisedTo)) : "";
+  return Join("base ", std::to_string(division.Base), raised, ", corrected base ",
+              std::to_string(division.CorrectedBase));
+}
+
+std::vector<std::string> UnreadableLines(const std::vector<UnreadableField>& fields) {
+  std::vector<std::string> lines = {"unreadable"};
+  for (const UnreadableField& field : fields) lines.push_back(English(field));
+  return lines;
+}
+
+}  // namespace
+
+std::vector<std::string> DivisionLines(const DivisionInput& input, faraid::School school) {
+  if (!input.Unreadable.empty()) return UnreadableLines(input.Unreadable);
+  const faraid::Settlement settlement = faraid::Settle(input.Estate);
+  if (settlement.Shortfall > 0) {
+    return {Join("nothing to divide, short by ", AmountText(settlement.Shortfall))};
+  }
+
+  std::vector<std::string> lines;
+  if (settlement.Bequests < input.Estate.Bequests) {
+    lines.push_back(Join("bequests ", AmountText(input.Estate.Bequests), ", limited to ",
+                         AmountText(settlement.BequestLimit)));
+  }
+  lines.push_back("net " + AmountText(settlement.Net));
+  const faraid::Division division = faraid::Divide(input.Family, school);
+  const faraid::Amounts amounts = faraid::AmountsOf(division, settlement.Net);
+  if (division.Base > 0) lines.push_back(BaseLine(division));
+  for (std::size_t i = 0; i < division.Rows.Size(); ++i) {
+    lines.push_back(HeirLine(division.Rows[i], amounts[i]));
+  }
+  return lines;
+}
+
+std::string AmountText(faraid::Hundredths amount) {
+  const auto hundredths = static_cast<int>(amount % 100);
+  return Join(std::to_string(amount / 100), ".", TwoDigits(hundredths));
+}
+
+std::string FractionText(const faraid::Fraction& fraction) {
+  const std::string num = std::to_string(fraction.Num());
+  return fraction.Den() == 1 ? num : Join(num, "/", std::to_string(fraction.Den()));
+}
+
+}  // namespace qismora
