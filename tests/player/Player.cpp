@@ -7,6 +7,7 @@
 #include "aulradd/FindLCM.h"
 #include "base/NewFile.h"
 #include "base/Text.h"
+#include "screens/DivisionText.h"
 #include "screens/Event.h"
 
 namespace fs = std::filesystem;
@@ -73,12 +74,12 @@ void Player::Perform(std::string_view line) {
   const std::string_view command = TakeWord(rest);
   using Command = void (Player::*)(std::string_view);
   static constexpr std::pair<std::string_view, Command> commands[] = {
-      {"clock", &Player::SetClock}, {"type", &Player::Type},        {"choose", &Player::Choose},
-      {"tick", &Player::Tick},      {"untick", &Player::Untick},    {"doubleclick", &Player::DoubleClick},
-      {"click", &Player::Click},    {"answer", &Player::PutAnswer}, {"file", &Player::PutFile},
-      {"write", &Player::Write},    {"cat", &Player::Cat},          {"ls", &Player::List},
-      {"reopen", &Player::Reopen},  {"show", &Player::Show},        {"lcm", &Player::Lcm},
-      {"page", &Player::Page},
+      {"clock", &Player::SetClock}, {"type", &Player::Type},         {"choose", &Player::Choose},
+      {"tick", &Player::Tick},      {"untick", &Player::Untick},     {"doubleclick", &Player::DoubleClick},
+      {"click", &Player::Click},    {"answer", &Player::PutAnswer},  {"file", &Player::PutFile},
+      {"write", &Player::Write},    {"cat", &Player::Cat},           {"ls", &Player::List},
+      {"reopen", &Player::Reopen},  {"show", &Player::Show},         {"lcm", &Player::Lcm},
+      {"page", &Player::Page},      {"division", &Player::Division},
   };
   const auto* found = std::ranges::find(commands, command, &std::pair<std::string_view, Command>::first);
   if (found == std::end(commands)) throw NoCommand();
@@ -245,6 +246,21 @@ void Player::PrintPage(const QurLaws& form) const {
   }
   out_ << "  Text1 = " << Escaped(form.Text1.Text.Get()) << "\n  Text2:\n";
   PrintPieces(out_, "  | ", form.Text2.Text.Get());
+}
+
+void Player::Division(std::string_view rest) {
+  using faraid::School;
+  static constexpr std::pair<std::string_view, School> schools[] = {{"hanafi", School::Hanafi},
+                                                                    {"maliki", School::Maliki},
+                                                                    {"shafii", School::Shafii},
+                                                                    {"hanbali", School::Hanbali}};
+  const auto* school =
+      std::ranges::find(schools, TakeWord(rest), &std::pair<std::string_view, School>::first);
+  const bool consent = rest == "consent";
+  if (school == std::end(schools) || (!consent && !rest.empty())) throw NoCommand();
+  for (const std::string& line : DivisionLines(ReadDivisionInput(*study_, consent), school->second)) {
+    out_ << "  | " << Escaped(line) << '\n';
+  }
 }
 
 }  // namespace qismora::testing

@@ -49,6 +49,7 @@ class Player {
   void Show(std::string_view rest);
   void Lcm(std::string_view rest);
   void Page(std::string_view rest);
+  void Division(std::string_view rest);
   void PrintPage(const QurLaws& form) const;
 
   std::string Path(std::string_view name) const;
