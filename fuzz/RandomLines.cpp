@@ -36,6 +36,10 @@ constexpr const char* commands[] = {
     "ls",
     "cat FullReport",
     "cat zayd.txt",
+    "division hanafi",
+    "division maliki consent",
+    "division shafii",
+    "division hanbali consent",
     "clock 2024-12-31 23:59:59",
     "clock 0001-01-01 00:00:00",
 };
@@ -103,6 +107,10 @@ constexpr const char* oddTexts[] = {
     "9e99",
     "-32768",
     "1,,0",
+    "1,234,567.89",
+    "12,34,567.8",
+    "0.125",
+    "999999999999999.99",
     "%s%n",
     "99999999999999999999999999999999999999999999999999999999999999999999999999"};
 
