@@ -28,6 +28,8 @@ BENCHMARKS = {
     "SelectedReport/13": "The command Execute Selected, thirteen kinds of heir",
     "FullReportWithoutFiles": "A full report, without its files",
     "FullReportInMemoryFiles": "A full report with its files, on a disk in memory",
+    "DivisionInOneSchool": "A division among seven kinds of heir in one school, with its reasons",
+    "DivisionInFourSchools": "The same in the four schools",
 }
 
 

@@ -1,0 +1,68 @@
+// How fast a division is, with its reasons in words and without.
+
+#include <benchmark/benchmark.h>
+
+#include "faraid/Amounts.h"
+
+namespace faraid {
+namespace {
+
+using enum Kind;
+
+/// A wife, two daughters, mother, father, a full sister, a full brother and a uterine brother: Awl, and three
+/// who are excluded.
+Family SevenKinds() {
+  Family family;
+  for (const Kind kind : {Wives, Mother, Father, FullSisters, FullBrothers, UterineBrothers})
+    family[kind] = 1;
+  family[Daughters] = 2;
+  return family;
+}
+
+/// A wife, the mother, the grandfather, a full sister, consanguine and uterine siblings.
+Family GrandfatherAndSiblings() {
+  Family family;
+  for (const Kind kind : {Wives, Mother, Grandfather, FullSisters, ConsanguineSisters}) family[kind] = 1;
+  family[ConsanguineBrothers] = 2;
+  family[UterineSisters] = 2;
+  return family;
+}
+
+constexpr Hundredths net = 240'000'00;
+constexpr School schools[] = {School::Hanafi, School::Maliki, School::Shafii, School::Hanbali};
+
+void DivideWithReasons(School school) {
+  static const Family family = SevenKinds();
+  const Division division = Divide(family, school);
+  benchmark::DoNotOptimize(AmountsOf(division, net));
+  for (const Row& row : division.Rows) benchmark::DoNotOptimize(English(row.Why));
+}
+
+void DivisionInOneSchool(benchmark::State& state) {
+  for (auto _ : state) DivideWithReasons(School::Hanafi);
+}
+BENCHMARK(DivisionInOneSchool)->Unit(benchmark::kMicrosecond);
+
+void DivisionInFourSchools(benchmark::State& state) {
+  for (auto _ : state) {
+    for (const School school : schools) DivideWithReasons(school);
+  }
+}
+BENCHMARK(DivisionInFourSchools)->Unit(benchmark::kMicrosecond);
+
+/// The rows alone, as for a long table of families.
+void DivisionWithoutSentences(benchmark::State& state) {
+  const Family family = SevenKinds();
+  for (auto _ : state) benchmark::DoNotOptimize(AmountsOf(Divide(family, School::Hanafi), net));
+}
+BENCHMARK(DivisionWithoutSentences)->Unit(benchmark::kMicrosecond);
+
+/// The grandfather shares with siblings, counting the consanguine ones against him.
+void DivisionBesideAGrandfather(benchmark::State& state) {
+  const Family family = GrandfatherAndSiblings();
+  for (auto _ : state) benchmark::DoNotOptimize(AmountsOf(Divide(family, School::Shafii), net));
+}
+BENCHMARK(DivisionBesideAGrandfather)->Unit(benchmark::kMicrosecond);
+
+}  // namespace
+}  // namespace faraid
