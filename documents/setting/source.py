@@ -97,7 +97,7 @@ def terms_table(keys, terms):
     rows = "".join(f'<tr><th scope="row">{html.escape(terms[key]["english"], quote=False)}</th>'
                    f'<td>{terms[key]["meaning"]}</td>{cell("ar", terms[key])}{cell("ur", terms[key])}</tr>'
                    for key in keys)
-    return (f'<table class="terms"><colgroup><col style="width:20%"><col style="width:28%"><col style="width:26%">'
+    return (f'<table class="terms"><colgroup><col style="width:21%"><col style="width:27%"><col style="width:26%">'
             f'<col style="width:26%"></colgroup><thead><tr><th>Caption</th><th>Who is meant</th><th>Arabic</th>'
             f'<th>Urdu</th></tr></thead><tbody>{rows}</tbody></table>')
 
@@ -132,7 +132,7 @@ def replace_blocks(body, terms):
 
 def set_column_widths(page, body):
     """The dashes below the heads of a table give the relative widths of its columns."""
-    rows = iter(re.findall(r"^\|(?:-+\|)+$", body, re.M))
+    rows = iter(re.findall(r"^\|(?:-+:?\|)+$", body, re.M))
 
     def columns(_):
         dashes = [len(part) for part in next(rows).strip("|").split("|")]
