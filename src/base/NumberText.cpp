@@ -79,6 +79,18 @@ bool IsBelowOne(std::string_view digits) {
   return point - first + (negative ? -power : power) <= 0;
 }
 
+/// The value of a text of a few plain digits, as most fields hold; each digit is read once.
+std::optional<Double> PlainDigits(std::string_view text) {
+  constexpr std::size_t mostExactDigits = 15;
+  if (text.empty() || text.size() > mostExactDigits) return std::nullopt;
+  std::int64_t whole = 0;
+  for (const char c : text) {
+    if (!IsDigit(c)) return std::nullopt;
+    whole = whole * 10 + (c - '0');
+  }
+  return static_cast<double>(whole);
+}
+
 /// The value of a text that forms a number without separators.
 Double NumberValue(std::string_view digits) {
   double value = 0.0;
@@ -86,12 +98,6 @@ Double NumberValue(std::string_view digits) {
     for (const char c : digits.substr(2))
       value = value * base + (IsDigit(c) ? c - '0' : (c | 0x20) - 'a' + 10);
     return value;
-  }
-  // Most boxes hold a few plain digits.
-  if (digits.size() <= 15 && std::ranges::all_of(digits, IsDigit)) {
-    std::int64_t whole = 0;
-    for (const char c : digits) whole = whole * 10 + (c - '0');
-    return static_cast<double>(whole);
   }
   if (digits.starts_with('+')) digits.remove_prefix(1);
   const auto result = std::from_chars(digits.data(), digits.data() + digits.size(), value);
@@ -107,13 +113,20 @@ bool IsNumber(std::string_view text) {
   return length > 0 && WithoutBlanks(text.substr(length)).empty();
 }
 
+std::optional<Double> ReadNumber(std::string_view text) {
+  const std::optional<Double> plain = PlainDigits(text);
+  return plain || !IsNumber(text) ? plain : ParsePrefix(text);
+}
+
 Double ParsePrefix(std::string_view text) {
+  if (const std::optional<Double> plain = PlainDigits(text)) return *plain;
   text = WithoutBlanks(text);
   const std::size_t length = NumberLength(text, false);
   return length > 0 ? NumberValue(text.substr(0, length)) : 0;
 }
 
 Double ParseStrict(std::string_view text) {
+  if (const std::optional<Double> plain = PlainDigits(text)) return *plain;
   if (!IsNumber(text)) throw Failure(TypeMismatch);
   std::string digits(WithoutBlanks(text));
   std::erase(digits, ',');

@@ -1,5 +1,6 @@
 #pragma once
 
+#include <optional>
 #include <string_view>
 
 #include "base/Numbers.h"
@@ -15,6 +16,10 @@ bool IsNumber(std::string_view text);
 /// first character that cannot continue it; 0 for a text that is no number. A comma is no
 /// continuation: 1,000 gives 1. Beyond the range of a Double it is the overflow failure.
 Double ParsePrefix(std::string_view text);
+
+/// The two-stage reading of a field: nothing where the text fails the validity test, otherwise the value of
+/// the prefix parser.
+std::optional<Double> ReadNumber(std::string_view text);
 
 /// The strict conversion: takes what the validity test takes, the separators left out, so that 1,000
 /// gives 1000. Any other text is the type failure.

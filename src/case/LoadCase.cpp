@@ -10,8 +10,8 @@ namespace {
 
 enum class Grade { Soft, Hard };
 
-/// A kind of heir: where its count is typed, where it goes, the most that is accepted, what is said of a
-/// count outside, and whether the box then takes the focus.
+/// A kind of heir: where its count is typed and stored, the most that is accepted, the message about a
+/// count outside the limits, and whether the field then takes the focus.
 struct CountRow {
   int Box;
   Integer CaseRecord::*Count;
@@ -64,15 +64,16 @@ Integer Converted(Double typed, Integer) { return RoundTo<Integer>(typed); }
 Long Converted(Double typed, Long) { return RoundTo<Long>(typed); }
 Double Converted(Double typed, Double) { return typed; }
 
-/// A box that holds no number leaves its field as it is: an empty box is not a zero.
+/// Text that is no number leaves the stored value as it is: an empty field is not a zero.
 template <class Number>
 void ReadBox(const CaseScreen& screen, int box, Number& field) {
-  const std::string& text = screen.Text1(box).Text;
-  if (IsNumber(text)) field = Converted(ParsePrefix(text), field);
+  if (const std::optional<Double> typed = ReadNumber(screen.Text1(box).Text.Get())) {
+    field = Converted(*typed, field);
+  }
 }
 
-/// Reads and checks one count; false when it is refused. The check looks at the field, so that a stale
-/// count is checked as well.
+/// Reads and checks one count; false when it is refused. The check looks at the stored count, so that a
+/// stale one is checked as well.
 bool ReadCount(CaseRecord& c, CaseScreen& screen, const CountRow& row, Grade grade = Grade::Soft) {
   Integer& count = c.*row.Count;
   ReadBox(screen, row.Box, count);
@@ -83,8 +84,8 @@ bool ReadCount(CaseRecord& c, CaseScreen& screen, const CountRow& row, Grade gra
   return false;
 }
 
-/// A will may take a third of what the deceased left. More needs the consent of the heirs, which is
-/// asked for at each load; without it the will is cut down to the third.
+/// A will may take a third of what the deceased left (report of Sad ibn Abi Waqqas). More needs the
+/// consent of the heirs, which is asked for at each load; without it the will is cut down to the third.
 void AskAboutWills(CaseRecord& c, CaseScreen& screen, Double third) {
   const Answer answer = screen.World.Boxes.Show(
       BoxStyle::Warning, BoxButtons::YesNo,
@@ -100,8 +101,8 @@ void AskAboutWills(CaseRecord& c, CaseScreen& screen, Double third) {
   screen.Text1(WillsBox).Text = F(c.Wills);
 }
 
-/// Reads the estate and what is paid from it before the heirs; says why a figure is refused, or nothing. The
-/// debts are held against the gross estate alone, not against what the funeral left of it.
+/// Reads the estate and what is paid from it before the heirs; returns the message about a refused figure,
+/// or null. The debts are compared with the gross estate alone, not with what the funeral left of it.
 const char* ReadEstate(CaseRecord& c, CaseScreen& screen) {
   ReadBox(screen, GrossEstateBox, c.GrossEstate);
   if (c.GrossEstate < 0) return "No estate wealth for inheritance.";

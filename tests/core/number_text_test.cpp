@@ -9,7 +9,7 @@ namespace {
 
 constexpr int none = -1;
 
-/// What the three readings make of a text. A strict value of none stands for the type failure.
+/// The result of each reading of a text. A strict value of none is the type failure.
 struct Row {
   std::string Text;
   bool IsNumber;
@@ -92,10 +92,12 @@ const Row rows[] = {
     {"-0", true, 0, 0},
 };
 
-TEST(NumberText, TheThreeReadings) {
+TEST(NumberText, EachReadingTakesWhatItShould) {
   for (const Row& row : rows) {
     EXPECT_EQ(IsNumber(row.Text), row.IsNumber) << row.Text;
     EXPECT_EQ(ParsePrefix(row.Text).Value(), row.Prefix) << row.Text;
+    EXPECT_EQ(ReadNumber(row.Text), row.IsNumber ? std::optional(ParsePrefix(row.Text)) : std::nullopt)
+        << row.Text;
     if (row.IsNumber) {
       EXPECT_EQ(ParseStrict(row.Text).Value(), row.Strict) << row.Text;
     } else {
