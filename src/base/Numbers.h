@@ -112,6 +112,12 @@ Number RoundTo(Double value) {
   return Number(static_cast<std::int64_t>(whole));
 }
 
+/// A fraction of the estate, never reduced.
+struct Fraction {
+  Integer Num;
+  Integer Den;
+};
+
 static_assert(Integer(32767) == 32767 && Integer(-32768) == -32768);
 static_assert(Long(2147483647) == 2147483647 && Long(-2147483648LL) == -2147483648LL);
 

@@ -1,6 +1,9 @@
 #pragma once
 
+#include <concepts>
 #include <functional>
+#include <string>
+#include <string_view>
 #include <utility>
 #include <vector>
 
@@ -16,11 +19,9 @@ class Property {
   Property(const Property&) = delete;
   Property& operator=(const Property&) = delete;
 
-  Property& operator=(Value value) {
-    if (value == value_) return *this;
-    value_ = std::move(value);
-    for (const auto& listener : listeners_) listener();
-    return *this;
+  Property& operator=(const Value& value) { return Set(value); }
+  Property& operator=(const char* words) requires std::same_as<Value, std::string> {
+    return Set(std::string_view(words));
   }
 
   const Value& Get() const { return value_; }
@@ -29,6 +30,15 @@ class Property {
   void WhenChanged(std::function<void()> listener) { listeners_.push_back(std::move(listener)); }
 
  private:
+  /// A text is copied into the storage that it has.
+  template <class Given>
+  Property& Set(const Given& value) {
+    if (value == value_) return *this;
+    value_ = value;
+    for (const auto& listener : listeners_) listener();
+    return *this;
+  }
+
   Value value_{};
   std::vector<std::function<void()>> listeners_;
 };

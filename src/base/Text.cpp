@@ -11,33 +11,62 @@
 
 namespace qismora {
 
-Piece::Piece(int number) {
-  const auto end = std::to_chars(std::begin(digits_), std::end(digits_), number).ptr;
-  words_ = std::string_view(digits_, static_cast<std::size_t>(end - digits_));
+namespace {
+
+// Each writes behind what is written already, and returns the new end.
+
+char* PutWhole(char* end, std::int64_t number) {
+  constexpr std::ptrdiff_t mostCharacters = 20;
+  return std::to_chars(end, end + mostCharacters, number).ptr;
 }
 
-std::string JoinPieces(std::initializer_list<Piece> pieces) {
-  std::size_t size = 0;
+char* PutFraction(char* end, Fraction fraction) {
+  *end++ = '(';
+  end = PutWhole(end, fraction.Num.Value());
+  *end++ = '/';
+  end = PutWhole(end, fraction.Den.Value());
+  *end++ = ')';
+  return end;
+}
+
+/// The longest amount has a sign and 309 digits.
+using AmountDigits = std::array<char, 352>;
+
+char* PutAmount(char* end, Double amount) {
+  if (amount < 0) *end++ = '-';
+  const double whole = std::abs(std::round(amount.Value()));
+  // Whole numbers up to here are exact, and written faster as such.
+  constexpr double largestExact = 0x1p53;
+  if (whole < largestExact) return PutWhole(end, static_cast<std::int64_t>(whole));
+  constexpr std::ptrdiff_t mostDigits = 309;
+  return std::to_chars(end, end + mostDigits, whole, std::chars_format::fixed, 0).ptr;
+}
+
+}  // namespace
+
+Piece::Piece(int number) : words_(digits_, PutWhole(digits_, number)) {}
+
+Piece::Piece(Fraction fraction) : words_(digits_, PutFraction(digits_, fraction)) {}
+
+void PutPieces(std::string& text, std::size_t from, std::initializer_list<Piece> pieces) {
+  std::size_t size = from;
   for (const Piece& piece : pieces) size += piece.Words().size();
-  std::string text(size, ' ');
-  char* end = text.data();
-  for (const Piece& piece : pieces) end = std::ranges::copy(piece.Words(), end).out;
-  return text;
+  text.resize(size);
+  char* end = text.data() + from;
+  for (const Piece& piece : pieces) end += piece.Words().copy(end, std::string_view::npos);
 }
 
 std::string F(Double amount) {
-  const double whole = std::abs(std::round(amount.Value()));
-  // The longest amount has 309 digits.
-  std::array<char, 320> digits;
-  char* const first = digits.data();
-  char* const last = first + digits.size();
-  // Whole numbers up to here are exact, and written faster as such.
-  constexpr double largestExact = 0x1p53;
-  const char* const end = whole < largestExact
-                              ? std::to_chars(first, last, static_cast<std::int64_t>(whole)).ptr
-                              : std::to_chars(first, last, whole, std::chars_format::fixed, 0).ptr;
-  std::string text(amount < 0 ? "-" : "");
-  return text.append(first, static_cast<std::size_t>(end - first));
+  AmountDigits text;
+  return {text.data(), PutAmount(text.data(), amount)};
+}
+
+std::string F(Double amount, Fraction fraction) {
+  AmountDigits text;
+  char* end = PutAmount(text.data(), amount);
+  *end++ = ' ';
+  *end++ = ' ';
+  return {text.data(), PutFraction(end, fraction)};
 }
 
 std::string GeneralNumber(Double value) {
@@ -51,7 +80,11 @@ std::string GeneralNumber(Double value) {
   return text;
 }
 
-std::string TwoDigits(int number) { return Join(number < 10 ? "0" : "", number); }
+std::string TwoDigits(int number) {
+  std::string digits = std::to_string(number);
+  if (number < 10) digits.insert(0, 1, '0');
+  return digits;
+}
 
 namespace {
 

@@ -11,7 +11,8 @@ namespace qismora {
 inline constexpr std::string_view CRLF = "\r\n";
 inline constexpr std::string_view TAB = "\t";
 
-/// A piece of a text that is being joined: words, or a whole number in plain digits.
+/// A piece of a text that is being joined: words, a whole number in plain digits, or a fraction in brackets.
+/// It does not outlive the words.
 class Piece {
  public:
   Piece(const char* words) : words_(words) {}
@@ -20,6 +21,7 @@ class Piece {
   Piece(int number);
   Piece(Integer number) : Piece(static_cast<int>(number.Value())) {}
   Piece(Long number) : Piece(static_cast<int>(number.Value())) {}
+  Piece(Fraction fraction);
   /// A control's text or caption.
   template <class Property>
   requires requires(const Property& property) { property.Get().size(); }
@@ -30,20 +32,35 @@ class Piece {
   std::string_view Words() const { return words_; }
 
  private:
-  char digits_[12];
+  char digits_[32];
   std::string_view words_;
 };
 
-/// The pieces in the order given, with nothing between them.
-std::string JoinPieces(std::initializer_list<Piece> pieces);
+/// Puts the pieces in the place of all that stands in the text from there on.
+void PutPieces(std::string& text, std::size_t from, std::initializer_list<Piece> pieces);
+
+// The pieces in the order given, with nothing between them. A text that is written is none of its pieces.
+
+template <class... Pieces>
+void Write(std::string& text, const Pieces&... pieces) {
+  PutPieces(text, 0, {Piece(pieces)...});
+}
+template <class... Pieces>
+void Append(std::string& text, const Pieces&... pieces) {
+  PutPieces(text, text.size(), {Piece(pieces)...});
+}
 template <class... Pieces>
 std::string Join(const Pieces&... pieces) {
-  return JoinPieces({Piece(pieces)...});
+  std::string text;
+  Write(text, pieces...);
+  return text;
 }
 
 /// The amount as a whole number of at least one digit, halves rounded away from zero. A negative
 /// amount keeps its sign even where it rounds to nothing: "-0". Only the text is rounded.
 std::string F(Double amount);
+/// The same with two blanks and the fraction behind it: "3000  (1/8)".
+std::string F(Double amount, Fraction fraction);
 
 /// The shortest text of a number with up to 15 significant digits; an exponent from 1E+15 upwards and
 /// below 1E-04.

@@ -20,13 +20,7 @@ namespace qismora {
 
 namespace {
 
-/// A fraction of the estate in 16-bit arithmetic, never reduced.
-struct Fraction {
-  Integer Num;
-  Integer Den;
-};
-
-std::string Text(Fraction fraction) { return Join(" (", fraction.Num, "/", fraction.Den, ")"); }
+std::string Text(Fraction fraction) { return Join(" ", fraction); }
 
 /// One part of the residue's fraction, when it is divided into units.
 Fraction UnitFraction(const CaseRecord& c, Integer units) { return {c.ResidueNum, units * c.ResidueDen}; }

@@ -30,6 +30,21 @@ TEST(Text, AmountsAreRoundedAwayFromZeroInTheTextOnly) {
   EXPECT_EQ(F(1.7976931348623157e308).size(), 309U);
 }
 
+TEST(Text, TheWidestFiguresFit) {
+  const Fraction widest = {Integer(-32768), Integer(-32768)};
+  EXPECT_EQ(Join(widest, " ", Long(-2147483648LL)), "(-32768/-32768) -2147483648");
+  EXPECT_EQ(F(3000, {Integer(1), Integer(8)}), "3000  (1/8)");
+  EXPECT_EQ(F(-1.7976931348623157e308, widest).size(), 327U);
+}
+
+TEST(Text, AWrittenTextReplacesTheOldOneAndAnAppendedOneFollowsIt) {
+  std::string text = "an older and longer text";
+  Write(text, "new ", Integer(5));
+  EXPECT_EQ(text, "new 5");
+  Append(text, CRLF, std::string(300, 'x'));
+  EXPECT_EQ(text, "new 5\r\n" + std::string(300, 'x'));
+}
+
 TEST(Text, GeneralNumbersHaveFifteenDigits) {
   struct Row {
     double Value;
