@@ -8,117 +8,89 @@ namespace qismora {
 
 namespace {
 
-/// One line of a distribution: how it begins, the count that it shows, the amount and the fraction.
+/// How the line of an heir begins.
 struct HeirLine {
-  const char* Label;
-  Integer CaseRecord::*Count;
-  Double CaseRecord::*Amount;
-  Slot Place;
+  HeirKind Heir;
+  std::string_view Label;
 };
 
-constexpr HeirLine wifeLine = {"WIFE (", &CaseRecord::Wives, &CaseRecord::WifeShare, WifeSlot};
-constexpr HeirLine husbandLine = {"HUSBAND (", &CaseRecord::Husband, &CaseRecord::HusbandShare, HusbandSlot};
-
+constexpr HeirLine spouseLines[] = {{WifeHeir, "WIFE ("}, {HusbandHeir, "HUSBAND ("}};
 constexpr HeirLine otherLines[] = {
-    {"DAUGHTERS (", &CaseRecord::Daughters, &CaseRecord::DaughterShare, DaughterSlot},
-    {"FATHER (", &CaseRecord::Father, &CaseRecord::FatherShare, FatherSlot},
-    {"MOTHER (", &CaseRecord::Mother, &CaseRecord::MotherShare, MotherSlot},
-    {"True Grand Mother (", &CaseRecord::GrandMotherCount, &CaseRecord::GrandMotherShare, GrandMotherSlot},
-    {"Son's daughter (", &CaseRecord::GrandDaughters, &CaseRecord::SonsDaughterShare, SonsDaughterSlot},
-    {"Son's Son's daughter (", &CaseRecord::GtGrandDaughters, &CaseRecord::SonsSonsDaughterShare,
-     SonsSonsDaughterSlot},
-    {"BROTHER (", &CaseRecord::FullBrothers, &CaseRecord::FullBrotherShare, FullBrotherSlot},
-    {"SISTER (", &CaseRecord::FullSisters, &CaseRecord::FullSisterShare, FullSisterSlot},
-    {"Cons. SISTER (", &CaseRecord::ConsSisters, &CaseRecord::ConsSisterShare, ConsSisterSlot},
-    {"Cons. BROTHER (", &CaseRecord::ConsBrothers, &CaseRecord::ConsBrotherShare, ConsBrotherSlot},
-    {"Uter. SISTER (", &CaseRecord::UterineSisters, &CaseRecord::UterineSisterShare, UterineSisterSlot},
-    {"Uter. BROTHER (", &CaseRecord::UterineBrothers, &CaseRecord::UterineBrotherShare, UterineBrotherSlot},
+    {DaughterHeir, "DAUGHTERS ("},
+    {FatherHeir, "FATHER ("},
+    {MotherHeir, "MOTHER ("},
+    {GrandMotherHeir, "True Grand Mother ("},
+    {SonsDaughterHeir, "Son's daughter ("},
+    {SonsSonsDaughterHeir, "Son's Son's daughter ("},
+    {FullBrotherHeir, "BROTHER ("},
+    {FullSisterHeir, "SISTER ("},
+    {ConsSisterHeir, "Cons. SISTER ("},
+    {ConsBrotherHeir, "Cons. BROTHER ("},
+    {UterineSisterHeir, "Uter. SISTER ("},
+    {UterineBrotherHeir, "Uter. BROTHER ("},
 };
 
-// The plain distribution shows every ultimate father and the combination of the grandmothers.
-
-bool IsInSummary(const CaseRecord& c, const HeirLine& line) {
-  if (line.Place == FatherSlot) return HasFatherLine(c);
-  if (line.Place == GrandMotherSlot) return HasGrandMother(c);
-  return c.*line.Count > 0;
-}
-
-std::string SummaryHead(const CaseRecord& c, const HeirLine& line) {
-  if (line.Place == FatherSlot) return Join(line.Label, c.UltimateFatherName);
-  if (line.Place == GrandMotherSlot) {
-    return Join("True grandmother (", c.GrandMotherCount, "/", c.GrandMotherGroup);
-  }
-  return Join(line.Label, c.*line.Count);
-}
-
+/// The plain distribution shows every ultimate father and the combination of the grandmothers.
 void AddSummaryLine(CaseRecord& c, const HeirLine& line) {
-  if (!IsInSummary(c, line)) return;
-  c.SharerLines += Join(SummaryHead(c, line), ") = ", F(c.*line.Amount), FractionText(c, line.Place), CRLF);
+  if (!IsAlive(c, line.Heir)) return;
+  const auto add = [&](const auto&... head) {
+    Append(c.SharerLines, head..., ") = ", AmountLine(c, line.Heir), CRLF);
+  };
+  if (line.Heir == FatherHeir) return add(line.Label, c.UltimateFatherName);
+  if (line.Heir == GrandMotherHeir) {
+    return add("True grandmother (", c.GrandMotherCount, "/", c.GrandMotherGroup);
+  }
+  add(line.Label, c.*Heirs[line.Heir].Count);
 }
 
-// The adjusted distribution shows the father alone of his line, though a grand father's amount is in the
-// total.
-
-bool IsInAdjusted(const CaseRecord& c, const HeirLine& line) {
-  return line.Place == GrandMotherSlot ? HasGrandMother(c) : c.*line.Count > 0;
-}
-
+/// The adjusted distribution shows no other ultimate father than the father, though a grandfather's amount is
+/// in the total.
 void AddAdjustedLine(CaseRecord& c, const HeirLine& line, Double factor) {
-  if (!IsInAdjusted(c, line)) return;
-  const Double amount = c.*line.Amount;
-  const std::string head =
-      line.Place == FatherSlot ? Join(line.Label, c.UltimateFatherName) : Join(line.Label, c.*line.Count);
-  c.SharerLines += Join(head, ") = ", F(amount * factor), " (", F(amount), ") (", c.FractionNum(line.Place),
-                        "/", c.FractionDen(line.Place), ")", CRLF);
+  if (!IsAlive(c, line.Heir) || (line.Heir == FatherHeir && c.Father <= 0)) return;
+  const auto add = [&](const auto&... head) {
+    const Double amount = c.*Heirs[line.Heir].Amount;
+    Append(c.SharerLines, head..., ") = ", F(amount * factor), " (", F(amount), ") ",
+           FractionOf(c, line.Heir), CRLF);
+  };
+  if (line.Heir == FatherHeir) return add(line.Label, c.UltimateFatherName);
+  add(line.Label, c.*Heirs[line.Heir].Count);
 }
 
-/// Aul reduces the spouse with all others. Radd leaves the spouse the plain share and raises the rest. With
+/// Aul reduces the spouse with all others. Radd leaves the spouse the plain share and raises all others. With
 /// no residue the spouse has no line at all.
 void AddSpouseLines(CaseRecord& c) {
   if (c.Residue == 0) return;
-  const Double factor = c.Residue < 0 ? c.AulFactor : 1;
-  AddAdjustedLine(c, wifeLine, factor);
-  AddAdjustedLine(c, husbandLine, factor);
+  for (const HeirLine& line : spouseLines) AddAdjustedLine(c, line, c.Residue < 0 ? c.AulFactor : 1);
   if (c.Residue > 0) c.AulFactor = c.RaddFactor;
 }
 
-// The lines that all distributions share.
-
-std::string NetEstateLine(const CaseRecord& c) {
-  return Join("Net Estate Wealth = ", F(c.NetEstate), CRLF, CRLF);
-}
-
+/// What follows the explanation in every distribution: the net estate and the lines of the sharers.
 std::string SharersBlock(CaseRecord& c) {
   if (c.SharerLines.empty()) c.SharerLines = "NO Quranic Heir Found\r\n";
-  return Join("QURANIC SHARERS (Zawil-Farooz):", CRLF, c.SharerLines, CRLF);
+  return Join("Net Estate Wealth = ", F(c.NetEstate), "\r\n\r\nQURANIC SHARERS (Zawil-Farooz):\r\n",
+              c.SharerLines, CRLF);
 }
 
 }  // namespace
 
 void BuildSharerSummary(CaseRecord& c, const CaseScreen& screen) {
   c.SharerLines = "";
-  AddSummaryLine(c, wifeLine);
-  AddSummaryLine(c, husbandLine);
+  for (const HeirLine& line : spouseLines) AddSummaryLine(c, line);
   for (const HeirLine& line : otherLines) AddSummaryLine(c, line);
-
-  const std::string total = Join("TOTAL Q-Shares = ", F(c.TotalQShares), CRLF);
-  const std::string residue =
-      Join("RESIDUE (Balance) = ", F(c.Residue), " (", c.ResidueNum, "/", c.ResidueDen, ")", CRLF, CRLF);
-  c.SummaryText = Join(SummaryOpening, screen.Text1(NameBox).Text, SummaryExplanation, NetEstateLine(c),
-                       SharersBlock(c), total, residue, "RESIDUARIES [ASABA'T] (Share per head):", CRLF);
+  Write(c.SummaryText, SummaryOpening, screen.Text1(NameBox).Text, SummaryExplanation, SharersBlock(c),
+        "TOTAL Q-Shares = ", F(c.TotalQShares), "\r\nRESIDUE (Balance) = ", F(c.Residue), " (", c.ResidueNum,
+        "/", c.ResidueDen, ")\r\n\r\nRESIDUARIES [ASABA'T] (Share per head):\r\n");
 }
 
 void BuildAulRaddTexts(CaseRecord& c, const CaseScreen& screen) {
   c.SharerLines = "";
   AddSpouseLines(c);
   for (const HeirLine& line : otherLines) AddAdjustedLine(c, line, c.AulFactor);
-
-  const std::string total =
-      Join("TOTAL Q-Shares = ", F(c.TotalQShares + c.Residue), " (", F(c.TotalQShares), ")", CRLF);
-  const std::string residue = Join("RESIDUE (Balance) = 0  (", F(c.Residue), ")", CRLF, CRLF);
-  const std::string figures = Join(NetEstateLine(c), SharersBlock(c), total, residue);
-  c.SummaryText = Join(AulRaddOpening, screen.Text1(NameBox).Text, AulExplanation, figures);
-  c.RaddText = Join(AulRaddOpening, screen.Text1(NameBox).Text, RaddExplanation, figures);
+  const std::string figures =
+      Join(SharersBlock(c), "TOTAL Q-Shares = ", F(c.TotalQShares + c.Residue), " (", F(c.TotalQShares),
+           ")\r\nRESIDUE (Balance) = 0  (", F(c.Residue), ")\r\n\r\n");
+  Write(c.SummaryText, AulRaddOpening, screen.Text1(NameBox).Text, AulExplanation, figures);
+  Write(c.RaddText, AulRaddOpening, screen.Text1(NameBox).Text, RaddExplanation, figures);
 }
 
 }  // namespace qismora

@@ -42,7 +42,7 @@ bool HasTickedHeir(const CaseRecord& c) {
   return false;
 }
 
-/// Tells the outcome, unless a full report is being made, and shows the command that applies the doctrine.
+/// Shows the outcome, unless a full report is being made, and the command that applies the doctrine.
 void Offer(CaseRecord& c, CaseScreen& screen, int state, const char* message) {
   if (!c.ReportToFile) screen.World.Boxes.Tell(BoxStyle::Warning, message);
   screen.AulRadd.Visible = true;
@@ -62,11 +62,12 @@ void SufficiencyTest(CaseRecord& c, CaseScreen& screen) {
   c.AulRaddState = Integer(NoAdjustment);
 
   if (c.Residue < 0 && c.TotalQShares > 0) {
-    if (HasNoSonsLine(c) && !HasFlag(c)) return Offer(c, screen, Aul, aulMessage);
-    if (HasSonsLine(c) || HasFlag(c)) return Offer(c, screen, AulBesideResiduary, aulBesideResiduaryMessage);
+    if (HasNoMaleDescendant(c) && !HasFlag(c)) return Offer(c, screen, Aul, aulMessage);
+    if (HasMaleDescendant(c) || HasFlag(c))
+      return Offer(c, screen, AulBesideResiduary, aulBesideResiduaryMessage);
     return;
   }
-  if (c.Residue > 0 && c.QSharesLessSpouse > 0 && HasNoSonsLine(c) && !HasFlag(c)) {
+  if (c.Residue > 0 && c.QSharesLessSpouse > 0 && HasNoMaleDescendant(c) && !HasFlag(c)) {
     ReadClassIIChecks(c, screen);
     if (HasTickedHeir(c)) {
       NameClassIIHeir(c);

@@ -1,6 +1,7 @@
 #include "aulradd/Unitize.h"
 
 #include "aulradd/FindLCM.h"
+#include "case/Heirs.h"
 
 namespace qismora {
 
@@ -15,7 +16,7 @@ Integer UnitsOf(const CaseRecord& c, int active) {
 void Unitize(CaseRecord& c) {
   c.LcmCount = Integer(0);
   c.ActiveCount = Integer(0);
-  for (int slot = 0; slot < SlotCount; ++slot) {
+  for (int slot = 0; slot < HeirCount; ++slot) {
     if (c.FractionNum(slot) <= 0) continue;
     const int active = static_cast<int>(c.ActiveCount.Value());
     c.ActiveHeir(active) = Integer(slot);
@@ -38,7 +39,7 @@ void Unitize(CaseRecord& c) {
   c.ResidueDen = ToInteger(c.LcmResult);
 }
 
-/// Every sharer over the sum of all units: Aul, and Radd where no spouse stands aside.
+/// Every sharer over the sum of all units: Aul, and Radd without a spouse.
 void PutOverUnitTotal(CaseRecord& c) {
   for (int k = 0; k < c.LcmCount; ++k) {
     const int heir = static_cast<int>(c.ActiveHeir(k).Value());
@@ -48,8 +49,8 @@ void PutOverUnitTotal(CaseRecord& c) {
 }
 
 /// Radd beside a spouse, who is the first active heir and keeps the share: what he or she leaves is divided
-/// in proportion to the other shares. The spouse's scaled pair is written to the wife's slot also where it is
-/// a husband, whose own slot keeps the plain fraction.
+/// in proportion to the other shares. The spouse's scaled fraction is stored in the wife's slot even where it
+/// is a husband's; his own slot keeps the plain fraction.
 void DivideBesideSpouse(CaseRecord& c) {
   c.LcmCount -= Integer(1);
   for (int i = 0; i < c.LcmCount; ++i) {
@@ -68,15 +69,15 @@ void DivideBesideSpouse(CaseRecord& c) {
     c.FractionNum(heir) = (c.ActiveDen(0) - c.ActiveNum(0)) * c.RaddUnit(k - 1);
     c.FractionDen(heir) = c.ActiveDen(0) * c.RaddUnitTotal;
   }
-  c.FractionNum(WifeSlot) = c.ActiveNum(0) * c.RaddUnitTotal;
-  c.FractionDen(WifeSlot) = c.ActiveDen(0) * c.RaddUnitTotal;
+  c.FractionNum(WifeHeir) = c.ActiveNum(0) * c.RaddUnitTotal;
+  c.FractionDen(WifeHeir) = c.ActiveDen(0) * c.RaddUnitTotal;
 }
 
 void Revise(CaseRecord& c) {
   if (ToLong(c.UnitTotal) > c.LcmResult) return PutOverUnitTotal(c);
-  if (c.FractionNum(WifeSlot) == 0 && c.FractionNum(HusbandSlot) == 0) PutOverUnitTotal(c);
+  if (c.FractionNum(WifeHeir) == 0 && c.FractionNum(HusbandHeir) == 0) PutOverUnitTotal(c);
   c.RaddUnitTotal = Integer(0);
-  if (c.FractionNum(WifeSlot) < 1 && c.FractionNum(HusbandSlot) < 1) return;
+  if (c.FractionNum(WifeHeir) < 1 && c.FractionNum(HusbandHeir) < 1) return;
   DivideBesideSpouse(c);
 }
 

@@ -6,12 +6,12 @@
 namespace qismora {
 
 /// Brings the fractions of all sharers to one denominator, which gives the fraction of their sum and of the
-/// residue. An overflow leaves it without a word, another failure with a message; what was written by then
-/// stays, the rest is that of the run before.
+/// residue. An overflow ends it silently, another failure with a message; what was stored by then stays, all
+/// else is that of the run before.
 void UnitizeShares(CaseRecord& c, CaseScreen& screen);
 
-/// Rewrites the fractions of the sharers after Aul or Radd. Any failure leaves it without a word and with
-/// the fractions half rewritten.
+/// Rewrites the fractions of the sharers after Aul or Radd. Any failure ends it silently, with the fractions
+/// half rewritten.
 void ReviseFractions(CaseRecord& c);
 
 }  // namespace qismora

@@ -9,7 +9,7 @@ namespace qismora {
 
 /// What lives as long as the process.
 struct ApplicationLayer {
-  // How many heirs of each kind are alive. Father and the spouses are 1 or 0, or up to 4 wives.
+  // How many heirs of each kind are alive: one husband or up to four wives, one father.
   Integer Husband;
   Integer Wives;
   Integer Sons;
@@ -33,8 +33,8 @@ struct ApplicationLayer {
   Integer ConsBrothers;
   Integer UterineSisters;
   Integer UterineBrothers;
-  // The males that stand beside son's daughters in the residue. Loading a case without such daughters
-  // leaves them alone, so they may hold the counts of an earlier case.
+  // The males who share the residue with son's daughters. Loading a case without such daughters leaves
+  // them alone, so they may hold the counts of an earlier case.
   Integer AsabaGrandSons;
   Integer AsabaGtGrandSons;
 
@@ -48,7 +48,7 @@ struct ApplicationLayer {
   /// How many times a case was loaded, over all runs of the program.
   Long ExecCount;
 
-  // The amount of each kind of heir, all heads together.
+  // The amount of each kind of heir, all of the kind together.
   Double WifeShare;
   Double EachWifeShare;
   Double HusbandShare;
@@ -87,7 +87,7 @@ struct ApplicationLayer {
   Double GrandFatherAmount;
   Double GtGrandFatherAmount;
 
-  /// The spouse's amount as a whole number, for the mother's third of the rest.
+  /// The spouse's amount as a whole number, for the mother's third of the remainder.
   Long SpouseShareWhole;
 
   // The true grandmothers: their combination, their number, and the amount in the slot of one of them.
@@ -104,7 +104,7 @@ struct ApplicationLayer {
   std::string WifeWithGtGrandChildrenText;
   std::string HusbandWithGtGrandChildrenText;
 
-  // What FindLCM takes and leaves.
+  // Input and result of FindLCM.
   Integer LcmCount;
   Array<Integer, 10> LcmNum;
   Array<Integer, 10> LcmDen;
@@ -122,20 +122,19 @@ inline constexpr int SurplusToClassII = 33;
 struct ScreenLayer {
   /// The loading of the case stopped on a hard failure. Whoever reads it as true sets it back.
   bool InputFailed = false;
-  /// A run of several rules has loaded the case, so that their wrappers leave it out.
+  /// A run of several rules has loaded the case, so that their wrappers do not.
   bool CaseLoaded = false;
-  /// The full report is being made: the sufficiency test keeps silent.
+  /// The full report is being made: the sufficiency test shows no message.
   bool ReportToFile = false;
 
-  // Each kind's fraction of the estate, by its slot; 0 and 1 where a rule found no share, 0 and 0
-  // where none has run.
+  // Each kind's fraction of the estate; 0/1 where a rule found no share, 0/0 where none has run.
   Array<Integer, 50> FractionNum;
   Array<Integer, 50> FractionDen;
 
   /// The ways of being a residuary; see case/ResiduaryFlags.h for each index.
   Array<bool, 20> Res;
 
-  // The residue for one head of each kind.
+  // The residue per head of each kind.
   Double SonAmount;
   Double DaughterResidue;
   Double SonsDaughterResidue;
@@ -149,10 +148,10 @@ struct ScreenLayer {
   Double ClassIIResidue;
   Double FatherResidue;
 
-  // The class II residuaries, by their tick boxes.
+  // The class II residuaries, by their check boxes.
   Array<Integer, 11> ClassIIFlag;
   Array<Double, 11> ClassIIAmount;
-  /// A sentence that names the taker. It is kept for a report that may want it; none shows it.
+  /// A sentence that names the taker, for a report that may want it. None shows it.
   std::string ClassIINarrative;
   std::string ClassIIText;
 
@@ -189,8 +188,8 @@ struct ScreenLayer {
   std::string SummaryText;
   std::string RaddText;
 
-  // The long reports. The tables of the summary are indexed like the boxes; 34 to 45 stand for the
-  // class II tick boxes.
+  // The long reports. The tables of the summary are indexed like the fields; 34 to 45 stand for the
+  // class II check boxes.
   std::string ReportHeader;
   Array<Double, 50> SummaryAmount;
   Array<std::string, 50> SummaryKind;
@@ -201,24 +200,5 @@ struct ScreenLayer {
 /// The one record of a case. Rules take no values from one another: all work on this record, and the
 /// order of calls carries results from rule to rule.
 struct CaseRecord : ApplicationLayer, ScreenLayer {};
-
-/// The slots of the heirs in FractionNum and FractionDen.
-enum Slot {
-  WifeSlot,
-  HusbandSlot,
-  DaughterSlot,
-  FatherSlot,
-  MotherSlot,
-  GrandMotherSlot,
-  SonsDaughterSlot,
-  SonsSonsDaughterSlot,
-  FullSisterSlot,
-  FullBrotherSlot,
-  ConsSisterSlot,
-  ConsBrotherSlot,
-  UterineSisterSlot,
-  UterineBrotherSlot,
-};
-inline constexpr int SlotCount = 14;
 
 }  // namespace qismora

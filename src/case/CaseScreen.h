@@ -8,8 +8,8 @@
 
 namespace qismora {
 
-/// The boxes of the heirs, in the order of the screen. The arrays Text1 and Label1 have no elements
-/// between 8 and 11, and those of 24 to 29 belong to the deceased and the estate.
+/// The fields of the heirs, in the order of the screen. The arrays Text1 and Label1 have no elements
+/// between 8 and 11, and those from 24 to 29 belong to the deceased and the estate.
 inline constexpr std::array HeirBoxes = {1,  2,  3,  4,  5,  6,  7,  13, 14, 15, 16,
                                          17, 18, 19, 20, 21, 22, 23, 30, 31, 32, 33};
 inline constexpr int NameBox = 24;
@@ -22,7 +22,7 @@ inline constexpr int NetEstateBox = 29;
 inline constexpr int Male = 0;
 inline constexpr int Female = 1;
 
-/// The part of the Case Study screen that the law knows: the boxes that a case is read from and the
+/// The part of the Case Study screen that the law knows: the fields that a case is read from and the
 /// panel that its results are written to.
 struct CaseScreen {
   explicit CaseScreen(Outside& outside) : World(outside) {}
@@ -39,10 +39,10 @@ struct CaseScreen {
   /// Heading and amount line of the result panel.
   Label Label2;
   Label Label3;
-  /// The narrative of one rule, and the long reports; they stand in one place.
+  /// The narrative of one rule, and the long reports; they share one place.
   TextBox Text2;
   TextBox Text3;
-  /// Lies over the result area whenever no result is to be read.
+  /// Covers the result area while there is no result to read.
   Frame Frame5;
   /// Shows how many times a case was loaded.
   Label Label13;

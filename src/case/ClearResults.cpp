@@ -1,16 +1,19 @@
 #include "case/ClearResults.h"
 
+#include "case/Heirs.h"
+
 namespace qismora {
 
 void ClearResults(CaseRecord& c, CaseScreen& screen) {
-  for (Double* amount : {&c.HusbandShare, &c.WifeShare, &c.FatherShare, &c.MotherShare, &c.GrandMotherShare,
-                         &c.DaughterShare, &c.SonsDaughterShare, &c.FullSisterShare, &c.FullBrotherShare,
-                         &c.ConsSisterShare, &c.UterineSisterShare, &c.UterineBrotherShare,
-                         // the residue
-                         &c.Residue, &c.SonAmount, &c.DaughterResidue, &c.SonsDaughterResidue,
+  for (const Heir& heir : Heirs) {
+    const bool survives =
+        heir.Amount == &CaseRecord::SonsSonsDaughterShare || heir.Amount == &CaseRecord::ConsBrotherShare;
+    if (!survives) c.*heir.Amount = 0;
+  }
+  for (Double* amount : {&c.Residue, &c.SonAmount, &c.DaughterResidue, &c.SonsDaughterResidue,
                          &c.EqualSonsSonResidue, &c.LowerSonsSonResidue, &c.FullBrotherResidue,
                          &c.FullSisterResidue, &c.ConsBrotherResidue, &c.ConsSisterResidue,
-                         // the slots of the father line and of the true grandmothers
+                         // of each male ascendant and each true grandmother
                          &c.FatherAmount, &c.GrandFatherAmount, &c.GtGrandFatherAmount,
                          &c.FathersMotherAmount, &c.GrandFathersMotherAmount, &c.FathersGrandMotherAmount,
                          &c.MothersMotherAmount, &c.MothersMothersMotherAmount}) {

@@ -1,25 +1,27 @@
 #pragma once
 
-#include "case/CaseRecord.h"
+#include "case/Heirs.h"
 
 namespace qismora {
 
-// Who lives, in the words of the law.
+// Who is alive, in the words of the law.
 
-/// A man of the father line: one of them is the ultimate father.
-inline bool HasFatherLine(const CaseRecord& c) {
+/// One of them is the ultimate father.
+inline bool HasMaleAscendant(const CaseRecord& c) {
   return c.Father > 0 || c.GrandFather > 0 || c.GtGrandFather > 0;
 }
 
-/// A son of any line.
-inline bool HasSonsLine(const CaseRecord& c) { return c.Sons > 0 || c.GrandSons > 0 || c.GtGrandSons > 0; }
+/// A son, a son's son or a son's son's son.
+inline bool HasMaleDescendant(const CaseRecord& c) {
+  return c.Sons > 0 || c.GrandSons > 0 || c.GtGrandSons > 0;
+}
 
-/// A daughter of any line.
-inline bool HasDaughtersLine(const CaseRecord& c) {
+/// A daughter, a son's daughter or a son's son's daughter.
+inline bool HasFemaleDescendant(const CaseRecord& c) {
   return c.Daughters > 0 || c.GrandDaughters > 0 || c.GtGrandDaughters > 0;
 }
 
-inline bool HasDescendant(const CaseRecord& c) { return HasSonsLine(c) || HasDaughtersLine(c); }
+inline bool HasDescendant(const CaseRecord& c) { return HasMaleDescendant(c) || HasFemaleDescendant(c); }
 
 /// A grandmother or great grandmother of either side.
 inline bool HasGrandMother(const CaseRecord& c) {
@@ -27,13 +29,20 @@ inline bool HasGrandMother(const CaseRecord& c) {
          c.MothersMothersMother > 0;
 }
 
+/// One of the kind, any male ascendant for the ultimate father and any grandmother for the group.
+inline bool IsAlive(const CaseRecord& c, HeirKind heir) {
+  if (heir == FatherHeir) return HasMaleAscendant(c);
+  if (heir == GrandMotherHeir) return HasGrandMother(c);
+  return c.*Heirs[heir].Count > 0;
+}
+
 // Exactly none. After a refused count a field may be negative, which is neither one nor none.
 
-inline bool HasNoSonsLine(const CaseRecord& c) {
+inline bool HasNoMaleDescendant(const CaseRecord& c) {
   return c.Sons == 0 && c.GrandSons == 0 && c.GtGrandSons == 0;
 }
 
-inline bool HasNoDaughtersLine(const CaseRecord& c) {
+inline bool HasNoFemaleDescendant(const CaseRecord& c) {
   return c.Daughters == 0 && c.GrandDaughters == 0 && c.GtGrandDaughters == 0;
 }
 

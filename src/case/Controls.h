@@ -31,7 +31,7 @@ struct TextBox {
   Property<std::string> Text;
   Property<bool> Visible{true};
   Property<int> ForeColor{Black};
-  /// Raised when the program sends the focus to the box.
+  /// Raised when the program sends the focus to the field.
   std::function<void()> FocusWanted;
 
   void SetFocus() const {

@@ -2,8 +2,8 @@
 
 namespace qismora {
 
-/// The indices of Res: one for each way of being a residuary. A sharer's rule sets the flag of its heir,
-/// the residuary distribution serves the first class that its chain of tests finds.
+/// The indices of Res: one for each way of being a residuary. The rule of an heir sets the flag, the
+/// residuary distribution serves the first class that its chain of tests finds.
 enum ResiduaryFlag {
   SonsAlone = 0,                                // set by the distribution itself
   SonsWithDaughters = 1,                        // by the daughters
@@ -22,9 +22,9 @@ enum ResiduaryFlag {
   ConsBrothersAlone = 14,                       // by the consanguine brother, no daughters
   SonsDaughterWithSonsSonBesideDaughters = 15,  // by the son's daughter
   SonsSonsDaughterWithSonsSonsSon = 16,         // by the son's daughter and the son's son's daughter
-  SonsSonsDaughterBesideSonsDaughter = 17,      // by the son's son's daughter, who clears flag 18
+  SonsSonsDaughterBesideSonsDaughter = 17,      // by the son's son's daughter, which clears flag 18
   SonsDaughterWithLowerSonsSon = 18,            // by the son's daughter
-  ClassIITicked = 20,                           // by the reading of the tick boxes; 19 stays unused
+  ClassIITicked = 20,                           // by the reading of the check boxes; 19 is unused
 };
 
 }  // namespace qismora

@@ -1,16 +1,25 @@
 #pragma once
 
-#include "case/CaseRecord.h"
-#include "case/CaseScreen.h"
+#include "case/LoadCase.h"
 
 namespace qismora {
 
-/// A rule decides the standing of one kind of heir from the counts, stores fraction, amount and report,
-/// and fills the result panel.
+/// A rule decides the standing of one kind of heir from the counts, stores amount, fraction and report, and
+/// fills the result panel.
 using Rule = void (*)(CaseRecord&, CaseScreen&);
 
-/// The way from a command to one rule: loads the case unless a run has done so, turns a hard failure
-/// into the text "INPUT ERROR", and calls the rule.
-void RunSharer(CaseRecord& c, CaseScreen& screen, Rule rule);
+/// The way from a command to one rule: loads the case unless a run has done so, turns a hard failure into the
+/// text "INPUT ERROR", and calls the rule.
+template <Rule ShareOf>
+void RunSharer(CaseRecord& c, CaseScreen& screen) {
+  if (!c.CaseLoaded) LoadCase(c, screen);
+  if (c.InputFailed) {
+    c.InputFailed = false;
+    screen.Text2.Text = "\r\nINPUT ERROR";
+    return;
+  }
+  screen.Text2.Text = "";
+  ShareOf(c, screen);
+}
 
 }  // namespace qismora

@@ -1,11 +1,12 @@
 #include "case/SpouseShares.h"
 
+#include "case/Conditions.h"
 #include "case/Shares.h"
 #include "case/narratives/SpouseTexts.h"
 
-// The spouse takes a fixed share beside everybody; a descendant of any line halves it. What differs between
-// the two rules is kept: where the bracket with the fraction stands, where a line break does, and that the
-// fraction in the text on great grandchildren is read from the slot for a wife and fixed for a husband.
+// The spouse takes a fixed share beside everybody; a descendant halves it. The two rules differ in the place
+// of the fraction and of a line break, and the text on great grandchildren reads the fraction from the slot
+// for a wife only. Readers of the reports know both forms.
 
 namespace qismora {
 
@@ -19,53 +20,27 @@ std::string DescendantsList(const CaseRecord& c) {
 
 /// Decides the wives' share and returns the sentence that explains it.
 std::string_view DecideWife(CaseRecord& c) {
-  if (c.Sons > 0 || c.Daughters > 0) {
-    c.WifeShare = c.NetEstate / 8;
-    SetFraction(c, WifeSlot, 1, 8);
-    return WifeWithChildrenText;
-  }
-  if (c.GrandSons > 0 || c.GrandDaughters > 0) {
-    c.WifeShare = c.NetEstate / 8;
-    SetFraction(c, WifeSlot, 1, 8);
-    return WifeWithGrandChildrenText;
-  }
-  if (c.GtGrandSons > 0 || c.GtGrandDaughters > 0) {
-    c.WifeShare = c.NetEstate / 8;
-    SetFraction(c, WifeSlot, 1, 8);
-    return c.WifeWithGtGrandChildrenText =
-               Join("\r\nIn the case under examination, the deceased male has left the following:\r\n\r\n",
-                    DescendantsList(c),
-                    "\r\n\r\nso the share of wife/ wives in the net estate wealth will be one eighth (1/",
-                    c.FractionDen(WifeSlot), ") i.e.");
-  }
-  c.WifeShare = c.NetEstate / 4;
-  SetFraction(c, WifeSlot, 1, 4);
-  return WifeNoDescendantText;
+  Take(c, WifeHeir, 1, HasDescendant(c) ? 8 : 4);
+  if (c.Sons > 0 || c.Daughters > 0) return WifeWithChildrenText;
+  if (c.GrandSons > 0 || c.GrandDaughters > 0) return WifeWithGrandChildrenText;
+  if (!HasDescendant(c)) return WifeNoDescendantText;
+  return c.WifeWithGtGrandChildrenText =
+             Join("\r\nIn the case under examination, the deceased male has left the following:\r\n\r\n",
+                  DescendantsList(c),
+                  "\r\n\r\nso the share of wife/ wives in the net estate wealth will be one eighth (1/",
+                  c.FractionDen(WifeHeir), ") i.e.");
 }
 
 /// Decides the husband's share and returns the sentence that explains it.
 std::string_view DecideHusband(CaseRecord& c) {
-  if (c.Sons > 0 || c.Daughters > 0) {
-    c.HusbandShare = c.NetEstate / 4;
-    SetFraction(c, HusbandSlot, 1, 4);
-    return HusbandWithChildrenText;
-  }
-  if (c.GrandSons > 0 || c.GrandDaughters > 0) {
-    c.HusbandShare = c.NetEstate / 4;
-    SetFraction(c, HusbandSlot, 1, 4);
-    return HusbandWithGrandChildrenText;
-  }
-  if (c.GtGrandSons > 0 || c.GtGrandDaughters > 0) {
-    c.HusbandShare = c.NetEstate / 4;
-    SetFraction(c, HusbandSlot, 1, 4);
-    return c.HusbandWithGtGrandChildrenText =
-               Join("\r\nIn the case under examination, the deceased female has left the following:\r\n\r\n",
-                    DescendantsList(c),
-                    "\r\n\r\nso the share of husband in the net estate wealth will be one fourth (1/4) i.e.");
-  }
-  c.HusbandShare = c.NetEstate / 2;
-  SetFraction(c, HusbandSlot, 1, 2);
-  return HusbandNoDescendantText;
+  Take(c, HusbandHeir, 1, HasDescendant(c) ? 4 : 2);
+  if (c.Sons > 0 || c.Daughters > 0) return HusbandWithChildrenText;
+  if (c.GrandSons > 0 || c.GrandDaughters > 0) return HusbandWithGrandChildrenText;
+  if (!HasDescendant(c)) return HusbandNoDescendantText;
+  return c.HusbandWithGtGrandChildrenText =
+             Join("\r\nIn the case under examination, the deceased female has left the following:\r\n\r\n",
+                  DescendantsList(c),
+                  "\r\n\r\nso the share of husband in the net estate wealth will be one fourth (1/4) i.e.");
 }
 
 }  // namespace
@@ -73,41 +48,37 @@ std::string_view DecideHusband(CaseRecord& c) {
 void ShareOfWife(CaseRecord& c, CaseScreen& screen) {
   screen.Label2.Caption = "WIFE'S SHARE";
   if (c.Wives == 0) {
-    c.WifeShare = 0;
-    SetFraction(c, WifeSlot, 0, 1);
-    c.WifeReport = NoWifeText;
+    TakeNothing(c, WifeHeir);
+    Report(c, WifeHeir, NoWifeText);
     screen.Label3.Caption = F(c.WifeShare);
-    screen.Text2.Text = Join(c.WifeReport, CRLF, CRLF, TAB, "NIL");
+    screen.Text2.Text = Join(c.WifeReport, "\r\n\r\n\tNIL");
     return;
   }
   const std::string_view narrative = DecideWife(c);
-  c.WifeReport = Join(narrative, CRLF, CRLF, TAB, F(c.WifeShare));
+  Report(c, WifeHeir, narrative, "\r\n\r\n\t", F(c.WifeShare));
   if (c.Wives > 1) {
     c.EachWifeShare = c.WifeShare / c.Wives;
     c.EachWifeText =
         Join("\r\nSince, the deceased has left ", c.Wives, " wives, so the share of each wife will be 1/",
-             c.Wives, " of ", F(c.WifeShare), " i.e. ", CRLF, CRLF, TAB, F(c.EachWifeShare));
-    c.WifeReport = Join(c.WifeReport, FractionText(c, WifeSlot), CRLF, c.EachWifeText);
+             c.Wives, " of ", F(c.WifeShare), " i.e. \r\n\r\n\t", F(c.EachWifeShare));
+    Append(c.WifeReport, "  ", FractionOf(c, WifeHeir), CRLF, c.EachWifeText);
   }
-  screen.Text2.Text = Join(c.WifeReport, CRLF);
-  screen.Label3.Caption = AmountLine(c, c.WifeShare, WifeSlot);
+  ShowResult(c, screen, WifeHeir, Join(c.WifeReport, CRLF));
 }
 
 void ShareOfHusband(CaseRecord& c, CaseScreen& screen) {
   screen.Label2.Caption = "HUSBAND'S SHARE";
   if (screen.Combo1.ListIndex == Male) return;
   if (c.Husband == 0) {
-    c.HusbandShare = 0;
-    SetFraction(c, HusbandSlot, 0, 1);
-    c.HusbandReport = NoHusbandText;
-    screen.Text2.Text = Join(c.HusbandReport, CRLF, CRLF, TAB, "NIL");
+    TakeNothing(c, HusbandHeir);
+    Report(c, HusbandHeir, NoHusbandText);
+    screen.Text2.Text = Join(c.HusbandReport, "\r\n\r\n\tNIL");
     screen.Label3.Caption = F(c.HusbandShare);
     return;
   }
   const std::string_view narrative = DecideHusband(c);
-  c.HusbandReport = Join(narrative, CRLF, CRLF, TAB, F(c.HusbandShare));
-  screen.Text2.Text = Join(c.HusbandReport, FractionText(c, HusbandSlot));
-  screen.Label3.Caption = AmountLine(c, c.HusbandShare, HusbandSlot);
+  Report(c, HusbandHeir, narrative, "\r\n\r\n\t", F(c.HusbandShare));
+  ShowResult(c, screen, HusbandHeir, Join(c.HusbandReport, "  ", FractionOf(c, HusbandHeir)));
 }
 
 }  // namespace qismora

@@ -10,7 +10,7 @@
 #include "case/LoadCase.h"
 #include "reports/ReportHeaders.h"
 #include "reports/SummarizedShares.h"
-#include "rules/RunSharers.h"
+#include "rules/Rules.h"
 
 namespace qismora {
 
@@ -18,40 +18,37 @@ namespace {
 
 constexpr int anyGender = -1;
 
-/// A section of a report: its title, the rule that writes it, when the heir counts as entered, the gender of
-/// the deceased that it needs, and what stands between title and narrative and behind it.
+/// A section of a report: its heir, who must be alive to have one in the selected report, its title, the rule
+/// that writes it, the gender of the deceased that it needs, and what stands between title and narrative and
+/// behind it.
 struct SectionRow {
+  HeirKind Heir;
   const char* Title;
   Rule Run;
-  bool (*IsEntered)(const CaseRecord&);
   int Gender = anyGender;
   std::string_view Gap = "\r\n";
   std::string_view End = "\r\n\r\n";
 };
 
 constexpr SectionRow sections[] = {
-    {"WIFE'S SHARE", RunWife, [](const CaseRecord& c) { return c.Wives > 0; }, Male, "\r\n", ""},
-    {"HUSBAND'S SHARE", RunHusband, [](const CaseRecord& c) { return c.Husband > 0; }, Female, ""},
-    {"DAUGHTER'S SHARE", ShareOfDaughters, [](const CaseRecord& c) { return c.Daughters > 0; }},
-    {"ULTIMATE FATHER'S SHARE", RunUltimateFather, HasFatherLine},
-    {"MOTHER'S SHARE", RunMother, [](const CaseRecord& c) { return c.Mother > 0; }},
-    {"TRUE GRAND MOTHER'S SHARE", RunGrandMother, HasGrandMother},
-    {"SON'S DAUGHTER'S SHARE", ShareOfSonsDaughter, [](const CaseRecord& c) { return c.GrandDaughters > 0; }},
-    {"GRANDSON'S DAUGHTER'S SHARE", ShareOfSonsSonsDaughter,
-     [](const CaseRecord& c) { return c.GtGrandDaughters > 0; }},
-    {"FULL BROTHER'S SHARE", ShareOfFullBrother, [](const CaseRecord& c) { return c.FullBrothers > 0; }},
-    {"FULL SISTER'S SHARE", ShareOfFullSister, [](const CaseRecord& c) { return c.FullSisters > 0; }},
-    {"CONSANGUINE SISTER'S SHARE", ShareOfConsSister, [](const CaseRecord& c) { return c.ConsSisters > 0; }},
-    {"CONSANGUINE BROTHER'S SHARE", ShareOfConsBrother,
-     [](const CaseRecord& c) { return c.ConsBrothers > 0; }},
-    {"UTERINE SISTER'S SHARE", ShareOfUterineSister,
-     [](const CaseRecord& c) { return c.UterineSisters > 0; }},
-    {"UTERINE BROTHER'S SHARE", ShareOfUterineBrother,
-     [](const CaseRecord& c) { return c.UterineBrothers > 0; }},
+    {WifeHeir, "WIFE'S SHARE", RunWife, Male, "\r\n", ""},
+    {HusbandHeir, "HUSBAND'S SHARE", RunHusband, Female, ""},
+    {DaughterHeir, "DAUGHTER'S SHARE", ShareOfDaughters},
+    {FatherHeir, "ULTIMATE FATHER'S SHARE", RunUltimateFather},
+    {MotherHeir, "MOTHER'S SHARE", RunMother},
+    {GrandMotherHeir, "TRUE GRAND MOTHER'S SHARE", RunGrandMother},
+    {SonsDaughterHeir, "SON'S DAUGHTER'S SHARE", ShareOfSonsDaughter},
+    {SonsSonsDaughterHeir, "GRANDSON'S DAUGHTER'S SHARE", ShareOfSonsSonsDaughter},
+    {FullBrotherHeir, "FULL BROTHER'S SHARE", ShareOfFullBrother},
+    {FullSisterHeir, "FULL SISTER'S SHARE", ShareOfFullSister},
+    {ConsSisterHeir, "CONSANGUINE SISTER'S SHARE", ShareOfConsSister},
+    {ConsBrotherHeir, "CONSANGUINE BROTHER'S SHARE", ShareOfConsBrother},
+    {UterineSisterHeir, "UTERINE SISTER'S SHARE", ShareOfUterineSister},
+    {UterineBrotherHeir, "UTERINE BROTHER'S SHARE", ShareOfUterineBrother},
 };
 
-/// The sections as far as they are built, each put in front of the earlier ones. What was built stands on
-/// Text3 also when a failure ends the run.
+/// The sections as far as they are built, each in front of the earlier ones. They are shown on Text3 even
+/// when a failure ends the run.
 class SectionStack {
  public:
   explicit SectionStack(CaseScreen& screen) : screen_(screen) {}
@@ -75,7 +72,7 @@ class SectionStack {
   std::vector<std::string> texts_;
 };
 
-/// What both commands begin with; false when the load failed hard.
+/// How both commands begin; false after a hard failure of the load.
 bool Start(CaseRecord& c, CaseScreen& screen) {
   c.CaseLoaded = true;
   screen.Frame5.Visible = false;
@@ -107,7 +104,7 @@ void RunEnteredSections(CaseRecord& c, CaseScreen& screen) {
   SectionStack stack(screen);
   int number = 0;
   for (const SectionRow& row : sections) {
-    if (!row.IsEntered(c)) continue;
+    if (!IsAlive(c, row.Heir)) continue;
     row.Run(c, screen);
     stack.Put(row, ++number);
   }

@@ -1,7 +1,7 @@
 #include "reports/SummarizedShares.h"
 
 #include "base/Text.h"
-#include "case/ResiduaryFlags.h"
+#include "case/Shares.h"
 #include "reports/ReportHeaders.h"
 
 namespace qismora {
@@ -11,7 +11,7 @@ namespace {
 constexpr const char* sharer = "Sharer ";
 constexpr const char* residuary = "Resid (Asaba') ";
 
-/// The boxes 34 to 45 of the table stand for the class II tick boxes.
+/// The entries 34 to 45 of the table stand for the class II check boxes.
 constexpr int firstClassIIBox = 34;
 
 void Enter(CaseRecord& c, int box, Double amount, const char* kind, const std::string& fraction) {
@@ -20,37 +20,37 @@ void Enter(CaseRecord& c, int box, Double amount, const char* kind, const std::s
   c.SummaryFraction(box) = fraction;
 }
 
-void EnterSharer(CaseRecord& c, int box, Double amount, Slot slot) {
-  Enter(c, box, amount, sharer, Join("(", c.FractionNum(slot), "/", c.FractionDen(slot), ")"));
+void EnterSharer(CaseRecord& c, int box, Double amount, HeirKind heir) {
+  Enter(c, box, amount, sharer, Join(FractionOf(c, heir)));
 }
+void EnterSharer(CaseRecord& c, int box, HeirKind heir) { EnterSharer(c, box, c.*Heirs[heir].Amount, heir); }
 
 void EnterResiduary(CaseRecord& c, int box, Double amount) { Enter(c, box, amount, residuary, ""); }
 
 /// A kind that is a residuary when any of the flags is set, else a sharer.
-void EnterEither(CaseRecord& c, int box, Double amount, Slot slot,
-                 std::initializer_list<ResiduaryFlag> flags) {
+void EnterEither(CaseRecord& c, int box, HeirKind heir, std::initializer_list<ResiduaryFlag> flags) {
   for (const ResiduaryFlag flag : flags) {
-    if (c.Res(flag)) return EnterResiduary(c, box, amount);
+    if (c.Res(flag)) return EnterResiduary(c, box, c.*Heirs[heir].Amount);
   }
-  EnterSharer(c, box, amount, slot);
+  EnterSharer(c, box, heir);
 }
 
 void EnterSpouse(CaseRecord& c) {
-  if (c.Wives > 0) return EnterSharer(c, 1, c.WifeShare, WifeSlot);
-  if (c.Husband > 0) return EnterSharer(c, 1, c.HusbandShare, HusbandSlot);
+  if (c.Wives > 0) return EnterSharer(c, 1, WifeHeir);
+  if (c.Husband > 0) return EnterSharer(c, 1, HusbandHeir);
   Enter(c, 1, 0, sharer, "(0/1)");
 }
 
-/// One man of the father line; the plus behind the fraction stands for the residue that comes to it.
+/// One male ascendant; the plus behind the fraction stands for the residue in addition to it.
 void EnterFather(CaseRecord& c, int box, Double amount) {
   const bool takesResidue = c.Res(FatherAsResiduary) || c.Res(FatherAsSharerAndResiduary);
   if (amount > 0 && takesResidue) {
     Enter(c, box, amount, residuary,
-          Join("(", c.FractionNum(FatherSlot), "/", c.FractionDen(FatherSlot), "+)"));
+          Join("(", c.FractionNum(FatherHeir), "/", c.FractionDen(FatherHeir), "+)"));
   } else if (amount == 0 && c.Res(FatherAsResiduary)) {
     EnterResiduary(c, box, amount);
   } else {
-    EnterSharer(c, box, amount, FatherSlot);
+    EnterSharer(c, box, amount, FatherHeir);
   }
 }
 
@@ -109,33 +109,33 @@ const char* DoctrineHint(const CaseRecord& c) {
 void FillSummaryTable(CaseRecord& c) {
   EnterSpouse(c);
   EnterResiduary(c, 2, c.SonAmount);
-  EnterEither(c, 3, c.DaughterShare, DaughterSlot, {SonsWithDaughters});
+  EnterEither(c, 3, DaughterHeir, {SonsWithDaughters});
   EnterResiduary(c, 4, c.SonAmount);
   EnterEither(
-      c, 5, c.SonsDaughterShare, SonsDaughterSlot,
+      c, 5, SonsDaughterHeir,
       {SonsDaughterWithSonsSonBesideDaughters, SonsDaughterWithSonsSon, SonsDaughterWithLowerSonsSon});
   EnterResiduary(c, 6, c.SonAmount);
-  EnterEither(c, 7, c.SonsSonsDaughterShare, SonsSonsDaughterSlot,
+  EnterEither(c, 7, SonsSonsDaughterHeir,
               {SonsSonsDaughterBesideSonsDaughter, SonsSonsDaughterWithSonsSonsSon});
   EnterFather(c, 13, c.FatherAmount);
   EnterFather(c, 14, c.GrandFatherAmount);
   EnterFather(c, 15, c.GtGrandFatherAmount);
-  EnterSharer(c, 16, c.MotherShare, MotherSlot);
-  EnterSharer(c, 17, c.MothersMotherAmount, GrandMotherSlot);
-  EnterSharer(c, 18, c.MothersMothersMotherAmount, GrandMotherSlot);
-  EnterSharer(c, 19, c.FathersMotherAmount, GrandMotherSlot);
-  EnterSharer(c, 20, c.GrandFathersMotherAmount, GrandMotherSlot);
-  EnterSharer(c, 21, c.FathersGrandMotherAmount, GrandMotherSlot);
-  EnterEither(c, 22, c.FullBrotherShare, FullBrotherSlot,
+  EnterSharer(c, 16, MotherHeir);
+  EnterSharer(c, 17, c.MothersMotherAmount, GrandMotherHeir);
+  EnterSharer(c, 18, c.MothersMothersMotherAmount, GrandMotherHeir);
+  EnterSharer(c, 19, c.FathersMotherAmount, GrandMotherHeir);
+  EnterSharer(c, 20, c.GrandFathersMotherAmount, GrandMotherHeir);
+  EnterSharer(c, 21, c.FathersGrandMotherAmount, GrandMotherHeir);
+  EnterEither(c, 22, FullBrotherHeir,
               {FullBrothersWithSisters, FullSiblingsBesideDaughters, FullBrothersAlone});
-  EnterEither(c, 23, c.FullSisterShare, FullSisterSlot,
+  EnterEither(c, 23, FullSisterHeir,
               {FullSisterBesideDaughters, FullSiblingsBesideDaughters, FullBrothersWithSisters});
-  EnterEither(c, 30, c.ConsSisterShare, ConsSisterSlot,
+  EnterEither(c, 30, ConsSisterHeir,
               {ConsBrothersWithSisters, ConsSisterBesideDaughters, ConsSiblingsBesideDaughters});
-  EnterEither(c, 31, c.ConsBrotherShare, ConsBrotherSlot,
+  EnterEither(c, 31, ConsBrotherHeir,
               {ConsBrothersAlone, ConsBrothersWithSisters, ConsSiblingsBesideDaughters});
-  EnterSharer(c, 32, c.UterineSisterShare, UterineSisterSlot);
-  EnterSharer(c, 33, c.UterineBrotherShare, UterineBrotherSlot);
+  EnterSharer(c, 32, UterineSisterHeir);
+  EnterSharer(c, 33, UterineBrotherHeir);
   for (int i = 0; i < c.ClassIIFlag.Size; ++i) {
     c.SummaryAmount(firstClassIIBox + i) = c.Residue;
     c.SummaryKind(firstClassIIBox + i) = residuary;

@@ -5,10 +5,10 @@
 
 namespace qismora {
 
-/// Collects amount, standing and fraction of every kind of heir, by the box of the heir.
+/// Collects amount, standing and fraction of every kind of heir, by the index of the heir's field.
 void FillSummaryTable(CaseRecord& c);
 
-/// One line for each heir entered, a note, the sum of the shares and the residue; fills SummaryReport.
+/// Fills SummaryReport: one line for each heir entered, a note, the sum of the shares and the residue.
 void BuildSummarizedShares(CaseRecord& c, const CaseScreen& screen);
 
 }  // namespace qismora

@@ -5,8 +5,7 @@
 
 namespace qismora {
 
-// The double blank in the last caption, and the short name of the full uncle's son's son, which lacks a
-// letter of its amount line, are the system's own.
+// Fixed wording; do not correct: the double blank in the last caption, the short name "F.UN. SON".
 const std::array<ClassIIRow, 12> ClassIIRows = {{
     {"Full Brother's son", " will go to Full Brother's Son(s).", "BROTHER's SON(s) = ", "BROTHER's SON"},
     {"Consanguine Brother's son", " will go to Consanguine Brother's Son(s).",
@@ -36,8 +35,8 @@ void NameClassIIHeir(CaseRecord& c) {
   for (int i = 0; i < c.ClassIIFlag.Size; ++i) {
     if (c.ClassIIFlag(i) <= 0) continue;
     const ClassIIRow& row = ClassIIRows[static_cast<std::size_t>(i)];
-    // The consanguine brother's son is stored in the place of the full brother's son, so that the first
-    // figure of his sentence reads 0.
+    // The consanguine brother's son has his amount in the place of the full brother's son, so that the
+    // first figure of his sentence is 0.
     const int place = i == 1 ? 0 : i;
     c.ClassIIAmount(place) = ParseStrict(F(c.Residue));
     c.ClassIINarrative = Join("The Residual Estate of ", GeneralNumber(c.ClassIIAmount(i)), row.SentenceEnd,

@@ -7,8 +7,8 @@
 
 namespace qismora {
 
-/// A line of distant male agnates: the caption of its tick box, the end of the sentence that names the
-/// taker, the head of the amount line, and its short name.
+/// A line of distant male agnates: the caption of its check box, the end of the sentence that names the
+/// taker, the beginning of the amount line, and its short name.
 struct ClassIIRow {
   const char* Caption;
   const char* SentenceEnd;
@@ -16,14 +16,15 @@ struct ClassIIRow {
   const char* ShortName;
 };
 
-/// The class II residuaries in the order of succession.
+/// The class II residuaries in the order of succession ("what remains goes to the nearest male", report of
+/// Ibn Abbas).
 extern const std::array<ClassIIRow, 12> ClassIIRows;
 
-/// Names the nearest ticked class II heir as the taker of a positive residue. He excludes all the rest;
-/// his amount is a rounded whole figure.
+/// Names the nearest ticked class II heir as the taker of a positive residue. He excludes all others; his
+/// amount is rounded to a whole figure.
 void NameClassIIHeir(CaseRecord& c);
 
-/// Tells on the result panel and in a box who the class II residuaries are.
+/// Explains on the result panel and in a message box who the class II residuaries are.
 void ExplainClassII(CaseScreen& screen);
 
 }  // namespace qismora

@@ -5,7 +5,7 @@
 #include "case/ClearResults.h"
 #include "case/LoadCase.h"
 #include "residue/ResiduaryDistribution.h"
-#include "rules/RunSharers.h"
+#include "rules/Rules.h"
 
 namespace qismora {
 

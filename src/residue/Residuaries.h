@@ -6,7 +6,7 @@
 namespace qismora {
 
 /// The Residuaries command: clears, runs all sharers, tests whether their shares fit the estate and
-/// divides the residue.
+/// divides the residue. An overflow of the Integer counts and fractions ends it.
 void RunResiduaries(CaseRecord& c, CaseScreen& screen);
 
 /// Loads the case and runs the rule of every kind of sharer in the order that carries their results from

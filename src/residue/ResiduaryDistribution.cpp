@@ -249,10 +249,10 @@ void GiveToOthers(CaseRecord& c) {
   }
   if (c.Res(FullSisterBesideDaughters) && c.FullSisters > 0 && c.FullBrothers == 0)
     return GiveToFullSisters(c);
-  if (c.Res(FullBrothersWithSisters) && c.FullSisters > 0 && c.FullBrothers > 0 && HasNoDaughtersLine(c)) {
+  if (c.Res(FullBrothersWithSisters) && c.FullSisters > 0 && c.FullBrothers > 0 && HasNoFemaleDescendant(c)) {
     return GiveToFullBrothersAndSisters(c);
   }
-  if (c.Res(FullBrothersAlone) && c.FullSisters == 0 && c.FullBrothers > 0 && HasNoDaughtersLine(c)) {
+  if (c.Res(FullBrothersAlone) && c.FullSisters == 0 && c.FullBrothers > 0 && HasNoFemaleDescendant(c)) {
     return GiveToFullBrothers(c);
   }
   if (c.Res(ConsSiblingsBesideDaughters) && c.ConsSisters > 0 && c.ConsBrothers > 0) {
@@ -260,7 +260,7 @@ void GiveToOthers(CaseRecord& c) {
   }
   if (c.Res(ConsSisterBesideDaughters) && c.ConsSisters > 0 && c.ConsBrothers == 0)
     return GiveToConsSisters(c);
-  if (c.Res(ConsBrothersWithSisters) && c.ConsSisters > 0 && c.ConsBrothers > 0 && HasNoDaughtersLine(c)) {
+  if (c.Res(ConsBrothersWithSisters) && c.ConsSisters > 0 && c.ConsBrothers > 0 && HasNoFemaleDescendant(c)) {
     return GiveToConsBrothersAndSisters(c);
   }
   if (c.Res(ConsBrothersAlone) && c.ConsSisters == 0 && c.ConsBrothers > 0) return GiveToConsBrothers(c);
@@ -273,7 +273,7 @@ void GiveToOthers(CaseRecord& c) {
 void ResiduaryDistribution(CaseRecord& c, CaseScreen& screen) {
   screen.Label2.Caption = c.ReportToFile ? "FULL REPORT OF SHARE CLAIMANTS" : "SHARES AS RESIDUARY (ASABA')";
   c.ResiduaryReport = "";
-  if (c.Residue > 0 && HasSonsLine(c)) {
+  if (c.Residue > 0 && HasMaleDescendant(c)) {
     GiveToDescendants(c);
   } else {
     GiveToOthers(c);

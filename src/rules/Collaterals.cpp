@@ -1,25 +1,21 @@
 #include "rules/Collaterals.h"
 
+#include "base/Text.h"
 #include "case/Conditions.h"
-#include "case/Shares.h"
 
 namespace qismora {
 
-bool HasMaleLine(const CaseRecord& c) { return HasSonsLine(c) || HasFatherLine(c); }
+bool HasMaleExcluder(const CaseRecord& c) { return HasMaleDescendant(c) || HasMaleAscendant(c); }
 
 std::string ExcludingList(const CaseRecord& c) {
-  return Join("Son = ", c.Sons, CRLF, "Son's Son = ", c.GrandSons, CRLF, "Son's Son's Son = ", c.GtGrandSons,
-              CRLF, "Father = ", c.Father, CRLF, "Father's Father = ", c.GrandFather, CRLF,
-              "Father's Father's Father = ", c.GtGrandFather, CRLF);
+  return Join("Son = ", c.Sons, "\r\nSon's Son = ", c.GrandSons, "\r\nSon's Son's Son = ", c.GtGrandSons,
+              "\r\nFather = ", c.Father, "\r\nFather's Father = ", c.GrandFather,
+              "\r\nFather's Father's Father = ", c.GtGrandFather, CRLF);
 }
 
 std::string DaughtersList(const CaseRecord& c) {
-  return Join("Daughter = ", c.Daughters, CRLF, "Son's Daughter = ", c.GrandDaughters, CRLF,
-              "Son's Son's Daughter = ", c.GtGrandDaughters, CRLF);
-}
-
-std::string ResiduaryTail(const CaseRecord& c, ResiduaryFlag flag) {
-  return Join(CRLF, TAB, "RESIDUARY (ASABA')", CRLF, FlagText(c.Res(flag)));
+  return Join("Daughter = ", c.Daughters, "\r\nSon's Daughter = ", c.GrandDaughters,
+              "\r\nSon's Son's Daughter = ", c.GtGrandDaughters, CRLF);
 }
 
 }  // namespace qismora

@@ -1,9 +1,7 @@
-#include "rules/Daughters.h"
-
 #include "case/Conditions.h"
-#include "case/ResiduaryFlags.h"
 #include "case/Shares.h"
 #include "case/narratives/DaughterTexts.h"
+#include "rules/Rules.h"
 
 // Only a son makes daughters residuaries; a son's son beside them does not. NoDaughterText ends in "NIL" of
 // its own, so that the word stands twice beside sons.
@@ -14,50 +12,18 @@ namespace {
 
 constexpr std::string_view residuaryEnd = "\tRESIDUARY (ASABA')";
 
-void DecideDaughters(CaseRecord& c) {
-  if (c.Sons > 0 && c.Daughters == 0) {
-    c.DaughterShare = 0;
-    SetFraction(c, DaughterSlot, 0, 1);
-    c.DaughterReport = Join(NoDaughterText[0], CRLF, TAB, "NIL");
-    return;
-  }
-  if (c.Sons > 0) {
-    SetFraction(c, DaughterSlot, 0, 1);
-    c.Res(SonsWithDaughters) = true;
-    c.DaughterReport = Join(DaughterResiduaryOpening, "Son(s) = ", c.Sons, CRLF,
-                            "Daughter(s) = ", c.Daughters, CRLF, CRLF, DaughterWithSonText, residuaryEnd);
-    return;
-  }
-  if (c.Daughters == 1) {
-    c.DaughterShare = c.NetEstate / 2;
-    SetFraction(c, DaughterSlot, 1, 2);
-    c.DaughterReport = Join(OneDaughterText, CRLF, TAB, F(c.DaughterShare), FractionText(c, DaughterSlot));
-    return;
-  }
-  if (c.Daughters >= 2) {
-    c.DaughterShare = 2 * c.NetEstate / 3;
-    SetFraction(c, DaughterSlot, 2, 3);
-    c.DaughterReport = Join(TwoDaughtersText, TAB, F(c.DaughterShare), FractionText(c, DaughterSlot), CRLF,
-                            CRLF, "Since, number of daughters is ", c.Daughters,
-                            " so, EACH daughter will receive share in the net estate wealth equal to:", CRLF,
-                            CRLF, TAB, F(c.DaughterShare / c.Daughters));
-    return;
-  }
-  c.DaughterShare = 0;
-  SetFraction(c, DaughterSlot, 0, 1);
-  c.DaughterReport = NoDaughterText[0];
-}
-
 /// The words of a son's standing. His amount exists only after the residue is divided.
 std::string SonReport(CaseRecord& c) {
-  if (!HasSonsLine(c)) {
+  if (!HasMaleDescendant(c)) {
     c.SonAmount = 0;
     return Join(NoSonText, TAB, "NIL");
   }
   if (c.Daughters > 0) {
-    return Join(SonWithDaughtersTexts[0], "Son (S/SS/SSS) = ", c.Sons, "/", c.GrandSons, "/", c.GtGrandSons,
-                CRLF, "Daughter = ", c.Daughters, CRLF, "Son's Daughter = ", c.GrandDaughters, CRLF,
-                "Son's Son's Daughter = ", c.GtGrandDaughters, CRLF, CRLF, SonWithDaughterText, residuaryEnd);
+    return Join(SonWithDaughtersTexts[SonWithDaughtersText::LeftSonsAndDaughters],
+                "Son (S/SS/SSS) = ", c.Sons, "/", c.GrandSons, "/", c.GtGrandSons,
+                "\r\nDaughter = ", c.Daughters, "\r\nSon's Daughter = ", c.GrandDaughters,
+                "\r\nSon's Son's Daughter = ", c.GtGrandDaughters, "\r\n\r\n", SonWithDaughterText,
+                residuaryEnd);
   }
   if (c.Sons > 0) return Join(SonAloneText, residuaryEnd);
   if (c.GrandSons > 0) return Join(SonsSonAloneText, residuaryEnd);
@@ -67,11 +33,30 @@ std::string SonReport(CaseRecord& c) {
 }  // namespace
 
 void ShareOfDaughters(CaseRecord& c, CaseScreen& screen) {
+  using enum NoDaughterEntry;
   screen.Label2.Caption = "DAUGHTERS' SHARE";
-  SetFraction(c, DaughterSlot, 0, 1);
-  DecideDaughters(c);
-  screen.Text2.Text = c.DaughterReport;
-  screen.Label3.Caption = AmountLine(c, c.DaughterShare, DaughterSlot);
+  SetFraction(c, DaughterHeir, Integer(0), Integer(1));
+  if (c.Sons > 0 && c.Daughters == 0) {
+    TakeNothing(c, DaughterHeir);
+    Report(c, DaughterHeir, NoDaughterText[NoDaughter], "\r\n\tNIL");
+  } else if (c.Sons > 0) {
+    BecomeResiduary(c, DaughterHeir, SonsWithDaughters);
+    Report(c, DaughterHeir, DaughterResiduaryOpening, "Son(s) = ", c.Sons, "\r\nDaughter(s) = ", c.Daughters,
+           "\r\n\r\n", DaughterWithSonText, residuaryEnd);
+  } else if (c.Daughters == 1) {
+    Take(c, DaughterHeir, 1, 2);
+    Report(c, DaughterHeir, OneDaughterText, "\r\n\t", AmountLine(c, DaughterHeir));
+  } else if (c.Daughters >= 2) {
+    Take(c, DaughterHeir, 2, 3);
+    Report(c, DaughterHeir, TwoDaughtersText, TAB, AmountLine(c, DaughterHeir),
+           "\r\n\r\nSince, number of daughters is ", c.Daughters,
+           " so, EACH daughter will receive share in the net estate wealth equal to:\r\n\r\n\t",
+           F(c.DaughterShare / c.Daughters));
+  } else {
+    TakeNothing(c, DaughterHeir);
+    Report(c, DaughterHeir, NoDaughterText[NoDaughter]);
+  }
+  ShowResult(c, screen, DaughterHeir);
 }
 
 void ShareOfSon(CaseRecord& c, CaseScreen& screen) {

@@ -1,62 +1,60 @@
-#include "rules/GrandMother.h"
-
 #include <span>
 
+#include "case/Conditions.h"
 #include "case/Shares.h"
 #include "case/narratives/GrandMotherTexts.h"
+#include "rules/Rules.h"
 
-// Five kinds of ascendant female above the parents form one heir. One procedure decides the amount, another
-// who makes up the group; they disagree where the father lives beside his mother and a maternal great
-// grandmother, and where a grand father lives beside paternal great grandmothers. Both are kept, and so are
+// Five kinds of female ascendant above the parents form one heir. One procedure decides the amount, another
+// who makes up the group; they disagree where the father is alive beside his mother and a maternal great
+// grandmother, and where a grandfather is alive beside paternal great grandmothers. Both are kept, and so are
 // the texts on a living father where he is dead.
 
 namespace qismora {
 
 namespace {
 
-void Report(CaseRecord& c, std::size_t text) {
-  c.GrandMotherReport = Join(GrandMotherTexts[text], TAB, F(c.GrandMotherShare));
+void Report(CaseRecord& c, GrandMotherText text) {
+  Report(c, GrandMotherHeir, GrandMotherTexts[text], TAB, F(c.GrandMotherShare));
 }
 
-void TakeSixth(CaseRecord& c, std::size_t text) {
-  c.GrandMotherShare = c.NetEstate / 6;
-  SetFraction(c, GrandMotherSlot, 1, 6);
+void GiveSixth(CaseRecord& c, GrandMotherText text) {
+  Take(c, GrandMotherHeir, 1, 6);
   Report(c, text);
 }
 
-void TakeNothing(CaseRecord& c, std::size_t text) {
-  c.GrandMotherShare = 0;
-  SetFraction(c, GrandMotherSlot, 0, 1);
+void GiveNothing(CaseRecord& c, GrandMotherText text) {
+  TakeNothing(c, GrandMotherHeir);
   Report(c, text);
 }
+
+using enum GrandMotherText;
 
 void DecideBesideFather(CaseRecord& c) {
-  if (c.MothersMother > 0) return TakeSixth(c, 0);
+  if (c.MothersMother > 0) return GiveSixth(c, MothersMotherBesideFather);
   if (c.MothersMothersMother <= 0) return;
-  if (c.FathersMother > 0) return TakeNothing(c, 8);
-  TakeSixth(c, 1);
+  if (c.FathersMother > 0) return GiveNothing(c, ExcludedByFatherAndNearer);
+  GiveSixth(c, MothersMothersMotherBesideFather);
 }
 
 void DecideBesideGrandFather(CaseRecord& c) {
-  if (c.MothersMother > 0 && c.FathersMother > 0) return TakeSixth(c, 3);
-  if (c.MothersMother > 0) return TakeSixth(c, 0);
-  if (c.FathersMother > 0) return TakeSixth(c, 0);
+  if (c.MothersMother > 0 && c.FathersMother > 0) return GiveSixth(c, BothGrandMothers);
+  if (c.MothersMother > 0 || c.FathersMother > 0) return GiveSixth(c, MothersMotherBesideFather);
   if (c.MothersMothersMother <= 0) return;
-  TakeSixth(c, 1);
+  GiveSixth(c, MothersMothersMotherBesideFather);
 }
 
 void DecideWithoutFathers(CaseRecord& c) {
-  if (c.MothersMother > 0 && c.FathersMother > 0) return TakeSixth(c, 3);
-  if (c.MothersMother > 0) return TakeSixth(c, 4);
-  if (c.FathersMother > 0) return TakeSixth(c, 6);
-  if (c.MothersMothersMother > 0 || c.FathersGrandMother > 0 || c.GrandFathersMother > 0)
-    return TakeSixth(c, 7);
+  if (c.MothersMother > 0 && c.FathersMother > 0) return GiveSixth(c, BothGrandMothers);
+  if (c.MothersMother > 0) return GiveSixth(c, MothersMotherAlone);
+  if (c.FathersMother > 0) return GiveSixth(c, FathersMotherAlone);
+  if (HasGrandMother(c)) return GiveSixth(c, GreatGrandMothers);
 }
 
 void DecideGrandMother(CaseRecord& c) {
   if (c.Father > 0 && c.Mother == 0) return DecideBesideFather(c);
   if (c.GrandFather > 0 && c.Mother == 0) return DecideBesideGrandFather(c);
-  if (c.Mother > 0) return TakeNothing(c, 2);
+  if (c.Mother > 0) return GiveNothing(c, ExcludedByMother);
   if (c.Mother == 0 && c.Father == 0 && c.GrandFather <= 0) return DecideWithoutFathers(c);
 }
 
@@ -64,31 +62,30 @@ void DecideGrandMother(CaseRecord& c) {
 
 void ShareOfGrandMother(CaseRecord& c, CaseScreen& screen) {
   screen.Label2.Caption = "TRUE GRAND MOTHER'S SHARE";
-  c.GrandMotherShare = 0;
-  SetFraction(c, GrandMotherSlot, 0, 1);
-  c.GrandMotherReport = NoGrandMotherText;
+  TakeNothing(c, GrandMotherHeir);
+  Report(c, GrandMotherHeir, NoGrandMotherText);
   DecideGrandMother(c);
-  screen.Text2.Text = Join(c.GrandMotherReport, FractionText(c, GrandMotherSlot));
-  screen.Label3.Caption = AmountLine(c, c.GrandMotherShare, GrandMotherSlot);
+  ShowResult(c, screen, GrandMotherHeir, Join(c.GrandMotherReport, "  ", FractionOf(c, GrandMotherHeir)));
   SetGrandMotherGroup(c);
 }
 
 namespace {
 
-// The kinds by their short letters: MM mother's mother, MMM her mother, FM father's mother, FFM the father's
+// The kinds by their initials: MM mother's mother, MMM her mother, FM father's mother, FFM the father's
 // father's mother, FMM the father's grandmother.
 enum Kind { MM = 1, MMM = 2, FM = 4, FFM = 8, FMM = 16 };
 
-/// A combination that forms the group where all its kinds live, and the slot that takes the whole amount.
+/// A combination that forms the group where all its kinds are alive, and the slot that takes the whole
+/// amount.
 struct GroupRow {
   int Kinds;
   const char* Name;
   Double CaseRecord::*Slot;
 };
 
-// The nearer grandmothers shut out the great grandmothers; between the great grandmothers none excludes
-// another. A combined group puts the sum in the slot of its first-named woman, and FMM+MMM in the slot of
-// FFM though no FFM lives.
+// The nearer grandmothers exclude the great grandmothers; between the great grandmothers none excludes
+// another. A combined group puts the sum in the slot of its first-named woman, and FMM+MMM in the slot of FFM
+// though no FFM is alive.
 constexpr GroupRow withoutParents[] = {
     {FM | MM, "FM+MM", &CaseRecord::FathersMotherAmount},
     {FM, "FM", &CaseRecord::FathersMotherAmount},

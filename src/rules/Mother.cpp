@@ -1,20 +1,18 @@
-#include "rules/Mother.h"
-
 #include "case/Conditions.h"
 #include "case/Shares.h"
-#include "case/SpouseShares.h"
 #include "case/narratives/MotherTexts.h"
+#include "rules/Rules.h"
 
-// The mother never takes as a residuary. Her third of the rest calls the spouse's rule, which leaves its own
-// heading on the screen; it stays there, over the mother's narrative. Consanguine and uterine brothers and
-// sisters count against her, though the list in her narrative shows the full ones only.
+// The mother never takes as a residuary. Her third of the remainder calls the spouse's rule, which leaves its
+// own heading on the screen; it stays there, over the mother's narrative. Consanguine and uterine brothers
+// and sisters count against her, though the list in her narrative shows the full ones only.
 
 namespace qismora {
 
 namespace {
 
-/// Two brothers or sisters of any kind. Both sums are Integer sums and are always made, so that counts out of
-/// range are told as an overflow.
+/// Two brothers or sisters of any kind. Both sums are always made, so that counts out of range are an
+/// overflow.
 bool HasTwoSiblings(const CaseRecord& c) {
   const Integer full = c.FullSisters + c.FullBrothers;
   const Integer all =
@@ -23,23 +21,10 @@ bool HasTwoSiblings(const CaseRecord& c) {
          c.ConsSisters > 1 || c.UterineBrothers > 1 || c.UterineSisters > 1;
 }
 
-std::string HeirsList(const CaseRecord& c) {
-  return Join(CRLF, "Sons = ", c.Sons, CRLF, "Grand Sons = ", c.GrandSons, CRLF,
-              "Great grand Sons = ", c.GtGrandSons, CRLF, "Daughters = ", c.Daughters, CRLF,
-              "Grand Daughters = ", c.GrandDaughters, CRLF, "Great grand Daughters = ", c.GtGrandDaughters,
-              CRLF, "Brothers = ", c.FullBrothers, CRLF, "Sisters = ", c.FullSisters, CRLF);
-}
-
-void TakeThird(CaseRecord& c, std::string_view narrative) {
-  c.MotherShare = c.NetEstate / 3;
-  SetFraction(c, MotherSlot, 1, 3);
-  c.MotherReport = Join(narrative, TAB, F(c.MotherShare));
-}
-
 /// One third of the estate less the spouse's amount, which is rounded to a whole number for it.
-void TakeThirdOfRest(CaseRecord& c, CaseScreen& screen) {
+void TakeThirdOfRemainder(CaseRecord& c, CaseScreen& screen) {
   // Where both counts were positive, the wives would win.
-  Slot spouse = HusbandSlot;
+  HeirKind spouse = HusbandHeir;
   if (c.Husband > 0) {
     ShareOfHusband(c, screen);
     c.SpouseShareWhole = RoundTo<Long>(c.HusbandShare);
@@ -47,27 +32,34 @@ void TakeThirdOfRest(CaseRecord& c, CaseScreen& screen) {
   if (c.Wives > 0) {
     ShareOfWife(c, screen);
     c.SpouseShareWhole = RoundTo<Long>(c.WifeShare);
-    spouse = WifeSlot;
+    spouse = WifeHeir;
   }
   c.MotherShare = (c.NetEstate - c.SpouseShareWhole) / 3;
-  SetFraction(c, MotherSlot, c.FractionDen(spouse) - c.FractionNum(spouse), c.FractionDen(spouse) * 3);
-  c.MotherReport = Join(MotherThirdOfRestTexts[0], CRLF, MotherThirdOfRestTexts[1], CRLF, TAB, "= (",
-                        GeneralNumber(c.NetEstate), " - ", F(c.SpouseShareWhole), ")/3", CRLF, TAB, "= ",
-                        F(c.MotherShare));
+  SetFraction(c, MotherHeir, c.FractionDen(spouse) - c.FractionNum(spouse), c.FractionDen(spouse) * 3);
 }
 
 void DecideMother(CaseRecord& c, CaseScreen& screen) {
+  using enum MotherSixthText;
+  using enum MotherThirdOfRestText;
   if (HasTwoSiblings(c) || HasDescendant(c)) {
-    c.MotherShare = c.NetEstate / 6;
-    SetFraction(c, MotherSlot, 1, 6);
-    c.MotherReport =
-        Join(MotherSixthTexts[0], HeirsList(c), MotherSixthTexts[1], CRLF, TAB, F(c.MotherShare));
+    Take(c, MotherHeir, 1, 6);
+    Report(c, MotherHeir, MotherSixthTexts[LeftTheseHeirs], "\r\nSons = ", c.Sons,
+           "\r\nGrand Sons = ", c.GrandSons, "\r\nGreat grand Sons = ", c.GtGrandSons,
+           "\r\nDaughters = ", c.Daughters, "\r\nGrand Daughters = ", c.GrandDaughters,
+           "\r\nGreat grand Daughters = ", c.GtGrandDaughters, "\r\nBrothers = ", c.FullBrothers,
+           "\r\nSisters = ", c.FullSisters, CRLF, MotherSixthTexts[SixthBesideThem], "\r\n\t",
+           F(c.MotherShare));
   } else if (c.Husband <= 0 && c.Wives <= 0) {
-    TakeThird(c, MotherThirdNoSpouseText);
+    Take(c, MotherHeir, 1, 3);
+    Report(c, MotherHeir, MotherThirdNoSpouseText, TAB, F(c.MotherShare));
   } else if (c.Father <= 0) {
-    TakeThird(c, MotherThirdNoFatherText);
+    Take(c, MotherHeir, 1, 3);
+    Report(c, MotherHeir, MotherThirdNoFatherText, TAB, F(c.MotherShare));
   } else {
-    TakeThirdOfRest(c, screen);
+    TakeThirdOfRemainder(c, screen);
+    Report(c, MotherHeir, MotherThirdOfRestTexts[ThirdOfRemainder], CRLF,
+           MotherThirdOfRestTexts[Abbreviations], "\r\n\t= (", GeneralNumber(c.NetEstate), " - ",
+           F(c.SpouseShareWhole), ")/3\r\n\t= ", F(c.MotherShare));
   }
 }
 
@@ -75,16 +67,15 @@ void DecideMother(CaseRecord& c, CaseScreen& screen) {
 
 void ShareOfMother(CaseRecord& c, CaseScreen& screen) {
   screen.Label2.Caption = "MOTHER'S SHARE";
-  SetFraction(c, MotherSlot, 0, 1);
+  SetFraction(c, MotherHeir, Integer(0), Integer(1));
   if (c.Mother == 0) {
     c.MotherShare = 0;
-    c.MotherReport = NoMotherText;
-    screen.Text2.Text = Join(NoMotherText, CRLF, CRLF, TAB, "NIL", FractionText(c, MotherSlot));
+    Report(c, MotherHeir, NoMotherText);
+    ShowResult(c, screen, MotherHeir, Join(NoMotherText, "\r\n\r\n\tNIL  ", FractionOf(c, MotherHeir)));
   } else {
     DecideMother(c, screen);
-    screen.Text2.Text = Join(c.MotherReport, FractionText(c, MotherSlot));
+    ShowResult(c, screen, MotherHeir, Join(c.MotherReport, "  ", FractionOf(c, MotherHeir)));
   }
-  screen.Label3.Caption = AmountLine(c, c.MotherShare, MotherSlot);
 }
 
 }  // namespace qismora

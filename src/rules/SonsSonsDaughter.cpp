@@ -1,118 +1,82 @@
-#include "rules/SonsSonsDaughter.h"
-
-#include "case/ResiduaryFlags.h"
 #include "case/Shares.h"
 #include "case/narratives/SonsDaughterTexts.h"
 #include "case/narratives/SonsSonsDaughterTexts.h"
+#include "rules/Rules.h"
 
 // One level below the son's daughters. Beside a daughter and a son's son's son she is a residuary whose
-// narrative was never supplied: it is empty. Two or more son's daughters exclude her even beside a son's
-// son's son.
+// narrative is empty. Two or more son's daughters exclude her even beside a son's son's son.
 
 namespace qismora {
 
 namespace {
 
-void TakeNothing(CaseRecord& c) {
-  c.SonsSonsDaughterShare = 0;
-  SetFraction(c, SonsSonsDaughterSlot, 0, 1);
-}
-
-void BecomeResiduary(CaseRecord& c) {
-  TakeNothing(c);
+/// Her amount survives a clear, so it is set to 0 here.
+void StandAsResiduary(CaseRecord& c) {
+  TakeNothing(c, SonsSonsDaughterHeir);
   c.Res(SonsSonsDaughterWithSonsSonsSon) = true;
-}
-
-void TakeSixth(CaseRecord& c) {
-  c.SonsSonsDaughterShare = c.NetEstate / 6;
-  SetFraction(c, SonsSonsDaughterSlot, 1, 6);
-}
-
-std::string AmountTail(const CaseRecord& c) {
-  return AmountLine(c, c.SonsSonsDaughterShare, SonsSonsDaughterSlot);
 }
 
 /// What each of them takes; the word each is spelt in two ways.
 std::string EachShare(const CaseRecord& c, const char* each) {
-  return Join(CRLF, CRLF, "Number of Son's son's daughter being ", c.GtGrandDaughters, ", Share of ", each,
-              " Son's son's daughter will be:", CRLF, CRLF, TAB,
-              F(c.SonsSonsDaughterShare / c.GtGrandDaughters));
-}
-
-void DecideBesideDaughters(CaseRecord& c) {
-  if (c.GrandDaughters > 0) {
-    TakeNothing(c);
-    c.SonsSonsDaughterReport = SonsSonsDaughterTexts[9];
-  } else if (c.GtGrandSons > 0) {
-    BecomeResiduary(c);
-    c.SonsSonsDaughterReport = SonsDaughterResiduaryTexts[4];
-  } else {
-    TakeSixth(c);
-    c.SonsSonsDaughterReport = Join(SonsSonsDaughterTexts[1], TAB, AmountTail(c), EachShare(c, "each"));
-  }
-}
-
-void DecideBesideSonsDaughters(CaseRecord& c) {
-  if (c.GrandDaughters == 1 && c.GtGrandSons > 0) {
-    BecomeResiduary(c);
-    c.SonsSonsDaughterReport = SonsSonsDaughterTexts[2];
-  } else if (c.GrandDaughters == 1) {
-    TakeSixth(c);
-    c.SonsSonsDaughterReport = Join(SonsSonsDaughterSixthText, SonsSonsDaughterTexts[3], TAB, AmountTail(c));
-  } else {
-    TakeNothing(c);
-    c.SonsSonsDaughterReport = Join(SonsSonsDaughterTexts[4], FractionText(c, SonsSonsDaughterSlot));
-  }
-}
-
-void DecideAlone(CaseRecord& c) {
-  if (c.GtGrandSons > 0) {
-    BecomeResiduary(c);
-    c.SonsSonsDaughterReport = SonsSonsDaughterTexts[5];
-  } else if (c.GtGrandDaughters == 1) {
-    c.SonsSonsDaughterShare = c.NetEstate / 2;
-    SetFraction(c, SonsSonsDaughterSlot, 1, 2);
-    c.SonsSonsDaughterReport = Join(SonsSonsDaughterTexts[6], AmountTail(c));
-  } else {
-    c.SonsSonsDaughterShare = 2 * c.NetEstate / 3;
-    SetFraction(c, SonsSonsDaughterSlot, 2, 3);
-    c.SonsSonsDaughterReport = Join(SonsSonsDaughterTexts[7], AmountTail(c), EachShare(c, "EACH"));
-  }
-}
-
-void DecideSonsSonsDaughter(CaseRecord& c) {
-  if (c.GtGrandDaughters <= 0) {
-    TakeNothing(c);
-    c.SonsSonsDaughterReport = SonsSonsDaughterTexts[8];
-    return;
-  }
-  if (c.Res(SonsDaughterWithLowerSonsSon) && c.Daughters == 0) {
-    // The son's daughter sets that flag without a daughter only where no son's son's daughter lives, so
-    // that a whole run does not come here.
-    if (c.GtGrandSons <= 0) return;
-    TakeNothing(c);
-    c.Res(SonsSonsDaughterBesideSonsDaughter) = true;
-    c.Res(SonsDaughterWithLowerSonsSon) = false;
-    c.SonsSonsDaughterReport = Join("Re-Write", SonsDaughterResiduaryTexts[4]);
-    return;
-  }
-  if (c.Sons > 0 || c.GrandSons > 0) {
-    TakeNothing(c);
-    c.SonsSonsDaughterReport = SonsSonsDaughterTexts[0];
-    return;
-  }
-  if (c.Daughters > 0) return DecideBesideDaughters(c);
-  if (c.GrandDaughters >= 1) return DecideBesideSonsDaughters(c);
-  DecideAlone(c);
+  return Join("\r\n\r\nNumber of Son's son's daughter being ", c.GtGrandDaughters, ", Share of ", each,
+              " Son's son's daughter will be:\r\n\r\n\t", F(c.SonsSonsDaughterShare / c.GtGrandDaughters));
 }
 
 }  // namespace
 
+/// The son's daughter sets the flag SonsDaughterWithLowerSonsSon without a daughter only where no son's son's
+/// daughter is alive, so that a whole run does not come to the second and third row.
 void ShareOfSonsSonsDaughter(CaseRecord& c, CaseScreen& screen) {
+  using enum SonsSonsDaughterText;
   screen.Label2.Caption = "GRANDSON'S DAUGHTER SHARE";
-  DecideSonsSonsDaughter(c);
-  screen.Text2.Text = c.SonsSonsDaughterReport;
-  screen.Label3.Caption = AmountTail(c);
+  constexpr std::string_view emptyText =
+      SonsDaughterResiduaryTexts[SonsDaughterResiduaryText::ForSonsSonsDaughter];
+  if (c.GtGrandDaughters <= 0) {
+    TakeNothing(c, SonsSonsDaughterHeir);
+    Report(c, SonsSonsDaughterHeir, SonsSonsDaughterTexts[NoSonsSonsDaughter]);
+  } else if (c.Res(SonsDaughterWithLowerSonsSon) && c.Daughters == 0 && c.GtGrandSons <= 0) {
+    // Share, fraction and report stay as they were.
+  } else if (c.Res(SonsDaughterWithLowerSonsSon) && c.Daughters == 0) {
+    TakeNothing(c, SonsSonsDaughterHeir);
+    c.Res(SonsSonsDaughterBesideSonsDaughter) = true;
+    c.Res(SonsDaughterWithLowerSonsSon) = false;
+    Report(c, SonsSonsDaughterHeir, "Re-Write", emptyText);
+  } else if (c.Sons > 0 || c.GrandSons > 0) {
+    TakeNothing(c, SonsSonsDaughterHeir);
+    Report(c, SonsSonsDaughterHeir, SonsSonsDaughterTexts[ExcludedBySons]);
+  } else if (c.Daughters > 0 && c.GrandDaughters > 0) {
+    TakeNothing(c, SonsSonsDaughterHeir);
+    Report(c, SonsSonsDaughterHeir, SonsSonsDaughterTexts[ExcludedByDaughterAndSonsDaughter]);
+  } else if (c.Daughters > 0 && c.GtGrandSons > 0) {
+    StandAsResiduary(c);
+    Report(c, SonsSonsDaughterHeir, emptyText);
+  } else if (c.Daughters > 0) {
+    Take(c, SonsSonsDaughterHeir, 1, 6);
+    Report(c, SonsSonsDaughterHeir, SonsSonsDaughterTexts[SixthBesideDaughter], TAB,
+           AmountLine(c, SonsSonsDaughterHeir), EachShare(c, "each"));
+  } else if (c.GrandDaughters == 1 && c.GtGrandSons > 0) {
+    StandAsResiduary(c);
+    Report(c, SonsSonsDaughterHeir, SonsSonsDaughterTexts[ResiduaryBesideSonsDaughter]);
+  } else if (c.GrandDaughters == 1) {
+    Take(c, SonsSonsDaughterHeir, 1, 6);
+    Report(c, SonsSonsDaughterHeir, SonsSonsDaughterSixthText, SonsSonsDaughterTexts[SixthBesideSonsDaughter],
+           TAB, AmountLine(c, SonsSonsDaughterHeir));
+  } else if (c.GrandDaughters >= 2) {
+    TakeNothing(c, SonsSonsDaughterHeir);
+    Report(c, SonsSonsDaughterHeir, SonsSonsDaughterTexts[ExcludedBySonsDaughters], "  ",
+           FractionOf(c, SonsSonsDaughterHeir));
+  } else if (c.GtGrandSons > 0) {
+    StandAsResiduary(c);
+    Report(c, SonsSonsDaughterHeir, SonsSonsDaughterTexts[ResiduaryWithSonsSonsSon]);
+  } else if (c.GtGrandDaughters == 1) {
+    Take(c, SonsSonsDaughterHeir, 1, 2);
+    Report(c, SonsSonsDaughterHeir, SonsSonsDaughterTexts[HalfAlone], AmountLine(c, SonsSonsDaughterHeir));
+  } else {
+    Take(c, SonsSonsDaughterHeir, 2, 3);
+    Report(c, SonsSonsDaughterHeir, SonsSonsDaughterTexts[TwoThirdsTogether],
+           AmountLine(c, SonsSonsDaughterHeir), EachShare(c, "EACH"));
+  }
+  ShowResult(c, screen, SonsSonsDaughterHeir);
 }
 
 }  // namespace qismora

@@ -9,7 +9,7 @@
 #include "reports/ReportRuns.h"
 #include "residue/ClassII.h"
 #include "residue/Residuaries.h"
-#include "rules/RunSharers.h"
+#include "rules/Rules.h"
 #include "screens/Event.h"
 #include "shell/AppSettings.h"
 

@@ -1,6 +1,7 @@
 #include <charconv>
 
 #include "base/Text.h"
+#include "case/Heirs.h"
 #include "player/Transcript.h"
 
 namespace qismora::testing {
@@ -50,7 +51,7 @@ void PrintFlags(Printer& print, const CaseRecord& c) {
 }
 
 void PrintFractions(Printer& print, const CaseRecord& c) {
-  for (int k = 0; k < SlotCount; ++k) {
+  for (int k = 0; k < HeirCount; ++k) {
     if (c.FractionNum(k) == 0 && c.FractionDen(k) == 0) continue;
     print.Put(Join("Fraction(", k, ")"), Join(c.FractionNum(k), "/", c.FractionDen(k)));
   }

@@ -1,11 +1,12 @@
 #include "player/Transcript.h"
 
 #include "base/Text.h"
-#include "case/Shares.h"
 
 namespace qismora::testing {
 
 namespace {
+
+const char* FlagText(bool flag) { return flag ? "True" : "False"; }
 
 std::string Indexed(const char* name, int index) { return Join(name, "(", index, ")"); }
 

@@ -1,10 +1,9 @@
 #pragma once
 
-#include <array>
-#include <string_view>
+#include "case/narratives/NarrativeTable.h"
 
 // The sentences of the daughters and of the son.
-// Word for word the system's own: misspellings and double blanks stand as they are.
+// Fixed wording; do not correct.
 
 namespace qismora {
 
@@ -24,26 +23,26 @@ inline constexpr std::string_view TwoDaughtersText =
     "Under such situation, the daughters will receive share in the net estate wealth equal to two "
     "third (2/3) i.e.\r\n\r\n";
 
-// Only entry 0 is shown.
-inline constexpr std::array<std::string_view, 3> NoDaughterText = {
-    // 0
-    "In the case under examination, the deceased has left NO daughter(s), So the share of daughter(s) "
-    "in the net estate wealth is zero.\r\n\r\n"
-    "\tNIL",
-    // 1
-    "\r\nIn the case under examination, the deceased has left the following:.\r\n\r\n",
-    // 2
-    "In presence of Son(s), the daughter receives as Residuary (Asaba'). Thus, share of EACH daughter "
-    "in the net estate wealth will be:\r\n\r\n",
-};
+enum class NoDaughterEntry { NoDaughter, UnshownOpening, UnshownResiduary };
+inline constexpr NarrativeTable<NoDaughterEntry, 3> NoDaughterText = {{
+    {NoDaughterEntry::NoDaughter,
+     "In the case under examination, the deceased has left NO daughter(s), So the share of daughter(s) "
+     "in the net estate wealth is zero.\r\n\r\n"
+     "\tNIL"},
+    {NoDaughterEntry::UnshownOpening,
+     "\r\nIn the case under examination, the deceased has left the following:.\r\n\r\n"},
+    {NoDaughterEntry::UnshownResiduary,
+     "In presence of Son(s), the daughter receives as Residuary (Asaba'). Thus, share of EACH daughter "
+     "in the net estate wealth will be:\r\n\r\n"},
+}};
 
-// Only entry 0 is shown.
-inline constexpr std::array<std::string_view, 2> SonWithDaughtersTexts = {
-    // 0
-    "In the case under examination, the deceased has left the following:\r\n\r\n",
-    // 1
-    "In presence of Daughter(s), daughter(s) also become Residuary (Asaba') with son(s).\r\n\r\n",
-};
+enum class SonWithDaughtersText { LeftSonsAndDaughters, UnshownResiduary };
+inline constexpr NarrativeTable<SonWithDaughtersText, 2> SonWithDaughtersTexts = {{
+    {SonWithDaughtersText::LeftSonsAndDaughters,
+     "In the case under examination, the deceased has left the following:\r\n\r\n"},
+    {SonWithDaughtersText::UnshownResiduary,
+     "In presence of Daughter(s), daughter(s) also become Residuary (Asaba') with son(s).\r\n\r\n"},
+}};
 
 // What daughters and sons say of their residue; each is followed by RESIDUARY (ASABA').
 inline constexpr std::string_view DaughterResiduaryOpening =

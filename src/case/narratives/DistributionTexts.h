@@ -3,7 +3,7 @@
 #include <string_view>
 
 // What stands over and under a distribution. The name of the deceased goes behind each opening.
-// Word for word the system's own: misspellings and double blanks stand as they are.
+// Fixed wording; do not correct.
 
 namespace qismora {
 

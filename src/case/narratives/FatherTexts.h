@@ -1,10 +1,9 @@
 #pragma once
 
-#include <array>
-#include <string_view>
+#include "case/narratives/NarrativeTable.h"
 
 // The sentences of the ultimate father: pieces that go around his name.
-// Word for word the system's own: misspellings and double blanks stand as they are.
+// Fixed wording; do not correct.
 
 namespace qismora {
 
@@ -13,33 +12,36 @@ inline constexpr std::string_view NoFatherText =
     "Father. So the share of the ultimate father in the net estate wealth is Zero.";
 
 // Shown by no rule.
-inline constexpr std::array<std::string_view, 2> FatherResiduaryTexts = {
-    // 0
-    "In the case under examination, the ultimate father of the deceased is his ",
-    // 1
-    ". Moreover, the deceased has neither Sons, grand Sons or great grand Sons. So the ultimate father "
-    "will also receive share as a Residiuary. This will be in addition to his normal share which is "
-    "one sixth (1/6) of the net estate wealth i.e.",
-};
+enum class FatherResiduaryText { HeIsHis, ResidueBesideSixth };
+inline constexpr NarrativeTable<FatherResiduaryText, 2> FatherResiduaryTexts = {{
+    {FatherResiduaryText::HeIsHis,
+     "In the case under examination, the ultimate father of the deceased is his "},
+    {FatherResiduaryText::ResidueBesideSixth,
+     ". Moreover, the deceased has neither Sons, grand Sons or great grand Sons. So the ultimate father "
+     "will also receive share as a Residiuary. This will be in addition to his normal share which is "
+     "one sixth (1/6) of the net estate wealth i.e."},
+}};
 
-inline constexpr std::array<std::string_view, 3> FatherWithSonsTexts = {
-    // 0
-    "In the case under examination, the ultimate father of the deceased is his ",
-    // 1
-    ". Further, alongwith presence of Sons/ grand Sons/ great grand Sons the deceased has:",
-    // 2
-    "In such case, the ultimate father can not receive rights of a Residuary (Asaba') but will be "
-    "entitled to receive only normal share of one sixth (1/6) of the net estate wealth i.e.:\r\n",
-};
+enum class FatherWithSonsText { HeIsHis, LeftSonsAnd, SixthOnly };
+inline constexpr NarrativeTable<FatherWithSonsText, 3> FatherWithSonsTexts = {{
+    {FatherWithSonsText::HeIsHis,
+     "In the case under examination, the ultimate father of the deceased is his "},
+    {FatherWithSonsText::LeftSonsAnd,
+     ". Further, alongwith presence of Sons/ grand Sons/ great grand Sons the deceased has:"},
+    {FatherWithSonsText::SixthOnly,
+     "In such case, the ultimate father can not receive rights of a Residuary (Asaba') but will be "
+     "entitled to receive only normal share of one sixth (1/6) of the net estate wealth i.e.:\r\n"},
+}};
 
 // Shown by no rule.
-inline constexpr std::array<std::string_view, 2> FatherNoDescendantTexts = {
-    // 0
-    "In the case under examination, the ultimate father of the deceased is his ",
-    // 1
-    ". Further, to this the deceased has left no descendant i.e. neither son/ grandson/ great "
-    "grandson/ daughter/ grand daughter/ great grand daughter. So, the ",
-};
+enum class FatherNoDescendantText { HeIsHis, LeftNoDescendant };
+inline constexpr NarrativeTable<FatherNoDescendantText, 2> FatherNoDescendantTexts = {{
+    {FatherNoDescendantText::HeIsHis,
+     "In the case under examination, the ultimate father of the deceased is his "},
+    {FatherNoDescendantText::LeftNoDescendant,
+     ". Further, to this the deceased has left no descendant i.e. neither son/ grandson/ great "
+     "grandson/ daughter/ grand daughter/ great grand daughter. So, the "},
+}};
 
 inline constexpr std::string_view FatherAsResiduaryText =
     "Ultimate Father receives as Residuary (Asaba'). Press command button Residuaries (Asaba't) to get "

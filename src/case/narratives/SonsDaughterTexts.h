@@ -1,10 +1,9 @@
 #pragma once
 
-#include <array>
-#include <string_view>
+#include "case/narratives/NarrativeTable.h"
 
 // The sentences of the son's daughters.
-// Word for word the system's own: misspellings and double blanks stand as they are.
+// Fixed wording; do not correct.
 
 namespace qismora {
 
@@ -44,26 +43,30 @@ inline constexpr std::string_view NoSonsDaughterText =
     "daughter in the net estate wealth is zero.\r\n\r\n"
     "\tNIL";
 
-// Entries 2 to 4 were never supplied; the rule of the son's son's daughter reads the empty entry 4.
-inline constexpr std::array<std::string_view, 5> SonsDaughterResiduaryTexts = {
-    // 0
-    "In the case under consideration, the deceased has left NO son or son's son but daughter(s) and "
-    "lower son's son (son's son's son) only.\r\n\r\n"
-    "Under the above situation, the son's daughter will receive share as Residuary (Asaba'), with "
-    "lower son's son, in the net estate wealth.\r\n\r\n"
-    "\tRESIDUARY (Asaba')",
-    // 1
-    "In the case under consideration, the deceased has left NO sons BUT has left daughter(s), equal "
-    "son's son ALIVE.\r\n\r\n"
-    "Under the above situation, Son's daughter will be a Residuary (Asaba') with equal son's son. Her "
-    "share in the net estate wealth will be:\r\n\r\n"
-    "\tRESIDUARY (Asaba')",
-    // 2
-    "",
-    // 3
-    "",
-    // 4
-    "",
+// The last three entries are empty; the rule of the son's son's daughter shows the last one.
+enum class SonsDaughterResiduaryText {
+  WithLowerSonsSon,
+  WithEqualSonsSon,
+  Empty2,
+  Empty3,
+  ForSonsSonsDaughter
 };
+inline constexpr NarrativeTable<SonsDaughterResiduaryText, 5> SonsDaughterResiduaryTexts = {{
+    {SonsDaughterResiduaryText::WithLowerSonsSon,
+     "In the case under consideration, the deceased has left NO son or son's son but daughter(s) and "
+     "lower son's son (son's son's son) only.\r\n\r\n"
+     "Under the above situation, the son's daughter will receive share as Residuary (Asaba'), with "
+     "lower son's son, in the net estate wealth.\r\n\r\n"
+     "\tRESIDUARY (Asaba')"},
+    {SonsDaughterResiduaryText::WithEqualSonsSon,
+     "In the case under consideration, the deceased has left NO sons BUT has left daughter(s), equal "
+     "son's son ALIVE.\r\n\r\n"
+     "Under the above situation, Son's daughter will be a Residuary (Asaba') with equal son's son. Her "
+     "share in the net estate wealth will be:\r\n\r\n"
+     "\tRESIDUARY (Asaba')"},
+    {SonsDaughterResiduaryText::Empty2, ""},
+    {SonsDaughterResiduaryText::Empty3, ""},
+    {SonsDaughterResiduaryText::ForSonsSonsDaughter, ""},
+}};
 
 }  // namespace qismora

@@ -3,7 +3,7 @@
 #include <string_view>
 
 // The sentences of the wife and the husband.
-// Word for word the system's own: misspellings and double blanks stand as they are.
+// Fixed wording; do not correct.
 
 namespace qismora {
 

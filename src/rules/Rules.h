@@ -1,0 +1,87 @@
+#pragma once
+
+#include "case/RunSharer.h"
+#include "case/SpouseShares.h"
+
+namespace qismora {
+
+// The rules of all heirs but the spouses. Each decides the standing of one kind from the counts, stores
+// amount, fraction and report, and fills the result panel. Behind each stands its source of law.
+
+/// The daughters' share: one half for one, two thirds for more, the residue beside sons (Quran 4:11; two
+/// thirds for exactly two by the report of Jabir on the daughters of Sad).
+void ShareOfDaughters(CaseRecord& c, CaseScreen& screen);
+
+/// Explains that a son, a son's son or a son's son's son takes as residuary (Quran 4:11); fixes no amount.
+void ShareOfSon(CaseRecord& c, CaseScreen& screen);
+
+/// The share of the ultimate father, who is the nearest living male ascendant: one sixth beside a male
+/// descendant (Quran 4:11), one sixth and the residue beside female descendants alone, the residue without
+/// descendants ("what remains goes to the nearest male", report of Ibn Abbas). A grandfather stands in the
+/// father's place by the ruling of Abu Bakr. The residuary distribution divides the residue itself.
+void ShareOfFather(CaseRecord& c, CaseScreen& screen);
+
+/// The mother's share: one sixth beside a descendant or two brothers or sisters of any kind, else one third
+/// (Quran 4:11); beside a spouse and the father one third of the remainder after the spouse's share (ruling
+/// of Umar, al-Umariyyatan). The spouse's amount is rounded to a Long there; beyond its range it is the
+/// overflow failure, and so is a number of brothers and sisters beyond that of an Integer.
+void ShareOfMother(CaseRecord& c, CaseScreen& screen);
+
+/// The share of all true grandmothers together: one sixth (report of al-Mughira for one, of Ubada for two who
+/// share it), or nothing beside the mother and where the father excludes his own side.
+void ShareOfGrandMother(CaseRecord& c, CaseScreen& screen);
+/// Names who makes up the group of grandmothers, counts the women, and copies GrandMotherShare into the slot
+/// of one of them. More women than an Integer holds are the overflow failure.
+void SetGrandMotherGroup(CaseRecord& c);
+
+/// The share of the son's daughters: in the daughters' place one half or two thirds (consensus on Quran
+/// 4:11), one sixth beside one daughter (report of Ibn Masud), the residue beside a son's son or a lower one
+/// (majority of the Companions).
+void ShareOfSonsDaughter(CaseRecord& c, CaseScreen& screen);
+
+/// The share of the son's son's daughters, one level below the son's daughters and on the same sources. It
+/// reads the flag SonsDaughterWithLowerSonsSon and must run after ShareOfSonsDaughter.
+void ShareOfSonsSonsDaughter(CaseRecord& c, CaseScreen& screen);
+
+/// The full brother: excluded, or a residuary; he never has a fixed share (Quran 4:176).
+void ShareOfFullBrother(CaseRecord& c, CaseScreen& screen);
+
+/// The full sister: excluded, a residuary beside a brother (Quran 4:176) or female descendants (report of Ibn
+/// Masud), or else a sharer of one half or two thirds (Quran 4:176).
+void ShareOfFullSister(CaseRecord& c, CaseScreen& screen);
+
+/// The consanguine sister: as the full sister, with the full brothers and sisters before her (Quran 4:176);
+/// one sixth beside exactly one full sister (consensus, on the model of the son's daughter beside one
+/// daughter).
+void ShareOfConsSister(CaseRecord& c, CaseScreen& screen);
+
+/// The consanguine brother: excluded, or a residuary (Quran 4:176).
+void ShareOfConsBrother(CaseRecord& c, CaseScreen& screen);
+
+/// The uterine sister: one sixth alone, or the sisters' part of the one third that uterine brothers and
+/// sisters share per head (Quran 4:12). Counts whose triple sum is beyond an Integer are the overflow
+/// failure.
+void ShareOfUterineSister(CaseRecord& c, CaseScreen& screen);
+
+/// The uterine brother, as the sister.
+void ShareOfUterineBrother(CaseRecord& c, CaseScreen& screen);
+
+// The wrapper of each rule: a command reaches the rule through it. Only the daughters are reached without it.
+
+inline constexpr Rule RunWife = RunSharer<ShareOfWife>;
+inline constexpr Rule RunHusband = RunSharer<ShareOfHusband>;
+inline constexpr Rule RunUltimateFather = RunSharer<ShareOfFather>;
+inline constexpr Rule RunMother = RunSharer<ShareOfMother>;
+inline constexpr Rule RunGrandMother = RunSharer<ShareOfGrandMother>;
+inline constexpr Rule RunSon = RunSharer<ShareOfSon>;
+inline constexpr Rule RunDaughters = RunSharer<ShareOfDaughters>;
+inline constexpr Rule RunSonsDaughter = RunSharer<ShareOfSonsDaughter>;
+inline constexpr Rule RunSonsSonsDaughter = RunSharer<ShareOfSonsSonsDaughter>;
+inline constexpr Rule RunFullBrother = RunSharer<ShareOfFullBrother>;
+inline constexpr Rule RunFullSister = RunSharer<ShareOfFullSister>;
+inline constexpr Rule RunConsSister = RunSharer<ShareOfConsSister>;
+inline constexpr Rule RunConsBrother = RunSharer<ShareOfConsBrother>;
+inline constexpr Rule RunUterineSister = RunSharer<ShareOfUterineSister>;
+inline constexpr Rule RunUterineBrother = RunSharer<ShareOfUterineBrother>;
+
+}  // namespace qismora
