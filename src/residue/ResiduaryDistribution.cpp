@@ -13,14 +13,12 @@
 // first block; everybody else, and every other residue, goes through the second.
 //
 // Amounts are per head, though a line shows the group's count. In each step the amounts are stored first,
-// then the fractions, then the text: where an Integer overflow ends the command, what was stored by then
-// stands.
+// then the fractions are made, then the text is written: where an Integer overflow ends the command, what was
+// stored by then stands.
 
 namespace qismora {
 
 namespace {
-
-std::string Text(Fraction fraction) { return Join(" ", fraction); }
 
 /// One part of the residue's fraction, when it is divided into units.
 Fraction UnitFraction(const CaseRecord& c, Integer units) { return {c.ResidueNum, units * c.ResidueDen}; }
@@ -33,18 +31,31 @@ Fraction DoubleFraction(const CaseRecord& c, Integer units) {
 Double TwiceResidue(const CaseRecord& c) { return c.Residue + c.Residue; }
 
 /// The residue's own fraction, undivided.
-std::string ResidueText(const CaseRecord& c) { return Text({c.ResidueNum, c.ResidueDen}); }
+Fraction ResidueFraction(const CaseRecord& c) { return {c.ResidueNum, c.ResidueDen}; }
 
 /// A line of the report: label and count, the amount of one head, the fraction.
 std::string Line(const char* label, Integer count, Double amount, Fraction fraction) {
-  return Join(label, count, ") = ", F(amount), Text(fraction));
+  return Join(label, count, ") = ", F(amount), " ", fraction);
 }
 
 std::string FatherLine(const CaseRecord& c) {
   return Join("FATHER(", c.Father, "/", c.GrandFather, "/", c.GtGrandFather, ") = ", F(c.FatherResidue));
 }
 
-void Report(CaseRecord& c, const std::string& text) { c.ResiduaryReport = Join(c.SummaryText, text); }
+/// The sharers' distribution and, behind it, what the residuaries take.
+template <class... Pieces>
+void WriteReport(CaseRecord& c, const Pieces&... pieces) {
+  Write(c.ResiduaryReport, c.SummaryText, pieces...);
+}
+
+constexpr std::string_view twoLineBreaks = "\r\n\r\n";
+
+/// Heirs of one kind alone.
+void GiveToOneKind(CaseRecord& c, const char* label, Integer heads, Double CaseRecord::*amount,
+                   std::string_view end) {
+  c.*amount = c.Residue / heads;
+  WriteReport(c, Line(label, heads, c.*amount, UnitFraction(c, heads)), end);
+}
 
 // --- Descendants -------------------------------------------------------------------------------------------
 
@@ -57,30 +68,29 @@ void DivideBetween(CaseRecord& c, Integer units) {
 void GiveToSonsAndDaughters(CaseRecord& c) {
   const Integer units = 2 * c.Sons + c.Daughters;
   DivideBetween(c, units);
-  Report(c, Join(Line("SONS (", c.Sons, c.SonAmount, DoubleFraction(c, units)), CRLF,
-                 Line("DAUGHTERS (", c.Daughters, c.DaughterResidue, UnitFraction(c, units)), CRLF, CRLF));
+  WriteReport(c, Line("SONS (", c.Sons, c.SonAmount, DoubleFraction(c, units)), CRLF,
+              Line("DAUGHTERS (", c.Daughters, c.DaughterResidue, UnitFraction(c, units)), twoLineBreaks);
 }
 
-/// Sons of one line alone; the flag tells that they took the residue.
+/// Sons of one line alone; the flag says that they took the residue.
 void GiveToMalesAlone(CaseRecord& c, const char* label, Integer males, ResiduaryFlag flag) {
-  c.SonAmount = c.Residue / males;
-  Report(c, Join(Line(label, males, c.SonAmount, UnitFraction(c, males)), CRLF, CRLF));
+  GiveToOneKind(c, label, males, &CaseRecord::SonAmount, twoLineBreaks);
   c.Res(flag) = true;
 }
 
 void GiveToSonsSonsAndSonsDaughters(CaseRecord& c) {
   const Integer units = 2 * c.AsabaGrandSons + c.GrandDaughters;
   DivideBetween(c, units);
-  Report(c, Join(Line("Son's son(", c.GrandSons, c.SonAmount, DoubleFraction(c, units)), CRLF,
-                 Line("Son's Daughter (", c.GrandDaughters, c.DaughterResidue, UnitFraction(c, units)), CRLF,
-                 CRLF));
+  WriteReport(c, Line("Son's son(", c.GrandSons, c.SonAmount, DoubleFraction(c, units)), CRLF,
+              Line("Son's Daughter (", c.GrandDaughters, c.DaughterResidue, UnitFraction(c, units)),
+              twoLineBreaks);
 }
 
 void GiveToLowerSonsAndSonsDaughters(CaseRecord& c) {
   const Integer units = 2 * c.AsabaGtGrandSons + c.GrandDaughters;
   DivideBetween(c, units);
-  Report(c, Join(Line("Son's Daughter (", c.GrandDaughters, c.DaughterResidue, UnitFraction(c, units)), CRLF,
-                 Line("Son's Son's son(", c.GtGrandSons, c.SonAmount, DoubleFraction(c, units)), CRLF, CRLF));
+  WriteReport(c, Line("Son's Daughter (", c.GrandDaughters, c.DaughterResidue, UnitFraction(c, units)), CRLF,
+              Line("Son's Son's son(", c.GtGrandSons, c.SonAmount, DoubleFraction(c, units)), twoLineBreaks);
 }
 
 void GiveToLowestLine(CaseRecord& c) {
@@ -88,8 +98,8 @@ void GiveToLowestLine(CaseRecord& c) {
   c.SonAmount = TwiceResidue(c) / units;
   const Fraction son = DoubleFraction(c, units);
   const Fraction daughter = {Integer(son.Num.Value() / 2), son.Den};
-  Report(c, Join(Line("Son's son's son(", c.GtGrandSons, c.SonAmount, son), CRLF,
-                 Line("Son_son daughter(", c.GtGrandDaughters, c.SonAmount / 2, daughter), CRLF));
+  WriteReport(c, Line("Son's son's son(", c.GtGrandSons, c.SonAmount, son), CRLF,
+              Line("Son_son daughter(", c.GtGrandDaughters, c.SonAmount / 2, daughter), CRLF);
 }
 
 /// A male descendant takes a positive residue, the nearest line first, each line's female partner beside him.
@@ -110,7 +120,7 @@ void GiveToDescendants(CaseRecord& c) {
 
 void GiveToFather(CaseRecord& c) {
   c.FatherResidue = c.Residue;
-  Report(c, Join(FatherLine(c), ResidueText(c), CRLF, CRLF));
+  WriteReport(c, FatherLine(c), " ", ResidueFraction(c), twoLineBreaks);
 }
 
 /// The father as sharer and residuary. His total is right only where the residue stands over the common
@@ -125,9 +135,9 @@ void GiveToFatherBesideHisSixth(CaseRecord& c) {
   c.LcmDen(1) = c.ResidueDen;
   FindLCM(c);
   const Fraction total = {RoundTo<Integer>(c.LcmResult / 6 + c.ResidueNum), ToInteger(c.LcmResult)};
-  Report(c, Join(FatherLine(c), CRLF, CRLF, "Father's Total = 1/6 + Residuary (Asaba') share", CRLF, TAB,
-                 "  = ", F(c.FatherShare), " + ", F(c.FatherResidue), CRLF, TAB, "  = ",
-                 F(c.FatherShare + c.FatherResidue), Text(total), CRLF));
+  WriteReport(c, FatherLine(c),
+              "\r\n\r\nFather's Total = 1/6 + Residuary (Asaba') share\r\n\t  = ", F(c.FatherShare), " + ",
+              F(c.FatherResidue), "\r\n\t  = ", F(c.FatherShare + c.FatherResidue), " ", total, CRLF);
 }
 
 void GiveToEqualSonsSons(CaseRecord& c) {
@@ -136,8 +146,8 @@ void GiveToEqualSonsSons(CaseRecord& c) {
   const Fraction daughter = UnitFraction(c, units);
   c.EqualSonsSonResidue = TwiceResidue(c) / units;
   const Fraction son = DoubleFraction(c, units);
-  Report(c, Join(Line("Sons Daughter (", c.GrandDaughters, c.SonsDaughterResidue, daughter), CRLF,
-                 Line("Equal Son's Son (", c.AsabaGrandSons, c.EqualSonsSonResidue, son), CRLF, CRLF));
+  WriteReport(c, Line("Sons Daughter (", c.GrandDaughters, c.SonsDaughterResidue, daughter), CRLF,
+              Line("Equal Son's Son (", c.AsabaGrandSons, c.EqualSonsSonResidue, son), twoLineBreaks);
 }
 
 /// The son's daughters beside son's sons, or else beside lower ones. The fraction of the lower son's son is
@@ -150,8 +160,46 @@ void GiveToSonsDaughters(CaseRecord& c) {
   const Fraction daughter = UnitFraction(c, units);
   c.LowerSonsSonResidue = TwiceResidue(c) / units;
   const Fraction son = DoubleFraction(c, 2 * c.AsabaGrandSons + c.GrandDaughters);
-  Report(c, Join(Line("Sons Daughter (", c.GrandDaughters, c.SonsDaughterResidue, daughter), CRLF,
-                 Line("Lower Son's Son (", c.AsabaGtGrandSons, c.LowerSonsSonResidue, son), CRLF, CRLF));
+  WriteReport(c, Line("Sons Daughter (", c.GrandDaughters, c.SonsDaughterResidue, daughter), CRLF,
+              Line("Lower Son's Son (", c.AsabaGtGrandSons, c.LowerSonsSonResidue, son), twoLineBreaks);
+}
+
+/// The brothers and sisters of the full or of the consanguine kind.
+struct Siblings {
+  const char* Brother;
+  Integer CaseRecord::*Brothers;
+  Double CaseRecord::*BrotherResidue;
+  const char* Sister;
+  Integer CaseRecord::*Sisters;
+  Double CaseRecord::*SisterResidue;
+};
+
+constexpr Siblings fullSiblings = {
+    "Full Brother (", &CaseRecord::FullBrothers, &CaseRecord::FullBrotherResidue,
+    "Full Sister (",  &CaseRecord::FullSisters,  &CaseRecord::FullSisterResidue};
+constexpr Siblings consSiblings = {
+    "Cons. Brother (", &CaseRecord::ConsBrothers, &CaseRecord::ConsBrotherResidue,
+    "Cons. Sister (",  &CaseRecord::ConsSisters,  &CaseRecord::ConsSisterResidue};
+
+void GiveToBrothers(CaseRecord& c, const Siblings& kind) {
+  GiveToOneKind(c, kind.Brother, c.*kind.Brothers, kind.BrotherResidue, CRLF);
+}
+
+void GiveToSisters(CaseRecord& c, const Siblings& kind) {
+  GiveToOneKind(c, kind.Sister, c.*kind.Sisters, kind.SisterResidue, twoLineBreaks);
+}
+
+void ReportBoth(CaseRecord& c, const Siblings& kind, Fraction brother, Fraction sister) {
+  WriteReport(c, Line(kind.Brother, c.*kind.Brothers, c.*kind.BrotherResidue, brother), CRLF,
+              Line(kind.Sister, c.*kind.Sisters, c.*kind.SisterResidue, sister), twoLineBreaks);
+}
+
+void GiveToBoth(CaseRecord& c, const Siblings& kind) {
+  const Integer units = 2 * c.*kind.Brothers + c.*kind.Sisters;
+  c.*kind.SisterResidue = c.Residue / units;
+  const Fraction sister = UnitFraction(c, units);
+  c.*kind.BrotherResidue = 2 * c.*kind.SisterResidue;
+  ReportBoth(c, kind, DoubleFraction(c, units), sister);
 }
 
 void GiveToFullSiblingsBesideDaughters(CaseRecord& c) {
@@ -161,44 +209,15 @@ void GiveToFullSiblingsBesideDaughters(CaseRecord& c) {
   if (c.FullBrothers > 0 && c.FullSisters > 0) {
     c.FullBrotherResidue = 2 * c.ResidueUnit;
     c.FullSisterResidue = c.ResidueUnit;
-    Report(c, Join(Line("Full Brother (", c.FullBrothers, c.FullBrotherResidue, DoubleFraction(c, units)),
-                   CRLF, Line("Full Sister (", c.FullSisters, c.FullSisterResidue, unit), CRLF, CRLF));
+    ReportBoth(c, fullSiblings, DoubleFraction(c, units), unit);
   } else if (c.FullBrothers > 0 && c.FullSisters == 0) {
     c.FullBrotherResidue = 2 * c.ResidueUnit;
-    Report(c, Join(Line("Full Brother (", c.FullBrothers, c.FullBrotherResidue, DoubleFraction(c, units)),
-                   CRLF, CRLF));
+    WriteReport(c, Line("Full Brother (", c.FullBrothers, c.FullBrotherResidue, DoubleFraction(c, units)),
+                twoLineBreaks);
   } else if (c.FullBrothers == 0) {
     c.FullSisterResidue = c.ResidueUnit;
-    Report(c, Join(Line("Full Sister (", c.FullSisters, c.FullSisterResidue, unit), CRLF, CRLF));
+    WriteReport(c, Line("Full Sister (", c.FullSisters, c.FullSisterResidue, unit), twoLineBreaks);
   }
-}
-
-void GiveToFullSisters(CaseRecord& c) {
-  c.FullSisterResidue = c.Residue / c.FullSisters;
-  Report(c, Join(Line("Full Sister (", c.FullSisters, c.FullSisterResidue, UnitFraction(c, c.FullSisters)),
-                 CRLF, CRLF));
-}
-
-void GiveToFullBrothersAndSisters(CaseRecord& c) {
-  const Integer units = 2 * c.FullBrothers + c.FullSisters;
-  c.FullSisterResidue = c.Residue / units;
-  const Fraction sister = UnitFraction(c, units);
-  c.FullBrotherResidue = 2 * c.FullSisterResidue;
-  const Fraction brother = DoubleFraction(c, units);
-  Report(c, Join(Line("Full Brother (", c.FullBrothers, c.FullBrotherResidue, brother), CRLF,
-                 Line("Full Sister (", c.FullSisters, c.FullSisterResidue, sister), CRLF, CRLF));
-}
-
-void GiveToFullBrothers(CaseRecord& c) {
-  c.FullBrotherResidue = c.Residue / c.FullBrothers;
-  Report(c,
-         Join(Line("Full Brother (", c.FullBrothers, c.FullBrotherResidue, UnitFraction(c, c.FullBrothers)),
-              CRLF));
-}
-
-void ReportConsSiblings(CaseRecord& c, Fraction brother, Fraction sister) {
-  Report(c, Join(Line("Cons. Brother (", c.ConsBrothers, c.ConsBrotherResidue, brother), CRLF,
-                 Line("Cons. Sister (", c.ConsSisters, c.ConsSisterResidue, sister), CRLF, CRLF));
 }
 
 void GiveToConsSiblingsBesideDaughters(CaseRecord& c) {
@@ -207,34 +226,13 @@ void GiveToConsSiblingsBesideDaughters(CaseRecord& c) {
   c.ConsBrotherResidue = 2 * c.ResidueUnit;
   const Fraction brother = DoubleFraction(c, units);
   c.ConsSisterResidue = c.ResidueUnit;
-  ReportConsSiblings(c, brother, UnitFraction(c, units));
-}
-
-void GiveToConsSisters(CaseRecord& c) {
-  c.ConsSisterResidue = c.Residue / c.ConsSisters;
-  Report(c, Join(Line("Cons. Sister (", c.ConsSisters, c.ConsSisterResidue, UnitFraction(c, c.ConsSisters)),
-                 CRLF, CRLF));
-}
-
-void GiveToConsBrothersAndSisters(CaseRecord& c) {
-  const Integer units = 2 * c.ConsBrothers + c.ConsSisters;
-  c.ConsSisterResidue = c.Residue / units;
-  const Fraction sister = UnitFraction(c, units);
-  c.ConsBrotherResidue = 2 * c.ConsSisterResidue;
-  ReportConsSiblings(c, DoubleFraction(c, units), sister);
-}
-
-void GiveToConsBrothers(CaseRecord& c) {
-  c.ConsBrotherResidue = c.Residue / c.ConsBrothers;
-  Report(c,
-         Join(Line("Cons. Brother (", c.ConsBrothers, c.ConsBrotherResidue, UnitFraction(c, c.ConsBrothers)),
-              CRLF));
+  ReportBoth(c, consSiblings, brother, UnitFraction(c, units));
 }
 
 void GiveToClassII(CaseRecord& c) {
   c.ClassIIResidue = c.Residue;
   NameClassIIHeir(c);
-  Report(c, Join(c.ClassIIText, " = ", F(c.ClassIIResidue), ResidueText(c), " (For all)", CRLF));
+  WriteReport(c, c.ClassIIText, " = ", F(c.ClassIIResidue), " ", ResidueFraction(c), " (For all)", CRLF);
 }
 
 /// The ultimate father, the son's daughters, the full and then the consanguine brothers and sisters, class
@@ -248,22 +246,23 @@ void GiveToOthers(CaseRecord& c) {
     return GiveToFullSiblingsBesideDaughters(c);
   }
   if (c.Res(FullSisterBesideDaughters) && c.FullSisters > 0 && c.FullBrothers == 0)
-    return GiveToFullSisters(c);
+    return GiveToSisters(c, fullSiblings);
   if (c.Res(FullBrothersWithSisters) && c.FullSisters > 0 && c.FullBrothers > 0 && HasNoFemaleDescendant(c)) {
-    return GiveToFullBrothersAndSisters(c);
+    return GiveToBoth(c, fullSiblings);
   }
   if (c.Res(FullBrothersAlone) && c.FullSisters == 0 && c.FullBrothers > 0 && HasNoFemaleDescendant(c)) {
-    return GiveToFullBrothers(c);
+    return GiveToBrothers(c, fullSiblings);
   }
   if (c.Res(ConsSiblingsBesideDaughters) && c.ConsSisters > 0 && c.ConsBrothers > 0) {
     return GiveToConsSiblingsBesideDaughters(c);
   }
   if (c.Res(ConsSisterBesideDaughters) && c.ConsSisters > 0 && c.ConsBrothers == 0)
-    return GiveToConsSisters(c);
+    return GiveToSisters(c, consSiblings);
   if (c.Res(ConsBrothersWithSisters) && c.ConsSisters > 0 && c.ConsBrothers > 0 && HasNoFemaleDescendant(c)) {
-    return GiveToConsBrothersAndSisters(c);
+    return GiveToBoth(c, consSiblings);
   }
-  if (c.Res(ConsBrothersAlone) && c.ConsSisters == 0 && c.ConsBrothers > 0) return GiveToConsBrothers(c);
+  if (c.Res(ConsBrothersAlone) && c.ConsSisters == 0 && c.ConsBrothers > 0)
+    return GiveToBrothers(c, consSiblings);
   if (c.Res(ClassIITicked)) return GiveToClassII(c);
   c.ResiduaryReport = NobodyTakesText;
 }
