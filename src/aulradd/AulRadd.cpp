@@ -36,9 +36,10 @@ constexpr const char* residuaryMessages[] = {
     "Son's Son's son is Residuary (Asaba') with Son's daughter (SSS+SD).",
 };
 
-/// Whether a residuary of the first class stands in the way; the user may ask who it is.
+/// Whether a class I residuary is in the way; the user may ask who it is.
 bool AskAboutResiduary(const CaseRecord& c, CaseScreen& screen) {
-  for (int i = SonsAlone; i <= SonsDaughterWithLowerSonsSon; ++i) {
+  int i = SonsAlone;
+  for (; i <= SonsDaughterWithLowerSonsSon; ++i) {
     if (!c.Res(i)) continue;
     const Answer answer = screen.World.Boxes.Show(
         BoxStyle::Warning, BoxButtons::YesNoCancel,
@@ -46,6 +47,14 @@ bool AskAboutResiduary(const CaseRecord& c, CaseScreen& screen) {
         "The case is not free from Residuary (Asaba'). Want to know the Residuaries (Asaba't)?");
     if (answer == Answer::Yes) screen.World.Boxes.Tell(BoxStyle::Information, residuaryMessages[i]);
     return true;
+  }
+  // The loop ends before the flag of the class II heirs, so nobody sees this text. It stays with its test as
+  // a part of the program's vocabulary: showing it would add a message to every surplus that goes to class
+  // II.
+  if (i == ClassIITicked) {
+    screen.World.Boxes.Tell(
+        BoxStyle::Information,
+        "RESIDUARY (ASABA') IS AMONG SECOND CLASS RESIDUARIES [ASABA'T] (e.g UNCLE etc.).");
   }
   return false;
 }

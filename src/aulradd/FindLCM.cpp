@@ -6,13 +6,13 @@ namespace qismora {
 
 namespace {
 
-Integer LargestRest(const CaseRecord& c) {
+Integer LargestEntry(const CaseRecord& c) {
   Integer largest = c.LcmDen(0);
   for (int i = 1; i < c.LcmCount; ++i) largest = std::max(largest, c.LcmDen(i));
   return largest;
 }
 
-/// Divides by the candidate all rests that it divides, if they are two or more.
+/// Divides by the candidate all entries that it divides, if they are two or more.
 bool StrikeOut(CaseRecord& c, int candidate) {
   const auto divisible = [&](int i) { return c.LcmDen(i).Value() % candidate == 0; };
   int count = 0;
@@ -28,16 +28,16 @@ bool StrikeOut(CaseRecord& c, int candidate) {
 
 void FindLCM(CaseRecord& c) {
   c.LcmResult = Long(1);
-  Array<Integer, 10> factors;
+  Array<Integer, 10> Factors;
   int factorCount = 0;
   Integer previous(0);
-  for (Integer largest = LargestRest(c); largest != previous; largest = LargestRest(c)) {
+  for (Integer largest = LargestEntry(c); largest != previous; largest = LargestEntry(c)) {
     for (int candidate = 2; candidate <= largest; ++candidate) {
-      if (StrikeOut(c, candidate)) factors(++factorCount) = Integer(candidate);
+      if (StrikeOut(c, candidate)) Factors(++factorCount) = Integer(candidate);
     }
     previous = largest;
   }
-  for (int i = 1; i <= factorCount; ++i) c.LcmResult *= ToLong(factors(i));
+  for (int i = 1; i <= factorCount; ++i) c.LcmResult *= ToLong(Factors(i));
   for (int i = 0; i < c.LcmCount; ++i) c.LcmResult *= ToLong(c.LcmDen(i));
 }
 
