@@ -1,4 +1,5 @@
-// How fast a case is on a form without windows, and that a million cases do not grow.
+// How fast a case is on a form without windows, and that memory does not grow over a million cases.
+//   qismora_bench --count NAME    runs one command under callgrind, which counts what Counted does
 
 #include <benchmark/benchmark.h>
 #include <unistd.h>
@@ -20,73 +21,85 @@ namespace fs = std::filesystem;
 using testing::MemoryCase;
 
 /// A wife, two daughters, father and mother, a full sister and a uterine brother.
-struct SevenHeirs : MemoryCase {
-  SevenHeirs() {
-    TypeEstate("24000");
-    for (const int box : {1, 13, 16, 23, 33}) Type(box, "1");
-    Type(3, "2");
-  }
+void TypeSevenHeirs(MemoryCase& played) {
+  played.TypeEstate("24000");
+  for (const int box : {1, 13, 16, 23, 33}) played.Type(box, "1");
+  played.Type(3, "2");
+}
+
+/// The same family without the father: the estate suffices, so that no message box is shown.
+void TypeSixHeirs(MemoryCase& played) {
+  TypeSevenHeirs(played);
+  played.Type(13, "0");
+}
+
+/// Thirteen kinds of heir, most of them excluded by the son.
+void TypeThirteenHeirs(MemoryCase& played) {
+  played.TypeEstate("24000");
+  for (const int box : {1, 2, 3, 5, 7, 13, 16, 17, 22, 23, 30, 31, 32, 33}) played.Type(box, "1");
+}
+
+void PressResiduaries(MemoryCase& played) { played.Study->Residuaries_Click(); }
+
+void DoubleClickAllHeirs(MemoryCase& played) {
+  for (const int heir : {1, 3, 13, 16, 23, 33}) played.Study->Label1_DblClick(heir);
+}
+
+void MakeFullReport(MemoryCase& played) {
+  played.Record.ReportToFile = true;
+  RunSelectedReport(played.Record, *played.Study);
+  RunResiduaries(played.Record, *played.Study);
+  RunAulRadd(played.Record, *played.Study);
+}
+
+void SaveFullReport(MemoryCase& played) {
+  if (fs::exists("/dev/shm")) setenv("TMPDIR", "/dev/shm", 1);
+  static const testing::TemporaryFolder folder;
+  played.World.Folders.Folder = folder.Path();
+  played.World.Boxes.Answers = {Answer::Yes};
+  played.Study->CreateSaveFullReport_Click();
+}
+
+struct Command {
+  const char* Name;
+  void (*Type)(MemoryCase&);
+  void (*Press)(MemoryCase&);
 };
 
-void Residuaries(benchmark::State& state) {
-  SevenHeirs played;
-  for (auto _ : state) {
-    played.Study->Residuaries_Click();
-    played.World.Boxes.Shown.clear();
-  }
-}
-BENCHMARK(Residuaries)->Unit(benchmark::kMicrosecond);
+constexpr Command commands[] = {
+    {"Residuaries", TypeSevenHeirs, PressResiduaries},
+    {"ResiduariesWithoutMessage", TypeSixHeirs, PressResiduaries},
+    {"DoubleClicksOnSixHeirs", TypeSevenHeirs, DoubleClickAllHeirs},
+    {"SelectedReport", TypeThirteenHeirs, [](MemoryCase& played) { played.Study->SelectedReport_Click(); }},
+    {"FullReportWithoutFiles", TypeSevenHeirs, MakeFullReport},
+    {"FullReportInMemoryFiles", TypeSevenHeirs, SaveFullReport},
+};
 
-void DoubleClickOnAnHeir(benchmark::State& state) {
-  SevenHeirs played;
-  const int heirs[] = {1, 3, 13, 16, 23, 33};
-  std::size_t next = 0;
-  for (auto _ : state) {
-    played.Study->Label1_DblClick(heirs[next++ % std::size(heirs)]);
-    played.World.Boxes.Shown.clear();
-  }
-}
-BENCHMARK(DoubleClickOnAnHeir)->Unit(benchmark::kMicrosecond);
-
-void FullReportWithoutFiles(benchmark::State& state) {
-  SevenHeirs played;
-  played.Record.ReportToFile = true;
-  for (auto _ : state) {
-    RunSelectedReport(played.Record, *played.Study);
-    RunResiduaries(played.Record, *played.Study);
-    RunAulRadd(played.Record, *played.Study);
-    played.World.Boxes.Shown.clear();
-  }
-}
-BENCHMARK(FullReportWithoutFiles)->Unit(benchmark::kMicrosecond);
-
-void FullReportInMemoryFiles(benchmark::State& state) {
-  SevenHeirs played;
-  if (fs::exists("/dev/shm")) setenv("TMPDIR", "/dev/shm", 1);
-  const testing::TemporaryFolder folder;
-  played.World.Folders.Folder = folder.Path();
-  for (auto _ : state) {
-    played.World.Boxes.Answers = {Answer::Yes};
-    played.Study->CreateSaveFullReport_Click();
-    played.World.Boxes.Shown.clear();
-  }
-}
-BENCHMARK(FullReportInMemoryFiles)->Unit(benchmark::kMicrosecond);
-
-/// The selected report of so many kinds of heir, each excluded by the son who stands beside them.
-void SelectedReport(benchmark::State& state) {
+void Time(benchmark::State& state, const Command& command) {
   MemoryCase played;
-  played.TypeEstate("24000");
-  played.Type(2, "1");
-  const int boxes[] = {1, 3, 5, 7, 13, 16, 17, 22, 23, 30, 31, 32, 33};
-  for (int i = 0; i < state.range(0); ++i) played.Type(boxes[i], "1");
+  command.Type(played);
   for (auto _ : state) {
-    played.Study->SelectedReport_Click();
+    command.Press(played);
     played.World.Boxes.Shown.clear();
   }
-  state.SetComplexityN(state.range(0));
 }
-BENCHMARK(SelectedReport)->DenseRange(1, 13, 3)->Unit(benchmark::kMicrosecond)->Complexity(benchmark::oN);
+
+[[gnu::noinline]] void Counted(const Command& command, MemoryCase& played) { command.Press(played); }
+
+/// Runs the command so often that the count can be divided by 100. The first run fills the caches of the
+/// allocator and is not counted.
+void Count(const std::string& name) {
+  for (const Command& command : commands) {
+    if (command.Name != name) continue;
+    MemoryCase played;
+    command.Type(played);
+    command.Press(played);
+    for (int i = 0; i < 100; ++i) {
+      played.World.Boxes.Shown.clear();
+      Counted(command, played);
+    }
+  }
+}
 
 long ResidentKilobytes() {
   std::ifstream statm("/proc/self/statm");
@@ -96,8 +109,9 @@ long ResidentKilobytes() {
   return resident * sysconf(_SC_PAGESIZE) / 1024;
 }
 
-void TellGrowthOverAMillionCases() {
-  SevenHeirs played;
+void PrintGrowthOverAMillionCases() {
+  MemoryCase played;
+  TypeSevenHeirs(played);
   const auto play = [&](int cases) {
     for (int i = 0; i < cases; ++i) {
       played.Type(3, i % 2 == 0 ? "2" : "3");
@@ -116,9 +130,17 @@ void TellGrowthOverAMillionCases() {
 }  // namespace qismora
 
 int main(int argc, char** argv) {
+  using namespace qismora;
+  if (argc == 3 && std::string(argv[1]) == "--count") {
+    Count(argv[2]);
+    return 0;
+  }
+  for (const Command& command : commands) {
+    benchmark::RegisterBenchmark(command.Name, Time, command)->Unit(benchmark::kMicrosecond);
+  }
   benchmark::Initialize(&argc, argv);
   benchmark::AddCustomContext("compiler", __VERSION__);
   benchmark::RunSpecifiedBenchmarks();
-  qismora::TellGrowthOverAMillionCases();
+  PrintGrowthOverAMillionCases();
   return 0;
 }

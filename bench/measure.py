@@ -23,9 +23,10 @@ MOST_OPENING = 50
 BUSY = 0.1
 
 BENCHMARKS = {
-    "DoubleClickOnAnHeir": "A double click on an heir's caption",
+    "DoubleClicksOnSixHeirs": "A double click on each of six captions",
     "Residuaries": "The command Residuaries",
-    "SelectedReport/13": "The command Execute Selected, thirteen kinds of heir",
+    "ResiduariesWithoutMessage": "The command Residuaries without the father, which shows no message box",
+    "SelectedReport": "The command Execute Selected, a son and thirteen other kinds of heir",
     "FullReportWithoutFiles": "A full report, without its files",
     "FullReportInMemoryFiles": "A full report with its files, on a disk in memory",
     "DivisionInOneSchool": "A division among seven kinds of heir in one school, with its reasons",
@@ -86,6 +87,15 @@ def measure_starts(programs, lines):
         runs = [(start(menu + [str(OPENINGS)], environment), start(bare, environment)) for _ in range(STARTS)]
     median = lambda program, column: statistics.median(run[program][column] for run in runs)
     return [(median(0, column), median(1, column)) for column in range(3)], widgets, (median(0, 4), median(0, 5))
+
+
+def count_instructions(programs, name):
+    """The instructions of one command, which do not depend on how busy the machine is."""
+    counted = subprocess.run(
+        ["valgrind", "--tool=callgrind", "--callgrind-out-file=/dev/null", "--toggle-collect=*Counted*",
+         os.path.join(programs, "qismora_bench"), "--count", name],
+        stdout=subprocess.DEVNULL, stderr=subprocess.PIPE, text=True, check=True).stderr
+    return int(re.search(r"Collected : (\d+)", counted)[1]) // 100
 
 
 def measure_cases(programs):
@@ -161,12 +171,15 @@ def write_page(path, programs, packages):
         "",
         "## Cases, without windows",
         "",
-        f"Seven heirs where nothing else is said; processor's time, medians of {REPETITIONS} runs of many repetitions.",
+        f"Seven heirs where nothing else is said; processor's time, medians of {REPETITIONS} runs of many repetitions;",
+        "instructions counted by callgrind.",
         "",
-        "| | |",
-        "|---|---|",
-        *(f"| {words} | {cases[name]:.3g} µs |" for name, words in BENCHMARKS.items()),
-        f"| Memory before and after a million cases | {growth[0]} and {growth[1]} KiB |",
+        "| | Time | Instructions |",
+        "|---|---|---|",
+        *(f"| {words} | {cases[name]:.3g} µs | {count_instructions(programs, name):,} |"
+          for name, words in BENCHMARKS.items()),
+        "",
+        f"Memory before and after a million cases: {growth[0]} and {growth[1]} KiB.",
     ]
     rows += ["", "## Size", "", "| | |", "|---|---|"] if packages else []
     rows += [f"| Debian package `{os.path.basename(package)}` | {os.path.getsize(package) / 2**20:.2f} MiB |"

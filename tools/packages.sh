@@ -17,6 +17,7 @@ packages_to_measure=(
   "${packages_to_run[@]}"
   libgtest-dev       # tests
   libbenchmark-dev   # benchmarks
+  valgrind           # instruction counts of the benchmarks
   python3            # the tests of the pictures and of what a screen reader hears, the page of measurements
 )
 
