@@ -11,6 +11,7 @@
 #include "residue/Residuaries.h"
 #include "rules/Rules.h"
 #include "screens/Event.h"
+#include "screens/Misreading.h"
 #include "shell/AppSettings.h"
 
 namespace qismora {
@@ -108,6 +109,7 @@ void CaseStudy::Event(Body body) {
       throw;
     }
   });
+  EventsEnded = EventsEnded + 1;
 }
 
 CaseStudy::CaseStudy(CaseRecord& record, Outside& outside, int savedLanguage)
@@ -164,6 +166,7 @@ void CaseStudy::Combo1_Click() {
     Image30(0).Visible = male;
     Image30(1).Visible = !male;
   }
+  EventsEnded = EventsEnded + 1;
 }
 
 void CaseStudy::ShowUrduCaptions() {
@@ -233,6 +236,14 @@ void CaseStudy::RunHeir(int index) {
   for (const Dispatch& row : dispatchTable) {
     if (row.Index == index) row.Run(record_, *this);
   }
+}
+
+// A refused estate is 0 afterwards, and so is the spouse that a switch of gender takes away.
+std::string CaseStudy::MisreadingOf(int index) const {
+  const std::string kept = index == 1 ? Join(Combo1.ListIndex == Male ? record_.Wives : record_.Husband)
+                           : index == GrossEstateBox ? GeneralNumber(record_.GrossEstate)
+                                                     : "the figure of the run before";
+  return Misreading(Text1(index).Text.Get(), index, kept);
 }
 
 // A double click in a box marks an heir as alive or dead. What is no number stays as it is.

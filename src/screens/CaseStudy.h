@@ -23,6 +23,11 @@ class CaseStudy : public CaseScreen {
   /// Takes the screen out of sight; it keeps its texts.
   std::function<void()> Hide;
 
+  /// What the load will make of the text of Text1(index), where that is not what stands there at first sight.
+  std::string MisreadingOf(int index) const;
+  /// Changes at the end of each event that may have changed what the case holds.
+  Property<int> EventsEnded{0};
+
   // Heirs and boxes
   void Label1_DblClick(int index);
   void Text1_DblClick(int index);

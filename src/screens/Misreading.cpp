@@ -5,6 +5,7 @@
 #include "base/Failure.h"
 #include "base/NumberText.h"
 #include "base/Text.h"
+#include "case/CaseScreen.h"
 
 namespace qismora {
 
@@ -23,16 +24,22 @@ bool IsPlain(std::string_view text, bool whole) {
   return AreDigits(text.substr(0, point)) && AreDigits(text.substr(point + 1));
 }
 
+/// The number as its field takes it; beyond the range of the field's type it is the overflow failure.
+std::string ReadAs(Double number, int index) {
+  if (index == GrossEstateBox) return GeneralNumber(number);
+  const bool money = index == FuneralBox || index == DebtsBox || index == WillsBox;
+  return money ? Join(RoundTo<Long>(number)) : Join(RoundTo<Integer>(number));
+}
+
 }  // namespace
 
-std::string Misreading(std::string_view text, bool whole) {
-  if (IsPlain(text, whole)) return {};
-  if (!IsNumber(text)) return "This is no number and is not read: the figure of the run before stays.";
+std::string Misreading(std::string_view text, int index, std::string_view kept) {
+  if (!IsNumber(text)) return Join("This is not a number and is not read: ", kept, " stays.");
   try {
-    const Double number = ParsePrefix(text);
-    return Join("Read as ", whole ? Join(RoundTo<Long>(number)) : GeneralNumber(number));
+    const std::string read = ReadAs(ParsePrefix(text), index);
+    return IsPlain(text, index != GrossEstateBox) ? "" : Join("Read as ", read);
   } catch (const Failure&) {
-    return "This is too large to be read.";
+    return "This is too large and will be refused.";
   }
 }
 

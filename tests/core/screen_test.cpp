@@ -1,6 +1,5 @@
 #include <gtest/gtest.h>
 
-#include "screens/Misreading.h"
 #include "support/MemoryCase.h"
 
 namespace qismora {
@@ -143,26 +142,53 @@ TEST(Screen, BackAndTheCloseBoxShowTheMenu) {
   EXPECT_TRUE(study.Frame5.Visible);
 }
 
-TEST(Screen, TellsWhatIsReadWhereThatIsNotWhatStandsThere) {
+TEST(Screen, SaysWhatIsReadWhereThatIsNotWhatStandsThere) {
   const struct {
+    int Field;
     const char* Typed;
-    bool Whole;
-    const char* Told;
+    const char* Said;
   } rows[] = {
-      {"24000", true, ""},
-      {" 24000 ", true, ""},
-      {"12.50", false, ""},
-      {"12.50", true, "Read as 12"},
-      {"24,000", false, "Read as 24"},
-      {"24.000", false, ""},
-      {"2.4e4", false, "Read as 24000"},
-      {"-1", true, "Read as -1"},
-      {"&H10", true, "Read as 16"},
-      {"", true, "This is no number and is not read: the figure of the run before stays."},
-      {"24 000", false, "This is no number and is not read: the figure of the run before stays."},
-      {"9e99", true, "This is too large to be read."},
+      {2, "24000", ""},
+      {2, " 24000 ", ""},
+      {2, "12.50", "Read as 12"},
+      {2, "-1", "Read as -1"},
+      {2, "&H10", "Read as 16"},
+      {2, "", "This is not a number and is not read: the figure of the run before stays."},
+      {2, "4e4", "This is too large and will be refused."},
+      {2, "40000", "This is too large and will be refused."},
+      {GrossEstateBox, "12.50", ""},
+      {GrossEstateBox, "24,000", "Read as 24"},
+      {GrossEstateBox, "24.000", ""},
+      {GrossEstateBox, "2.4e4", "Read as 24000"},
+      {GrossEstateBox, "9e99", "Read as 9E+99"},
+      {GrossEstateBox, "1e400", "This is too large and will be refused."},
+      {DebtsBox, "4e4", "Read as 40000"},
+      {DebtsBox, "4e9", "This is too large and will be refused."},
   };
-  for (const auto& row : rows) EXPECT_EQ(Misreading(row.Typed, row.Whole), row.Told) << row.Typed;
+  for (const auto& row : rows) {
+    MemoryCase played;
+    played.Type(row.Field, row.Typed);
+    EXPECT_EQ(played.Study->MisreadingOf(row.Field), row.Said) << row.Field << " " << row.Typed;
+  }
+}
+
+// A refused estate is lost, and a switch of gender takes the spouse away.
+TEST(Screen, SaysWhichFigureStays) {
+  MemoryCase played;
+  played.Type(1, "3");
+  played.Study->Label1_DblClick(3);
+  const auto stays = [&](int field) {
+    played.Type(field, "none");
+    return played.Study->MisreadingOf(field);
+  };
+  EXPECT_EQ(stays(GrossEstateBox), "This is not a number and is not read: 18600 stays.");
+  EXPECT_EQ(stays(1), "This is not a number and is not read: 3 stays.");
+  played.Type(DebtsBox, "99999");
+  played.Study->Label1_DblClick(3);
+  EXPECT_EQ(stays(GrossEstateBox), "This is not a number and is not read: 0 stays.");
+  played.Study->Combo1.ListIndex = Female;
+  played.Study->Combo1.ListIndex = Male;
+  EXPECT_EQ(stays(1), "This is not a number and is not read: 0 stays.");
 }
 
 TEST(Screen, AnyTextInAnyBoxIsAnsweredAndNothingEscapes) {

@@ -87,10 +87,9 @@ void CaseBox::SetTip(const QString& tip) {
 }
 
 void CaseBox::Mark(const QString& words) {
-  mark_ = words;
+  if (std::exchange(mark_, words) != words) update();
   setToolTip(words.isEmpty() ? tip_ : words + QStringLiteral("\n\n") + tip_);
   setAccessibleDescription(words);
-  update();
 }
 
 // A box that only tells has the colour of the form.

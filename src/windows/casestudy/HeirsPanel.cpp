@@ -5,7 +5,6 @@
 #include <algorithm>
 #include <span>
 
-#include "screens/Misreading.h"
 #include "windows/casestudy/CaseBox.h"
 #include "windows/platform/Utf8.h"
 #include "windows/style/Pictures.h"
@@ -142,9 +141,9 @@ CaseBox* HeirsPanel::AddBox(int box, const QString& spoken) {
   widget->Toggle = [this, box] { form_.Text1_DblClick(box); };
   binder_.Box(form_.Text1(box), widget);
   if (box == NetEstateBox) return widget;  // the program writes it
-  Binder::Follow(form_.Text1(box).Text, [this, box, widget] {
-    widget->Mark(ToQt(Misreading(form_.Text1(box).Text.Get(), box != GrossEstateBox)));
-  });
+  const auto mark = [this, box, widget] { widget->Mark(ToQt(form_.MisreadingOf(box))); };
+  Binder::Follow(form_.Text1(box).Text, mark);
+  form_.EventsEnded.WhenChanged(mark);
   return widget;
 }
 
