@@ -1,8 +1,10 @@
 #include <QAccessible>
 #include <QApplication>
 #include <QCheckBox>
+#include <QClipboard>
 #include <QComboBox>
 #include <QContextMenuEvent>
+#include <QDropEvent>
 #include <QFileDialog>
 #include <QFileInfo>
 #include <QGroupBox>
@@ -10,6 +12,7 @@
 #include <QLabel>
 #include <QLineEdit>
 #include <QMenu>
+#include <QMimeData>
 #include <QPlainTextEdit>
 #include <QScreen>
 #include <QStandardPaths>
@@ -122,6 +125,79 @@ class CaseStudyWindowTest : public QObject {
     QCOMPARE(desk_->Find<QLineEdit>("Text1(3)")->text(), QString("2"));
     QTest::keyClick(desk_->Find("Text1(3)"), Qt::Key_Down);
     QVERIFY(desk_->Find("Text1(4)")->hasFocus());
+  }
+
+  // What stays where no number was typed is what the last run has left.
+  void HintsFollowTheRuns() {
+    desk_->IgnoreBoxes();
+    desk_->DoubleClick("Label1(3)");
+    desk_->Type("Text1(25)", "none");
+    const QWidget* estate = desk_->Find("Text1(25)");
+    QVERIFY(estate->accessibleDescription().endsWith(": 18600 stays."));
+    desk_->Type("Text1(27)", "99999");
+    desk_->DoubleClick("Label1(3)");
+    QVERIFY(estate->accessibleDescription().endsWith(": 0 stays."));
+    QVERIFY(estate->toolTip().startsWith(estate->accessibleDescription()));
+  }
+
+  void PastedTexts_data() {
+    QTest::addColumn<QString>("field");
+    QTest::addColumn<QString>("text");
+    QTest::addColumn<QString>("taken");
+    const QString estate = "Text1(25)";
+    const QString name = "Text1(24)";
+    QTest::newRow("from a spreadsheet") << estate << "\t24000 \r\n"
+                                        << "24000";
+    QTest::newRow("from a web page") << estate << QString::fromUtf8("\u00A024000\u202F") << "24000";
+    QTest::newRow("two cells") << estate << "24000\n18600"
+                               << "24000 18600";
+    QTest::newRow("a line break alone") << estate << "\n"
+                                        << "";
+    QTest::newRow("Arabic digits") << estate << QString::fromUtf8("\u200F٢٤٠٠٠٫٥") << "24000.5";
+    QTest::newRow("Persian and Urdu digits") << estate << QString::fromUtf8("۲۴۰۵۶") << "24056";
+    QTest::newRow("two lines") << name << "Abdul\r\nKarim\n"
+                               << "Abdul Karim";
+    const QString urdu = QString::fromUtf8("علی\u200Cرضا ۲");
+    QTest::newRow("Urdu") << name << urdu << urdu;
+    QTest::newRow("reversed") << name << QString::fromUtf8("Ali\u202Etxt.\u0007") << "Alitxt.";
+  }
+  void PastedTexts() {
+    QFETCH(const QString, field);
+    QFETCH(const QString, text);
+    QFETCH(const QString, taken);
+    auto* widget = desk_->Find<QLineEdit>(qPrintable(field));
+    QGuiApplication::clipboard()->setText(text);
+    widget->clear();
+    QTest::keySequence(widget, QKeySequence::Paste);
+    QCOMPARE(widget->text(), taken);
+    widget->clear();
+    ChooseFromMenu(widget, 5);
+    QTRY_COMPARE(widget->text(), taken);
+    widget->clear();
+    QMimeData dragged;
+    dragged.setText(text);
+    QDragEnterEvent enter(QPoint(2, 2), Qt::CopyAction, &dragged, Qt::LeftButton, {});
+    QApplication::sendEvent(widget, &enter);
+    QDropEvent drop(QPointF(2, 2), Qt::CopyAction, &dragged, Qt::LeftButton, {});
+    QApplication::sendEvent(widget, &drop);
+    QCOMPARE(widget->text(), taken);
+    widget->setText(text);
+    QCOMPARE(widget->text(), text);
+  }
+
+  // An Arabic keyboard sends keys or, on many desktops, commits its text as an input method.
+  void TypedDigits() {
+    const QString five = QString::fromUtf8("٥");
+    for (const char* field : {"Text1(2)", "Text1(24)"}) {
+      auto* widget = desk_->Find<QLineEdit>(field);
+      widget->clear();
+      QKeyEvent key(QEvent::KeyPress, 0x665, {}, five);
+      QApplication::sendEvent(widget, &key);
+      QInputMethodEvent commit;
+      commit.setCommitString(five);
+      QApplication::sendEvent(widget, &commit);
+      QCOMPARE(widget->text(), widget == desk_->Find("Text1(2)") ? QString("55") : five + five);
+    }
   }
 
   void GenderAndView() {

@@ -19,7 +19,9 @@ constexpr double tint = 0.35;
 
 }  // namespace
 
-CaseBox::CaseBox(const QString& name, QWidget* parent) : QLineEdit(parent) { setObjectName(name); }
+CaseBox::CaseBox(const QString& name, Content content, QWidget* parent) : CleanLineEdit(content, parent) {
+  setObjectName(name);
+}
 
 QSize CaseBox::sizeHint() const {
   return {QLineEdit::sizeHint().width(), fontMetrics().height() + rowMargin};
@@ -34,7 +36,7 @@ void CaseBox::focusInEvent(QFocusEvent* event) {
 
 // The first click into a box takes its whole text, as Tab does: what is typed next replaces the 0.
 void CaseBox::mouseReleaseEvent(QMouseEvent* event) {
-  QLineEdit::mouseReleaseEvent(event);
+  CleanLineEdit::mouseReleaseEvent(event);
   if (std::exchange(entering_, false) && !hasSelectedText()) selectAll();
 }
 
@@ -53,7 +55,7 @@ void CaseBox::keyPressEvent(QKeyEvent* event) {
     case Qt::Key_Return:
     case Qt::Key_Enter:
       if (Explain && event->modifiers().testFlag(Qt::ControlModifier)) return Explain();
-      return QLineEdit::keyPressEvent(event);
+      return CleanLineEdit::keyPressEvent(event);
     case Qt::Key_Up:
       focusNextPrevChild(false);
       return;
@@ -61,12 +63,12 @@ void CaseBox::keyPressEvent(QKeyEvent* event) {
       focusNextPrevChild(true);
       return;
     default:
-      QLineEdit::keyPressEvent(event);
+      CleanLineEdit::keyPressEvent(event);
   }
 }
 
 void CaseBox::contextMenuEvent(QContextMenuEvent* event) {
-  QMenu* menu = createStandardContextMenu();
+  QMenu* menu = CreateContextMenu();
   menu->setAttribute(Qt::WA_DeleteOnClose);
   menu->addSeparator();
   if (Explain) {

@@ -1,16 +1,17 @@
 #pragma once
 
-#include <QLineEdit>
 #include <functional>
+
+#include "windows/widgets/CleanLineEdit.h"
 
 namespace qismora {
 
 /// A box that a figure of the case is typed into. A double click, F2 or an entry of its context menu
 /// toggles it, Ctrl+Return or an entry explains the share of its heir; the arrows lead to the boxes above and
 /// below.
-class CaseBox : public QLineEdit {
+class CaseBox : public CleanLineEdit {
  public:
-  CaseBox(const QString& name, QWidget* parent);
+  CaseBox(const QString& name, Content content, QWidget* parent);
 
   std::function<void()> Toggle;
   std::function<void()> Explain;

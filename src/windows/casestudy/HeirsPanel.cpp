@@ -134,7 +134,7 @@ HeirsPanel::HeirsPanel(CaseStudy& form, Binder& binder, QWidget* parent)
 }
 
 CaseBox* HeirsPanel::AddBox(int box, const QString& spoken) {
-  auto* widget = new CaseBox(Indexed("Text1", box), this);
+  auto* widget = new CaseBox(Indexed("Text1", box), Content::Figure, this);
   widget->setAccessibleName(spoken);
   widget->SetTip(tr(boxTip).arg(spoken));
   widget->setAlignment(Qt::AlignRight);

@@ -67,7 +67,7 @@ void TopStrip::AddGender() {
 
 void TopStrip::AddName() {
   auto* caption = new CaptionLabel(Indexed("Label1", NameBox), this);
-  auto* name = new CaseBox(Indexed("Text1", NameBox), this);
+  auto* name = new CaseBox(Indexed("Text1", NameBox), Content::Name, this);
   name->setAccessibleName(tr("Name of the deceased"));
   name->Toggle = [this] { form_.Text1_DblClick(NameBox); };
   caption->setAccessibleName(tr("Name of the deceased"));
