@@ -122,7 +122,7 @@ CaseStudy::CaseStudy(CaseRecord& record, Outside& outside, int savedLanguage)
   for (int i = 0; i < Check1.Size; ++i) Check1(i).Caption = ClassIIRows[static_cast<std::size_t>(i)].Caption;
   for (int i = 0; i < Label4.Size; ++i) Label4(i).Caption = viewCaptions[i];
   for (int i = 0; i < Text1.Size; ++i) {
-    Text1(i).Text.WhenChanged([this] { Image2.BorderStyle = 0; });
+    Text1(i).Text.WhenChanged([this, i] { Text1_Change(i); });
   }
   Combo1.ListIndex.WhenChanged([this] { Combo1_Click(); });
 
@@ -137,12 +137,17 @@ CaseStudy::CaseStudy(CaseRecord& record, Outside& outside, int savedLanguage)
   Image42(0).Visible = true;
   for (Picture* under : {&Image6(1), &Image4(1), &Image7(0)}) under->Visible = true;
   Timer1 = 1000;
-  Frame111_MouseMove();
+  for (Picture* over : {&Image6(0), &Image4(0), &Image7(1)}) over->Visible = true;
+  Form_Load(savedLanguage);
+}
 
+// The links of Frame5 are drawn by the window, and the narrative tables are filled when the program is built.
+void CaseStudy::Form_Load(int savedLanguage) {
   Label13.Caption = Join(record_.ExecCount);
   Comb1_Data();
   Frame1.Caption = Join("When deceased is a ", Combo1.Text());
   ChooseView(savedLanguage >= 0 && savedLanguage < Label4.Size ? savedLanguage : 0);
+  FullReportxx = Image40;
 }
 
 void CaseStudy::Comb1_Data() {
@@ -237,6 +242,8 @@ void CaseStudy::RunHeir(int index) {
     if (row.Index == index) row.Run(record_, *this);
   }
 }
+
+void CaseStudy::Text1_Change(int) { Image2.BorderStyle = 0; }
 
 // A refused estate is 0 afterwards, and so is the spouse that a switch of gender takes away.
 std::string CaseStudy::MisreadingOf(int index) const {
@@ -357,8 +364,8 @@ void CaseStudy::Timer1_Timer() {
   for (int i = 0; i < Image42.Size; ++i) Image42(i).Visible = i == next;
 }
 
-void CaseStudy::FullReportxx_MouseMove() { FullReportxx = 39; }
-void CaseStudy::Frame3_MouseMove() { FullReportxx = 40; }
+void CaseStudy::FullReportxx_MouseMove() { FullReportxx = Image39; }
+void CaseStudy::Frame3_MouseMove() { FullReportxx = Image40; }
 void CaseStudy::Image6_MouseMove() { Image6(0).Visible = false; }
 void CaseStudy::Image4_MouseMove() { Image4(0).Visible = false; }
 void CaseStudy::Image7_MouseMove() { Image7(1).Visible = false; }
@@ -368,7 +375,7 @@ void CaseStudy::Frame111_MouseMove() {
   Image7(1).Visible = true;
   Image4(0).Visible = true;
   Image6(0).Visible = true;
-  FullReportxx = 40;
+  FullReportxx = Image40;
 }
 
 }  // namespace qismora

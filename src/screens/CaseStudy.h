@@ -30,6 +30,7 @@ class CaseStudy : public CaseScreen {
 
   // Heirs and boxes
   void Label1_DblClick(int index);
+  void Text1_Change(int index);
   void Text1_DblClick(int index);
   void Image37_DblClick(int index);
 
@@ -79,8 +80,11 @@ class CaseStudy : public CaseScreen {
 
   /// The clear picture.
   Picture Image2;
-  /// The number of the picture that the full report button shows: 39 under the mouse, else 40.
-  Property<int> FullReportxx{40};
+  // The pictures of the full report button: under the mouse, and at rest.
+  static constexpr const char* Image39 = "image39";
+  static constexpr const char* Image40 = "image40";
+  /// The picture that the full report button shows.
+  Property<std::string> FullReportxx{Image40};
 
   // The caption pictures over the boxes. Image9 to Image29 are Image(9) to Image(29).
   Array<Picture, 29> Image;
@@ -100,6 +104,7 @@ class CaseStudy : public CaseScreen {
   template <class Body>
   void Event(Body body);
 
+  void Form_Load(int savedLanguage);
   void Comb1_Data();
   void Combo1_Click();
   void ChooseView(int index);

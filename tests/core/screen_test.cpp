@@ -65,13 +65,13 @@ TEST(Screen, HoveringTakesDecorationsAwayAndTheFrameBringsThemBack) {
   study.Image7_MouseMove();
   study.FullReportxx_MouseMove();
   EXPECT_FALSE(study.Image6(0).Visible || study.Image4(0).Visible || study.Image7(1).Visible);
-  EXPECT_EQ(study.FullReportxx, 39);
+  EXPECT_EQ(study.FullReportxx.Get(), CaseStudy::Image39);
   study.Frame111_MouseMove();
   EXPECT_TRUE(study.Image6(0).Visible && study.Image4(0).Visible && study.Image7(1).Visible);
-  EXPECT_EQ(study.FullReportxx, 40);
+  EXPECT_EQ(study.FullReportxx.Get(), CaseStudy::Image40);
   study.FullReportxx_MouseMove();
   study.Frame3_MouseMove();
-  EXPECT_EQ(study.FullReportxx, 40);
+  EXPECT_EQ(study.FullReportxx.Get(), CaseStudy::Image40);
 }
 
 TEST(Screen, TheFrameIsCentredOnlyInAMaximizedWindow) {

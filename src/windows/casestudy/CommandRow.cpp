@@ -4,6 +4,7 @@
 #include <QPushButton>
 #include <QShortcut>
 
+#include "windows/platform/Utf8.h"
 #include "windows/style/Pictures.h"
 #include "windows/style/PointerShape.h"
 #include "windows/widgets/HoverWatch.h"
@@ -78,9 +79,7 @@ QWidget* CommandRow::FullReport() {
     form_.FullReportxx_Click();
   });
   WhenMouseMoves(report, [this] { form_.FullReportxx_MouseMove(); });
-  Binder::Follow(form_.FullReportxx, [this, report] {
-    report->ShowPicture(QStringLiteral("image%1").arg(form_.FullReportxx.Get()));
-  });
+  Binder::Follow(form_.FullReportxx, [this, report] { report->ShowPicture(ToQt(form_.FullReportxx.Get())); });
   return report;
 }
 
