@@ -5,6 +5,7 @@
 #include <QTimer>
 #include <utility>
 
+#include "windows/platform/BuiltFiles.h"
 #include "windows/platform/Utf8.h"
 
 namespace qismora {
@@ -31,7 +32,7 @@ bool QtVideoPlayer::eventFilter(QObject* watched, QEvent* event) {
 }
 
 void QtVideoPlayer::Start() {
-  if (!wanted_ || panel_ == nullptr) return;
+  if (!wanted_ || panel_ == nullptr || !IsAsBuilt(file_)) return;
   Load();
   if (screen_ != nullptr) screen_->Play(file_);
 }
@@ -39,7 +40,9 @@ void QtVideoPlayer::Start() {
 void QtVideoPlayer::Load() {
   if (std::exchange(tried_, true)) return;
   for (const QString& folder : folders_) {
-    QLibrary plugin(folder + QLatin1Char('/') + QLatin1String(VideoPluginName));
+    const QString file = folder + QLatin1Char('/') + QLatin1String(VideoPluginName);
+    if (!IsAsBuilt(file)) continue;
+    QLibrary plugin(file);
     plugin.setLoadHints(QLibrary::PreventUnloadHint);
     const auto make = reinterpret_cast<MakeVideoScreen>(plugin.resolve(MakeVideoScreenName));
     if (make == nullptr) continue;

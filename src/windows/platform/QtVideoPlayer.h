@@ -11,7 +11,8 @@
 namespace qismora {
 
 /// Plays in a panel by means of the video plugin, which is loaded when there is something to play and the
-/// panel has been painted. Without the plugin the panel stays blank.
+/// panel has been painted. Without the plugin the panel stays blank. A file that is not as it was built is
+/// neither played nor loaded.
 class QtVideoPlayer : public QObject, public VideoPlayer {
  public:
   /// The folders that the plugin may lie in.

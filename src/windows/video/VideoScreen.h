@@ -20,6 +20,6 @@ class VideoScreen {
 /// The one function of the plugin. The screen belongs to the panel.
 using MakeVideoScreen = VideoScreen* (*)(QWidget* panel);
 inline constexpr const char* MakeVideoScreenName = "MakeQismoraVideoScreen";
-inline constexpr const char* VideoPluginName = "qismora_video";
+inline constexpr const char* VideoPluginName = "qismora_video.so";
 
 }  // namespace qismora
