@@ -57,7 +57,8 @@ struct Surroundings {
   }
 
   testing::MemoryClock Clock;
-  QtMessageBoxes Boxes;
+  QtProgram Running;
+  QtMessageBoxes Boxes{Running};
   testing::MemoryFolders Folders;
   QtSaveDialog Dialog{Folders};
   QtSettings Settings;

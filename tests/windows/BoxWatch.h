@@ -13,6 +13,10 @@ class BoxWatch : public QObject {
  public:
   BoxWatch() { startTimer(5); }
 
+  /// Leaves the boxes to the test.
+  void Leave() { watches_ = false; }
+  void Watch() { watches_ = true; }
+
   /// The texts of the boxes so far.
   QStringList Take() { return std::exchange(texts_, {}); }
   int Count() const { return static_cast<int>(texts_.size()); }
@@ -23,7 +27,7 @@ class BoxWatch : public QObject {
  protected:
   void timerEvent(QTimerEvent*) override {
     QWidget* modal = QApplication::activeModalWidget();
-    if (modal == nullptr) return;
+    if (modal == nullptr || !watches_) return;
     auto* box = qobject_cast<QMessageBox*>(modal);
     texts_.append(box != nullptr ? box->text() : QStringLiteral("a modal window that is no box"));
     owner_ = modal->parentWidget() == nullptr ? QString() : modal->parentWidget()->objectName();
@@ -35,6 +39,7 @@ class BoxWatch : public QObject {
   QStringList texts_;
   QString owner_;
   bool onTop_ = false;
+  bool watches_ = true;
 };
 
 }  // namespace qismora::testing

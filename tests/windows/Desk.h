@@ -66,7 +66,8 @@ class Desk {
   QTemporaryDir home_;
   QString before_;
   SystemClock clock_;
-  QtMessageBoxes boxes_;
+  QtProgram running_;
+  QtMessageBoxes boxes_{running_};
   SystemFolders places_;
   QtSaveDialog dialog_{places_};
   Outside outside_{clock_, boxes_, dialog_, Store, places_};

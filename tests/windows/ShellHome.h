@@ -86,7 +86,8 @@ class ShellHome : public QObject {
  private:
   QTemporaryDir folder_;
   SystemClock clock_;
-  QtMessageBoxes boxes_;
+  QtProgram running_;
+  QtMessageBoxes boxes_{running_};
   ProgramFolders folders_;
   QtSaveDialog dialog_;
   QtSettings settings_;

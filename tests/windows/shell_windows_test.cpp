@@ -9,12 +9,14 @@
 #include <QStandardPaths>
 #include <QTableWidget>
 #include <QTest>
+#include <QTimer>
 #include <csignal>
 
 #include "base/Files.h"
 #include "shell/SessionLog.h"
 #include "windows/BoxWatch.h"
 #include "windows/ShellHome.h"
+#include "windows/platform/RunningProgram.h"
 #include "windows/style/OutlinedStyle.h"
 
 namespace qismora {
@@ -65,6 +67,7 @@ class ShellWindowsTest : public QObject {
     QVERIFY(QTest::qWaitForWindowActive(menu_));
   }
   void cleanup() {
+    boxes_.Watch();
     QCOMPARE(boxes_.Take(), QStringList());
     home_.reset();
   }
@@ -337,6 +340,43 @@ class ShellWindowsTest : public QObject {
     QCOMPARE(home_->LogLines().size(), 1);
     QCOMPARE(home_->Store().Read("Qismora", "Inheritance", "TimesExecuted"), std::string("9"));
     QCOMPARE(Find<QLabel>(&home_->Start().MainMenu(), "Label22")->text(), QStringLiteral("2"));
+  }
+
+  void anUnansweredQuestionIsNoConsent_data() {
+    QTest::addColumn<bool>("closed");
+    QTest::newRow("told to end") << false;
+    QTest::newRow("windows closed by the end of the session") << true;
+  }
+  // The question about the will is open when the program ends: the report that waits for its answer is not
+  // written.
+  void anUnansweredQuestionIsNoConsent() {
+    QFETCH(const bool, closed);
+    home_.reset();
+    boxes_.Leave();
+    const QTemporaryDir folder;
+    const QString before = QDir::currentPath();
+    QVERIFY(QDir::setCurrent(folder.path()));
+    {
+      RunningProgram program(folder.path());
+      program.Windows.ShowMainMenu();
+      program.Windows.MainMenu().Form().ShowCaseStudy();
+      Find<QLineEdit>(program.Windows.Study(), "Text1(28)")->setText(QStringLiteral("9000"));
+      auto* save = Find<QAction>(program.Windows.Study(), "CreateSaveFullReport");
+      QTimer::singleShot(0, save, &QAction::trigger);
+      QTimer end;
+      int asked = 0;
+      connect(&end, &QTimer::timeout, &end, [&] {
+        if (QApplication::activeModalWidget() == nullptr || ++asked > 1) return;
+        QEvent quit(QEvent::Quit);
+        closed ? static_cast<void>(QCoreApplication::sendEvent(qApp, &quit))
+               : static_cast<void>(raise(SIGTERM));
+      });
+      end.start(5);
+      QApplication::exec();
+      QVERIFY(asked > 0);
+    }
+    QVERIFY(QDir::setCurrent(before));
+    QCOMPARE(QDir(folder.path()).entryList(QDir::Files), QStringList(QStringLiteral("popuQism.ppl")));
   }
 
   // The program itself, told to end from outside as at the end of a desktop session.

@@ -162,6 +162,11 @@ DateTime SystemClock::Now() {
   return {day.year(), day.month(), day.day(), time.hour(), time.minute(), time.second()};
 }
 
+void QtProgram::End() {
+  ended_ = true;
+  QCoreApplication::exit();
+}
+
 BoxOwner::BoxOwner(QWidget* window) { chosenOwner = window; }
 BoxOwner::~BoxOwner() { chosenOwner = nullptr; }
 
@@ -175,10 +180,9 @@ Answer QtMessageBoxes::Show(BoxStyle style, BoxButtons buttons, const std::strin
   if (buttons != BoxButtons::Ok) box.setDefaultButton(QMessageBox::No);
   const PointerShape usersTurn(Qt::ArrowCursor);
   const int pressed = box.exec();
-  for (const ButtonRow& row : answers) {
-    if (row.Button == pressed) return row.Meaning;
-  }
-  return Answer::Cancel;
+  // The end of a desktop session closes all windows, the box as if by its close button.
+  if (box.clickedButton() == nullptr || running_.HasEnded()) throw Unanswered();
+  return std::ranges::find(answers, pressed, &ButtonRow::Button)->Meaning;
 }
 
 std::optional<std::string> QtSaveDialog::AskPath(const std::string& suggestedName,

@@ -13,9 +13,24 @@ class SystemClock : public Clock {
   DateTime Now() override;
 };
 
+/// The program that runs.
+class QtProgram : public Program {
+ public:
+  void End() override;
+  bool HasEnded() const { return ended_; }
+
+ private:
+  bool ended_ = false;
+};
+
+/// A box that goes away with the program, and not by a button, counts as unanswered.
 class QtMessageBoxes : public MessageBoxes {
  public:
+  explicit QtMessageBoxes(const QtProgram& running) : running_(running) {}
   Answer Show(BoxStyle style, BoxButtons buttons, const std::string& text) override;
+
+ private:
+  const QtProgram& running_;
 };
 
 /// As long as one stands, boxes belong to its window, also before the desktop has made it the active one.

@@ -11,14 +11,14 @@ struct RunningProgram {
   explicit RunningProgram(const QString& binaries) : Places(binaries) {}
 
   SystemClock Time;
-  QtMessageBoxes Boxes;
+  QtProgram Running;
+  QtMessageBoxes Boxes{Running};
   ProgramFolders Places;
   QtSaveDialog Dialog{Places};
   QtSettings Store;
   QtDocumentViewer Viewer;
   QtVideoPlayer Player{Places.Plugins()};
   SystemMemory Memory;
-  QtProgram Running;
   ShellOutside Outside{{Time, Boxes, Dialog, Store, Places}, Viewer, Player, Memory, Running};
   ProgramWindows Windows{Outside, Player};
 };

@@ -74,6 +74,4 @@ MemoryFigures SystemMemory::Read() {
           Told("/proc/self/status", "VmRSS")};
 }
 
-void QtProgram::End() { QCoreApplication::exit(); }
-
 }  // namespace qismora

@@ -35,9 +35,4 @@ class SystemMemory : public MemoryMeter {
   MemoryFigures Read() override;
 };
 
-class QtProgram : public Program {
- public:
-  void End() override;
-};
-
 }  // namespace qismora
