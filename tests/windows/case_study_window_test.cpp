@@ -349,6 +349,28 @@ class CaseStudyWindowTest : public QObject {
     QVERIFY(file.readLine().startsWith("DAUGHTERS' SHARE\r\n"));
   }
 
+  // In the status bar and to a screen reader, with path and reason; a long path does not widen the window.
+  void SavesAreReported() {
+    const auto* panel = desk_->Find<QLabel>("StatusBar1.Panel2");
+    const QSize size = desk_->Window().size();
+    auto* save = desk_->Find<QAction>("CreateSaveFullReport");
+    desk_->Expect("saved successfully");
+    save->trigger();
+    QCOMPARE(panel->text(), "Saved: " + QDir::currentPath() + "/abdullah.txt");
+    const QString name = QString(150, 'a') + " / 2026";
+    desk_->Find<QLineEdit>("Text1(24)")->setText(name);
+    save->trigger();
+    const QString said = "Not saved (this is no file name): " + QDir::currentPath() + '/' + name + ".txt";
+    QCOMPARE(panel->text(), said);
+    QCOMPARE(panel->toolTip(), said);
+    const QAccessibleInterface* read =
+        QAccessible::queryAccessibleInterface(desk_->Find("StatusBar1.Panel2"));
+    QCOMPARE(read->text(QAccessible::Name), said);
+    QCOMPARE(read->role(), QAccessible::Notification);
+    QCOMPARE(desk_->Window().size(), size);
+    QVERIFY(panel->geometry().left() > desk_->Find("StatusBar1.Panel1")->geometry().left());
+  }
+
   void Animation() {
     auto* timer = desk_->Find<QTimer>("Timer1");
     QVERIFY(timer->isActive());
@@ -384,8 +406,8 @@ class CaseStudyWindowTest : public QObject {
     desk_->Open();
     QVERIFY(QDir::setCurrent(before));
     auto* told = desk_->Find<QLabel>("StatusBar1.Panel2");
-    QCOMPARE(told->toolTip(), QString::fromStdString(folder));
-    QVERIFY(told->accessibleName().endsWith(told->toolTip()));
+    QVERIFY(told->toolTip().endsWith(QString::fromStdString(folder)));
+    QCOMPARE(told->accessibleName(), told->toolTip());
     QCOMPARE(QString::fromStdString(folder),
              QStandardPaths::writableLocation(QStandardPaths::DocumentsLocation));
     QVERIFY(QFileInfo(QString::fromStdString(folder)).isWritable());

@@ -2,10 +2,10 @@
 
 #include <QBoxLayout>
 #include <QCloseEvent>
-#include <QDir>
 #include <QLabel>
 #include <QMenuBar>
 #include <QPlainTextEdit>
+#include <QPointer>
 #include <QScreen>
 #include <QStatusBar>
 #include <QTimer>
@@ -14,6 +14,7 @@
 #include "windows/casestudy/ClassIIPanel.h"
 #include "windows/casestudy/HeirsPanel.h"
 #include "windows/casestudy/ResultPanel.h"
+#include "windows/casestudy/SavePanel.h"
 #include "windows/casestudy/TopStrip.h"
 #include "windows/platform/Utf8.h"
 #include "windows/style/Letters.h"
@@ -33,7 +34,6 @@ constexpr QSize caseSize{800, 600};
 constexpr int twips = 15;
 constexpr int margin = 6;
 constexpr int largestLetters = 12;
-constexpr int longestFolder = 300;
 
 }  // namespace
 
@@ -47,7 +47,7 @@ CaseStudyWindow::CaseStudyWindow(CaseRecord& record, Outside& outside, int saved
   form_.Hide = [this] { hide(); };
   LimitLetters(this, largestLetters);
   FillCaseMenu(menuBar(), form_, binder_);
-  BuildStatusBar(outside.Places);
+  BuildStatusBar(outside);
   BuildFrame();
   BuildTimer();
   SetSizes();
@@ -97,25 +97,20 @@ void CaseStudyWindow::BuildFrame() {
   Binder::Follow(form_.Frame111Top, place);
 }
 
-void CaseStudyWindow::BuildStatusBar(Folders& folders) {
+void CaseStudyWindow::BuildStatusBar(Outside& outside) {
   statusBar()->setObjectName(QStringLiteral("StatusBar1"));
   statusBar()->setAccessibleName(tr("Status bar"));
   auto* panel = new QLabel(this);
   panel->setObjectName(QStringLiteral("StatusBar1.Panel1"));
   panel->setAccessibleName(tr("What was last computed"));
   binder_.SpokenCaption(form_.StatusBar1, panel);
-  statusBar()->addWidget(panel, 1);
+  statusBar()->addWidget(panel);
 
-  // The commands that save name a file and no folder, so the folder stands here.
-  const QString folder = QDir::toNativeSeparators(ToQt(folders.Reports()));
-  auto* reports = new QLabel(this);
-  reports->setObjectName(QStringLiteral("StatusBar1.Panel2"));
-  reports->setTextFormat(Qt::PlainText);
-  const QString words = tr("Full reports are saved in %1");
-  reports->setText(words.arg(fontMetrics().elidedText(folder, Qt::ElideMiddle, longestFolder)));
-  reports->setToolTip(folder);
-  reports->setAccessibleName(words.arg(folder));
-  statusBar()->addPermanentWidget(reports);
+  auto* saves = new SavePanel(ToQt(outside.Places.Reports()), this);
+  statusBar()->addPermanentWidget(saves, 1);
+  outside.SaveEnded = [saves = QPointer<SavePanel>(saves)](const SaveOutcome& outcome) {
+    if (saves != nullptr) saves->ShowOutcome(outcome);
+  };
 }
 
 void CaseStudyWindow::BuildTimer() {

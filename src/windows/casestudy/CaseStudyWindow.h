@@ -23,7 +23,7 @@ class CaseStudyWindow : public QMainWindow {
 
  private:
   void BuildFrame();
-  void BuildStatusBar(Folders& folders);
+  void BuildStatusBar(Outside& outside);
   void BuildTimer();
   void KeepOnTop();
   void SetSizes();

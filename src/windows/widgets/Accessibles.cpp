@@ -2,6 +2,7 @@
 #include <QCoreApplication>
 #include <QKeyEvent>
 
+#include "windows/casestudy/SavePanel.h"
 #include "windows/forms/MenuOption.h"
 #include "windows/forms/VideoPanel.h"
 #include "windows/widgets/CaptionLabel.h"
@@ -75,6 +76,8 @@ class OptionAccessible : public PressAccessible {
 QAccessibleInterface* MakeInterface(const QString&, QObject* object) {
   if (auto* label = dynamic_cast<CaptionLabel*>(object)) return new CaptionAccessible(label);
   if (auto* option = dynamic_cast<MenuOption*>(object)) return new OptionAccessible(option);
+  if (auto* saves = dynamic_cast<SavePanel*>(object))
+    return new QAccessibleWidget(saves, QAccessible::Notification);
   if (auto* video = dynamic_cast<VideoPanel*>(object)) return new PressAccessible(video, QAccessible::Button);
   return nullptr;
 }
