@@ -177,6 +177,24 @@ class Program(unittest.TestCase):
         wait_for("the box to go", lambda: box not in list(self.application) or not has(box, pyatspi.STATE_SHOWING))
         return words
 
+    def announcements(self):
+        """Listens from now on; what it returns gives the notifications that have appeared."""
+        names = []
+
+        def hear(event):
+            with contextlib.suppress(Exception):  # what has appeared may be gone already
+                if event.source.getRoleName() == "notification":
+                    names.append(event.source.name)
+
+        def heard():
+            while GLib.MainContext.default().iteration(False):
+                pass
+            return names
+
+        pyatspi.Registry.registerEventListener(hear, "object:state-changed:showing")
+        self.addCleanup(pyatspi.Registry.deregisterEventListener, hear, "object:state-changed:showing")
+        return heard
+
     def assert_spoken(self, window):
         """Whatever can be reached or pressed has a role and a name, or a caption that names it."""
         names = wait_for(f"the controls of {window.name}", lambda: [
@@ -229,9 +247,13 @@ class Program(unittest.TestCase):
         self.press(study, "push button", "Daughters")
         self.assertIn("one third", self.answer("No"))
         self.answer()
+        announced = self.announcements()
         self.press(study, "menu item", "Full Report")
         self.answer()
-        self.assertTrue(Path(self.folder, "amina.txt").exists())
+        report = Path(self.folder, "amina.txt")
+        self.assertTrue(report.exists())
+        self.find(study, "notification", f"Saved: {report}")
+        wait_for("the announcement", lambda: f"Saved: {report}" in announced())
         self.press(study, "menu item", "Back")
         self.gone("Case Study")
         self.leave()
@@ -292,6 +314,7 @@ if __name__ == "__main__":
     if sys.argv[-1] != "--inside":
         sys.exit(stage())
     import pyatspi
+    from gi.repository import GLib
 
     Program.program = os.path.abspath(sys.argv[1])
     unittest.main(argv=sys.argv[:1], verbosity=2)
