@@ -350,11 +350,6 @@ void CaseStudy::Form_QueryUnload() {
   });
 }
 
-void CaseStudy::Form_Resize(bool maximized, int width, int height) {
-  Frame111Top = maximized ? (height - 9000) / 2 : 0;
-  Frame111Left = maximized ? (width - 12000) / 2 : 0;
-}
-
 void CaseStudy::Image2_MouseDown() { Image2.BorderStyle = 1; }
 void CaseStudy::Image42_Click() { Timer1 = Timer1 == 1000 ? 0 : 1000; }
 

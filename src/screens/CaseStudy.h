@@ -4,13 +4,14 @@
 
 #include "case/CaseRecord.h"
 #include "case/CaseScreen.h"
+#include "screens/CentredFrame.h"
 
 namespace qismora {
 
 /// The Case Study screen without a toolkit: its controls as plain values and the handler of every event.
 /// A window shows it and passes events on; a transcript plays it. No failure leaves an event: what no
 /// handler takes is told in a plain box with its number, and the program goes on.
-class CaseStudy : public CaseScreen {
+class CaseStudy : public CaseScreen, public CentredFrame {
  public:
   /// Makes the screen layer of the record anew and runs the start sequence. The saved language is the
   /// view at the opening, an index of Label4.
@@ -56,7 +57,6 @@ class CaseStudy : public CaseScreen {
   void About_Click();
   void Back_Click();
   void Form_QueryUnload();
-  void Form_Resize(bool maximized, int width, int height);
 
   // Decorations
   void Image2_MouseDown();
@@ -69,9 +69,6 @@ class CaseStudy : public CaseScreen {
   void Image7_MouseMove();
   void Frame111_MouseMove();
 
-  // Where the frame with all controls stands in the window, in twips.
-  Property<int> Frame111Left;
-  Property<int> Frame111Top;
   Frame Frame1;
   /// The choice of view: Urdu, English, Arabic.
   Array<Label, 2> Label4;

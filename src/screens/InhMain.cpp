@@ -200,11 +200,6 @@ void InhMain::RunExit() {
   Event([&] { Inhp(shell_, record_, outside_); });
 }
 
-void InhMain::Form_Resize(bool maximized, int width, int height) {
-  Frame111Left = maximized ? (width - FormWidth) / 2 : 0;
-  Frame111Top = maximized ? (height - FormHeight) / 2 : 0;
-}
-
 void InhMain::MediaPlayer1_EndOfPlay() {
   Decoration([&] { videos_.PlayFirstVideo(); });
 }

@@ -6,6 +6,7 @@
 #include "base/Outside.h"
 #include "case/CaseRecord.h"
 #include "case/Controls.h"
+#include "screens/CentredFrame.h"
 #include "shell/ShellRecord.h"
 #include "shell/Videos.h"
 
@@ -13,7 +14,7 @@ namespace qismora {
 
 /// The main menu without a toolkit: its controls as plain values and the handler of every event. It lives for
 /// the whole run of the program.
-class InhMain {
+class InhMain : public CentredFrame {
  public:
   /// Reads the settings, opens the session and starts the animation. A failure on this way ends it quietly
   /// where it stands; the form opens all the same.
@@ -46,16 +47,12 @@ class InhMain {
   void About_Click();
   void Exitz_Click();
   void Form_QueryUnload();
-  void Form_Resize(bool maximized, int width, int height);
 
   // The animation
   void MediaPlayer1_EndOfPlay();
   void Frame5_Click();
   void Frame5_DblClick();
 
-  // Where the frame with all controls stands in the window, in twips.
-  Property<int> Frame111Left;
-  Property<int> Frame111Top;
   Frame Frame1;
   Label Label1;
   Array<OptionButton, 12> Option1;
@@ -87,9 +84,5 @@ class InhMain {
   ShellOutside& outside_;
   Videos videos_;
 };
-
-/// The size of the form in twips; outside of a maximized window it never has another.
-inline constexpr int FormWidth = 12000;
-inline constexpr int FormHeight = 9000;
 
 }  // namespace qismora

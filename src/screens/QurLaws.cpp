@@ -1,7 +1,6 @@
 #include "screens/QurLaws.h"
 
 #include "screens/Event.h"
-#include "screens/InhMain.h"
 #include "shell/LawPages.h"
 
 namespace qismora {
@@ -28,11 +27,6 @@ void QurLaws::Close_Click() {
   });
 }
 void QurLaws::Form_Unload() { Close_Click(); }
-
-void QurLaws::Form_Resize(bool maximized, int width, int height) {
-  Frame111Left = maximized ? (width - FormWidth) / 2 : 0;
-  Frame111Top = maximized ? (height - FormHeight) / 2 : 0;
-}
 
 void QurLaws::Label2_MouseMove() { Label2.ForeColor = Green; }
 void QurLaws::Label2_MouseDown() { Label2.ForeColor = Red; }

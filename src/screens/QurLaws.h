@@ -4,13 +4,14 @@
 
 #include "base/Outside.h"
 #include "case/Controls.h"
+#include "screens/CentredFrame.h"
 #include "shell/ShellRecord.h"
 
 namespace qismora {
 
 /// The reader of the law pages without a toolkit. It shows the page that LawPage tells when it loads; for a
 /// number without a page its texts stay as they are.
-class QurLaws {
+class QurLaws : public CentredFrame {
  public:
   QurLaws(const ShellRecord& shell, MessageBoxes& boxes);
 
@@ -24,7 +25,6 @@ class QurLaws {
   void Close_Click();
   /// The close box.
   void Form_Unload();
-  void Form_Resize(bool maximized, int width, int height);
 
   void Label2_MouseMove();
   void Label2_MouseDown();
@@ -33,8 +33,6 @@ class QurLaws {
   void StatusBar1_MouseMove();
   void Text2_MouseMove();
 
-  Property<int> Frame111Left;
-  Property<int> Frame111Top;
   /// The title of the window.
   Property<std::string> Caption{"Quranic Laws"};
   TextBox Text1;

@@ -1,0 +1,23 @@
+#pragma once
+
+#include "base/Property.h"
+
+namespace qismora {
+
+/// Where `Frame111`, the frame that holds all controls of a form, stands in its window, in twips.
+struct CentredFrame {
+  static constexpr int Width = 12000;
+  static constexpr int Height = 9000;
+
+  Property<int> Frame111Left;
+  Property<int> Frame111Top;
+
+  /// Takes the size of the window in twips. In a maximized window the frame is centred, in any other it
+  /// stands in the top left corner.
+  void Form_Resize(bool maximized, int width, int height) {
+    Frame111Left = maximized ? (width - Width) / 2 : 0;
+    Frame111Top = maximized ? (height - Height) / 2 : 0;
+  }
+};
+
+}  // namespace qismora
