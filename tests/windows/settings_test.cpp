@@ -185,11 +185,11 @@ void RunOnce(const TemporaryFolder& folder, int number) {
   Inhp(shell, record, outside);
 }
 
-// The toolkit's lock without the name of its owner is waited for a while; the test makes it older instead.
+// Qt takes over a lock without the name of its owner when it is half a minute old; the test makes it so.
 void AgeEmptyLocks(const TemporaryFolder& folder) {
   for (const auto& entry : fs::directory_iterator(folder.File("Qismora"))) {
     if (entry.path().extension() == ".lock" && entry.file_size() == 0)
-      fs::last_write_time(entry, fs::file_time_type::clock::now() - std::chrono::seconds(2));
+      fs::last_write_time(entry, fs::file_time_type::clock::now() - std::chrono::seconds(40));
   }
 }
 

@@ -142,17 +142,6 @@ bool HasSpace(const QSettings& store) {
   return trial.open() && trial.write(QByteArray(ample, ' ')) == ample && trial.flush();
 }
 
-constexpr qint64 longestEmpty = 1000;
-
-// A program that is ended hard in the moment in which it takes the toolkit's lock leaves the lock without the
-// name of its owner. The toolkit would wait half a minute for nobody.
-void DropEmptyLock(const QSettings& store) {
-  const QFileInfo lock(store.fileName() + QStringLiteral(".lock"));
-  if (!lock.exists() || lock.size() > 0) return;
-  if (lock.lastModified().msecsTo(QDateTime::currentDateTime()) > longestEmpty)
-    QFile::remove(lock.filePath());
-}
-
 }  // namespace
 
 DateTime SystemClock::Now() {
@@ -218,7 +207,6 @@ void QtSettings::Write(const std::string& application, const std::string& sectio
   const QString path = Path(section, key);
   if (store.contains(path) && store.value(path).toString() == ToQt(value)) return;
   if (!HasSpace(store)) return;
-  DropEmptyLock(store);
   store.setValue(path, ToQt(value));
 }
 
