@@ -1,36 +1,36 @@
 #include "windows/style/OutlinedStyle.h"
 
 #include <QAbstractScrollArea>
+#include <QGuiApplication>
 #include <QPainter>
 #include <QStyleOption>
 
 #include "windows/style/Colours.h"
-#include "windows/style/LateIcon.h"
 
 namespace qismora {
 
 namespace {
 
-constexpr int darkGround = 64;
+constexpr int darkBackground = 64;
 constexpr double groupStrength = 0.2;
 constexpr double gridStrength = 0.3;
 constexpr double frameStrength = 0.45;
 constexpr double fullStrength = 0.8;
-constexpr double brightStrength = 0.28;
 constexpr QMargins oneLine{1, 1, 1, 1};
 constexpr int brighterButton = 150;
 constexpr int focusTint = 36;
 constexpr int titleMargin = 3;
+constexpr int extensionSize = 16;
 constexpr qreal roundness = 2;
 
-struct InkOnGround {
-  QPalette::ColorRole Ink;
-  QPalette::ColorRole Ground;
+struct TextOnBackground {
+  QPalette::ColorRole Text;
+  QPalette::ColorRole Background;
 };
 
-// Of what is selected the ground gives way: its letters are mostly black or white already. Menus have a
-// ground between those of windows and of boxes.
-constexpr InkOnGround letters[] = {
+// Of what is selected the background gives way: its text is mostly black or white already. Menus have a
+// background between those of windows and of text fields.
+constexpr TextOnBackground pairs[] = {
     {QPalette::WindowText, QPalette::Window},
     {QPalette::Text, QPalette::Base},
     {QPalette::Text, QPalette::Window},
@@ -49,47 +49,30 @@ QColor Line(const QPalette& palette, double strength) {
 
 /// Whether the frames of the style itself are too faint.
 bool NeedsOutlines(const QPalette& palette) {
-  return IsBlackAndWhite(palette) || palette.color(QPalette::Window).lightness() <= darkGround;
+  return IsBlackAndWhite(palette) || palette.color(QPalette::Window).lightness() <= darkBackground;
 }
 
 bool Scrolls(const QWidget* widget) { return qobject_cast<const QAbstractScrollArea*>(widget) != nullptr; }
 
-// On a dark ground buttons are brighter than the window.
+// On a dark background buttons are brighter than the window.
 QColor FocusColour(const QPalette& palette) {
   const QColor window = palette.color(QPalette::Window);
-  const QColor ground = window.lightness() <= darkGround ? window.lighter(brighterButton) : window;
-  return Readable(palette.color(QPalette::Active, QPalette::Highlight), ground, WantedContrast(palette));
+  const bool dark = window.lightness() <= darkBackground;
+  return Readable(palette.color(QPalette::Active, QPalette::Highlight),
+                  dark ? window.lighter(brighterButton) : window, WantedContrast(palette));
 }
 
 // Shown from the first moment of a window, and not only once a key has moved it.
 bool HasFocus(const QStyleOption& option) { return (option.state & QStyle::State_HasFocus) != 0; }
 
 void DrawOutline(QPainter* painter, const QColor& line, const QRect& rect, qreal round = roundness,
-                 const QBrush& ground = Qt::NoBrush) {
+                 const QBrush& inside = Qt::NoBrush) {
   painter->save();
   painter->setRenderHint(QPainter::Antialiasing);
   painter->setPen(line);
-  painter->setBrush(ground);
+  painter->setBrush(inside);
   painter->drawRoundedRect(QRectF(rect).adjusted(0.5, 0.5, -0.5, -0.5), round, round);
   painter->restore();
-}
-
-// Filled bars of one plain colour: large tinted or smooth frames would start the painter's threads.
-void DrawBars(QPainter* painter, const QColor& line, const QRect& rect) {
-  for (const int y : {rect.top(), rect.bottom()}) painter->fillRect(rect.left(), y, rect.width(), 1, line);
-  for (const int x : {rect.left(), rect.right()}) painter->fillRect(x, rect.top(), 1, rect.height(), line);
-}
-
-// A text has room for a second line within the first: it shows the focus.
-void DrawFrame(QPainter* painter, const QStyleOption& option, const QWidget* widget) {
-  const QPalette& palette = option.palette;
-  const QColor usual = NeedsOutlines(palette)
-                           ? Line(palette, frameStrength)
-                           : Between(palette.color(QPalette::Window), Qt::black, brightStrength);
-  DrawBars(painter, HasFocus(option) ? FocusColour(palette) : usual, option.rect);
-  if (!Scrolls(widget)) return;
-  DrawBars(painter, HasFocus(option) ? FocusColour(palette) : palette.color(QPalette::Base),
-           option.rect.marginsRemoved(oneLine));
 }
 
 void DrawFocus(QPainter* painter, const QStyleOption& option) {
@@ -101,14 +84,26 @@ void DrawFocus(QPainter* painter, const QStyleOption& option) {
 
 }  // namespace
 
+void DrawBox(QPainter* painter, const QColor& line, const QRect& rect) {
+  for (const int y : {rect.top(), rect.bottom()}) painter->fillRect(rect.left(), y, rect.width(), 1, line);
+  for (const int x : {rect.left(), rect.right()}) painter->fillRect(x, rect.top(), 1, rect.height(), line);
+}
+
 OutlinedStyle::OutlinedStyle() : QProxyStyle(QStringLiteral("fusion")) {}
 
-// Every menu bar asks for the sign that stands where it is too narrow for its entries. Making it has the
-// toolkit load all that it can read pictures with, so it waits until such a menu bar comes.
+// The sign of a menu bar that is too narrow for its entries, which each menu bar asks for. It is drawn here:
+// to read it from a picture would load all image plugins at the start.
 QIcon OutlinedStyle::standardIcon(StandardPixmap which, const QStyleOption* option,
                                   const QWidget* widget) const {
-  if (which == SP_ToolBarHorizontalExtensionButton) return QIcon(new LateIcon(baseStyle(), which));
-  return QProxyStyle::standardIcon(which, option, widget);
+  if (which != SP_ToolBarHorizontalExtensionButton) return QProxyStyle::standardIcon(which, option, widget);
+  QPixmap arrow(extensionSize, extensionSize);
+  arrow.fill(Qt::transparent);
+  QStyleOption sign;
+  sign.rect = arrow.rect();
+  sign.palette = QGuiApplication::palette();
+  QPainter painter(&arrow);
+  proxy()->drawPrimitive(PE_IndicatorArrowRight, &sign, &painter, widget);
+  return arrow;
 }
 
 // Many a dark desktop leaves links dark blue, and entries that cannot be chosen nearly invisible.
@@ -116,10 +111,10 @@ void OutlinedStyle::polish(QPalette& palette) {
   QProxyStyle::polish(palette);
   const double contrast = WantedContrast(palette);
   for (const QPalette::ColorGroup group : {QPalette::Active, QPalette::Inactive, QPalette::Disabled}) {
-    for (const auto& [ink, ground] : letters) {
-      const QColor wanted = palette.color(group, ink);
-      const QColor readable = Readable(wanted, palette.color(group, ground), contrast);
-      if (readable != wanted) palette.setColor(group, ink, readable);
+    for (const auto& [text, background] : pairs) {
+      const QColor wanted = palette.color(group, text);
+      const QColor readable = Readable(wanted, palette.color(group, background), contrast);
+      if (readable != wanted) palette.setColor(group, text, readable);
     }
   }
 }
@@ -127,38 +122,46 @@ void OutlinedStyle::polish(QPalette& palette) {
 void OutlinedStyle::drawPrimitive(PrimitiveElement element, const QStyleOption* option, QPainter* painter,
                                   const QWidget* widget) const {
   const QPalette& palette = option->palette;
-  switch (element) {
-    case PE_FrameGroupBox: {
-      const int title =
-          qMax(pixelMetric(PM_IndicatorHeight, option, widget), option->fontMetrics.height()) + titleMargin;
-      return DrawBars(painter, Line(palette, groupStrength), option->rect.adjusted(0, title, 0, 0));
-    }
-    case PE_FrameFocusRect:
-      return DrawFocus(painter, *option);
-    case PE_Frame:
-      return DrawFrame(painter, *option, widget);
-    default:
-      break;
+  if (element == PE_FrameFocusRect) return DrawFocus(painter, *option);
+  if (element == PE_FrameGroupBox) {
+    const int title = qMax(pixelMetric(PM_IndicatorHeight, option, widget), option->fontMetrics.height());
+    return DrawBox(painter, Line(palette, groupStrength),
+                   option->rect.adjusted(0, title + titleMargin, 0, 0));
   }
   QProxyStyle::drawPrimitive(element, option, painter, widget);
-  if (element == PE_PanelMenu && NeedsOutlines(palette)) {
-    return DrawBars(painter, Line(palette, frameStrength), option->rect);
-  }
+  const QColor outline = Line(palette, frameStrength);
   const bool radio = element == PE_IndicatorRadioButton;
-  const bool framed = radio || element == PE_PanelLineEdit || element == PE_IndicatorCheckBox ||
-                      element == PE_PanelButtonCommand;
-  if (!framed) return;
   const qreal round = radio ? option->rect.width() / 2.0 : roundness;
-  if (HasFocus(*option)) {
-    DrawOutline(painter, FocusColour(palette), option->rect, round);
-    DrawOutline(painter, FocusColour(palette), option->rect.marginsRemoved(oneLine), round);
-  } else if (NeedsOutlines(palette)) {
-    DrawOutline(painter, Line(palette, frameStrength), option->rect, round);
+  switch (element) {
+    case PE_Frame:
+      // A text area has space for a second line within the first: it shows the focus.
+      if (Scrolls(widget)) {
+        const QColor inner = HasFocus(*option) ? FocusColour(palette) : palette.color(QPalette::Base);
+        DrawBox(painter, inner, option->rect.marginsRemoved(oneLine));
+      }
+      [[fallthrough]];
+    case PE_PanelMenu:
+      if (HasFocus(*option) || NeedsOutlines(palette)) {
+        DrawBox(painter, HasFocus(*option) ? FocusColour(palette) : outline, option->rect);
+      }
+      return;
+    case PE_IndicatorRadioButton:
+    case PE_IndicatorCheckBox:
+    case PE_PanelLineEdit:
+    case PE_PanelButtonCommand:
+      if (HasFocus(*option)) {
+        DrawOutline(painter, FocusColour(palette), option->rect, round);
+        DrawOutline(painter, FocusColour(palette), option->rect.marginsRemoved(oneLine), round);
+      } else if (NeedsOutlines(palette)) {
+        DrawOutline(painter, outline, option->rect, round);
+      }
+      return;
+    default:
+      return;
   }
 }
 
-// The entry of the bar that the keys have reached looks like one that the mouse has opened. Borders are drawn
-// here since the toolkit loses a side of them at 125 percent.
+// The entry of the menu bar that the keys have reached looks like one that the mouse has opened.
 void OutlinedStyle::drawControl(ControlElement element, const QStyleOption* option, QPainter* painter,
                                 const QWidget* widget) const {
   const auto* entry = qstyleoption_cast<const QStyleOptionMenuItem*>(option);
@@ -166,10 +169,6 @@ void OutlinedStyle::drawControl(ControlElement element, const QStyleOption* opti
     QStyleOptionMenuItem opened = *entry;
     opened.state |= State_Sunken;
     return QProxyStyle::drawControl(element, &opened, painter, widget);
-  }
-  const auto* frame = qstyleoption_cast<const QStyleOptionFrame*>(option);
-  if (element == CE_ShapedFrame && frame != nullptr && frame->frameShape == QFrame::Box) {
-    return DrawBars(painter, frame->palette.color(QPalette::WindowText), frame->rect);
   }
   QProxyStyle::drawControl(element, option, painter, widget);
 }

@@ -4,10 +4,10 @@
 
 namespace qismora {
 
-/// The style of all windows: forms are laid out to the pixel, so it is the same on every desktop. Groups are
-/// plain outlines. On a dark ground and in black and white, where their own frames can hardly be seen, boxes,
-/// buttons and texts get one too. Whatever has the focus of the keyboard stands in a clear frame, and every
-/// desktop's letters are made readable on its grounds.
+/// The style of all windows: forms are laid out to the pixel, so it is the same on every desktop. Where
+/// frames can hardly be seen, on a dark background and in black and white, fields, buttons and text areas get
+/// an outline. Whatever has the focus of the keyboard stands in a clear frame, and every desktop's text is
+/// made readable on its background.
 class OutlinedStyle : public QProxyStyle {
  public:
   OutlinedStyle();
@@ -26,5 +26,8 @@ class OutlinedStyle : public QProxyStyle {
   int styleHint(StyleHint hint, const QStyleOption* option, const QWidget* widget,
                 QStyleHintReturn* returned) const override;
 };
+
+/// A plain line within the edges of the rectangle, whole at every scale.
+void DrawBox(QPainter* painter, const QColor& line, const QRect& rect);
 
 }  // namespace qismora
