@@ -2,7 +2,6 @@
 
 #include <QAbstractButton>
 #include <QApplication>
-#include <QLabel>
 #include <QLineEdit>
 
 #include "base/NumberText.h"
@@ -84,6 +83,6 @@ void Desk::Key(const char* name, Qt::Key key) {
   QTest::keyClick(Find(name), key);
 }
 
-QString Desk::TextOf(const char* label) { return Find<QLabel>(label)->text(); }
+QString Desk::TextOf(const char* name) { return Find(name)->property("text").toString(); }
 
 }  // namespace qismora::testing

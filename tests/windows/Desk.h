@@ -43,7 +43,8 @@ class Desk {
   /// Moves the mouse over the widget, or whatever lies on top of it; to its middle if no place is given.
   void MoveTo(const char* name, QPoint place = {});
   void Key(const char* name, Qt::Key key);
-  QString TextOf(const char* label);
+  /// The text of a label or a button.
+  QString TextOf(const char* name);
 
   /// The next box says this; its button is clicked with the mouse.
   void Expect(const QString& words, QMessageBox::StandardButton answer = QMessageBox::Ok);

@@ -162,7 +162,7 @@ class Program(unittest.TestCase):
         control.queryAction().doAction(actions(control).index(action))
 
     def choose(self, entry):
-        self.press(self.menu, "radio button", entry)
+        self.press(self.menu, "radio button", entry, "Toggle")
 
     def type(self, where, box, words):
         self.find(where, "text", box).queryEditableText().setTextContents(words)

@@ -14,7 +14,6 @@
 #include <QMenu>
 #include <QMimeData>
 #include <QPlainTextEdit>
-#include <QScreen>
 #include <QStandardPaths>
 #include <QWheelEvent>
 #include <optional>
@@ -218,7 +217,9 @@ class CaseStudyWindowTest : public QObject {
     QVERIFY(!desk_->Find("Image12")->isVisible());
     QVERIFY(desk_->Find("Frame6(1)")->isVisible());
     QVERIFY(!desk_->Find("Frame4(1)")->isVisible());
-    QVERIFY(desk_->Find<QLabel>("Label4(2)")->frameWidth() > 0);
+    QWidget* arabic = desk_->Find("Label4(2)");
+    const QColor border = arabic->grab().toImage().pixelColor(0, 0);
+    QCOMPARE(border, arabic->palette().color(QPalette::WindowText));
     QCOMPARE(desk_->Store.Read("Islamic Laws of Inheritance", "LanguageSetting", "LblPressed"),
              std::string("2"));
     QCOMPARE(desk_->Store.Read("Qismora", "LanguageSetting", "LblPressed"), std::string());
@@ -236,7 +237,7 @@ class CaseStudyWindowTest : public QObject {
     auto* third = desk_->Find<QCheckBox>("Check1(4)");
     QWidget* panel = desk_->Find("Image37(1)");
     const QPoint line(10, panel->height() * 3 / 8);
-    QTRY_VERIFY(!static_cast<qismora::PictureLabel*>(panel)->PictureRect().isEmpty());
+    QTRY_VERIFY(!static_cast<qismora::PictureButton*>(panel)->PictureRect().isEmpty());
     QTest::mouseClick(panel, Qt::LeftButton, {}, QPoint(panel->width() - 2, line.y()));
     QVERIFY2(!third->isChecked(), "beside the captions nothing is ticked");
     QTest::mouseClick(panel, Qt::LeftButton, {}, line);
@@ -436,25 +437,12 @@ class CaseStudyWindowTest : public QObject {
     desk_->Window().showMaximized();
     QTRY_VERIFY(window.isMaximized());
     QTRY_COMPARE(frame->pos(), QPoint((window.width() - 800) / 2, (window.height() - 600) / 2));
-    QCOMPARE(frame->size(), QSize(800, 600));
+    QTRY_COMPARE(frame->size(), QSize(800, 600));
     desk_->Window().showNormal();
     QTRY_COMPARE(frame->pos(), QPoint(0, 0));
     const QSize answer = desk_->Find("Frame5")->size();
     desk_->Window().resize(window.size() + QSize(100, 50));
     QTRY_COMPARE(desk_->Find("Frame5")->size(), answer + QSize(100, 50));
-  }
-
-  // Where the screen is smaller than the form, Tab still leads to every box and brings it into sight.
-  void ASmallScreenScrolls() {
-    const QSize room = desk_->Window().screen()->availableSize();
-    if (room.width() >= 800) QSKIP("for a run on a small screen");
-    QVERIFY(desk_->Window().width() <= room.width() && desk_->Window().height() < room.height());
-    QWidget* last = desk_->Find("Check1(11)");
-    QVERIFY(last->visibleRegion().isEmpty());
-    desk_->Find("Check1(10)")->setFocus();
-    QTest::keyClick(desk_->Find("Check1(10)"), Qt::Key_Tab);
-    QTRY_VERIFY2(last->hasFocus(), qPrintable(QApplication::focusWidget()->objectName()));
-    QTRY_VERIFY(!last->visibleRegion().isEmpty());
   }
 
  private:

@@ -4,6 +4,8 @@
 #include <QKeyEvent>
 #include <QMenu>
 #include <QMouseEvent>
+#include <QPainter>
+#include <QStyle>
 #include <QStyleOptionFrame>
 #include <utility>
 
@@ -14,6 +16,7 @@ namespace qismora {
 namespace {
 
 constexpr int rowMargin = 4;
+constexpr int textMargin = 2;
 const QColor amber(255, 176, 0);
 constexpr double tint = 0.35;
 
@@ -92,6 +95,21 @@ void CaseBox::Mark(const QString& words) {
   if (std::exchange(mark_, words) != words) update();
   setToolTip(words.isEmpty() ? tip_ : words + QStringLiteral("\n\n") + tip_);
   setAccessibleDescription(words);
+}
+
+// Dots show that a figure is longer than its field; whoever edits it sees the part around the cursor.
+void CaseBox::paintEvent(QPaintEvent* event) {
+  QStyleOptionFrame option;
+  initStyleOption(&option);
+  const QRect inside = style()->subElementRect(QStyle::SE_LineEditContents, &option, this);
+  const QRect place = inside.adjusted(textMargin, 0, -textMargin, 0);
+  if (hasFocus() || fontMetrics().horizontalAdvance(text()) <= place.width())
+    return QLineEdit::paintEvent(event);
+  QPainter painter(this);
+  style()->drawPrimitive(QStyle::PE_PanelLineEdit, &option, &painter, this);
+  const QString shown = fontMetrics().elidedText(text(), Qt::ElideRight, place.width());
+  style()->drawItemText(&painter, place, int(Qt::AlignLeft | Qt::AlignVCenter), palette(), true, shown,
+                        QPalette::Text);
 }
 
 // A box that only tells has the colour of the form.

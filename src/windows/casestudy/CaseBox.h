@@ -32,6 +32,7 @@ class CaseBox : public CleanLineEdit {
   void keyPressEvent(QKeyEvent* event) override;
   void contextMenuEvent(QContextMenuEvent* event) override;
   void initStyleOption(QStyleOptionFrame* option) const override;
+  void paintEvent(QPaintEvent* event) override;
 
  private:
   bool entering_ = false;

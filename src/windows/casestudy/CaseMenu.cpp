@@ -50,7 +50,7 @@ void FillCaseMenu(QMenuBar* bar, CaseStudy& form, Binder& binder) {
     if (entry.Key != noKey) action->setShortcut(entry.Key);
     if (auto run = entry.Run) {
       const auto act = [&form, run] {
-        const PointerShape hourglass(Qt::WaitCursor);
+        const PointerShape busy(Qt::WaitCursor);
         (form.*run)();
       };
       // The command may open a modal box, and a screen reader that chose it must not wait for the answer.

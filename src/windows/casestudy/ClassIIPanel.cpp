@@ -3,9 +3,11 @@
 #include <QBoxLayout>
 #include <QCheckBox>
 #include <QGridLayout>
+#include <QMouseEvent>
 #include <QStyle>
 
 #include "windows/platform/Utf8.h"
+#include "windows/style/Pictures.h"
 #include "windows/widgets/Names.h"
 
 namespace qismora {
@@ -14,10 +16,48 @@ namespace {
 
 constexpr int columns = 3;
 constexpr int rows = 4;
-// The frame of the focus reaches out of a caption; the small box shows the focus of a covered one.
+// The frame of the focus reaches out of a caption; the indicator shows the focus of a covered one.
 constexpr int focusMargin = 4;
 
 }  // namespace
+
+/// The captions of a column as one picture. A click on a line ticks its check box, as one on a plain caption
+/// does. A double click is a question, and takes the tick of its first half back.
+class ClassIIPanel::ColumnCaptions : public PictureButton {
+ public:
+  ColumnCaptions(const QString& name, const QString& file, const Checks& checks, int column, QWidget* parent)
+      : PictureButton(name, file, Colours::OfText, Gesture::DoubleClick, tr("Explain class II residuaries"),
+                      parent),
+        checks_(checks),
+        column_(column) {
+    SetAlignment(Qt::AlignLeft | Qt::AlignVCenter);
+    setAccessibleName(tr("Who inherits among class II"));
+  }
+
+ protected:
+  void mousePressEvent(QMouseEvent* event) override {
+    if (event->button() != Qt::LeftButton) return;
+    clicked_ = CheckAt(event->position().toPoint());
+    if (clicked_ != nullptr) clicked_->toggle();
+  }
+
+  void mouseDoubleClickEvent(QMouseEvent* event) override {
+    if (clicked_ != nullptr && clicked_ == CheckAt(event->position().toPoint())) clicked_->toggle();
+    clicked_ = nullptr;
+    PictureButton::mouseDoubleClickEvent(event);
+  }
+
+ private:
+  // None beside the captions.
+  QCheckBox* CheckAt(const QPoint& place) const {
+    if (!PictureRect().contains(place)) return nullptr;
+    return checks_[static_cast<std::size_t>(place.y() * rows / height() * columns + column_)];
+  }
+
+  const Checks& checks_;
+  int column_;
+  QCheckBox* clicked_ = nullptr;
+};
 
 ClassIIPanel::ClassIIPanel(CaseStudy& form, Binder& binder, QWidget* parent)
     : QGroupBox(tr("Class II residuaries, in order of succession from left to right and from top to bottom"),
@@ -51,29 +91,15 @@ void ClassIIPanel::AddChecks() {
   }
 }
 
-// A panel with a picture covers the captions; without one it cannot be seen, so that they are read. It takes
-// the mouse all the same.
+// The panel covers the captions and takes the mouse from them.
 void ClassIIPanel::AddCover(int column, const QString& frameName, Property<bool>& visible, int image,
                             const QString& file) {
   auto* frame = new QFrame(this);
   frame->setObjectName(frameName);
   frame->setAccessibleName(tr("Captions of class II, column %1").arg(column + 1));
-  auto* picture = new PictureLabel(Indexed("Image37", image), file, Ink::Text, frame);
-  picture->setAlignment(Qt::AlignLeft | Qt::AlignVCenter);
-  picture->setAccessibleName(tr("Who inherits among class II"));
-  picture->ActOn(Gesture::DoubleClick, tr("Explain class II residuaries"),
-                 [this, image] { form_.Image37_DblClick(image); });
-  // A click on a line ticks its box, as one on a caption does. A double click is a question, and takes the
-  // tick of its first half back.
-  picture->Pressed = [this, picture, column](const QPoint& place) {
-    clicked_ = CheckAt(*picture, column, place);
-    if (clicked_ != nullptr) clicked_->toggle();
-  };
-  picture->PressedAgain = [this, picture, column](const QPoint& place) {
-    if (clicked_ != nullptr && clicked_ == CheckAt(*picture, column, place)) clicked_->toggle();
-    clicked_ = nullptr;
-  };
-  frame->setAutoFillBackground(picture->HasPicture());
+  frame->setAutoFillBackground(true);
+  auto* picture = new ColumnCaptions(Indexed("Image37", image), file, checks_, column, frame);
+  connect(picture, &QAbstractButton::clicked, this, [this, image] { form_.Image37_DblClick(image); });
   auto* inside = new QHBoxLayout(frame);
   inside->setContentsMargins(focusMargin, 0, 0, 0);
   inside->addWidget(picture);
@@ -83,13 +109,6 @@ void ClassIIPanel::AddCover(int column, const QString& frameName, Property<bool>
   beside->addWidget(frame);
   grid_->addLayout(beside, 0, column, rows, 1);
   binder_.Visible(visible, frame);
-}
-
-// The box whose caption is drawn there; none beside the captions.
-QCheckBox* ClassIIPanel::CheckAt(const PictureLabel& picture, int column, const QPoint& place) const {
-  if (picture.HasPicture() && !picture.PictureRect().contains(place)) return nullptr;
-  const int index = place.y() * rows / qMax(1, picture.height()) * columns + column;
-  return checks_[static_cast<std::size_t>(index)];
 }
 
 }  // namespace qismora

@@ -1,6 +1,7 @@
 #include "windows/casestudy/CommandRow.h"
 
 #include <QBoxLayout>
+#include <QPainter>
 #include <QPushButton>
 #include <QShortcut>
 
@@ -16,6 +17,30 @@ namespace {
 constexpr int rowHeight = 28;
 constexpr int buttonWidth = 84;
 constexpr int wideButton = 104;
+
+/// The clear command. The mouse gives it a border, which it keeps until a text changes.
+class ClearButton : public IconButton {
+ public:
+  ClearButton(CaseStudy& form, const QString& text, QWidget* parent)
+      : IconButton(QStringLiteral("Image2"), QStringLiteral("image2"), text, parent), form_(form) {
+    connect(this, &QAbstractButton::clicked, this, [this] { form_.Image2_Click(); });
+    form_.Image2.BorderStyle.WhenChanged([this] { update(); });
+  }
+
+ protected:
+  void mousePressEvent(QMouseEvent* event) override {
+    form_.Image2_MouseDown();
+    IconButton::mousePressEvent(event);
+  }
+
+  void paintEvent(QPaintEvent* event) override {
+    IconButton::paintEvent(event);
+    if (form_.Image2.BorderStyle == 1) QPainter(this).drawRect(rect().adjusted(0, 0, -1, -1));
+  }
+
+ private:
+  CaseStudy& form_;
+};
 
 }  // namespace
 
@@ -33,16 +58,11 @@ CommandRow::CommandRow(CaseStudy& form, Binder& binder, QWidget* parent)
 }
 
 QWidget* CommandRow::Clear() {
-  auto* clear = new PictureLabel(QStringLiteral("Image2"), QStringLiteral("image2"), Ink::Own, this);
-  clear->Raise();
+  auto* clear = new ClearButton(form_, tr("Clear"), this);
   clear->setFixedSize(buttonWidth, rowHeight);
-  clear->setText(tr("Clear"));
   clear->setAccessibleName(tr("Clear the case"));
   clear->setToolTip(tr("Clear all heirs and the results"));
-  clear->ActOn(Gesture::Click, tr("Clear the case"), [this] { form_.Image2_Click(); });
-  clear->Pressed = [this](const QPoint&) { form_.Image2_MouseDown(); };
   binder_.Visible(form_.Image2.Visible, clear);
-  binder_.Border(form_.Image2.BorderStyle, clear);
   return clear;
 }
 
@@ -53,7 +73,7 @@ QWidget* CommandRow::Aul() {
   aul->setToolTip(tr("Adjust the shares to the estate (F6)"));
   aul->setFixedSize(buttonWidth, rowHeight);
   const auto adjust = [this] {
-    const PointerShape hourglass(Qt::WaitCursor);
+    const PointerShape busy(Qt::WaitCursor);
     form_.AulRadd_Click();
   };
   connect(aul, &QPushButton::clicked, this, adjust);
@@ -70,12 +90,13 @@ QWidget* CommandRow::Aul() {
 }
 
 QWidget* CommandRow::FullReport() {
-  auto* report = new PictureButton(QStringLiteral("FullReportxx"), tr("Full report"), this);
+  auto* report =
+      new IconButton(QStringLiteral("FullReportxx"), QStringLiteral("image40"), tr("Full report"), this);
   report->setAccessibleName(tr("Full report"));
   report->setToolTip(tr("Make the full report and save it under the name of the deceased"));
   report->setFixedSize(wideButton, rowHeight);
   connect(report, &QPushButton::clicked, this, [this] {
-    const PointerShape hourglass(Qt::WaitCursor);
+    const PointerShape busy(Qt::WaitCursor);
     form_.FullReportxx_Click();
   });
   WhenMouseMoves(report, [this] { form_.FullReportxx_MouseMove(); });

@@ -2,6 +2,7 @@
 
 #include <QBoxLayout>
 
+#include "windows/style/Fonts.h"
 #include "windows/style/Pictures.h"
 
 namespace qismora {
@@ -10,32 +11,31 @@ namespace {
 
 constexpr int pictureHeight = 80;
 constexpr int nameSize = 28;
+constexpr const char* whichProgram = "Which program is this?";
 
-CaptionLabel* Name(CaseStudy& form, Binder& binder, QWidget* parent) {
-  auto* name = new CaptionLabel(QStringLiteral("Label6"), parent);
-  QFont large = name->font();
-  large.setPixelSize(nameSize);
-  large.setBold(true);
-  name->setFont(large);
-  name->setAlignment(Qt::AlignCenter);
+CaptionButton* Name(CaseStudy& form, Binder& binder, QWidget* parent) {
+  auto* name = new CaptionButton(QStringLiteral("Label6"), Gesture::Click, QObject::tr(whichProgram), parent);
+  name->setFont(HeadingFont(name->font(), nameSize));
+  name->SetAlignment(Qt::AlignCenter);
   name->setAccessibleName(QObject::tr("Name of this program"));
-  binder.Caption(form.Label6, name);
-  name->ActOn(Gesture::Click, QObject::tr("Which program is this?"), [&form] { form.Label6_Click(); });
-  binder.Look(form.Label6, name);
+  Binder::Caption(form.Label6, name);
+  binder.TextColour(form.Label6, name);
+  QObject::connect(name, &QAbstractButton::clicked, name, [&form] { form.Label6_Click(); });
   return name;
 }
 
-CaptionLabel* Link(CaseStudy& form, QWidget* parent) {
-  auto* link = new CaptionLabel(QStringLiteral("AboutLink"), parent);
+CaptionButton* Link(CaseStudy& form, QWidget* parent) {
+  const QString words = QObject::tr("About this program");
+  auto* link = new CaptionButton(QStringLiteral("AboutLink"), Gesture::Click, words, parent);
   QFont underlined = link->font();
   underlined.setUnderline(true);
   link->setFont(underlined);
   link->setForegroundRole(QPalette::Link);
   link->setCursor(Qt::PointingHandCursor);
-  link->setAlignment(Qt::AlignCenter);
-  link->setText(QObject::tr("About this program"));
-  link->setAccessibleName(link->text());
-  link->ActOn(Gesture::Click, link->text(), [&form] { form.About_Click(); });
+  link->SetAlignment(Qt::AlignCenter);
+  link->setText(words);
+  link->setAccessibleName(words);
+  QObject::connect(link, &QAbstractButton::clicked, link, [&form] { form.About_Click(); });
   return link;
 }
 
@@ -46,11 +46,11 @@ Frame5Panel::Frame5Panel(CaseStudy& form, Binder& binder, QWidget* parent) : QGr
   setAccessibleName(tr("About the program"));
   setAutoFillBackground(true);
 
-  auto* picture = new PictureLabel(QStringLiteral("Image38"), QStringLiteral("image38"), Ink::Own, this);
+  auto* picture = new PictureButton(QStringLiteral("Image38"), QStringLiteral("image38"), Colours::OfPicture,
+                                    Gesture::Click, tr(whichProgram), this);
   picture->setAccessibleName(tr("Picture of this program"));
-  picture->ActOn(Gesture::Click, tr("Which program is this?"), [&form] { form.Image38_Click(); });
-  picture->setFixedHeight(picture->HasPicture() ? pictureHeight : 0);
-  if (!picture->HasPicture()) picture->setFocusPolicy(Qt::NoFocus);
+  picture->setFixedHeight(pictureHeight);
+  connect(picture, &QAbstractButton::clicked, this, [&form] { form.Image38_Click(); });
   auto* howTo = new QLabel(tr("Type how many heirs of each kind\nare alive, and the estate.\n\n"
                               "Then choose Case Analysis >\nResiduaries for the distribution,\n"
                               "or double-click an heir's caption\nfor the share of that heir."),

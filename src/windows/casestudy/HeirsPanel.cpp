@@ -8,7 +8,7 @@
 #include "windows/casestudy/CaseBox.h"
 #include "windows/platform/Utf8.h"
 #include "windows/style/Pictures.h"
-#include "windows/widgets/CaptionLabel.h"
+#include "windows/widgets/CaptionButton.h"
 #include "windows/widgets/Names.h"
 
 namespace qismora {
@@ -17,7 +17,7 @@ namespace {
 
 enum class Kind { Title, Spouse, Heir, Estate, Blank };
 
-/// What stands in a row, and the words that a screen reader says and a tool tip shows.
+/// What stands in a row, and what screen readers and tool tips call it.
 struct Row {
   Kind What;
   int Box;
@@ -62,7 +62,7 @@ constexpr Row rightRows[] = {
     {Kind::Estate, NetEstateBox, "Net estate"},
 };
 
-// Columns of the grid: caption, picture and box of the left heirs, a gap, and the same on the right.
+// Columns of the grid: caption, picture and field of the left heirs, a gap, and the same on the right.
 constexpr int rightColumn = 4;
 constexpr int gapColumn = 3;
 constexpr int gapWidth = 14;
@@ -71,12 +71,13 @@ constexpr int boxWidth = 40;
 constexpr QSize pictureSize{80, 20};
 constexpr int pictureColumnWidth = 66;
 
+constexpr const char* computeShare = "Compute the share";
 constexpr const char* inUrdu = "%1, in Urdu";
 constexpr const char* inArabic = "%1, in Arabic";
 constexpr const char* boxTip = "%1\nDouble-click or F2: 0 or 1";
 constexpr const char* captionTip = "%1\nDouble-click or Enter: compute the share";
 
-/// The number of a box among those that have a caption picture of their own.
+/// The number of a field among those that have a caption picture of their own.
 int PictureNumber(int box) {
   return static_cast<int>(std::ranges::find(HeirBoxes, box) - HeirBoxes.begin()) - 1;
 }
@@ -147,40 +148,38 @@ CaseBox* HeirsPanel::AddBox(int box, const QString& spoken) {
   return widget;
 }
 
-CaptionLabel* HeirsPanel::AddCaption(int box, const QString& spoken) {
-  auto* caption = new CaptionLabel(Indexed("Label1", box), this);
-  binder_.Caption(form_.Label1(box), caption);
-  caption->ActOn(Gesture::DoubleClick, tr("Compute the share"), [this, box] { form_.Label1_DblClick(box); });
-  caption->setAccessibleName(spoken);
-  caption->setToolTip(tr(captionTip).arg(spoken));
+CaptionButton* HeirsPanel::AddCaption(int box, const QString& accessibleName) {
+  auto* caption = new CaptionButton(Indexed("Label1", box), Gesture::DoubleClick, tr(computeShare), this);
+  Binder::Caption(form_.Label1(box), caption);
+  connect(caption, &QAbstractButton::clicked, this, [this, box] { form_.Label1_DblClick(box); });
+  caption->setAccessibleName(accessibleName);
+  caption->setToolTip(tr(captionTip).arg(accessibleName));
   return caption;
 }
 
 // The pictures stand beside the caption, which stays readable in every view, and act as it does.
-void HeirsPanel::AddPicture(int row, int column, int box, const QString& spoken, const QString& name,
+void HeirsPanel::AddPicture(int row, int column, int box, const QString& accessibleName, const QString& name,
                             const QString& file, Picture& control) {
-  auto* picture = new PictureLabel(name, QStringLiteral("captions/") + file, Ink::Text, this);
+  auto* picture = new PictureButton(name, QStringLiteral("captions/") + file, Colours::OfText,
+                                    Gesture::DoubleClick, tr(computeShare), this);
+  connect(picture, &QAbstractButton::clicked, this, [this, box] { form_.Label1_DblClick(box); });
   picture->setFixedSize(pictureSize);
-  picture->setAlignment(Qt::AlignRight | Qt::AlignVCenter);
-  picture->setAccessibleName(spoken);
-  picture->ActOn(Gesture::DoubleClick, tr("Compute the share"), [this, box] { form_.Label1_DblClick(box); });
+  picture->SetAlignment(Qt::AlignRight | Qt::AlignVCenter);
+  picture->setAccessibleName(accessibleName);
   picture->setFocusPolicy(Qt::NoFocus);
-  picture->setAttribute(Qt::WA_TransparentForMouseEvents, !picture->HasPicture());
   binder_.Visible(control.Visible, picture);
   grid_->addWidget(picture, row, column, 1, 2, Qt::AlignRight | Qt::AlignVCenter);
 }
 
-void HeirsPanel::AddHeir(int row, int column, int box, const QString& spoken) {
+void HeirsPanel::AddHeir(int row, int column, int box, const QString& heir) {
   const int number = PictureNumber(box);
-  CaseBox* input = AddBox(box, spoken);
+  CaseBox* input = AddBox(box, heir);
   input->setFixedWidth(boxWidth);
   input->Explain = [this, box] { form_.Label1_DblClick(box); };
-  CaptionLabel* caption = AddCaption(box, spoken);
-  caption->setBuddy(input);
-  grid_->addWidget(caption, row, column);
-  AddPicture(row, column, box, tr(inUrdu).arg(spoken), QStringLiteral("Image%1").arg(number + 9),
+  grid_->addWidget(AddCaption(box, heir), row, column);
+  AddPicture(row, column, box, tr(inUrdu).arg(heir), QStringLiteral("Image%1").arg(number + 9),
              QStringLiteral("urdu-%1").arg(box), form_.Image(number + 9));
-  AddPicture(row, column, box, tr(inArabic).arg(spoken), Indexed("Image41", number + 2),
+  AddPicture(row, column, box, tr(inArabic).arg(heir), Indexed("Image41", number + 2),
              QStringLiteral("arabic-%1").arg(box), form_.Image41(number + 2));
   grid_->addWidget(input, row, column + 2, Qt::AlignVCenter);
 }
@@ -190,8 +189,7 @@ void HeirsPanel::AddSpouse(int row) {
   CaseBox* input = AddBox(1, {});
   input->setFixedWidth(boxWidth);
   input->Explain = [this] { form_.Label1_DblClick(1); };
-  CaptionLabel* caption = AddCaption(1, {});
-  caption->setBuddy(input);
+  CaptionButton* caption = AddCaption(1, {});
   Binder::Follow(form_.Label1(1).Caption, [this, input, caption] {
     const QString words = ToQt(form_.Label1(1).Caption.Get());
     input->setAccessibleName(words);
@@ -213,21 +211,18 @@ void HeirsPanel::AddSpouse(int row) {
   grid_->addWidget(input, row, 2, Qt::AlignVCenter);
 }
 
-void HeirsPanel::AddEstate(int row, int box, const QString& spoken) {
-  CaseBox* input = AddBox(box, spoken);
+void HeirsPanel::AddEstate(int row, int box, const QString& figure) {
+  CaseBox* input = AddBox(box, figure);
   input->setReadOnly(box == NetEstateBox);
-  auto* caption = new CaptionLabel(Indexed("Label1", box), this);
-  caption->setAccessibleName(spoken);
-  caption->setBuddy(input);
-  binder_.Caption(form_.Label1(box), caption);
+  QLabel* caption = Binder::FieldCaption(form_.Label1(box), Indexed("Label1", box), input);
   grid_->addWidget(caption, row, rightColumn);
   grid_->addWidget(input, row, rightColumn + 1, 1, 2, Qt::AlignVCenter);
 }
 
-// A caption without words or box: it loads the case and computes nothing. Its name shows when Tab comes to
+// A caption without text or field: it loads the case and computes nothing. Its name shows when Tab comes to
 // it.
 void HeirsPanel::AddBlankCaption(int row) {
-  CaptionLabel* caption = AddCaption(12, tr("Load the case only"));
+  CaptionButton* caption = AddCaption(12, tr("Load the case only"));
   caption->setToolTip({});
   grid_->addWidget(caption, row, 0, 1, 3);
 }

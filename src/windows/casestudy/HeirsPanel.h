@@ -9,23 +9,23 @@ class QGridLayout;
 
 namespace qismora {
 
-class CaptionLabel;
+class CaptionButton;
 class CaseBox;
 
-/// The boxes of the heirs and of the estate with their captions: spouse and descendants, brothers and
+/// The fields of the heirs and of the estate with their captions: spouse and descendants, brothers and
 /// sisters; ascendants, estate.
 class HeirsPanel : public QGroupBox {
  public:
   HeirsPanel(CaseStudy& form, Binder& binder, QWidget* parent);
 
  private:
-  void AddHeir(int row, int column, int box, const QString& spoken);
+  void AddHeir(int row, int column, int box, const QString& heir);
   void AddSpouse(int row);
-  void AddEstate(int row, int box, const QString& spoken);
+  void AddEstate(int row, int box, const QString& figure);
   void AddBlankCaption(int row);
   CaseBox* AddBox(int box, const QString& spoken);
-  CaptionLabel* AddCaption(int box, const QString& spoken);
-  void AddPicture(int row, int column, int box, const QString& spoken, const QString& name,
+  CaptionButton* AddCaption(int box, const QString& accessibleName);
+  void AddPicture(int row, int column, int box, const QString& accessibleName, const QString& name,
                   const QString& file, Picture& control);
 
   CaseStudy& form_;

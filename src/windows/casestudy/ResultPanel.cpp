@@ -4,10 +4,11 @@
 #include <QClipboard>
 #include <QGridLayout>
 #include <QGuiApplication>
-#include <QShortcut>
+#include <QLabel>
+#include <QPainter>
+#include <QStyle>
 
 #include "base/Text.h"
-#include "windows/casestudy/AnswerLabel.h"
 #include "windows/casestudy/CommandRow.h"
 #include "windows/casestudy/Frame5Panel.h"
 #include "windows/platform/Utf8.h"
@@ -21,16 +22,48 @@ namespace {
 enum Row { CommandLine, HeadingLine, AmountLine, TextLine, LongTextLine };
 constexpr int longTextMore = 8;
 
-AnswerLabel* Line(const char* name, const QString& spoken, Label& control, Binder& binder, QWidget* parent) {
-  auto* label = new AnswerLabel(QString::fromLatin1(name), spoken, parent);
-  binder.SpokenCaption(control, label);
-  binder.Look(control, label);
+/// A line of the answer. One that is longer than its place, such as an amount of hundreds of digits, is
+/// broken wherever it must be.
+class AnswerLabel : public QLabel {
+ public:
+  explicit AnswerLabel(QWidget* parent) : QLabel(parent) {
+    setSizePolicy(QSizePolicy::Ignored, QSizePolicy::Minimum);
+  }
+
+  QSize sizeHint() const override { return {0, fontMetrics().height()}; }
+  QSize minimumSizeHint() const override { return sizeHint(); }
+  bool hasHeightForWidth() const override { return true; }
+  int heightForWidth(int width) const override {
+    return fontMetrics().boundingRect(0, 0, width, QWIDGETSIZE_MAX, flags, text()).height();
+  }
+
+ protected:
+  void paintEvent(QPaintEvent*) override {
+    QPainter painter(this);
+    style()->drawItemText(&painter, rect(), flags, palette(), isEnabled(), text(), foregroundRole());
+  }
+
+ private:
+  static constexpr int flags = int(Qt::AlignLeft) | int(Qt::AlignTop) | int(Qt::TextWrapAnywhere);
+};
+
+AnswerLabel* Line(const char* name, const QString& accessibleName, Label& control, Binder& binder,
+                  QWidget* parent) {
+  auto* label = new AnswerLabel(parent);
+  label->setObjectName(QString::fromLatin1(name));
+  label->setAccessibleName(accessibleName);
+  label->setTextFormat(Qt::PlainText);
+  QFont bold = label->font();
+  bold.setBold(true);
+  label->setFont(bold);
+  Binder::Result(control, label);
+  binder.TextColour(control, label);
   return label;
 }
 
-ReadingText* LongText(const char* name, const QString& spoken, TextBox& control, Binder& binder,
+ReadingText* LongText(const char* name, const QString& accessibleName, TextBox& control, Binder& binder,
                       QWidget* parent) {
-  auto* text = new ReadingText(QString::fromLatin1(name), spoken, parent);
+  auto* text = new ReadingText(QString::fromLatin1(name), accessibleName, parent);
   binder.Text(control, text);
   return text;
 }
@@ -44,7 +77,7 @@ void CopyResults(const CaseStudy& form) {
 
 }  // namespace
 
-ResultPanel::ResultPanel(CaseStudy& form, Binder& binder, QWidget* parent) : QWidget(parent) {
+ResultPanel::ResultPanel(CaseStudy& form, Binder& binder, QWidget* parent) : QWidget(parent), form_(form) {
   auto* grid = new QGridLayout(this);
   setObjectName(QStringLiteral("ResultPanel"));
   setAccessibleName(tr("Results"));
@@ -54,14 +87,14 @@ ResultPanel::ResultPanel(CaseStudy& form, Binder& binder, QWidget* parent) : QWi
   grid->setRowMinimumHeight(LongTextLine, longTextMore);
 
   grid->addWidget(new CommandRow(form, binder, this), CommandLine, 0);
-  AnswerLabel* heading = Line("Label2", tr("Heading of the result"), form.Label2, binder, this);
-  AnswerLabel* amount = Line("Label3", tr("Amount and fraction"), form.Label3, binder, this);
-  ReadingText* narrative = LongText("Text2", tr("Narrative of the share"), form.Text2, binder, this);
-  ReadingText* report = LongText("Text3", tr("Report"), form.Text3, binder, this);
+  QLabel* heading = Line("Label2", tr("Heading of the result"), form.Label2, binder, this);
+  QLabel* amount = Line("Label3", tr("Amount and fraction"), form.Label3, binder, this);
+  narrative_ = LongText("Text2", tr("Narrative of the share"), form.Text2, binder, this);
+  report_ = LongText("Text3", tr("Report"), form.Text3, binder, this);
   grid->addWidget(heading, HeadingLine, 0);
   grid->addWidget(amount, AmountLine, 0);
-  grid->addWidget(narrative, TextLine, 0);
-  grid->addWidget(report, TextLine, 0, 2, 1);
+  grid->addWidget(narrative_, TextLine, 0);
+  grid->addWidget(report_, TextLine, 0, 2, 1);
   auto* cover = new Frame5Panel(form, binder, this);
   grid->addWidget(cover, AmountLine, 0, 3, 1);
   cover->raise();
@@ -74,20 +107,23 @@ ResultPanel::ResultPanel(CaseStudy& form, Binder& binder, QWidget* parent) : QWi
     widget->addAction(copy);
     widget->setContextMenuPolicy(Qt::ActionsContextMenu);
   }
-  for (ReadingText* text : {narrative, report}) text->addAction(copy);
-
-  auto* lead = new QShortcut(Qt::Key_F7, this);
-  connect(lead, &QShortcut::activated, this, [&form, narrative, report] {
-    if (!form.Frame5.Visible) (form.Text3.Visible ? report : narrative)->setFocus(Qt::ShortcutFocusReason);
-  });
+  for (ReadingText* text : {narrative_, report_}) text->addAction(copy);
 
   // What lies under the cover is out of the way of the Tab key too.
-  Binder::Follow(form.Frame5.Visible, [&form, narrative, report, copy] {
-    const Qt::FocusPolicy policy = form.Frame5.Visible ? Qt::NoFocus : Qt::StrongFocus;
-    narrative->setFocusPolicy(policy);
-    report->setFocusPolicy(policy);
-    copy->setEnabled(!form.Frame5.Visible);
+  Binder::Follow(form.Frame5.Visible, [this, copy] {
+    const Qt::FocusPolicy policy = form_.Frame5.Visible ? Qt::NoFocus : Qt::StrongFocus;
+    narrative_->setFocusPolicy(policy);
+    report_->setFocusPolicy(policy);
+    copy->setEnabled(!form_.Frame5.Visible);
   });
+}
+
+bool ResultPanel::ShowEnd() {
+  if (form_.Frame5.Visible) return false;
+  ReadingText* text = form_.Text3.Visible ? report_ : narrative_;
+  text->setFocus(Qt::ShortcutFocusReason);
+  text->moveCursor(QTextCursor::End);
+  return true;
 }
 
 }  // namespace qismora

@@ -1,6 +1,7 @@
 #include "windows/casestudy/SavePanel.h"
 
 #include <QAccessible>
+#include <QAccessibleWidget>
 #include <QDir>
 #include <QPainter>
 #include <QStyle>
@@ -9,7 +10,17 @@
 
 namespace qismora {
 
+namespace {
+
+QAccessibleInterface* NotificationInterface(const QString&, QObject* object) {
+  auto* panel = dynamic_cast<SavePanel*>(object);
+  return panel == nullptr ? nullptr : new QAccessibleWidget(panel, QAccessible::Notification);
+}
+
+}  // namespace
+
 SavePanel::SavePanel(const QString& folder, QWidget* parent) : QLabel(parent) {
+  QAccessible::installFactory(NotificationInterface);  // a second time changes nothing
   setObjectName(QStringLiteral("StatusBar1.Panel2"));
   setTextFormat(Qt::PlainText);
   Say(tr("Full reports are saved in "), folder);

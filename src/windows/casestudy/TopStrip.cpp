@@ -14,9 +14,10 @@ namespace qismora {
 namespace {
 
 constexpr QSize animationSize{26, 26};
-constexpr QMargins focusRoom{1, 1, 1, 1};
+constexpr QMargins focusMargins{1, 1, 1, 1};
 constexpr QSize ornamentSize{24, 24};
-constexpr int viewMargin = 4;
+constexpr QMargins viewMargins{4, 4, 4, 4};
+constexpr QMargins countMargins{2, 2, 2, 2};
 
 constexpr const char* viewNames[] = {"Urdu view", "English view", "Arabic view"};
 
@@ -52,29 +53,21 @@ TopStrip::TopStrip(CaseStudy& form, Binder& binder, QWidget* parent)
 }
 
 void TopStrip::AddGender() {
-  auto* caption = new CaptionLabel(Indexed("Label1", 0), this);
   auto* gender = new GenderList(this);
   gender->setFocusPolicy(Qt::StrongFocus);
   gender->setObjectName(QStringLiteral("Combo1"));
   gender->setAccessibleName(tr("Gender of the deceased"));
-  caption->setAccessibleName(tr("Gender of the deceased"));
-  caption->setBuddy(gender);
-  binder_.Caption(form_.Label1(0), caption);
   binder_.Choice(form_.Combo1, gender);
-  layout()->addWidget(caption);
+  layout()->addWidget(Binder::FieldCaption(form_.Label1(0), Indexed("Label1", 0), gender));
   layout()->addWidget(gender);
 }
 
 void TopStrip::AddName() {
-  auto* caption = new CaptionLabel(Indexed("Label1", NameBox), this);
   auto* name = new CaseBox(Indexed("Text1", NameBox), Content::Name, this);
   name->setAccessibleName(tr("Name of the deceased"));
   name->Toggle = [this] { form_.Text1_DblClick(NameBox); };
-  caption->setAccessibleName(tr("Name of the deceased"));
-  caption->setBuddy(name);
-  binder_.Caption(form_.Label1(NameBox), caption);
   binder_.Box(form_.Text1(NameBox), name);
-  layout()->addWidget(caption);
+  layout()->addWidget(Binder::FieldCaption(form_.Label1(NameBox), Indexed("Label1", NameBox), name));
   layout()->addWidget(name);
 }
 
@@ -86,51 +79,51 @@ QWidget* TopStrip::Views() {
   row->setContentsMargins(0, 0, 0, 0);
   row->setSpacing(2);
   for (int i = 0; i < 3; ++i) {
-    auto* view = new CaptionLabel(Indexed("Label4", i), frame);
+    Label& control = form_.Label4(i);
+    auto* view = new CaptionButton(Indexed("Label4", i), Gesture::Click, tr(viewNames[i]), frame);
     view->setAccessibleName(tr(viewNames[i]));
     view->setToolTip(tr(viewNames[i]));
-    view->setMargin(viewMargin);
-    view->setAlignment(Qt::AlignCenter);
-    binder_.Caption(form_.Label4(i), view);
-    view->ActOn(Gesture::Click, tr(viewNames[i]), [this, i] { form_.Label4_Click(i); });
-    binder_.Look(form_.Label4(i), view);
+    view->setContentsMargins(viewMargins);
+    view->SetAlignment(Qt::AlignCenter);
+    connect(view, &QAbstractButton::clicked, this, [this, i] { form_.Label4_Click(i); });
+    Binder::Caption(control, view);
+    binder_.TextColour(control, view);
+    Binder::Follow(control.BorderStyle, [&control, view] {
+      view->SetBorder(control.BorderStyle == 1 ? QFrame::Box : QFrame::NoFrame);
+    });
     row->addWidget(view);
   }
   return frame;
 }
 
-// The pictures take turns, so it is the place of all three that holds the focus.
+// The pictures take turns, so it is the place of all three that acts.
 QWidget* TopStrip::Animation() {
-  auto* place = new CaptionLabel(QStringLiteral("Image42"), this);
+  auto* place =
+      new CaptionButton(QStringLiteral("Image42"), Gesture::Click, tr("Stop or start the animation"), this);
   place->setFixedSize(animationSize);
   place->setAccessibleName(tr("Animation"));
-  const QString words = tr("Stop or start the animation");
-  bool any = false;
+  connect(place, &QAbstractButton::clicked, this, [this] { form_.Image42_Click(); });
   for (int i = 0; i < 3; ++i) {
-    auto* picture =
-        new PictureLabel(Indexed("Image42", i), QStringLiteral("image42-%1").arg(i), Ink::Own, place);
-    picture->setGeometry(QRect(QPoint(), animationSize).marginsRemoved(focusRoom));
-    picture->setAccessibleName(tr("Animation, picture %1").arg(i));
-    picture->ActOn(Gesture::Click, words, [this] { form_.Image42_Click(); });
-    picture->setFocusPolicy(Qt::NoFocus);
+    auto* picture = new PictureLabel(Indexed("Image42", i), QStringLiteral("image42-%1").arg(i),
+                                     tr("Animation, picture %1").arg(i), place);
+    picture->setGeometry(QRect(QPoint(), animationSize).marginsRemoved(focusMargins));
     binder_.Visible(form_.Image42(i).Visible, picture);
-    any = any || picture->HasPicture();
   }
-  place->setAttribute(Qt::WA_TransparentForMouseEvents, !any);
-  if (any) place->ActOn(Gesture::Click, words, [this] { form_.Image42_Click(); });
   return place;
 }
 
 QWidget* TopStrip::Executions() {
-  auto* count = new CaptionLabel(QStringLiteral("Label13"), this);
+  auto* count =
+      new CaptionButton(QStringLiteral("Label13"), Gesture::DoubleClick, tr("Number of executions"), this);
   count->setAccessibleName(tr("Number of executions"));
   count->setToolTip(tr("No. of Executions"));
-  count->setAlignment(Qt::AlignCenter);
-  count->setFrameStyle(int(QFrame::StyledPanel) | int(QFrame::Sunken));
-  count->setMargin(viewMargin - 2);
-  count->setMinimumWidth(count->fontMetrics().horizontalAdvance(QStringLiteral("00000")) + 2 * viewMargin);
-  binder_.SpokenCaption(form_.Label13, count);
-  count->ActOn(Gesture::DoubleClick, tr("Number of executions"), [this] { form_.Label13_DblClick(); });
+  count->SetAlignment(Qt::AlignCenter);
+  count->SetBorder(QFrame::StyledPanel);
+  count->setContentsMargins(countMargins);
+  count->setMinimumWidth(count->fontMetrics().horizontalAdvance(QStringLiteral("00000")) +
+                         2 * viewMargins.left());
+  Binder::Result(form_.Label13, count);
+  connect(count, &QAbstractButton::clicked, this, [this] { form_.Label13_DblClick(); });
   return count;
 }
 
@@ -141,12 +134,10 @@ QWidget* TopStrip::Ornament(const char* name, int upper, Array<Picture, 1>& pict
   place->setFixedSize(ornamentSize);
   for (const int i : {1 - upper, upper}) {
     const QString file = QStringLiteral("%1-%2").arg(QString::fromLatin1(name).toLower()).arg(i);
-    auto* picture = new PictureLabel(Indexed(name, i), file, Ink::Own, place);
+    auto* picture = new PictureLabel(Indexed(name, i), file, tr("Ornament"), place);
     picture->setFixedSize(ornamentSize);
-    picture->setAccessibleName(tr("Ornament"));
     binder_.Visible(pictures(i).Visible, picture);
     WhenMouseMoves(picture, moved);
-    place->setAttribute(Qt::WA_TransparentForMouseEvents, !picture->HasPicture());
   }
   return place;
 }

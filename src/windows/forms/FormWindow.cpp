@@ -5,72 +5,96 @@
 #include <QLayout>
 #include <QMenuBar>
 #include <QScreen>
+#include <QScrollArea>
+#include <QScrollBar>
 #include <QStatusBar>
+#include <QStyle>
 
-#include "windows/widgets/Accessibles.h"
+#include "windows/style/Fonts.h"
 #include "windows/widgets/Keyboard.h"
-#include "windows/widgets/SmallScreen.h"
 
 namespace qismora {
 
 namespace {
 
-constexpr QSize formSize{800, 600};
 constexpr int twips = 15;
-constexpr int margin = 12;
-constexpr int largestLetters = 14;
+constexpr QSize formSize{CentredFrame::Width / twips, CentredFrame::Height / twips};
 
 }  // namespace
 
-FormWindow::FormWindow(const char* name, const QString& spoken) {
-  MakeAccessible();
+FormWindow::FormWindow(CentredFrame& form, const char* name, const QString& accessibleName, int largestText)
+    : placed_(form),
+      scroll_(new QScrollArea(this)),
+      background_(new QWidget),
+      frame_(new QWidget(background_)) {
   setObjectName(QString::fromLatin1(name));
-  setAccessibleName(spoken);
-  LimitLetters(this, largestLetters);
+  setAccessibleName(accessibleName);
+  LimitFont(this, largestText);
   OpenToKeyboard(this);
-  auto* ground = new QWidget(this);
-  frame_ = new QWidget(ground);
   frame_->setObjectName(QStringLiteral("Frame111"));
-  frame_->setAccessibleName(spoken);
-  setCentralWidget(ground);
+  frame_->setAccessibleName(accessibleName);
+  scroll_->setFrameShape(QFrame::NoFrame);
+  scroll_->setFocusPolicy(Qt::NoFocus);
+  scroll_->setWidgetResizable(true);
+  scroll_->setWidget(background_);
+  setCentralWidget(scroll_);
   statusBar()->setObjectName(QStringLiteral("StatusBar1"));
   statusBar()->setAccessibleName(tr("Status bar"));
 }
 
-QLabel* FormWindow::AddPanel(const char* name, const QString& spoken) {
+QLabel* FormWindow::AddPanel(const char* name, const QString& accessibleName) {
   auto* panel = new QLabel(this);
   panel->setObjectName(QString::fromLatin1(name));
-  panel->setAccessibleName(spoken);
+  panel->setAccessibleName(accessibleName);
   panel->setTextFormat(Qt::PlainText);
   statusBar()->addWidget(panel, 1);
   return panel;
 }
 
-// On a screen smaller than the form its upper left corner stays in sight.
-void FormWindow::FollowPlace(Property<int>& left, Property<int>& top) {
-  const auto place = [this, &left, &top] { frame_->move(qMax(0, left / twips), qMax(0, top / twips)); };
-  Binder::Follow<int>(left, place);
-  Binder::Follow<int>(top, place);
+// The frame reaches below the status bar: menu and status bar take their part of the form's height.
+void FormWindow::SetSizes(const QSize& window, int margin) {
+  bars_ = menuBar()->sizeHint().height() + statusBar()->sizeHint().height();
+  frame_->layout()->setContentsMargins(margin, margin, margin, margin + bars_);
+  const QSize least = frame_->layout()->totalMinimumSize();
+  background_->setMinimumSize(least - QSize(0, bars_));
+  frameSize_ = formSize.expandedTo(least);
+
+  const QSize screenSize = screen()->availableSize();
+  const int titleBar = style()->pixelMetric(QStyle::PM_TitleBarHeight);
+  QSize size = window.expandedTo(least).boundedTo(screenSize - QSize(0, titleBar));
+  if (size.height() < least.height()) {
+    // The scroll bar stands beside the frame where the screen is wide enough.
+    size.rwidth() = qMin(screenSize.width(), size.width() + scroll_->verticalScrollBar()->sizeHint().width());
+  }
+  setMinimumSize(size);
+  resize(size);
+  background_->installEventFilter(this);
 }
 
-void FormWindow::SetSizes() {
-  const int bars = menuBar()->sizeHint().height() + statusBar()->sizeHint().height();
-  frame_->layout()->setContentsMargins(margin, margin, margin, margin + bars);
-  const QSize size = frame_->layout()->totalMinimumSize().expandedTo(formSize);
-  frame_->resize(size);
-  FitWindow(this, size, size - QSize(0, bars), screen()->availableSize());
+// The form may place the frame outside of a small window. Its upper left corner stays in sight all the same.
+void FormWindow::PlaceFrame() {
+  const bool maximized = FillsScreen();
+  const QSize place = background_->size() + QSize(0, bars_);
+  frame_->resize(FrameGrows() && !maximized ? place : frameSize_.boundedTo(place));
+  placed_.Form_Resize(maximized, width() * twips, height() * twips);
+  frame_->move(qMax(0, placed_.Frame111Left / twips), qMax(0, placed_.Frame111Top / twips));
 }
 
-void FormWindow::Tell() { TellSize(IsMaximizedForm(), width() * twips, height() * twips); }
+void FormWindow::BringIntoSight(const QWidget* widget) {
+  const QRect place(widget->mapTo(background_, QPoint()), widget->size());
+  for (const QPoint& corner : {place.topLeft(), place.bottomRight()})
+    scroll_->ensureVisible(corner.x(), corner.y());
+}
 
-void FormWindow::resizeEvent(QResizeEvent* event) {
-  QMainWindow::resizeEvent(event);
-  Tell();
+// The window has been resized before what is in it.
+bool FormWindow::eventFilter(QObject* watched, QEvent* event) {
+  if (watched == background_ && event->type() == QEvent::Resize) PlaceFrame();
+  return QMainWindow::eventFilter(watched, event);
 }
 
 void FormWindow::changeEvent(QEvent* event) {
   QMainWindow::changeEvent(event);
-  if (event->type() == QEvent::WindowStateChange) Tell();
+  if (event->type() == QEvent::WindowStateChange) PlaceFrame();
   if (event->type() == QEvent::PaletteChange) binder_.Recolour();
 }
 

@@ -6,18 +6,22 @@
 #include <QCloseEvent>
 #include <QGridLayout>
 #include <QGroupBox>
+#include <QKeyEvent>
+#include <QLabel>
 #include <QMenuBar>
+#include <QMouseEvent>
 #include <QPointer>
 #include <QTimer>
 #include <QWindow>
 #include <utility>
 
-#include "windows/forms/DisclaimerText.h"
 #include "windows/forms/MenuOption.h"
 #include "windows/forms/VideoPanel.h"
 #include "windows/platform/Utf8.h"
+#include "windows/style/Fonts.h"
 #include "windows/style/Pictures.h"
 #include "windows/widgets/Names.h"
+#include "windows/widgets/ReadingText.h"
 
 namespace qismora {
 
@@ -25,9 +29,13 @@ namespace {
 
 constexpr QSize bannerSize{420, 80};
 constexpr QSize pictureSize{320, 240};
-constexpr QMargins focusRoom{2, 2, 2, 2};
+constexpr QSize windowSize{800, 600};
+constexpr int margin = 12;
+constexpr int largestText = 14;
+constexpr QMargins focusMargins{2, 2, 2, 2};
 constexpr int headingSize = 20;
 constexpr int gap = 12;
+constexpr QMargins panelMargins{6, 6, 6, 6};
 constexpr std::chrono::milliseconds settled{500};
 
 struct Entry {
@@ -42,11 +50,33 @@ constexpr Entry entries[] = {
     {"Exitz", "E&xit", &InhMain::Exitz_Click},
 };
 
+/// The disclaimer. A double click or Escape hides it.
+class DisclaimerText : public ReadingText {
+ public:
+  DisclaimerText(InhMain& form, QWidget* parent)
+      : ReadingText(QStringLiteral("Text1"), tr("Disclaimer"), parent), form_(form) {
+    setToolTip(tr("Double Click to Hide"));
+  }
+
+ protected:
+  void keyPressEvent(QKeyEvent* event) override {
+    if (event->key() != Qt::Key_Escape) return ReadingText::keyPressEvent(event);
+    form_.Text1_DblClick();
+  }
+  void mouseDoubleClickEvent(QMouseEvent* event) override {
+    if (event->button() != Qt::LeftButton) return ReadingText::mouseDoubleClickEvent(event);
+    form_.Text1_DblClick();
+  }
+
+ private:
+  InhMain& form_;
+};
+
 }  // namespace
 
 InhMainWindow::InhMainWindow(CaseRecord& record, ShellRecord& shell, ShellOutside& outside,
                              QtVideoPlayer& player)
-    : FormWindow("InhMain", tr("Main menu")), form_(record, shell, outside) {
+    : FormHolder(record, shell, outside), FormWindow(form_, "InhMain", tr("Main menu"), largestText) {
   setWindowTitle(tr("Islamic Laws of Inheritance"));
   form_.Hide = [this] {
     // A desktop gives a window that was never placed by its program a new place at each showing.
@@ -62,16 +92,12 @@ InhMainWindow::InhMainWindow(CaseRecord& record, ShellRecord& shell, ShellOutsid
 
   QLabel* panel = AddPanel("StatusBar1.Panel3", tr("Entry under the mouse"));
   Binder::Follow(form_.StatusBar1.Caption, [this, panel, name = panel->accessibleName()] {
-    panel->setText(SpokenCaption(form_.StatusBar1.Caption));
+    panel->setText(WithoutMnemonics(form_.StatusBar1.Caption));
     panel->setAccessibleName(name + QStringLiteral(": ") + panel->text());
   });
   Binder::Follow(form_.Hourglass, [this] { form_.Hourglass ? setCursor(Qt::WaitCursor) : unsetCursor(); });
-  FollowPlace(form_.Frame111Left, form_.Frame111Top);
-  SetSizes();
+  SetSizes(windowSize, margin);
 }
-
-// The widgets go before the form that they show.
-InhMainWindow::~InhMainWindow() { delete takeCentralWidget(); }
 
 void InhMainWindow::BuildMenuBar() {
   for (const Entry& entry : entries) {
@@ -90,11 +116,10 @@ QWidget* InhMainWindow::Head() {
   auto* place = new QWidget(head);
   place->setFixedSize(bannerSize);
   for (int i = 0; i < 2; ++i) {
-    auto* banner =
-        new PictureLabel(Indexed("Image5", i), QStringLiteral("image5-%1").arg(i), Ink::Own, place);
+    const QString words = tr("In the name of Merciful & Benevolent Allah");
+    auto* banner = new PictureLabel(Indexed("Image5", i), QStringLiteral("image5-%1").arg(i), words, place);
     banner->setFixedSize(bannerSize);
-    banner->setToolTip(tr("In the name of Merciful & Benevolent Allah"));
-    banner->setAccessibleName(banner->toolTip());
+    banner->setToolTip(words);
     banners_[i] = banner;
   }
   ShowBanner();
@@ -103,13 +128,13 @@ QWidget* InhMainWindow::Head() {
   heading->setFont(HeadingFont(font(), headingSize));
   heading->setAlignment(Qt::AlignCenter);
   heading->setWordWrap(true);
-  binder_.Caption(form_.Label1, heading);
+  Binder::Caption(form_.Label1, heading);
   row->addWidget(place);
   row->addWidget(heading, 1);
   return head;
 }
 
-// One banner is drawn for bright grounds, the other for dark ones.
+// One banner is drawn for bright backgrounds, the other for dark ones.
 void InhMainWindow::ShowBanner() {
   const bool dark = palette().color(QPalette::Window).lightness() < 128;
   banners_[0]->setVisible(!dark);
@@ -141,17 +166,17 @@ QWidget* InhMainWindow::Side(QtVideoPlayer& player) {
   rows->addWidget(Pictures());
   auto* video = new VideoPanel(side);
   rows->addWidget(video, 1);
-  video->Clicked = [this] { form_.Frame5_Click(); };
+  connect(video, &QAbstractButton::clicked, this, [this] { form_.Frame5_Click(); });
   video->DoubleClicked = [this] { form_.Frame5_DblClick(); };
   player.PlayIn(video);
-  auto* resources = new CaptionLabel(QStringLiteral("Frame2"), side);
+  auto* resources = new CaptionButton(QStringLiteral("Frame2"), Gesture::DoubleClick,
+                                      tr("Open the documents and resources"), side);
   resources->setText(tr("Documents (double click)"));
   resources->setAccessibleName(tr("Documents and resources"));
   resources->setToolTip(tr("Double click, or press Return, to open"));
-  resources->setFrameStyle(int(QFrame::StyledPanel) | int(QFrame::Plain));
-  resources->setMargin(gap / 2);
-  resources->ActOn(Gesture::DoubleClick, tr("Open the documents and resources"),
-                   [this] { form_.Frame2_DblClick(); });
+  resources->SetBorder(QFrame::StyledPanel);
+  resources->setContentsMargins(panelMargins);
+  connect(resources, &QAbstractButton::clicked, this, [this] { form_.Frame2_DblClick(); });
   auto* last = new QHBoxLayout;
   last->setSpacing(gap);
   last->addWidget(resources, 1);
@@ -161,42 +186,39 @@ QWidget* InhMainWindow::Side(QtVideoPlayer& player) {
   return side;
 }
 
-// The pictures take turns, so it is the place of all six that holds the focus.
+// The pictures take turns, so it is the place of all six that acts.
 QWidget* InhMainWindow::Pictures() {
-  auto* place = new CaptionLabel(QStringLiteral("Image3"), Frame111());
+  auto* place =
+      new CaptionButton(QStringLiteral("Image3"), Gesture::Click, tr("Show the next picture"), Frame111());
   place->setFixedSize(pictureSize);
   place->setAccessibleName(tr("Picture"));
+  place->setToolTip(tr("Click for the next picture"));
   for (int i = 0; i < form_.Image3.Size; ++i) {
-    auto* picture =
-        new PictureLabel(Indexed("Image3", i), QStringLiteral("image3-%1").arg(i), Ink::Own, place);
-    picture->setGeometry(QRect(QPoint(), pictureSize).marginsRemoved(focusRoom));
-    picture->setAccessibleName(tr("Picture %1").arg(i + 1));
-    picture->setAttribute(Qt::WA_TransparentForMouseEvents);
+    auto* picture = new PictureLabel(Indexed("Image3", i), QStringLiteral("image3-%1").arg(i),
+                                     tr("Picture %1").arg(i + 1), place);
+    picture->setGeometry(QRect(QPoint(), pictureSize).marginsRemoved(focusMargins));
     binder_.Visible(form_.Image3(i).Visible, picture);
-    if (!picture->HasPicture() || place->Acts()) continue;
-    place->setToolTip(tr("Click for the next picture"));
-    place->ActOn(Gesture::Click, tr("Show the next picture"), [this] {
-      for (int shown = 0; shown < form_.Image3.Size; ++shown) {
-        if (form_.Image3(shown).Visible) return form_.Image3_Click(shown);
-      }
-    });
   }
+  connect(place, &QAbstractButton::clicked, this, [this] {
+    for (int shown = 0; shown < form_.Image3.Size; ++shown) {
+      if (form_.Image3(shown).Visible) return form_.Image3_Click(shown);
+    }
+  });
   return place;
 }
 
 QWidget* InhMainWindow::SessionNumber() {
-  auto* number = new CaptionLabel(QStringLiteral("Label22"), Frame111());
+  auto* number =
+      new CaptionButton(QStringLiteral("Label22"), Gesture::Click, tr("Show the sessions"), Frame111());
   number->setFont(HeadingFont(font(), headingSize));
   number->setToolTip(tr("Popularity details"));
-  number->setFrameStyle(int(QFrame::StyledPanel) | int(QFrame::Plain));
-  number->setMargin(gap / 2);
-  number->setAlignment(Qt::AlignCenter);
+  number->SetBorder(QFrame::StyledPanel);
+  number->setContentsMargins(panelMargins);
+  number->SetAlignment(Qt::AlignCenter);
   number->setMinimumWidth(number->fontMetrics().horizontalAdvance(QStringLiteral("000000")));
-  number->ActOn(Gesture::Click, tr("Show the sessions"), [this] { form_.Label22_Click(); });
-  binder_.SpokenCaption(form_.Label22, number);
-  Binder::Follow(form_.Label22.Caption, [this, number] {
-    number->setAccessibleName(tr("Number of this session: %1").arg(ToQt(form_.Label22.Caption.Get())));
-  });
+  number->setAccessibleName(tr("Number of this session"));
+  connect(number, &QAbstractButton::clicked, this, [this] { form_.Label22_Click(); });
+  Binder::Result(form_.Label22, number);
   return number;
 }
 
@@ -204,14 +226,15 @@ QWidget* InhMainWindow::Foot() {
   auto* foot = new QWidget(Frame111());
   auto* row = new QHBoxLayout(foot);
   row->setContentsMargins(0, 0, 0, 0);
-  auto* agree = new CaptionLabel(QStringLiteral("Label5"), foot);
+  auto* agree =
+      new CaptionButton(QStringLiteral("Label5"), Gesture::Click, tr("Show or hide the disclaimer"), foot);
   agree->setForegroundRole(QPalette::Link);
   agree->setCursor(Qt::PointingHandCursor);
-  agree->ActOn(Gesture::Click, tr("Show or hide the disclaimer"), [this] { form_.Label5_Click(); });
-  binder_.Caption(form_.Label5, agree);
+  connect(agree, &QAbstractButton::clicked, this, [this] { form_.Label5_Click(); });
+  Binder::Caption(form_.Label5, agree);
   auto* advice = new QLabel(foot);
   advice->setObjectName(QStringLiteral("Label6"));
-  binder_.Caption(form_.Label6, advice);
+  Binder::Caption(form_.Label6, advice);
   row->addWidget(agree);
   row->addStretch();
   row->addWidget(advice);
@@ -228,8 +251,7 @@ QWidget* InhMainWindow::Middle(QtVideoPlayer& player) {
   columns->setSpacing(gap);
   columns->addWidget(Menu(), 1);
   columns->addWidget(Side(player));
-  auto* text = new DisclaimerText(place);
-  text->DoubleClicked = [this] { form_.Text1_DblClick(); };
+  auto* text = new DisclaimerText(form_, place);
   auto* one = new QGridLayout(place);
   one->setContentsMargins(0, 0, 0, 0);
   one->addWidget(covered, 0, 0);
@@ -247,28 +269,30 @@ QWidget* InhMainWindow::Middle(QtVideoPlayer& player) {
   return place;
 }
 
-void InhMainWindow::TellSize(bool maximized, int width, int height) {
-  form_.Form_Resize(maximized, width, height);
-  if (!maximized) ForceSize();
+void InhMainWindow::resizeEvent(QResizeEvent* event) {
+  QMainWindow::resizeEvent(event);
+  ForceSize();
 }
 
-// A desktop that sizes windows by its own law gets its way: no size is refused twice in a row, unless the
+// A desktop that sizes windows by its own rules gets its way: no size is refused twice in a row, unless the
 // window has stood at its own size for a while.
 void InhMainWindow::ForceSize() {
-  if (size() == FormSize()) {
+  if (FillsScreen()) return;
+  if (size() == minimumSize()) {
     return QTimer::singleShot(settled, this, [this] {
-      if (size() == FormSize()) refused_ = {};
+      if (size() == minimumSize()) refused_ = {};
     });
   }
   if (size() == refused_) return;
   refused_ = size();
   QTimer::singleShot(0, this, [this] {
-    if (!IsMaximizedForm()) resize(FormSize());
+    if (!FillsScreen()) resize(minimumSize());
   });
 }
 
 void InhMainWindow::changeEvent(QEvent* event) {
   FormWindow::changeEvent(event);
+  if (event->type() == QEvent::WindowStateChange) ForceSize();
   if (event->type() == QEvent::PaletteChange && banners_[0] != nullptr) ShowBanner();
 }
 

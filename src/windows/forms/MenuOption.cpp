@@ -1,5 +1,6 @@
 #include "windows/forms/MenuOption.h"
 
+#include <QButtonGroup>
 #include <QKeyEvent>
 
 #include "windows/platform/Utf8.h"
@@ -17,8 +18,11 @@ MenuOption::MenuOption(OptionButton& control, const QString& name, QWidget* pare
     : QRadioButton(parent), control_(control) {
   setText(ToQt(control.Caption));  // not before: a screen reader is told at once what kind of button it is
   setObjectName(name);
-  setAccessibleName(SpokenCaption(control.Caption));
-  setAutoExclusive(false);  // the form itself clears the group
+  setAccessibleName(WithoutMnemonics(control.Caption));
+  // The form itself clears the group, so each button is one of its own.
+  auto* group = new QButtonGroup(this);
+  group->setExclusive(false);
+  group->addButton(this);
   Binder::Follow<bool>(control.Visible, [this] { setVisible(control_.Visible); });
   Binder::Follow<bool>(control.Value, [this] { setChecked(control_.Value); });
   Binder::Follow<int>(control.BackColor, [this] { Colour(); });
@@ -34,7 +38,7 @@ QSize MenuOption::sizeHint() const {
   return {QRadioButton::sizeHint().width(), fontMetrics().height() + rowMargin};
 }
 
-// A colour of its own is a bright one, in any theme, and takes dark letters.
+// A colour of its own is a bright one, in any theme, and takes dark text.
 void MenuOption::Colour() {
   const int colour = control_.BackColor;
   const bool own = colour >= Black;
@@ -77,7 +81,7 @@ void MenuOption::leaveEvent(QEvent* event) {
   if (MouseOff) MouseOff();
 }
 
-QString SpokenCaption(const std::string& caption) {
+QString WithoutMnemonics(const std::string& caption) {
   return ToQt(caption).replace(QLatin1String("&&"), QLatin1String("&"));
 }
 

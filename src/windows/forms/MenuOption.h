@@ -33,6 +33,6 @@ class MenuOption : public QRadioButton {
 };
 
 /// A caption without the doubled ampersands that stand for one.
-QString SpokenCaption(const std::string& caption);
+QString WithoutMnemonics(const std::string& caption);
 
 }  // namespace qismora

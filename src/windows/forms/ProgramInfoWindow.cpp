@@ -6,8 +6,8 @@
 #include <QLabel>
 #include <QPushButton>
 
-#include "windows/forms/FormWindow.h"
 #include "windows/platform/Utf8.h"
+#include "windows/style/Fonts.h"
 #include "windows/style/Pictures.h"
 
 namespace qismora {
@@ -41,9 +41,9 @@ ProgramInfoWindow::ProgramInfoWindow(const ProgramFacts& facts, MemoryMeter& mem
   setAccessibleName(tr("About this program"));
   setWindowTitle(tr("About Qismora"));
   setAttribute(Qt::WA_DeleteOnClose);
-  auto* icon = new PictureLabel(QStringLiteral("Icon"), QStringLiteral("icon"), Ink::Own, this);
+  auto* icon =
+      new PictureLabel(QStringLiteral("Icon"), QStringLiteral("icon"), tr("Icon of the program"), this);
   icon->setFixedSize(iconSize);
-  icon->setAccessibleName(tr("Icon of the program"));
 
   auto* table = new QWidget(this);
   auto* rows = new QFormLayout(table);

@@ -3,13 +3,14 @@
 #include <QAction>
 #include <QBoxLayout>
 #include <QCloseEvent>
+#include <QLabel>
 #include <QLineEdit>
 #include <QMenuBar>
 #include <QStatusBar>
 #include <utility>
 
-#include "windows/forms/HeadingLabel.h"
 #include "windows/platform/Utf8.h"
+#include "windows/style/Fonts.h"
 #include "windows/widgets/HoverWatch.h"
 #include "windows/widgets/ReadingText.h"
 
@@ -17,14 +18,30 @@ namespace qismora {
 
 namespace {
 
+constexpr QSize windowSize{800, 600};
+constexpr int margin = 12;
+constexpr int largestText = 14;
 constexpr int headingSize = 20;
 constexpr int titleSize = 15;
 constexpr int pageMargin = 12;
 
+/// The heading, whose colour follows the mouse.
+class Heading : public QLabel {
+ public:
+  Heading(QurLaws& form, QWidget* parent) : QLabel(parent), form_(form) { setMouseTracking(true); }
+
+ protected:
+  void mouseMoveEvent(QMouseEvent*) override { form_.Label2_MouseMove(); }
+  void mousePressEvent(QMouseEvent*) override { form_.Label2_MouseDown(); }
+
+ private:
+  QurLaws& form_;
+};
+
 }  // namespace
 
 QurLawsWindow::QurLawsWindow(const ShellRecord& shell, MessageBoxes& boxes)
-    : FormWindow("QurLaws", tr("Law page")), form_(shell, boxes) {
+    : FormHolder(shell, boxes), FormWindow(form_, "QurLaws", tr("Law page"), largestText) {
   setAttribute(Qt::WA_DeleteOnClose);
   form_.Unload = [this] {
     unloading_ = true;
@@ -37,34 +54,28 @@ QurLawsWindow::QurLawsWindow(const ShellRecord& shell, MessageBoxes& boxes)
   connect(leave, &QAction::triggered, this, [this] { form_.Close_Click(); });
 
   auto* rows = new QVBoxLayout(Frame111());
-  rows->addWidget(Heading());
+  rows->addWidget(MakeHeading());
   rows->addWidget(Title());
   rows->addWidget(Page(), 1);
   QLabel* panel = AddPanel("StatusBar1.Panel1", tr("Title of the page"));
-  binder_.SpokenCaption(form_.StatusBar1, panel);
+  Binder::Result(form_.StatusBar1, panel);
   for (QWidget* widget : {static_cast<QWidget*>(statusBar()), static_cast<QWidget*>(panel)}) {
     WhenMouseMoves(widget, [this] { form_.StatusBar1_MouseMove(); });
   }
-  for (QWidget* widget : {Frame111(), centralWidget(), static_cast<QWidget*>(this)}) {
+  for (QWidget* widget : {Frame111(), Background(), static_cast<QWidget*>(this)}) {
     WhenMouseMoves(widget, [this] { form_.Form_MouseMove(); });
   }
   binder_.Recolour();
-  FollowPlace(form_.Frame111Left, form_.Frame111Top);
-  SetSizes();
+  SetSizes(windowSize, margin);
 }
 
-// The widgets go before the form that they show.
-QurLawsWindow::~QurLawsWindow() { delete takeCentralWidget(); }
-
-QWidget* QurLawsWindow::Heading() {
-  auto* heading = new HeadingLabel(Frame111());
+QWidget* QurLawsWindow::MakeHeading() {
+  auto* heading = new Heading(form_, Frame111());
   heading->setObjectName(QStringLiteral("Label2"));
   heading->setFont(HeadingFont(font(), headingSize));
   heading->setAlignment(Qt::AlignCenter);
-  heading->Moved = [this] { form_.Label2_MouseMove(); };
-  heading->Pressed = [this] { form_.Label2_MouseDown(); };
-  binder_.Caption(form_.Label2, heading);
-  binder_.Look(form_.Label2, heading);
+  Binder::Caption(form_.Label2, heading);
+  binder_.TextColour(form_.Label2, heading);
   return heading;
 }
 
@@ -89,10 +100,6 @@ QWidget* QurLawsWindow::Page() {
   form_.Text5.FocusWanted = [page] { page->setFocus(); };
   page->setFocus();
   return page;
-}
-
-void QurLawsWindow::TellSize(bool maximized, int width, int height) {
-  form_.Form_Resize(maximized, width, height);
 }
 
 void QurLawsWindow::closeEvent(QCloseEvent* event) {

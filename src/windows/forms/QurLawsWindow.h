@@ -1,28 +1,24 @@
 #pragma once
 
 #include "screens/QurLaws.h"
+#include "windows/forms/FormHolder.h"
 #include "windows/forms/FormWindow.h"
 
 namespace qismora {
 
-/// The window of the law pages. It owns its form; closing it destroys both.
-class QurLawsWindow : public FormWindow {
+/// The window of the law pages. Closing it destroys it with its form.
+class QurLawsWindow : public FormHolder<QurLaws>, public FormWindow {
  public:
   QurLawsWindow(const ShellRecord& shell, MessageBoxes& boxes);
-  ~QurLawsWindow() override;
-
-  QurLaws& Form() { return form_; }
 
  protected:
-  void TellSize(bool maximized, int width, int height) override;
   void closeEvent(QCloseEvent* event) override;
 
  private:
-  QWidget* Heading();
+  QWidget* MakeHeading();
   QWidget* Title();
   QWidget* Page();
 
-  QurLaws form_;
   bool unloading_ = false;
 };
 

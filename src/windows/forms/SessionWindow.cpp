@@ -4,12 +4,14 @@
 #include <QBoxLayout>
 #include <QHeaderView>
 #include <QLabel>
+#include <QScreen>
 #include <QScrollBar>
 #include <QSignalBlocker>
+#include <QStyle>
 #include <QTableWidget>
 
-#include "windows/forms/FormWindow.h"
 #include "windows/platform/Utf8.h"
+#include "windows/style/Fonts.h"
 #include "windows/style/Pictures.h"
 #include "windows/widgets/HoverWatch.h"
 #include "windows/widgets/Names.h"
@@ -26,7 +28,7 @@ constexpr int shownRows = 14;
 
 }  // namespace
 
-SessionWindow::SessionWindow(ShellOutside& outside) : form_(outside) {
+SessionWindow::SessionWindow(ShellOutside& outside) : FormHolder(outside) {
   setObjectName(QStringLiteral("Session"));
   setAccessibleName(tr("Session log"));
   setWindowTitle(tr("Logged Sessions of Qismora"));
@@ -35,23 +37,24 @@ SessionWindow::SessionWindow(ShellOutside& outside) : form_(outside) {
   connect(leave, &QAction::triggered, this, &QWidget::close);
   addAction(leave);
 
-  auto* ground = new QWidget(this);
-  setCentralWidget(ground);
-  auto* rows = new QVBoxLayout(ground);
+  auto* background = new QWidget(this);
+  setCentralWidget(background);
+  auto* rows = new QVBoxLayout(background);
   rows->setSpacing(gap);
   rows->addWidget(Head());
   grid_ = MakeGrid();
   rows->addWidget(grid_, 1);
   rows->addWidget(Selected());
   rows->addWidget(Total());
+  const int title = style()->pixelMetric(QStyle::PM_TitleBarHeight);
+  const int grid = grid_->verticalHeader()->defaultSectionSize() * shownRows;
+  const QSize wanted = sizeHint() + QSize(0, grid - grid_->sizeHint().height());
+  resize(wanted.boundedTo(screen()->availableSize() - QSize(0, title)));
   form_.MSFlexGrid1.Filled = [this] { FillGrid(); };
-  for (QWidget* widget : {ground, static_cast<QWidget*>(this)}) {
+  for (QWidget* widget : {background, static_cast<QWidget*>(this)}) {
     WhenMouseMoves(widget, [this] { form_.Form_MouseMove(); });
   }
 }
-
-// The widgets go before the form that they show.
-SessionWindow::~SessionWindow() { delete takeCentralWidget(); }
 
 QWidget* SessionWindow::Head() {
   auto* head = new QWidget(this);
@@ -60,17 +63,16 @@ QWidget* SessionWindow::Head() {
   auto* place = new QWidget(head);
   place->setFixedSize(pictureSize);
   for (int i = 0; i < 2; ++i) {
-    auto* picture =
-        new PictureLabel(Indexed("Image1", i), QStringLiteral("session-%1").arg(i), Ink::Own, place);
+    const QString file = QStringLiteral("session-%1").arg(i);
+    auto* picture = new PictureLabel(Indexed("Image1", i), file, tr("Ornament"), place);
     picture->setFixedSize(pictureSize);
-    picture->setAccessibleName(tr("Ornament"));
-    if (picture->HasPicture()) WhenMouseMoves(picture, [this] { form_.Image1_MouseMove(); });
+    WhenMouseMoves(picture, [this] { form_.Image1_MouseMove(); });
     binder_.Visible(form_.Image1(i).Visible, picture);
   }
   auto* heading = new QLabel(head);
   heading->setObjectName(QStringLiteral("Label1"));
   heading->setFont(HeadingFont(font(), headingSize));
-  binder_.Caption(form_.Label1, heading);
+  Binder::Caption(form_.Label1, heading);
   row->addWidget(place);
   row->addWidget(heading, 1);
   return head;
@@ -97,7 +99,6 @@ QTableWidget* SessionWindow::MakeGrid() {
     width += grid->columnWidth(i);
   }
   grid->setMinimumWidth(width);
-  grid->setMinimumHeight(grid->verticalHeader()->defaultSectionSize() * shownRows);
   connect(grid, &QTableWidget::currentCellChanged, this, [this](int row, int col) {
     if (row >= 0) form_.MSFlexGrid1_Click(row + 1, col);
   });
@@ -130,13 +131,13 @@ QWidget* SessionWindow::Selected() {
   row->setContentsMargins(0, 0, 0, 0);
   auto* caption = new QLabel(place);
   caption->setObjectName(QStringLiteral("Label4"));
-  binder_.Caption(form_.Label4, caption);
+  Binder::Caption(form_.Label4, caption);
   auto* line = new QLabel(place);
   line->setObjectName(QStringLiteral("Label2"));
   line->setAccessibleName(tr("The selected session"));
   line->setTextFormat(Qt::PlainText);
   line->setTextInteractionFlags(Qt::TextSelectableByMouse);
-  binder_.SpokenCaption(form_.Label2, line);
+  Binder::Result(form_.Label2, line);
   row->addWidget(caption);
   row->addWidget(line, 1);
   return place;
@@ -147,7 +148,7 @@ QWidget* SessionWindow::Total() {
   total->setObjectName(QStringLiteral("Label3"));
   total->setFont(HeadingFont(font(), QFontInfo(font()).pixelSize()));
   total->setTextInteractionFlags(Qt::TextSelectableByMouse);
-  binder_.SpokenCaption(form_.Label3, total);
+  Binder::Result(form_.Label3, total);
   return total;
 }
 

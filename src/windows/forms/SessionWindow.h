@@ -3,6 +3,7 @@
 #include <QMainWindow>
 
 #include "screens/Session.h"
+#include "windows/forms/FormHolder.h"
 #include "windows/widgets/Binder.h"
 
 class QTableWidget;
@@ -10,12 +11,9 @@ class QTableWidget;
 namespace qismora {
 
 /// The window of the session log.
-class SessionWindow : public QMainWindow {
+class SessionWindow : public FormHolder<Session>, public QMainWindow {
  public:
   explicit SessionWindow(ShellOutside& outside);
-  ~SessionWindow() override;
-
-  Session& Form() { return form_; }
 
  private:
   QWidget* Head();
@@ -24,7 +22,6 @@ class SessionWindow : public QMainWindow {
   QWidget* Total();
   void FillGrid();
 
-  Session form_;
   Binder binder_;
   QTableWidget* grid_ = nullptr;
 };

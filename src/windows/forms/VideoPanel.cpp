@@ -5,21 +5,22 @@
 #include <QPainter>
 #include <QStyle>
 #include <QStyleOptionFocusRect>
-#include <utility>
 
 namespace qismora {
 
 namespace {
 
-constexpr int focusRoom = 2;
+constexpr int focusMargin = 2;
 
 }  // namespace
 
-VideoPanel::VideoPanel(QWidget* parent) : QFrame(parent) {
+VideoPanel::VideoPanel(QWidget* parent) : QAbstractButton(parent) {
   setObjectName(QStringLiteral("Frame5"));
   setAccessibleName(tr("Animation"));
   setAccessibleDescription(tr("Return: the other one. Space: once more."));
-  setContentsMargins(focusRoom, focusRoom, focusRoom, focusRoom);
+  setContentsMargins(focusMargin, focusMargin, focusMargin, focusMargin);
+  setFocusPolicy(Qt::NoFocus);
+  setSizePolicy(QSizePolicy::Preferred, QSizePolicy::Preferred);
 }
 
 // Around what plays, which covers everything else.
@@ -35,24 +36,16 @@ void VideoPanel::keyPressEvent(QKeyEvent* event) {
   switch (event->key()) {
     case Qt::Key_Return:
     case Qt::Key_Enter:
-      if (Clicked) Clicked();
-      return;
+      return click();
     case Qt::Key_Space:
       if (DoubleClicked) DoubleClicked();
       return;
     default:
-      QFrame::keyPressEvent(event);
+      QAbstractButton::keyPressEvent(event);
   }
 }
 
-void VideoPanel::mousePressEvent(QMouseEvent* event) { down_ = event->button() == Qt::LeftButton; }
-
-// A double click comes behind the click of its first half; the release of its second half is none.
-void VideoPanel::mouseReleaseEvent(QMouseEvent* event) {
-  const bool clicked = std::exchange(down_, false) && rect().contains(event->position().toPoint());
-  if (clicked && Clicked) Clicked();
-}
-
+// A double click follows the click of its first half; the release of its second half is none.
 void VideoPanel::mouseDoubleClickEvent(QMouseEvent* event) {
   if (event->button() == Qt::LeftButton && DoubleClicked) DoubleClicked();
 }

@@ -22,7 +22,7 @@ constexpr QSize leastButton{170, 34};
 }  // namespace
 
 ZummyWindow::ZummyWindow(CaseRecord& record, ShellRecord& shell, ShellOutside& outside)
-    : form_(record, shell, outside) {
+    : FormHolder(record, shell, outside) {
   setObjectName(QStringLiteral("Zummy"));
   setAccessibleName(tr("Documents"));
   setWindowTitle(ToQt(ZummyTitle));
@@ -31,12 +31,12 @@ ZummyWindow::ZummyWindow(CaseRecord& record, ShellRecord& shell, ShellOutside& o
   back->setObjectName(QStringLiteral("Back"));
   back->setShortcut(Qt::Key_Escape);
   connect(back, &QAction::triggered, this, [this] { form_.Back_Click(); });
-  auto* ground = new QWidget(this);
-  auto* columns = new QHBoxLayout(ground);
+  auto* background = new QWidget(this);
+  auto* columns = new QHBoxLayout(background);
   columns->setSpacing(gap);
   columns->addWidget(Buttons());
   columns->addWidget(Holders(), 1);
-  setCentralWidget(ground);
+  setCentralWidget(background);
   OpenToKeyboard(this);
 }
 

@@ -3,15 +3,14 @@
 #include <QMainWindow>
 
 #include "screens/Zummy.h"
+#include "windows/forms/FormHolder.h"
 
 namespace qismora {
 
 /// The window of the documents form. Closing it ends the program; Back hides it.
-class ZummyWindow : public QMainWindow {
+class ZummyWindow : public FormHolder<Zummy>, public QMainWindow {
  public:
   ZummyWindow(CaseRecord& record, ShellRecord& shell, ShellOutside& outside);
-
-  Zummy& Form() { return form_; }
 
  protected:
   void closeEvent(QCloseEvent* event) override;
@@ -19,8 +18,6 @@ class ZummyWindow : public QMainWindow {
  private:
   QWidget* Buttons();
   QWidget* Holders();
-
-  Zummy form_;
 };
 
 }  // namespace qismora

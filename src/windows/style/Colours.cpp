@@ -29,17 +29,17 @@ double Contrast(const QColor& one, const QColor& other) {
 }
 
 bool IsBlackAndWhite(const QPalette& palette) {
-  const QColor ink = palette.color(QPalette::Active, QPalette::WindowText);
-  return Contrast(ink, palette.color(QPalette::Active, QPalette::Window)) > blackAndWhite;
+  const QColor text = palette.color(QPalette::Active, QPalette::WindowText);
+  return Contrast(text, palette.color(QPalette::Active, QPalette::Window)) > blackAndWhite;
 }
 
 double WantedContrast(const QPalette& palette) {
   return IsBlackAndWhite(palette) ? HighContrast : LeastContrast;
 }
 
-QColor Readable(QColor wanted, const QColor& ground, double contrast) {
-  const float towards = Luminance(ground) < 0.18 ? step : -step;
-  while (Contrast(wanted, ground) < contrast) {
+QColor Readable(QColor wanted, const QColor& background, double contrast) {
+  const float towards = Luminance(background) < 0.18 ? step : -step;
+  while (Contrast(wanted, background) < contrast) {
     const float lightness = wanted.lightnessF() + towards;
     if (lightness < 0.0F || lightness > 1.0F) return towards > 0 ? QColor(Qt::white) : QColor(Qt::black);
     wanted = QColor::fromHslF(std::max(wanted.hslHueF(), 0.0F), wanted.hslSaturationF(), lightness);
@@ -47,20 +47,20 @@ QColor Readable(QColor wanted, const QColor& ground, double contrast) {
   return wanted;
 }
 
-QColor InkOf(int colour, const QPalette& palette, QPalette::ColorRole text, QPalette::ColorRole ground) {
+QColor TextColourOf(int colour, const QPalette& palette, QPalette::ColorRole text,
+                    QPalette::ColorRole background) {
   const double contrast = WantedContrast(palette);
   if (colour == HighlightColour) {
-    return Readable(palette.color(QPalette::Highlight), palette.color(ground), contrast);
+    return Readable(palette.color(QPalette::Highlight), palette.color(background), contrast);
   }
   if (colour <= Black) return palette.color(text);
   const QColor wanted(colour & 0xFF, (colour >> 8) & 0xFF, (colour >> 16) & 0xFF);
-  return Readable(wanted, palette.color(ground), contrast);
+  return Readable(wanted, palette.color(background), contrast);
 }
 
-QColor Between(const QColor& ground, const QColor& ink, double strength) {
-  const auto mixed = [strength](int from, int to) { return from + static_cast<int>((to - from) * strength); };
-  return {mixed(ground.red(), ink.red()), mixed(ground.green(), ink.green()),
-          mixed(ground.blue(), ink.blue())};
+QColor Between(const QColor& from, const QColor& to, double strength) {
+  const auto mixed = [strength](int a, int b) { return a + static_cast<int>((b - a) * strength); };
+  return {mixed(from.red(), to.red()), mixed(from.green(), to.green()), mixed(from.blue(), to.blue())};
 }
 
 }  // namespace qismora

@@ -15,15 +15,16 @@ inline constexpr double LeastContrast = 4.5;
 inline constexpr double HighContrast = 7;
 double WantedContrast(const QPalette& palette);
 
-/// The tone nearest to the wanted one that can be read on the ground: lighter on a dark ground, darker on
-/// a bright one.
-QColor Readable(QColor wanted, const QColor& ground, double contrast = LeastContrast);
+/// The tone nearest to the wanted one that can be read on the background: lighter on a dark background,
+/// darker on a bright one.
+QColor Readable(QColor wanted, const QColor& background, double contrast = LeastContrast);
 
 /// A colour number of a control on this desktop. Black and the colours of the system are what the desktop
 /// writes with.
-QColor InkOf(int colour, const QPalette& palette, QPalette::ColorRole text, QPalette::ColorRole ground);
+QColor TextColourOf(int colour, const QPalette& palette, QPalette::ColorRole text,
+                    QPalette::ColorRole background);
 
-/// The colour so far on the way from the ground to the ink, 0 to 1.
-QColor Between(const QColor& ground, const QColor& ink, double strength);
+/// The colour so far on the way from one to the other, 0 to 1.
+QColor Between(const QColor& from, const QColor& to, double strength);
 
 }  // namespace qismora

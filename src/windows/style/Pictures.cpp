@@ -1,10 +1,10 @@
 #include "windows/style/Pictures.h"
 
-#include <QFile>
 #include <QPainter>
 #include <QStyle>
 #include <QStyleOptionButton>
 #include <QSvgRenderer>
+#include <utility>
 
 namespace qismora {
 
@@ -31,86 +31,86 @@ QIcon ProgramIcon() {
 }
 
 void Drawing::Show(const QString& name) {
-  const QString file = QStringLiteral(":/pictures/%1.svg").arg(name);
-  file_ = QFile::exists(file) ? file : QString();
+  file_ = QStringLiteral(":/pictures/%1.svg").arg(name);
   pixmap_ = {};
 }
 
-void Drawing::Make(const QSize& box, qreal scale, const QColor& ink) {
+QPixmap Drawing::For(QWidget* widget, const QSize& place, const QColor& colour) {
+  if (place.isEmpty()) return {};
+  if (!std::exchange(asked_, true)) {
+    QMetaObject::invokeMethod(widget, "update", Qt::QueuedConnection);
+    return {};
+  }
+  const qreal scale = widget->devicePixelRatioF();
+  const bool kept = !pixmap_.isNull() && place_ == place && colour_ == colour;
+  if (kept && pixmap_.devicePixelRatioF() == scale) return pixmap_;
   QSvgRenderer renderer(file_);
-  const QSize size = renderer.defaultSize().scaled(box, Qt::KeepAspectRatio);
+  const QSize size = renderer.defaultSize().scaled(place, Qt::KeepAspectRatio);
   pixmap_ = QPixmap((QSizeF(size) * scale).toSize().expandedTo(QSize(1, 1)));
   pixmap_.setDevicePixelRatio(scale);
   pixmap_.fill(Qt::transparent);
   QPainter painter(&pixmap_);
   const QRectF all(QPointF(0, 0), QSizeF(size));
   renderer.render(&painter, all);
-  if (ink.isValid()) {
+  if (colour.isValid()) {
     painter.setCompositionMode(QPainter::CompositionMode_SourceIn);
-    painter.fillRect(all, ink);
+    painter.fillRect(all, colour);
   }
-  box_ = box;
-  ink_ = ink;
-}
-
-QPixmap Drawing::For(QWidget* widget, const QSize& box, const QColor& ink) {
-  if (!Exists() || box.isEmpty()) return {};
-  if (!asked_) {
-    asked_ = true;
-    QMetaObject::invokeMethod(widget, "update", Qt::QueuedConnection);
-    return {};
-  }
-  const qreal scale = widget->devicePixelRatioF();
-  if (pixmap_.isNull() || box_ != box || ink_ != ink || pixmap_.devicePixelRatioF() != scale) {
-    Make(box, scale, ink);
-  }
+  place_ = place;
+  colour_ = colour;
   return pixmap_;
 }
 
-PictureLabel::PictureLabel(const QString& name, const QString& picture, Ink ink, QWidget* parent)
-    : CaptionLabel(name, parent), ink_(ink) {
-  drawing_.Show(picture);
-  setAlignment(Qt::AlignCenter);
-}
-
-void PictureLabel::PaintButton() {
-  QStyleOptionButton option;
-  option.initFrom(this);
-  option.state |= QStyle::State_Raised;
-  option.text = text();
-  option.icon = drawing_.For(this, smallIcon, {});
-  option.iconSize = smallIcon;
-  QPainter painter(this);
-  style()->drawControl(QStyle::CE_PushButton, &option, &painter, this);
-  drawFrame(&painter);
-}
-
-void PictureLabel::paintEvent(QPaintEvent* event) {
-  if (raised_) return PaintButton();
-  if (!HasPicture()) return CaptionLabel::paintEvent(event);
-  PaintFocus();
-  const QColor ink = ink_ == Ink::Text ? palette().color(foregroundRole()) : QColor();
-  const QPixmap pixmap = drawing_.For(this, contentsRect().size(), ink);
-  if (pixmap.isNull()) return;
+QRect Drawing::Paint(QPainter* painter, QWidget* widget, const QRect& place, Qt::Alignment alignment,
+                     const QColor& colour) {
+  const QPixmap pixmap = For(widget, place.size(), colour);
+  if (pixmap.isNull()) return {};
   const QSize size = pixmap.deviceIndependentSize().toSize();
-  place_ = QStyle::alignedRect(Qt::LeftToRight, alignment(), size, contentsRect());
-  QPainter(this).drawPixmap(place_, pixmap);
+  const QRect painted = QStyle::alignedRect(Qt::LeftToRight, alignment, size, place);
+  painter->drawPixmap(painted, pixmap);
+  return painted;
 }
 
-PictureButton::PictureButton(const QString& name, const QString& text, QWidget* parent)
-    : QPushButton(text, parent) {
+PictureLabel::PictureLabel(const QString& name, const QString& picture, const QString& accessibleName,
+                           QWidget* parent)
+    : QLabel(parent), drawing_(picture) {
   setObjectName(name);
+  setAccessibleName(accessibleName);
 }
 
-void PictureButton::ShowPicture(const QString& name) {
+void PictureLabel::paintEvent(QPaintEvent*) {
+  QPainter painter(this);
+  drawing_.Paint(&painter, this, contentsRect(), Qt::AlignCenter);
+}
+
+PictureButton::PictureButton(const QString& name, const QString& picture, Colours colours, Gesture gesture,
+                             const QString& action, QWidget* parent)
+    : CaptionButton(name, gesture, action, parent), drawing_(picture), colours_(colours) {
+  SetAlignment(Qt::AlignCenter);
+}
+
+void PictureButton::paintEvent(QPaintEvent*) {
+  QPainter painter(this);
+  PaintFrame(&painter);
+  const QColor colour = colours_ == Colours::OfText ? palette().color(foregroundRole()) : QColor();
+  painted_ = drawing_.Paint(&painter, this, contentsRect(), Alignment(), colour);
+}
+
+IconButton::IconButton(const QString& name, const QString& picture, const QString& text, QWidget* parent)
+    : QPushButton(text, parent), drawing_(picture) {
+  setObjectName(name);
+  setAutoDefault(true);
+}
+
+void IconButton::ShowPicture(const QString& name) {
   drawing_.Show(name);
   update();
 }
 
-void PictureButton::paintEvent(QPaintEvent*) {
+void IconButton::paintEvent(QPaintEvent*) {
   QStyleOptionButton option;
   initStyleOption(&option);
-  option.icon = drawing_.For(this, smallIcon, {});
+  option.icon = drawing_.For(this, smallIcon);
   option.iconSize = smallIcon;
   QPainter painter(this);
   style()->drawControl(QStyle::CE_PushButton, &option, &painter, this);

@@ -1,67 +1,74 @@
 #pragma once
 
 #include <QIcon>
+#include <QLabel>
 #include <QPixmap>
 #include <QPushButton>
-#include <QString>
 
-#include "windows/widgets/CaptionLabel.h"
+#include "windows/widgets/CaptionButton.h"
 
 namespace qismora {
 
-/// A picture of the program's resources, drawn for the size and scale at which it is shown. There may be
-/// none of that name.
+/// A picture of the program's resources, drawn for the size and scale at which it is shown.
 class Drawing {
  public:
+  explicit Drawing(const QString& name) { Show(name); }
   void Show(const QString& name);
-  bool Exists() const { return !file_.isEmpty(); }
 
-  /// As large as the box allows; an ink colours the whole picture, as writing is coloured. At the first
-  /// painting it is still empty: the window shall stand before its pictures are read.
-  QPixmap For(QWidget* widget, const QSize& box, const QColor& ink);
+  /// As large as the place allows. A valid colour replaces those of the picture. Nothing at the first
+  /// painting: the window comes before its pictures.
+  QPixmap For(QWidget* widget, const QSize& place, const QColor& colour = {});
+  /// Paints it into the place and returns the part that it takes.
+  QRect Paint(QPainter* painter, QWidget* widget, const QRect& place, Qt::Alignment alignment,
+              const QColor& colour = {});
 
  private:
-  void Make(const QSize& box, qreal scale, const QColor& ink);
-
   QString file_;
   bool asked_ = false;
-  QSize box_;
-  QColor ink_;
+  QSize place_;
+  QColor colour_;
   QPixmap pixmap_;
 };
 
 /// The program's icon in the sizes of title bars and task lists; the small ones are drawn with fewer lines.
 QIcon ProgramIcon();
 
-enum class Ink { Own, Text };
-
-/// A label that shows a picture.
-class PictureLabel : public CaptionLabel {
+/// A picture to be looked at.
+class PictureLabel : public QLabel {
  public:
-  PictureLabel(const QString& name, const QString& picture, Ink ink, QWidget* parent);
-
-  bool HasPicture() const { return drawing_.Exists(); }
-  /// Where the picture is drawn; empty before that.
-  QRect PictureRect() const { return place_; }
-  /// Gives the label the face of a button with its picture and its text.
-  void Raise() { raised_ = true; }
+  PictureLabel(const QString& name, const QString& picture, const QString& accessibleName, QWidget* parent);
 
  protected:
   void paintEvent(QPaintEvent* event) override;
 
  private:
-  void PaintButton();
-
   Drawing drawing_;
-  Ink ink_;
-  QRect place_;
-  bool raised_ = false;
 };
 
-/// A push button with a picture beside its text.
-class PictureButton : public QPushButton {
+enum class Colours { OfPicture, OfText };
+
+/// A picture that acts like a caption.
+class PictureButton : public CaptionButton {
  public:
-  PictureButton(const QString& name, const QString& text, QWidget* parent);
+  PictureButton(const QString& name, const QString& picture, Colours colours, Gesture gesture,
+                const QString& action, QWidget* parent);
+
+  /// Where the picture is drawn; empty before that.
+  QRect PictureRect() const { return painted_; }
+
+ protected:
+  void paintEvent(QPaintEvent* event) override;
+
+ private:
+  Drawing drawing_;
+  Colours colours_;
+  QRect painted_;
+};
+
+/// A push button with a picture beside its text. Return presses it, as Space does.
+class IconButton : public QPushButton {
+ public:
+  IconButton(const QString& name, const QString& picture, const QString& text, QWidget* parent);
 
   void ShowPicture(const QString& name);
 

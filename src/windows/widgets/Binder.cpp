@@ -9,17 +9,16 @@
 #include <QLineEdit>
 #include <QPlainTextEdit>
 
-#include "windows/platform/Utf8.h"
 #include "windows/style/Colours.h"
 
 namespace qismora {
 
 void Binder::Colour(Property<int>& control, QWidget* widget, QPalette::ColorRole text,
-                    QPalette::ColorRole ground) {
-  const auto show = [&control, widget, text, ground] {
+                    QPalette::ColorRole background) {
+  const auto show = [&control, widget, text, background] {
     const QPalette desktop = QGuiApplication::palette();
     QPalette own = widget->palette();
-    own.setColor(text, InkOf(control, desktop, text, ground));
+    own.setColor(text, TextColourOf(control, desktop, text, background));
     widget->setPalette(own);
   };
   control.WhenChanged(show);
@@ -31,29 +30,18 @@ void Binder::Recolour() const {
   for (const auto& show : colours_) show();
 }
 
-void Binder::Caption(Label& control, QLabel* widget) {
-  Follow(control.Caption, [&control, widget] { widget->setText(ToQt(control.Caption.Get())); });
+QLabel* Binder::FieldCaption(Label& control, const QString& name, QWidget* field) {
+  auto* caption = new QLabel(field->parentWidget());
+  caption->setObjectName(name);
+  caption->setAccessibleName(field->accessibleName());
+  caption->setTextFormat(Qt::PlainText);
+  caption->setBuddy(field);
+  Caption(control, caption);
+  return caption;
 }
 
-void Binder::SpokenCaption(Label& control, QLabel* widget) {
-  Caption(control, widget);
-  const QString name = widget->accessibleName();
-  Follow(control.Caption, [widget, name] {
-    const QString words = widget->text();
-    const bool both = !name.isEmpty() && !words.isEmpty();
-    widget->setAccessibleName(both ? name + QStringLiteral(": ") + words : name + words);
-  });
-}
-
-void Binder::Look(Label& control, QLabel* widget) {
+void Binder::TextColour(Label& control, QWidget* widget) {
   Colour(control.ForeColor, widget, QPalette::WindowText, QPalette::Window);
-  Border(control.BorderStyle, widget);
-}
-
-void Binder::Border(Property<int>& control, QLabel* widget) {
-  Follow(control, [&control, widget] {
-    widget->setFrameStyle(control == 1 ? int(QFrame::Box) | int(QFrame::Plain) : int(QFrame::NoFrame));
-  });
 }
 
 void Binder::Box(TextBox& control, QLineEdit* widget) {

@@ -5,6 +5,7 @@
 #include <vector>
 
 #include "case/Controls.h"
+#include "windows/platform/Utf8.h"
 
 class QAction;
 class QCheckBox;
@@ -21,18 +22,31 @@ namespace qismora {
 /// and what the user enters goes into the control. Widgets and controls live equally long.
 class Binder {
  public:
-  void Caption(Label& control, QLabel* widget);
-  /// A label that shows a result: it is spoken behind the widget's accessible name.
-  void SpokenCaption(Label& control, QLabel* widget);
-  /// The colour and the border that a label changes while the program runs.
-  void Look(Label& control, QLabel* widget);
+  /// The text of a label or a button.
+  template <class Widget>
+  static void Caption(Label& control, Widget* widget) {
+    Follow(control.Caption, [&control, widget] { widget->setText(ToQt(control.Caption.Get())); });
+  }
+  /// Makes a caption that names a field.
+  static QLabel* FieldCaption(Label& control, const QString& name, QWidget* field);
+  /// A text that the program writes: screen readers read it behind the widget's accessible name.
+  template <class Widget>
+  static void Result(Label& control, Widget* widget) {
+    Follow(control.Caption, [&control, widget, name = widget->accessibleName()] {
+      const QString words = ToQt(control.Caption.Get());
+      widget->setText(words);
+      const bool both = !name.isEmpty() && !words.isEmpty();
+      widget->setAccessibleName(both ? name + QStringLiteral(": ") + words : name + words);
+    });
+  }
+  /// The colour that a label changes while the program runs.
+  void TextColour(Label& control, QWidget* widget);
   void Box(TextBox& control, QLineEdit* widget);
   void Text(TextBox& control, QPlainTextEdit* widget);
   void Check(CheckBox& control, QCheckBox* widget);
   void Choice(ComboBox& control, QComboBox* widget);
   void Box(Frame& control, QGroupBox* widget);
   void Visible(Property<bool>& control, QWidget* widget);
-  void Border(Property<int>& control, QLabel* widget);
   void Enabled(MenuEntry& control, QAction* action);
 
   /// Shows a property now, and again whenever it changes.
@@ -46,7 +60,8 @@ class Binder {
   void Recolour() const;
 
  private:
-  void Colour(Property<int>& control, QWidget* widget, QPalette::ColorRole text, QPalette::ColorRole ground);
+  void Colour(Property<int>& control, QWidget* widget, QPalette::ColorRole text,
+              QPalette::ColorRole background);
 
   std::vector<std::function<void()>> colours_;
 };

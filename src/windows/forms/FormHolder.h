@@ -1,0 +1,20 @@
+#pragma once
+
+#include <utility>
+
+namespace qismora {
+
+/// Holds the form of a window. As the first base of the window it outlives the widgets that show it.
+template <class FormType>
+class FormHolder {
+ public:
+  template <class... Arguments>
+  explicit FormHolder(Arguments&&... arguments) : form_(std::forward<Arguments>(arguments)...) {}
+
+  FormType& Form() { return form_; }
+
+ protected:
+  FormType form_;
+};
+
+}  // namespace qismora

@@ -1,0 +1,48 @@
+#pragma once
+
+#include <QAbstractButton>
+#include <QFrame>
+
+namespace qismora {
+
+enum class Gesture { Click, DoubleClick };
+
+/// A caption that acts: on its mouse gesture, on Return and Space, by the one entry of its context menu, and
+/// when a screen reader presses it. Each raises the signal clicked. A caption without text shows its
+/// accessible name while it has the focus of the keyboard.
+class CaptionButton : public QAbstractButton {
+ public:
+  /// The action's words stand in the context menu, and describe the caption to a screen reader.
+  CaptionButton(const QString& name, Gesture gesture, const QString& action, QWidget* parent);
+
+  void SetAlignment(Qt::Alignment alignment) { alignment_ = alignment; }
+  /// No frame, a panel of the style, or a box in the colour of the text.
+  void SetBorder(QFrame::Shape shape);
+
+  QSize sizeHint() const override;
+  QSize minimumSizeHint() const override { return sizeHint(); }
+
+ protected:
+  void paintEvent(QPaintEvent* event) override;
+  void focusInEvent(QFocusEvent* event) override;
+  void keyPressEvent(QKeyEvent* event) override;
+  void mousePressEvent(QMouseEvent* event) override;
+  void mouseDoubleClickEvent(QMouseEvent* event) override;
+  void contextMenuEvent(QContextMenuEvent* event) override;
+
+  /// Paints the border, and a frame around what has the focus. A click needs none to lead the eye.
+  void PaintFrame(QPainter* painter);
+  QRect InsideBorder(const QRect& place) const;
+  Qt::Alignment Alignment() const { return alignment_; }
+
+ private:
+  bool HasKeyboard() const { return hasFocus() && !clickedInto_; }
+
+  Gesture gesture_;
+  QString action_;
+  Qt::Alignment alignment_ = Qt::AlignLeft | Qt::AlignVCenter;
+  QFrame::Shape border_ = QFrame::NoFrame;
+  bool clickedInto_ = false;
+};
+
+}  // namespace qismora
