@@ -1,0 +1,141 @@
+// The program on the screen that it is started on, which may be too small for its forms.
+#include <QAction>
+#include <QCheckBox>
+#include <QLayout>
+#include <QPlainTextEdit>
+#include <QScreen>
+#include <QScrollArea>
+#include <QScrollBar>
+#include <QStyle>
+#include <QTest>
+
+#include "windows/BoxWatch.h"
+#include "windows/ShellHome.h"
+#include "windows/style/OutlinedStyle.h"
+
+namespace qismora {
+
+using testing::BoxWatch;
+using testing::ShellHome;
+
+namespace {
+
+constexpr QSize advisedScreen{800, 600};
+
+template <class Widget = QWidget>
+Widget* Find(QWidget* window, const char* name) {
+  auto* found = window->findChild<Widget*>(QString::fromLatin1(name));
+  if (found == nullptr) qFatal("There is no %s", name);
+  return found;
+}
+
+/// The part of a widget's corner that can be seen.
+bool CornerIsSeen(const QWidget* widget) {
+  return widget->visibleRegion().contains(widget->rect().adjusted(0, 0, -1, -1).bottomRight());
+}
+
+}  // namespace
+
+class SmallScreenTest : public QObject {
+  Q_OBJECT
+
+ private slots:
+  void initTestCase() {
+    QFont font(QStringLiteral("DejaVu Sans"));
+    font.setPixelSize(12);
+    QApplication::setFont(font);
+  }
+  void init() {
+    home_ = std::make_unique<ShellHome>();
+    windows_ = &home_->Start();
+    windows_->MainMenu().Form().ShowCaseStudy();
+    windows_->MainMenu().Form().ShowQurLaws();
+    windows_->ShowMainMenu();
+  }
+  void cleanup() { home_.reset(); }
+
+  void everythingCanBeReached_data() {
+    QTest::addColumn<bool>("maximized");
+    QTest::newRow("normal") << false;
+    QTest::newRow("maximized") << true;
+  }
+  // Nothing lies to the left of the window or above it, and a scroll bar leads to all that lies beyond its
+  // other edges. A screen of 800 by 600 shows both forms whole, below a title bar.
+  void everythingCanBeReached() {
+    QFETCH(const bool, maximized);
+    const QSize screen = windows_->MainMenu().screen()->availableSize();
+    for (QWidget* window :
+         {static_cast<QWidget*>(&windows_->MainMenu()), static_cast<QWidget*>(windows_->Study()),
+          static_cast<QWidget*>(windows_->Laws())}) {
+      const QByteArray name = window->objectName().toUtf8();
+      const int titleBar = window->style()->pixelMetric(QStyle::PM_TitleBarHeight);
+      if (maximized) window->showMaximized();
+      QVERIFY(QTest::qWaitForWindowExposed(window));
+      if (maximized) QTRY_VERIFY2(window->height() > screen.height() - titleBar, name);
+      const int above = maximized ? 0 : titleBar;
+      QVERIFY2(window->width() <= screen.width() && window->height() + above <= screen.height(), name);
+      const auto* scroll = window->findChild<QScrollArea*>();
+      const QWidget* frame = Find(window, "Frame111");
+      QTRY_VERIFY(scroll->widget()->rect().contains(frame->childrenRect().translated(frame->pos())));
+      const QSize seen = scroll->viewport()->size();
+      QCOMPARE(scroll->horizontalScrollBar()->isVisible(), scroll->widget()->width() > seen.width());
+      QCOMPARE(scroll->verticalScrollBar()->isVisible(), scroll->widget()->height() > seen.height());
+      if (screen.width() < advisedScreen.width() || screen.height() < advisedScreen.height()) continue;
+      QCOMPARE(scroll->widget()->size(), seen);
+    }
+  }
+
+  // The amounts stand at the end of the answer.
+  void f7BringsTheEndOfTheAnswerIntoSight() {
+    CaseStudyWindow* study = windows_->Study();
+    study->activateWindow();
+    QVERIFY(QTest::qWaitForWindowActive(study));
+    Find<QAction>(study, "Resid")->trigger();
+    boxes_.Take();
+    auto* report = Find<QPlainTextEdit>(study, "Text3");
+    QTest::keyClick(study, Qt::Key_F7);
+    QVERIFY(report->hasFocus());
+    QCOMPARE(report->verticalScrollBar()->value(), report->verticalScrollBar()->maximum());
+    QVERIFY(CornerIsSeen(report));
+  }
+
+  // Tab leads to each field and brings it into sight.
+  void tabBringsWhatItReachesIntoSight() {
+    CaseStudyWindow* study = windows_->Study();
+    study->activateWindow();
+    QVERIFY(QTest::qWaitForWindowActive(study));
+    auto* last = Find<QCheckBox>(study, "Check1(11)");
+    Find(study, "Check1(10)")->setFocus();
+    QTest::keyClick(study->focusWidget(), Qt::Key_Tab);
+    QVERIFY(last->hasFocus());
+    QTRY_VERIFY(!last->visibleRegion().isEmpty());
+  }
+
+  void theLogFitsTheScreen() {
+    windows_->MainMenu().Form().ShowSession();
+    boxes_.Take();
+    const QWidget* log = windows_->Log();
+    QVERIFY(log->height() < log->screen()->availableSize().height());
+  }
+
+ private:
+  BoxWatch boxes_;
+  std::unique_ptr<ShellHome> home_;
+  ProgramWindows* windows_ = nullptr;
+};
+
+}  // namespace qismora
+
+int main(int argc, char** argv) {
+  const QTemporaryDir home;
+  for (const char* name : {"XDG_CONFIG_HOME", "XDG_DATA_HOME", "XDG_RUNTIME_DIR"}) {
+    qputenv(name, home.path().toUtf8());
+  }
+  QApplication::setStyle(new qismora::OutlinedStyle);
+  QApplication application(argc, argv);
+  QDir::setCurrent(home.path());
+  qismora::SmallScreenTest test;
+  return QTest::qExec(&test, argc, argv);
+}
+
+#include "small_screen_test.moc"
