@@ -53,7 +53,8 @@ void FillCaseMenu(QMenuBar* bar, CaseStudy& form, Binder& binder) {
         const PointerShape busy(Qt::WaitCursor);
         (form.*run)();
       };
-      // The command may open a modal box, and a screen reader that chose it must not wait for the answer.
+      // The command may open a modal message box, and a screen reader that chose it must not wait for the
+      // answer.
       QObject::connect(action, &QAction::triggered, bar, [bar, act] {
         if (!QAccessible::isActive()) return act();
         QMetaObject::invokeMethod(bar, act, Qt::QueuedConnection);

@@ -7,7 +7,7 @@ class QMenuBar;
 
 namespace qismora {
 
-/// The entries of the menu bar; each action bears the name of its entry.
+/// Adds the entries of the menu bar. Each action has its entry's name as object name.
 void FillCaseMenu(QMenuBar* bar, CaseStudy& form, Binder& binder);
 
 }  // namespace qismora

@@ -18,7 +18,7 @@
 #include "windows/casestudy/TopStrip.h"
 #include "windows/platform/Utf8.h"
 #include "windows/widgets/CaptionButton.h"
-#include "windows/widgets/HoverWatch.h"
+#include "windows/widgets/HoverFilter.h"
 
 namespace qismora {
 
@@ -49,7 +49,7 @@ CaseStudyWindow::CaseStudyWindow(CaseRecord& record, Outside& outside, int saved
 void CaseStudyWindow::BuildFrame() {
   QWidget* frame = Frame111();
   frame->setAccessibleName(tr("Case"));
-  // Made in the order in which Tab leads through them.
+  // Created in the order of the Tab key.
   auto* top = new TopStrip(form_, binder_, frame);
   auto* heirs = new HeirsPanel(form_, binder_, frame);
   auto* classII = new ClassIIPanel(form_, binder_, frame);
@@ -67,7 +67,7 @@ void CaseStudyWindow::BuildFrame() {
     if (result->ShowEnd()) BringIntoSight(focusWidget());
   });
 
-  // What has a hover of its own keeps it; everything else takes the decorations back.
+  // Widgets with a hover effect keep it; moving over any other restores the decorations.
   for (QWidget* child : frame->findChildren<QWidget*>()) {
     if (child->hasMouseTracking()) continue;
     if (child == classII || classII->isAncestorOf(child)) {
@@ -107,8 +107,9 @@ void CaseStudyWindow::KeepOnTop() {
   move(windowPlace);
 }
 
-// Tab leads from field to field, as a case is typed, and on to the text of the answer; only then to the
-// captions that compute. The texts are covered as yet: what takes no focus has no place in the order.
+// Tab moves from field to field, as a case is typed, then to the text of the answer, and only then to the
+// captions that compute. The texts, still covered, take the focus for a moment to get their place in the
+// order.
 void CaseStudyWindow::OrderTabs() {
   QWidget* last = nullptr;
   const auto chain = [&](const QList<QWidget*>& widgets, bool captions) {

@@ -8,7 +8,7 @@
 #include "windows/platform/Utf8.h"
 #include "windows/style/Pictures.h"
 #include "windows/style/PointerShape.h"
-#include "windows/widgets/HoverWatch.h"
+#include "windows/widgets/HoverFilter.h"
 
 namespace qismora {
 
@@ -81,7 +81,7 @@ QWidget* CommandRow::Aul() {
   connect(new QShortcut(Qt::Key_F6, this), &QShortcut::activated, this, [this, adjust] {
     if (form_.AulRadd.Visible || form_.AulRad.Enabled) adjust();
   });
-  // Its place stays free, so that nothing moves when it comes.
+  // Its place stays free, so that nothing moves when it is shown.
   QSizePolicy policy = aul->sizePolicy();
   policy.setRetainSizeWhenHidden(true);
   aul->setSizePolicy(policy);

@@ -7,7 +7,7 @@
 
 namespace qismora {
 
-/// Clear, Aul and Radd, full report. The buttons that the menu stands for are there and stay hidden.
+/// The buttons for clear, Aul and Radd, and full report, and the hidden ones that the menu replaces.
 class CommandRow : public QWidget {
  public:
   CommandRow(CaseStudy& form, Binder& binder, QWidget* parent);

@@ -7,7 +7,7 @@
 
 namespace qismora {
 
-/// What lies over the result area: the name of the program, how to begin, and the way to the catalogue.
+/// Covers the result area: the name of the program, how to begin, and a link to the catalogue.
 class Frame5Panel : public QGroupBox {
  public:
   Frame5Panel(CaseStudy& form, Binder& binder, QWidget* parent);

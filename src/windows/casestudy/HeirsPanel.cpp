@@ -219,8 +219,8 @@ void HeirsPanel::AddEstate(int row, int box, const QString& figure) {
   grid_->addWidget(input, row, rightColumn + 1, 1, 2, Qt::AlignVCenter);
 }
 
-// A caption without text or field: it loads the case and computes nothing. Its name shows when Tab comes to
-// it.
+// A caption without text or field: it loads the case and computes nothing. Its name is shown while it has the
+// focus.
 void HeirsPanel::AddBlankCaption(int row) {
   CaptionButton* caption = AddCaption(12, tr("Load the case only"));
   caption->setToolTip({});

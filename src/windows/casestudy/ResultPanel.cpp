@@ -18,12 +18,11 @@ namespace qismora {
 
 namespace {
 
-// Rows of the grid. The long reports reach a row further down than the narrative of one rule.
+// Rows of the grid. The long report ends a row below the narrative of one rule.
 enum Row { CommandLine, HeadingLine, AmountLine, TextLine, LongTextLine };
 constexpr int longTextMore = 8;
 
-/// A line of the answer. One that is longer than its place, such as an amount of hundreds of digits, is
-/// broken wherever it must be.
+/// A line of the answer. One that is too long, such as an amount of hundreds of digits, is broken anywhere.
 class AnswerLabel : public QLabel {
  public:
   explicit AnswerLabel(QWidget* parent) : QLabel(parent) {
@@ -109,7 +108,7 @@ ResultPanel::ResultPanel(CaseStudy& form, Binder& binder, QWidget* parent) : QWi
   }
   for (ReadingText* text : {narrative_, report_}) text->addAction(copy);
 
-  // What lies under the cover is out of the way of the Tab key too.
+  // Tab skips what Frame5 covers.
   Binder::Follow(form.Frame5.Visible, [this, copy] {
     const Qt::FocusPolicy policy = form_.Frame5.Visible ? Qt::NoFocus : Qt::StrongFocus;
     narrative_->setFocusPolicy(policy);

@@ -9,13 +9,13 @@ namespace qismora {
 
 class ReadingText;
 
-/// The commands, and under them heading, amount and text of the answer. Frame5 lies over amount and text
-/// whenever there is no answer to read.
+/// The commands, and below them heading, amount and text of the answer. Frame5 covers amount and text while
+/// there is no answer.
 class ResultPanel : public QWidget {
  public:
   ResultPanel(CaseStudy& form, Binder& binder, QWidget* parent);
 
-  /// Takes the focus to the end of the answer, where the amounts are. False while there is no answer.
+  /// Moves the focus to the end of the answer, where the amounts are. False if there is no answer.
   bool ShowEnd();
 
  private:

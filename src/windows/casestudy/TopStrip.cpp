@@ -6,7 +6,7 @@
 
 #include "windows/casestudy/CaseBox.h"
 #include "windows/style/Pictures.h"
-#include "windows/widgets/HoverWatch.h"
+#include "windows/widgets/HoverFilter.h"
 #include "windows/widgets/Names.h"
 
 namespace qismora {
@@ -21,7 +21,7 @@ constexpr QMargins countMargins{2, 2, 2, 2};
 
 constexpr const char* viewNames[] = {"Urdu view", "English view", "Arabic view"};
 
-/// A wheel that is turned on the way over the list must not change who has died.
+/// A mouse wheel that turns while it passes over the list must not change the gender.
 class GenderList : public QComboBox {
  public:
   using QComboBox::QComboBox;
@@ -96,7 +96,7 @@ QWidget* TopStrip::Views() {
   return frame;
 }
 
-// The pictures take turns, so it is the place of all three that acts.
+// One picture is shown at a time, so the button is the parent of all three.
 QWidget* TopStrip::Animation() {
   auto* place =
       new CaptionButton(QStringLiteral("Image42"), Gesture::Click, tr("Stop or start the animation"), this);
@@ -127,7 +127,7 @@ QWidget* TopStrip::Executions() {
   return count;
 }
 
-// Two pictures in one place; moving the mouse over the upper one takes it away.
+// Two pictures in one place; moving the mouse over the upper one hides it.
 QWidget* TopStrip::Ornament(const char* name, int upper, Array<Picture, 1>& pictures,
                             const std::function<void()>& moved) {
   auto* place = new QWidget(this);

@@ -8,7 +8,7 @@
 
 namespace qismora {
 
-/// Who the deceased is, the choice of view, the number of executions, and the pictures that move.
+/// The gender and name of the deceased, the choice of view, the number of executions, and the animation.
 class TopStrip : public QWidget {
  public:
   TopStrip(CaseStudy& form, Binder& binder, QWidget* parent);

@@ -79,7 +79,7 @@ InhMainWindow::InhMainWindow(CaseRecord& record, ShellRecord& shell, ShellOutsid
     : FormHolder(record, shell, outside), FormWindow(form_, "InhMain", tr("Main menu"), largestText) {
   setWindowTitle(tr("Islamic Laws of Inheritance"));
   form_.Hide = [this] {
-    // A desktop gives a window that was never placed by its program a new place at each showing.
+    // A desktop gives a window that its program never placed a new place each time it is shown.
     windowHandle()->setFramePosition(windowHandle()->framePosition());
     hide();
   };
@@ -186,7 +186,7 @@ QWidget* InhMainWindow::Side(QtVideoPlayer& player) {
   return side;
 }
 
-// The pictures take turns, so it is the place of all six that acts.
+// One picture is shown at a time, so the button is the parent of all six.
 QWidget* InhMainWindow::Pictures() {
   auto* place =
       new CaptionButton(QStringLiteral("Image3"), Gesture::Click, tr("Show the next picture"), Frame111());
@@ -241,8 +241,8 @@ QWidget* InhMainWindow::Foot() {
   return foot;
 }
 
-// The menu, and the disclaimer in its place. What the disclaimer covers is out of the way of the Tab key too;
-// the focus comes back when it goes.
+// The menu, and the disclaimer in its place. While the disclaimer is shown, Tab skips the menu; the focus
+// returns when it is hidden.
 QWidget* InhMainWindow::Middle(QtVideoPlayer& player) {
   auto* place = new QWidget(Frame111());
   auto* covered = new QWidget(place);
@@ -274,8 +274,8 @@ void InhMainWindow::resizeEvent(QResizeEvent* event) {
   ForceSize();
 }
 
-// A desktop that sizes windows by its own rules gets its way: no size is refused twice in a row, unless the
-// window has stood at its own size for a while.
+// A desktop that sizes windows by its own rules prevails: no size is refused twice in a row, unless the
+// window has kept its own size for a while.
 void InhMainWindow::ForceSize() {
   if (FillsScreen()) return;
   if (size() == minimumSize()) {
@@ -296,7 +296,7 @@ void InhMainWindow::changeEvent(QEvent* event) {
   if (event->type() == QEvent::PaletteChange && banners_[0] != nullptr) ShowBanner();
 }
 
-// The program's icon waits for the first painting: nobody misses it before.
+// The program's icon is made after the first painting, so that it does not delay the window.
 void InhMainWindow::paintEvent(QPaintEvent* event) {
   FormWindow::paintEvent(event);
   if (std::exchange(painted_, true)) return;

@@ -16,17 +16,17 @@ constexpr int rowMargin = 9;
 
 MenuOption::MenuOption(OptionButton& control, const QString& name, QWidget* parent)
     : QRadioButton(parent), control_(control) {
-  setText(ToQt(control.Caption));  // not before: a screen reader is told at once what kind of button it is
+  setText(ToQt(control.Caption));
   setObjectName(name);
   setAccessibleName(WithoutMnemonics(control.Caption));
-  // The form itself clears the group, so each button is one of its own.
+  // The form itself clears the group, so each button has a group of its own.
   auto* group = new QButtonGroup(this);
   group->setExclusive(false);
   group->addButton(this);
   Binder::Follow<bool>(control.Visible, [this] { setVisible(control_.Visible); });
   Binder::Follow<bool>(control.Value, [this] { setChecked(control_.Value); });
   Binder::Follow<int>(control.BackColor, [this] { Colour(); });
-  // Choosing may open a modal box: whoever pressed must not wait for its answer.
+  // Choosing may open a modal message box, and a screen reader that chose must not wait for the answer.
   connect(this, &QRadioButton::toggled, this, [this](bool on) {
     if (!on || control_.Value || !Chosen) return;
     QMetaObject::invokeMethod(

@@ -7,8 +7,8 @@
 
 namespace qismora {
 
-/// A radio button that acts when it is chosen. The arrow keys only lead on to its neighbours; Return and
-/// Space choose it.
+/// A radio button that acts when it is chosen. The arrow keys only move the focus to its neighbours; Return
+/// and Space choose it.
 class MenuOption : public QRadioButton {
  public:
   MenuOption(OptionButton& control, const QString& name, QWidget* parent);

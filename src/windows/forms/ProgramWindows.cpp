@@ -18,13 +18,13 @@ ProgramFacts Facts() {
   const std::string qt = FromQt(QString::fromLatin1(qVersion()));
   ProgramFacts facts = {QISMORA_VERSION, {Join("Qt Widgets ", qt), Join("Qt SVG ", qt)}};
 #ifdef QISMORA_VIDEO
-  facts.Libraries.push_back(Join("Qt Multimedia ", qt, " for the films"));
+  facts.Libraries.push_back(Join("Qt Multimedia ", qt, " for the videos"));
 #endif
   facts.Libraries.emplace_back("the C++ standard library");
   return facts;
 }
 
-// A window that comes back stands where it stood.
+// A window that is shown again keeps its place.
 void BringUp(QWidget* window) {
   if (QWindow* shown = window->windowHandle(); shown != nullptr && !shown->isVisible()) {
     shown->setFramePosition(shown->framePosition());

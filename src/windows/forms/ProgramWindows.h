@@ -13,8 +13,8 @@
 
 namespace qismora {
 
-/// All windows of the program and the ways between them. The main menu lives for the whole run; every other
-/// window is made when it is first wanted.
+/// All windows of the program and the transitions between them. The main menu lives for the whole run; every
+/// other window is made when it is first wanted.
 class ProgramWindows {
  public:
   ProgramWindows(ShellOutside& outside, QtVideoPlayer& player);
@@ -25,7 +25,7 @@ class ProgramWindows {
   void ShowMainMenu();
 
   InhMainWindow& MainMenu() { return menu_; }
-  /// The windows that stand at the moment; none that is closed.
+  /// The windows that exist at the moment; null if closed.
   CaseStudyWindow* Study() const { return study_; }
   QurLawsWindow* Laws() const { return laws_; }
   ZummyWindow* Resources() const { return zummy_.get(); }

@@ -11,7 +11,7 @@
 
 #include "windows/platform/Utf8.h"
 #include "windows/style/Fonts.h"
-#include "windows/widgets/HoverWatch.h"
+#include "windows/widgets/HoverFilter.h"
 #include "windows/widgets/ReadingText.h"
 
 namespace qismora {
@@ -90,8 +90,8 @@ QWidget* QurLawsWindow::Title() {
   return title;
 }
 
-// There is no panel of other products beside the page, so the focus that is meant for it goes to the page,
-// where the keys scroll.
+// There is no panel of other products beside the page. The focus that is meant for it goes to the page, where
+// the keys scroll.
 QWidget* QurLawsWindow::Page() {
   auto* page = new ReadingText(QStringLiteral("Text2"), tr("Page"), Frame111());
   page->document()->setDocumentMargin(pageMargin);

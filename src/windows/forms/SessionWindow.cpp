@@ -13,7 +13,7 @@
 #include "windows/platform/Utf8.h"
 #include "windows/style/Fonts.h"
 #include "windows/style/Pictures.h"
-#include "windows/widgets/HoverWatch.h"
+#include "windows/widgets/HoverFilter.h"
 #include "windows/widgets/Names.h"
 
 namespace qismora {
@@ -91,11 +91,11 @@ QTableWidget* SessionWindow::MakeGrid() {
   for (int i = 0; i < grid->columnCount(); ++i) {
     const SessionColumn& column = SessionColumns[static_cast<std::size_t>(i)];
     grid->setHorizontalHeaderItem(i, new QTableWidgetItem(ToQt(column.Heading)));
-    int room = 0;
+    int text = 0;
     for (const char* words : {column.Width, column.Heading, column.Unit}) {
-      room = qMax(room, fontMetrics().horizontalAdvance(ToQt(words)));
+      text = qMax(text, fontMetrics().horizontalAdvance(ToQt(words)));
     }
-    grid->setColumnWidth(i, room + cellMargin);
+    grid->setColumnWidth(i, text + cellMargin);
     width += grid->columnWidth(i);
   }
   grid->setMinimumWidth(width);

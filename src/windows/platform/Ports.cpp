@@ -59,8 +59,8 @@ QMessageBox::Icon IconOf(BoxStyle style) {
 
 QWidget* chosenOwner = nullptr;
 
-// The window that a box belongs to: the one that the user was in last, also while a box before has just
-// closed and no window is active yet. Without it the box would come up behind a window that stays on top.
+// The window that a message box belongs to: the one that the user was in last, even if another box has just
+// closed and no window is active yet. Without it the box would open behind a window that stays on top.
 QWidget* Owner() {
   static QPointer<QWidget> last;
   if (chosenOwner != nullptr) return chosenOwner;
@@ -74,7 +74,8 @@ QWidget* Owner() {
   return shown == windows.end() ? active : *shown;
 }
 
-// A window that stays on top would cover a box of any other window, and the program would seem to hang.
+// A window that stays on top would cover a message box of any other window, and the program would seem to
+// hang.
 void KeepInSight(QDialog& dialog) {
   for (const QWidget* window : QApplication::topLevelWidgets()) {
     const bool onTop = (window->windowFlags() & Qt::WindowStaysOnTopHint) != 0;
@@ -86,8 +87,8 @@ constexpr int longestLine = 120;
 constexpr int leastWidth = 280;
 constexpr int slack = 8;
 
-// The lines of a box are set by the program and are not broken again, unless a name in them is very long. The
-// box is wide enough for its title.
+// The program sets the lines of a message box. They are not broken again, unless a name in them is very long.
+// The box is wide enough for its title.
 void KeepLines(QMessageBox& box) {
   auto* words = box.findChild<QLabel*>(QStringLiteral("qt_msgbox_label"));
   if (words == nullptr) return;
@@ -165,7 +166,7 @@ Answer QtMessageBoxes::Show(BoxStyle style, BoxButtons buttons, const std::strin
   box.setTextFormat(Qt::PlainText);
   KeepLines(box);
   KeepInSight(box);
-  // A key pressed in haste gives nothing away.
+  // A key pressed in haste consents to nothing.
   if (buttons != BoxButtons::Ok) box.setDefaultButton(QMessageBox::No);
   const PointerShape usersTurn(Qt::ArrowCursor);
   const int pressed = box.exec();
@@ -198,7 +199,7 @@ std::string QtSettings::Read(const std::string& application, const std::string& 
   return FromQt(store.value(Path(section, key)).toString());
 }
 
-// What stands there already is not written again: opening a screen would otherwise touch the disk.
+// A value that is stored already is not written again: opening a form would otherwise write to the disk.
 void QtSettings::Write(const std::string& application, const std::string& section, const std::string& key,
                        const std::string& value) {
   if (!AreOrdinary(application)) return;

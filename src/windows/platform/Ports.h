@@ -33,7 +33,7 @@ class QtMessageBoxes : public MessageBoxes {
   const QtProgram& running_;
 };
 
-/// As long as one stands, boxes belong to its window, also before the desktop has made it the active one.
+/// While it lives, message boxes belong to its window, even before the desktop has made that the active one.
 class BoxOwner {
  public:
   explicit BoxOwner(QWidget* window);
@@ -42,7 +42,7 @@ class BoxOwner {
   BoxOwner& operator=(const BoxOwner&) = delete;
 };
 
-/// Begins in the program's folder, or where reports lie if the program's folder cannot be written to.
+/// Opens in the program's directory, or in that of the reports if the program's cannot be written to.
 class QtSaveDialog : public SaveDialog {
  public:
   explicit QtSaveDialog(Folders& places) : places_(places) {}
@@ -52,7 +52,7 @@ class QtSaveDialog : public SaveDialog {
   Folders& places_;
 };
 
-/// One file for each application, in the user's folder for settings.
+/// One file for each application, in the user's directory for settings.
 class QtSettings : public Settings {
  public:
   std::string Read(const std::string& application, const std::string& section,

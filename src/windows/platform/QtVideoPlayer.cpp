@@ -22,7 +22,7 @@ void QtVideoPlayer::PlayIn(QWidget* panel) {
   panel->installEventFilter(this);
 }
 
-// The panel is the last of the window to be waited for; what is to be played comes behind its first painting.
+// The window comes first: a video starts only after the panel has been painted once.
 bool QtVideoPlayer::eventFilter(QObject* watched, QEvent* event) {
   if (event->type() == QEvent::Paint && watched == panel_ && !std::exchange(painted_, true)) {
     panel_->removeEventFilter(this);

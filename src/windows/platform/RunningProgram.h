@@ -5,9 +5,9 @@
 
 namespace qismora {
 
-/// The program as it runs: its windows over the real ports to the outside world.
+/// The program as it runs: its windows and the real ports to the outside world.
 struct RunningProgram {
-  /// The folder of the program's binary.
+  /// Takes the directory of the program's binary.
   explicit RunningProgram(const QString& binaries) : Places(binaries) {}
 
   SystemClock Time;

@@ -6,8 +6,8 @@ class QObject;
 
 namespace qismora {
 
-/// Calls when the desktop session ends, or the program is told to end from outside: in the event loop, while
-/// the windows still stand. It may call more than once, and no more when the context is gone.
+/// Calls when the desktop session ends or a signal tells the program to end: in the event loop, while the
+/// windows still exist. It may call more than once, but not after the context has been destroyed.
 void WhenSessionEnds(QObject* context, std::function<void()> ended);
 
 }  // namespace qismora

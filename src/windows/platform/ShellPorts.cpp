@@ -15,7 +15,7 @@ namespace qismora {
 
 namespace {
 
-/// The first of the folders that exists, or the last.
+/// The first of the directories that exists, or the last.
 QString FirstFolder(const QStringList& folders) {
   for (const QString& folder : folders) {
     if (QFileInfo(folder).isDir()) return QDir::cleanPath(folder);
@@ -25,8 +25,8 @@ QString FirstFolder(const QStringList& folders) {
 
 bool CanWrite(const QString& path) { return QFileInfo(path).isWritable(); }
 
-/// The kibibytes that a line of such a file tells, in bytes; 0 where it tells nothing.
-double Told(const char* file, const std::string& name) {
+/// The figure of a line in kibibytes, converted to bytes; 0 if the file has no such line.
+double FigureOf(const char* file, const std::string& name) {
   std::ifstream stream(file);
   for (std::string line; std::getline(stream, line);) {
     if (!line.starts_with(name + ":")) continue;
@@ -70,8 +70,8 @@ bool QtDocumentViewer::Open(const std::string& path) {
 }
 
 MemoryFigures SystemMemory::Read() {
-  return {Told("/proc/meminfo", "MemTotal"), Told("/proc/meminfo", "MemAvailable"),
-          Told("/proc/self/status", "VmRSS")};
+  return {FigureOf("/proc/meminfo", "MemTotal"), FigureOf("/proc/meminfo", "MemAvailable"),
+          FigureOf("/proc/self/status", "VmRSS")};
 }
 
 }  // namespace qismora

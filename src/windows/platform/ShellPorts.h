@@ -6,12 +6,12 @@
 
 namespace qismora {
 
-// The ports of the screens around the case as they are in the running program.
+// The ports of the forms around the case, as the running program has them.
 
-/// The folders of the program, as they lie beside it in a build, and apart from it where it is installed.
+/// The directories of the program: beside it in a build, apart from it where it is installed.
 class ProgramFolders : public SystemFolders {
  public:
-  /// The folder of the program's binary.
+  /// Takes the directory of the program's binary.
   explicit ProgramFolders(QString binaries) : binaries_(std::move(binaries)) {}
 
   std::string Application() override;
@@ -29,7 +29,7 @@ class QtDocumentViewer : public DocumentViewer {
   bool Open(const std::string& path) override;
 };
 
-/// The memory as the system's own files tell it.
+/// The memory as the operating system's files report it.
 class SystemMemory : public MemoryMeter {
  public:
   MemoryFigures Read() override;

@@ -5,7 +5,7 @@
 
 namespace qismora {
 
-/// How far two colours stand apart, from 1 for alike to 21 for black and white.
+/// The contrast ratio of two colours, from 1 for alike to 21 for black and white.
 double Contrast(const QColor& one, const QColor& other);
 
 /// A desktop of nothing but black and white, which asks for contrast above all.
@@ -19,12 +19,12 @@ double WantedContrast(const QPalette& palette);
 /// darker on a bright one.
 QColor Readable(QColor wanted, const QColor& background, double contrast = LeastContrast);
 
-/// A colour number of a control on this desktop. Black and the colours of the system are what the desktop
-/// writes with.
+/// A control's colour number on this desktop. For black and the system colours it is the desktop's own text
+/// colour.
 QColor TextColourOf(int colour, const QPalette& palette, QPalette::ColorRole text,
                     QPalette::ColorRole background);
 
-/// The colour so far on the way from one to the other, 0 to 1.
+/// A mix of two colours: 0 is the first, 1 the second.
 QColor Between(const QColor& from, const QColor& to, double strength);
 
 }  // namespace qismora

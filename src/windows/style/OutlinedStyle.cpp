@@ -28,7 +28,7 @@ struct TextOnBackground {
   QPalette::ColorRole Background;
 };
 
-// Of what is selected the background gives way: its text is mostly black or white already. Menus have a
+// In a selection the background is adjusted: its text is mostly black or white already. Menus have a
 // background between those of windows and of text fields.
 constexpr TextOnBackground pairs[] = {
     {QPalette::WindowText, QPalette::Window},
@@ -62,7 +62,7 @@ QColor FocusColour(const QPalette& palette) {
                   dark ? window.lighter(brighterButton) : window, WantedContrast(palette));
 }
 
-// Shown from the first moment of a window, and not only once a key has moved it.
+// The focus is shown from the start, not only after a key has moved it.
 bool HasFocus(const QStyleOption& option) { return (option.state & QStyle::State_HasFocus) != 0; }
 
 void DrawOutline(QPainter* painter, const QColor& line, const QRect& rect, qreal round = roundness,

@@ -4,8 +4,8 @@
 
 namespace qismora {
 
-/// While it lives, the pointer has this shape: an hourglass while a command runs, an arrow again while a box
-/// in the middle of it waits for the user.
+/// Gives the pointer a shape while it lives: a wait cursor while a command runs, an arrow again while a
+/// message box in the middle of it waits for the user.
 class PointerShape {
  public:
   explicit PointerShape(Qt::CursorShape shape) { QGuiApplication::setOverrideCursor(shape); }

@@ -32,7 +32,7 @@ class MultimediaScreen : public QWidget, public VideoScreen {
       image_ = frame.toImage();
       update();
     });
-    // The next file is set when the player has done with this one.
+    // The next file is set after the player has finished with this one.
     connect(
         player_, &QMediaPlayer::mediaStatusChanged, this,
         [this](QMediaPlayer::MediaStatus status) {
@@ -51,7 +51,7 @@ class MultimediaScreen : public QWidget, public VideoScreen {
   }
 
  protected:
-  // Nobody looks at a film behind the window in use, and it keeps the processor busy.
+  // A video in a window that is not in use only keeps the processor busy.
   bool eventFilter(QObject*, QEvent* event) override {
     if (event->type() == QEvent::WindowDeactivate && player_->playbackState() == QMediaPlayer::PlayingState) {
       resting_ = true;
@@ -77,8 +77,8 @@ class MultimediaScreen : public QWidget, public VideoScreen {
   bool resting_ = false;
 };
 
-// The default backend crashes on machines without its own plugins; the other one plays everywhere. A player
-// that does not find the backend it is told to take ends the program.
+// The default backend crashes on machines without its plugins; the ffmpeg backend plays everywhere. A player
+// that does not find the backend it is set to ends the program.
 bool HasBackend() {
   for (const QString& path : QCoreApplication::libraryPaths()) {
     const QDir folder(path + QStringLiteral("/multimedia"));

@@ -49,7 +49,7 @@ void Binder::Box(TextBox& control, QLineEdit* widget) {
     const QString text = ToQt(control.Text.Get());
     if (widget->text() == text) return;
     if (widget->text().isEmpty()) return widget->setText(text);
-    // Unlike a text that is set, one that is put in place of another can be undone.
+    // Unlike setText, an insertion can be undone.
     widget->selectAll();
     widget->insert(text);
   });
@@ -89,7 +89,7 @@ void Binder::Box(Frame& control, QGroupBox* widget) {
 }
 
 void Binder::Visible(Property<bool>& control, QWidget* widget) {
-  if (!control) widget->hide();  // to show what will be shown anyway costs a layout
+  if (!control) widget->hide();  // showing it explicitly would cost a layout
   control.WhenChanged([&control, widget] { widget->setVisible(control); });
 }
 

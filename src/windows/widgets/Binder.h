@@ -18,8 +18,8 @@ class QWidget;
 
 namespace qismora {
 
-/// Ties widgets to the controls of a form: each widget shows its control at once and whenever it changes,
-/// and what the user enters goes into the control. Widgets and controls live equally long.
+/// Binds widgets to the controls of a form: each widget shows its control at once and whenever it changes,
+/// and what the user enters goes into the control. Controls outlive their widgets.
 class Binder {
  public:
   /// The text of a label or a button.

@@ -12,7 +12,7 @@ enum class Gesture { Click, DoubleClick };
 /// accessible name while it has the focus of the keyboard.
 class CaptionButton : public QAbstractButton {
  public:
-  /// The action's words stand in the context menu, and describe the caption to a screen reader.
+  /// The action's description is the entry of the context menu and what screen readers say of the caption.
   CaptionButton(const QString& name, Gesture gesture, const QString& action, QWidget* parent);
 
   void SetAlignment(Qt::Alignment alignment) { alignment_ = alignment; }
@@ -30,7 +30,7 @@ class CaptionButton : public QAbstractButton {
   void mouseDoubleClickEvent(QMouseEvent* event) override;
   void contextMenuEvent(QContextMenuEvent* event) override;
 
-  /// Paints the border, and a frame around what has the focus. A click needs none to lead the eye.
+  /// Paints the border, and a frame around a caption that the keyboard has reached.
   void PaintFrame(QPainter* painter);
   QRect InsideBorder(const QRect& place) const;
   Qt::Alignment Alignment() const { return alignment_; }

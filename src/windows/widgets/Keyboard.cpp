@@ -11,7 +11,7 @@ namespace qismora {
 
 namespace {
 
-/// The toolkit would choose one entry the first time and the other the next.
+/// Where two entries share a mnemonic, Qt would alternate between them.
 class FirstEntry : public QObject {
  public:
   explicit FirstEntry(QMenuBar* bar) : QObject(bar), bar_(bar) { bar->installEventFilter(this); }
@@ -32,7 +32,7 @@ class FirstEntry : public QObject {
   QMenuBar* bar_;
 };
 
-// A menu bar offers no way in but the Alt key.
+// A menu bar can be entered by the Alt key alone.
 void PressAlt(QMainWindow* window) {
   QKeyEvent down(QEvent::KeyPress, Qt::Key_Alt, Qt::AltModifier);
   QCoreApplication::sendEvent(window, &down);

@@ -4,8 +4,8 @@ class QMainWindow;
 
 namespace qismora {
 
-/// What a menu bar owes to those who use no mouse: F10 leads into it as Alt does, and where two entries share
-/// a letter, Alt with it always chooses the first.
+/// Completes the keyboard access to the menu bar: F10 enters it as Alt does, and where two entries share a
+/// mnemonic, Alt with it always chooses the first.
 void OpenToKeyboard(QMainWindow* window);
 
 }  // namespace qismora

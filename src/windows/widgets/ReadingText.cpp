@@ -11,19 +11,19 @@ namespace qismora {
 
 namespace {
 
-constexpr int tabLetters = 8;
+constexpr int tabWidth = 8;
 
 }  // namespace
 
-ReadingText::ReadingText(const QString& name, const QString& spoken, QWidget* parent)
+ReadingText::ReadingText(const QString& name, const QString& accessibleName, QWidget* parent)
     : QPlainTextEdit(parent) {
   setObjectName(name);
-  setAccessibleName(spoken);
-  verticalScrollBar()->setAccessibleName(tr("Scroll: %1").arg(spoken));
+  setAccessibleName(accessibleName);
+  verticalScrollBar()->setAccessibleName(tr("Scroll: %1").arg(accessibleName));
   setReadOnly(true);
   setTextInteractionFlags(Qt::TextSelectableByMouse | Qt::TextSelectableByKeyboard);
   setTabChangesFocus(true);
-  setTabStopDistance(fontMetrics().averageCharWidth() * tabLetters);
+  setTabStopDistance(fontMetrics().averageCharWidth() * tabWidth);
 }
 
 void ReadingText::keyPressEvent(QKeyEvent* event) {

@@ -4,15 +4,15 @@
 
 namespace qismora {
 
-/// A text to be read: the keys scroll it and select in it, Tab leads on. What is copied while nothing is
-/// selected is the whole.
+/// A read-only text: keys scroll it and select in it, Tab moves the focus on. Copying without a selection
+/// copies the whole text.
 class ReadingText : public QPlainTextEdit {
  public:
-  ReadingText(const QString& name, const QString& spoken, QWidget* parent);
+  ReadingText(const QString& name, const QString& accessibleName, QWidget* parent);
 
  protected:
   void keyPressEvent(QKeyEvent* event) override;
-  /// Takes the actions of the text in, too.
+  /// Includes the actions of the widget.
   void contextMenuEvent(QContextMenuEvent* event) override;
 };
 

@@ -1,4 +1,4 @@
-#include "windows/widgets/HoverWatch.h"
+#include "windows/widgets/HoverFilter.h"
 
 #include <QMouseEvent>
 #include <QWidget>
@@ -8,9 +8,9 @@ namespace qismora {
 
 namespace {
 
-class HoverWatch : public QObject {
+class HoverFilter : public QObject {
  public:
-  HoverWatch(QWidget* widget, std::function<void()> moved) : QObject(widget), moved_(std::move(moved)) {
+  HoverFilter(QWidget* widget, std::function<void()> moved) : QObject(widget), moved_(std::move(moved)) {
     widget->setMouseTracking(true);
     widget->installEventFilter(this);
   }
@@ -28,7 +28,7 @@ class HoverWatch : public QObject {
 }  // namespace
 
 void WhenMouseMoves(QWidget* widget, std::function<void()> moved) {
-  new HoverWatch(widget, std::move(moved));
+  new HoverFilter(widget, std::move(moved));
 }
 
 }  // namespace qismora

@@ -6,8 +6,8 @@ class QWidget;
 
 namespace qismora {
 
-/// Calls whenever the mouse moves over the widget itself. The widget keeps the move: what lies under it
-/// hears nothing of it.
+/// Calls whenever the mouse moves over the widget itself. The event goes no further: parents do not receive
+/// it.
 void WhenMouseMoves(QWidget* widget, std::function<void()> moved);
 
 }  // namespace qismora
