@@ -1,5 +1,5 @@
 #!/usr/bin/python3 -B
-"""Walks the running program as a screen reader does: by names, roles and actions on the accessibility bus.
+"""Walks the running program as a screen reader does, by names, roles and actions on the accessibility bus.
 
 usage: accessibility_test.py PROGRAM
 
@@ -19,19 +19,19 @@ from pathlib import Path
 NEEDED = ("Xvfb", "openbox", "dbus-run-session")
 PATIENCE = 10
 VIEWER = '#!/bin/sh\necho "$1" >> "$OPENED"\n'
-# Parts of a control that the toolkit adds; they are reached through the control.
+# Parts of a control that Qt adds; they are reached through the control.
 PARTS = {"list", "list item", "table cell", "column header", "row header", "popup menu"}
 
 
 @contextlib.contextmanager
 def screen():
-    """The number of a display that nobody sees."""
-    told, tell = os.pipe()
-    server = subprocess.Popen(["Xvfb", "-displayfd", str(tell), "-screen", "0", "1280x1024x24", "-nolisten", "tcp"],
-                              pass_fds=[tell], stderr=subprocess.DEVNULL)
-    os.close(tell)
+    """The number of a virtual display."""
+    read_end, write_end = os.pipe()
+    server = subprocess.Popen(["Xvfb", "-displayfd", str(write_end), "-screen", "0", "1280x1024x24", "-nolisten", "tcp"],
+                              pass_fds=[write_end], stderr=subprocess.DEVNULL)
+    os.close(write_end)
     try:
-        with os.fdopen(told) as line:
+        with os.fdopen(read_end) as line:
             number = line.readline().strip()
         if not number:
             raise RuntimeError("Xvfb did not start")
@@ -47,9 +47,9 @@ def stage():
     if importlib.util.find_spec("pyatspi") is None or not Path("/usr/libexec/at-spi-bus-launcher").exists():
         missing.append("python3-pyatspi, at-spi2-core")
     if missing:
-        print("Skipped, the program was not walked: there is no", ", ".join(missing))
+        print("Skipped, the program was not tested: there is no", ", ".join(missing))
         return 77
-    # The last of the bus may still write while the folder goes.
+    # The bus may still write while the directory is removed.
     with tempfile.TemporaryDirectory(ignore_cleanup_errors=True) as home, screen() as display:
         environment = {**os.environ, "DISPLAY": display, "QT_QPA_PLATFORM": "xcb", "LC_ALL": "C.UTF-8",
                        "QT_LINUX_ACCESSIBILITY_ALWAYS_ON": "1", "HOME": home, "XDG_CONFIG_HOME": home,
@@ -78,12 +78,12 @@ def wait_for(what, condition):
     """What the condition gives as soon as it gives something."""
     end = time.monotonic() + PATIENCE
     while True:
-        # What is asked may go away in the middle of the question.
+        # The object may disappear while it is asked.
         with contextlib.suppress(Exception):
             if (found := condition()):
                 return found
         if time.monotonic() > end:
-            raise AssertionError(f"waited in vain for {what}")
+            raise AssertionError(f"no sign of {what}")
         time.sleep(0.02)
 
 
@@ -149,13 +149,13 @@ class Program(unittest.TestCase):
             w.name != name or not has(w, pyatspi.STATE_SHOWING) for w in self.application))
 
     def find(self, where, role, name):
-        """The control of that role whose spoken name begins so."""
+        """The control of that role whose accessible name begins so."""
         try:
             return wait_for("", lambda: next(
                 n for n in walk(where) if n.getRoleName() == role and n.name.startswith(name)))
         except AssertionError:
             there = [f"{n.getRoleName()} {n.name}" for n in walk(where) if n.name and has(n, pyatspi.STATE_SHOWING)]
-            self.fail(f"waited in vain for a {role} {name}; there are: " + ", ".join(there))
+            self.fail(f"no sign of a {role} {name}; there are: " + ", ".join(there))
 
     def press(self, where, role, name, action="Press"):
         control = self.find(where, role, name)
@@ -168,13 +168,13 @@ class Program(unittest.TestCase):
         self.find(where, "text", box).queryEditableText().setTextContents(words)
 
     def answer(self, button="OK"):
-        """Presses the button of the box that comes up, and gives the words of the box."""
-        box = wait_for("a box", lambda: next(
+        """Presses a button of the message box that opens, and returns its text."""
+        box = wait_for("a message box", lambda: next(
             w for w in self.application if w.getRoleName() in ("alert", "dialog") and has(w, pyatspi.STATE_SHOWING)))
-        self.assert_spoken(box)
-        words = wait_for("its words", lambda: " ".join(n.name for n in walk(box) if n.getRoleName() == "label"))
+        self.assert_named(box)
+        words = wait_for("its text", lambda: " ".join(n.name for n in walk(box) if n.getRoleName() == "label"))
         self.press(box, "push button", button)
-        wait_for("the box to go", lambda: box not in list(self.application) or not has(box, pyatspi.STATE_SHOWING))
+        wait_for("the message box to close", lambda: box not in list(self.application) or not has(box, pyatspi.STATE_SHOWING))
         return words
 
     def announcements(self):
@@ -195,7 +195,7 @@ class Program(unittest.TestCase):
         self.addCleanup(pyatspi.Registry.deregisterEventListener, hear, "object:state-changed:showing")
         return heard
 
-    def assert_spoken(self, window):
+    def assert_named(self, window):
         """Whatever can be reached or pressed has a role and a name, or a caption that names it."""
         names = wait_for(f"the controls of {window.name}", lambda: [
             (node.getRoleName(), node.name.strip() or caption(node))
@@ -209,10 +209,10 @@ class Program(unittest.TestCase):
         self.press(self.menu, "menu item", "Exit")
         self.assertEqual(self.process.wait(PATIENCE), 0)
 
-    def test_a_case_is_typed_run_and_heard(self):
+    def test_a_case_is_typed_run_and_read(self):
         self.choose("FIND SHARES")
         study = self.window("Case Study")
-        self.assert_spoken(study)
+        self.assert_named(study)
         gender = next(n for n in walk(study) if n.getRoleName() == "combo box")
         self.assertEqual(caption(gender), "Gender of the deceased")
         for box, figure in (("Wives", "1"), ("Sons", "1"), ("Daughters", "1"), ("Name of the deceased", "Amina"),
@@ -229,7 +229,7 @@ class Program(unittest.TestCase):
         report = self.find(study, "text", "Report")
         wait_for("the distribution", lambda: "SONS (1) = 14000 (14/24)" in text(report))
         self.assertIn("ALIVE by the deceased Amina", text(report))
-        self.assert_spoken(study)
+        self.assert_named(study)
 
         self.press(study, "check box", "Full Uncle", "Toggle")
         self.assertTrue(has(self.find(study, "check box", "Full Uncle"), pyatspi.STATE_CHECKED))
@@ -259,12 +259,12 @@ class Program(unittest.TestCase):
         self.leave()
 
     def test_the_other_windows_are_opened_read_and_left(self):
-        self.assert_spoken(self.menu)
+        self.assert_named(self.menu)
         for entry, title in (("Quranic Laws", "QURANIC LAWS OF INHERITANCE"), ("Indian Acts", "INDIAN ACTS COSIDERED"),
                              ("Exclusion", "EXCLUSION RULES"), ("Rules of 'Aul'", "RULES OF 'AUL' & 'RADD'")):
             self.choose(entry)
             page = self.window("Law page")
-            self.assert_spoken(page)
+            self.assert_named(page)
             self.find(page, "label", f"Title of the page: {title}")
             self.assertGreater(len(text(self.find(page, "text", "Page"))), 500)
             self.press(page, "menu item", "Close")
@@ -275,7 +275,7 @@ class Program(unittest.TestCase):
         self.press(self.menu, "push button", "Disclaimer Terms:")
         self.press(self.menu, "menu item", "About")
         catalogue = self.window("About this program")
-        self.assert_spoken(catalogue)
+        self.assert_named(catalogue)
         self.find(catalogue, "label", "Program: Qismora")
         self.press(catalogue, "push button", "Close")
         self.gone("About this program")
@@ -285,7 +285,7 @@ class Program(unittest.TestCase):
         wait_for("the viewer", lambda: "RelationsEU.pdf" in self.opened.read_text())
         self.press(self.menu, "push button", "Documents and resources")
         resources = self.window("Documents")
-        self.assert_spoken(resources)
+        self.assert_named(resources)
         self.press(resources, "push button", "Schools")
         self.assertIn("Schools of Thoughts.pdf", self.answer())
         self.press(resources, "menu item", "Back")
@@ -295,7 +295,7 @@ class Program(unittest.TestCase):
         self.start()  # the second session finds the line of the first
         self.press(self.menu, "push button", "Number of this session: 2")
         log = self.window("Session log")
-        self.assert_spoken(log)
+        self.assert_named(log)
         grid = next(n for n in walk(log) if n.getRoleName() == "table").queryTable()
         self.assertEqual(grid.getAccessibleAt(1, 0).name, "1")
         self.find(log, "label", "Total duration: 0day(s):00h:")

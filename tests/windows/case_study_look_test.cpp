@@ -13,15 +13,15 @@
 #include <cmath>
 #include <optional>
 
-#include "Desk.h"
+#include "CaseStudyFixture.h"
 #include "windows/style/Colours.h"
 #include "windows/style/OutlinedStyle.h"
 
-using qismora::testing::Desk;
+using qismora::testing::CaseStudyFixture;
 
 namespace {
 
-/// The elements that the control arrays have, and the controls that stand alone.
+/// The elements of the control arrays, and the other controls.
 struct Names {
   const char* Name;
   int First;
@@ -47,13 +47,13 @@ double Luminance(const QColor& colour) {
   return 0.2126 * part(colour.redF()) + 0.7152 * part(colour.greenF()) + 0.0722 * part(colour.blueF());
 }
 
-bool CanBeRead(const QColor& ink, const QColor& ground) {
-  const auto [dark, bright] = std::minmax({Luminance(ink), Luminance(ground)});
+bool CanBeRead(const QColor& text, const QColor& background) {
+  const auto [dark, bright] = std::minmax({Luminance(text), Luminance(background)});
   return (bright + 0.05) / (dark + 0.05) >= 4.5;
 }
 
-/// How wide a widget has to be for its words, 0 when it has none.
-int WidthOfWords(const QWidget* widget) {
+/// The width that a widget needs for its text, 0 without text.
+int WidthOfText(const QWidget* widget) {
   if (const auto* label = qobject_cast<const QLabel*>(widget)) {
     return label->text().isEmpty() ? 0 : label->sizeHint().width();
   }
@@ -72,39 +72,39 @@ class CaseStudyLookTest : public QObject {
  private slots:
   void initTestCase() {
     QApplication::setStyle(new qismora::OutlinedStyle);
-    QFont letters(QStringLiteral("DejaVu Sans"));
-    letters.setPixelSize(12);
-    QApplication::setFont(letters);
+    QFont font(QStringLiteral("DejaVu Sans"));
+    font.setPixelSize(12);
+    QApplication::setFont(font);
   }
-  void init() { desk_.emplace(); }
-  void cleanup() { desk_.reset(); }
+  void init() { fixture_.emplace(); }
+  void cleanup() { fixture_.reset(); }
 
   void EveryControlHasItsName() {
     for (const Names& row : arrays) {
       for (int i = row.First; i <= row.Last; ++i) {
         const QString name = QStringLiteral("%1(%2)").arg(QLatin1String(row.Name)).arg(i);
-        QVERIFY2(desk_->Find(qPrintable(name)) != nullptr, qPrintable(name));
+        QVERIFY2(fixture_->Find(qPrintable(name)) != nullptr, qPrintable(name));
       }
     }
-    for (const char* name : single) QVERIFY2(!desk_->Find(name)->accessibleName().isEmpty(), name);
-    for (const char* name : entries) QVERIFY2(desk_->Find<QAction>(name) != nullptr, name);
-    for (const char* name : {"AulRaddxx", "TestValues"}) QVERIFY(!desk_->Find<QAction>(name)->isVisible());
-    for (const char* name : {"SelectedReport", "Residuaries"}) QVERIFY(!desk_->Find(name)->isVisible());
-    QVERIFY(desk_->Find<QLineEdit>("Text1(29)")->isReadOnly());
-    QVERIFY(desk_->Window().windowFlags() & Qt::WindowStaysOnTopHint);
+    for (const char* name : single) QVERIFY2(!fixture_->Find(name)->accessibleName().isEmpty(), name);
+    for (const char* name : entries) QVERIFY2(fixture_->Find<QAction>(name) != nullptr, name);
+    for (const char* name : {"AulRaddxx", "TestValues"}) QVERIFY(!fixture_->Find<QAction>(name)->isVisible());
+    for (const char* name : {"SelectedReport", "Residuaries"}) QVERIFY(!fixture_->Find(name)->isVisible());
+    QVERIFY(fixture_->Find<QLineEdit>("Text1(29)")->isReadOnly());
+    QVERIFY(fixture_->Window().windowFlags() & Qt::WindowStaysOnTopHint);
   }
 
   // Whatever can be reached or read aloud has a name.
-  void EveryControlIsSpoken() {
-    for (const QWidget* widget : desk_->Find("Frame111")->findChildren<QWidget*>()) {
+  void EveryControlHasAnAccessibleName() {
+    for (const QWidget* widget : fixture_->Find("Frame111")->findChildren<QWidget*>()) {
       if (widget->objectName().isEmpty() || widget->objectName().startsWith("qt_")) continue;
       QVERIFY2(!widget->accessibleName().isEmpty(), qPrintable(widget->objectName()));
     }
   }
 
-  // Tab leads from the gender through all boxes, then on through everything else, and back to the gender.
+  // Tab moves from the gender through all fields, then through everything else, and back to the gender.
   void TabGoesRound() {
-    QWidget* first = desk_->Find("Combo1");
+    QWidget* first = fixture_->Find("Combo1");
     first->setFocus();
     QStringList way;
     do {
@@ -131,28 +131,28 @@ class CaseStudyLookTest : public QObject {
   void NothingIsClipped() {
     QFETCH(const int, view);
     QFETCH(const bool, result);
-    desk_->Form().Label4_Click(view);
-    desk_->Form().Frame5.Visible = !result;
-    desk_->Form().AulRadd.Visible = result;
+    fixture_->Form().Label4_Click(view);
+    fixture_->Form().Frame5.Visible = !result;
+    fixture_->Form().AulRadd.Visible = result;
     QTest::qWait(1);
-    const QWidget* ground = desk_->Window().centralWidget();
-    const QRect room(QPoint(), QSize(799, ground->height()));
-    for (const QWidget* widget : desk_->Find("Frame111")->findChildren<QWidget*>()) {
+    const QWidget* window = fixture_->Window().centralWidget();
+    const QRect space(QPoint(), QSize(799, window->height()));
+    for (const QWidget* widget : fixture_->Find("Frame111")->findChildren<QWidget*>()) {
       if (!widget->isVisible()) continue;
       const QByteArray name = widget->objectName().toUtf8();
-      QVERIFY2(room.contains(QRect(widget->mapTo(ground, QPoint()), widget->size())), name);
-      if (name != "Label2" && name != "Label3") QVERIFY2(WidthOfWords(widget) <= widget->width(), name);
+      QVERIFY2(space.contains(QRect(widget->mapTo(window, QPoint()), widget->size())), name);
+      if (name != "Label2" && name != "Label3") QVERIFY2(WidthOfText(widget) <= widget->width(), name);
     }
-    QCOMPARE(desk_->Window().size(), QSize(799, 599));
+    QCOMPARE(fixture_->Window().size(), QSize(799, 599));
   }
 
-  void BoxesHoldTheirFigures() {
-    for (const auto* box : desk_->Find("Frame1")->findChildren<QLineEdit*>()) {
+  void FieldsHoldTheirFigures() {
+    for (const auto* box : fixture_->Find("Frame1")->findChildren<QLineEdit*>()) {
       const QString widest = box->width() > 60 ? QStringLiteral("-2147483647") : QStringLiteral("100");
       const int frame = 2 * box->style()->pixelMetric(QStyle::PM_DefaultFrameWidth) + 4;
       QVERIFY(box->fontMetrics().horizontalAdvance(widest) + frame <= box->width());
       QVERIFY(box->fontMetrics().height() <= box->height() - 4);
-      for (const auto* caption : desk_->Find("Frame1")->findChildren<QWidget*>()) {
+      for (const auto* caption : fixture_->Find("Frame1")->findChildren<QWidget*>()) {
         if (!caption->property("text").toString().isEmpty() && caption->objectName().startsWith("Label1"))
           QVERIFY(!caption->geometry().intersects(box->geometry()));
       }
@@ -162,26 +162,26 @@ class CaseStudyLookTest : public QObject {
   // What the program colours can be read on bright and on dark desktops, also when they change.
   void ColoursCanBeRead() {
     const QPalette before = QApplication::palette();
-    desk_->Form().Text3.ForeColor = qismora::Red;
-    for (const QColor ground : {QColor(Qt::white), QColor(53, 53, 53), QColor(Qt::black)}) {
-      QPalette palette(ground);
-      palette.setColor(QPalette::Base, ground);
+    fixture_->Form().Text3.ForeColor = qismora::Red;
+    for (const QColor background : {QColor(Qt::white), QColor(53, 53, 53), QColor(Qt::black)}) {
+      QPalette palette(background);
+      palette.setColor(QPalette::Base, background);
       palette.setColor(QPalette::Text, palette.color(QPalette::WindowText));
       QApplication::setPalette(palette);
-      QTRY_COMPARE(desk_->Window().palette().color(QPalette::Window), ground);
-      const auto ink = [this](const char* name, QPalette::ColorRole role) {
-        return desk_->Find(name)->palette().color(role);
+      QTRY_COMPARE(fixture_->Window().palette().color(QPalette::Window), background);
+      const auto colour = [this](const char* name, QPalette::ColorRole role) {
+        return fixture_->Find(name)->palette().color(role);
       };
-      QVERIFY(CanBeRead(ink("Text3", QPalette::Text), ground));
-      QVERIFY(CanBeRead(ink("Label4(0)", QPalette::WindowText), ground));
-      QVERIFY(CanBeRead(ink("Label6", QPalette::WindowText), ground));
-      QVERIFY(ink("Text3", QPalette::Text).red() > ink("Text3", QPalette::Text).green() + 60);
+      QVERIFY(CanBeRead(colour("Text3", QPalette::Text), background));
+      QVERIFY(CanBeRead(colour("Label4(0)", QPalette::WindowText), background));
+      QVERIFY(CanBeRead(colour("Label6", QPalette::WindowText), background));
+      QVERIFY(colour("Text3", QPalette::Text).red() > colour("Text3", QPalette::Text).green() + 60);
     }
     QApplication::setPalette(before);
   }
 
  private:
-  std::optional<Desk> desk_;
+  std::optional<CaseStudyFixture> fixture_;
 };
 
 QTEST_MAIN(CaseStudyLookTest)

@@ -18,10 +18,10 @@
 #include <QWheelEvent>
 #include <optional>
 
-#include "Desk.h"
+#include "CaseStudyFixture.h"
 #include "windows/style/Pictures.h"
 
-using qismora::testing::Desk;
+using qismora::testing::CaseStudyFixture;
 
 namespace {
 
@@ -33,33 +33,33 @@ class CaseStudyWindowTest : public QObject {
   Q_OBJECT
 
  private slots:
-  void init() { desk_.emplace(); }
+  void init() { fixture_.emplace(); }
   void cleanup() {
-    QVERIFY(desk_->AllAnswered());
-    desk_.reset();
+    QVERIFY(fixture_->AllAnswered());
+    fixture_.reset();
   }
 
   // A wife, a son and a daughter, from the keyboard to the distribution.
   void PlaysAWorkedCase() {
-    desk_->Type("Text1(1)", "1");
-    desk_->Type("Text1(2)", "1");
-    desk_->Type("Text1(3)", "1");
-    desk_->Type("Text1(25)", "24000");
-    for (const char* box : {"Text1(26)", "Text1(27)", "Text1(28)"}) desk_->Type(box, "0");
-    QTest::keyClick(&desk_->Window(), Qt::Key_F5);
-    auto* report = desk_->Find<QPlainTextEdit>("Text3");
+    fixture_->Type("Text1(1)", "1");
+    fixture_->Type("Text1(2)", "1");
+    fixture_->Type("Text1(3)", "1");
+    fixture_->Type("Text1(25)", "24000");
+    for (const char* box : {"Text1(26)", "Text1(27)", "Text1(28)"}) fixture_->Type(box, "0");
+    QTest::keyClick(&fixture_->Window(), Qt::Key_F5);
+    auto* report = fixture_->Find<QPlainTextEdit>("Text3");
     QTRY_VERIFY(report->isVisible());
-    QVERIFY(!desk_->Find("Frame5")->isVisible());
-    QVERIFY(!desk_->Find("Text2")->isVisible());
+    QVERIFY(!fixture_->Find("Frame5")->isVisible());
+    QVERIFY(!fixture_->Find("Text2")->isVisible());
     const QString text = report->toPlainText();
     for (const char* line : {"WIFE (1) = 3000  (1/8)\n", "RESIDUE (Balance) = 21000 (7/8)\n",
                              "SONS (1) = 14000 (14/24)\n", "DAUGHTERS (1) = 7000 (7/24)\n"}) {
       QVERIFY2(text.contains(QString::fromUtf8(line)), line);
     }
     QVERIFY(!text.contains('\r'));
-    QCOMPARE(desk_->TextOf("Label2"), QString("SHARES AS RESIDUARY (ASABA')"));
-    QCOMPARE(desk_->TextOf("Label13"), QString("1"));
-    QCOMPARE(desk_->Find<QLineEdit>("Text1(29)")->text(), QString("24000"));
+    QCOMPARE(fixture_->TextOf("Label2"), QString("SHARES AS RESIDUARY (ASABA')"));
+    QCOMPARE(fixture_->TextOf("Label13"), QString("1"));
+    QCOMPARE(fixture_->Find<QLineEdit>("Text1(29)")->text(), QString("24000"));
   }
 
   void OneHeir_data() {
@@ -68,73 +68,75 @@ class CaseStudyWindowTest : public QObject {
       QTest::newRow(way) << QString::fromLatin1(way);
     }
   }
-  // Every way to the share of one heir: the mouse, the keys, the context menu, a screen reader.
+  // Every way to compute the share of one heir: mouse, keys, context menu, screen reader.
   void OneHeir() {
     QFETCH(const QString, way);
-    desk_->Type("Text1(16)", "1");
-    desk_->Expect(executed);
-    QWidget* caption = desk_->Find("Label1(16)");
-    if (way == "mouse") desk_->DoubleClick("Label1(16)");
-    if (way == "on top") desk_->DoubleClickAt("Image18");
-    if (way == "Return") desk_->Key("Label1(16)", Qt::Key_Return);
-    if (way == "Space") desk_->Key("Label1(16)", Qt::Key_Space);
+    fixture_->Type("Text1(16)", "1");
+    fixture_->Expect(executed);
+    QWidget* caption = fixture_->Find("Label1(16)");
+    if (way == "mouse") fixture_->DoubleClick("Label1(16)");
+    if (way == "on top") fixture_->DoubleClickAt("Image18");
+    if (way == "Return") fixture_->Key("Label1(16)", Qt::Key_Return);
+    if (way == "Space") fixture_->Key("Label1(16)", Qt::Key_Space);
     if (way == "menu") ChooseFromMenu(caption, 0);
-    if (way == "from the box") QTest::keyClick(desk_->Find("Text1(16)"), Qt::Key_Return, Qt::ControlModifier);
+    if (way == "from the box")
+      QTest::keyClick(fixture_->Find("Text1(16)"), Qt::Key_Return, Qt::ControlModifier);
     if (way == "press") {
-      QAccessibleInterface* spoken = QAccessible::queryAccessibleInterface(caption);
-      QCOMPARE(spoken->role(), QAccessible::Button);
-      spoken->actionInterface()->doAction(QAccessibleActionInterface::pressAction());
+      QAccessibleInterface* accessible = QAccessible::queryAccessibleInterface(caption);
+      QCOMPARE(accessible->role(), QAccessible::Button);
+      accessible->actionInterface()->doAction(QAccessibleActionInterface::pressAction());
     }
-    QTRY_VERIFY(desk_->AllAnswered());
-    QTRY_VERIFY(desk_->Find("Text2")->isVisible());
-    QCOMPARE(desk_->TextOf("Label2"), QString("MOTHER'S SHARE"));
-    QCOMPARE(desk_->TextOf("Label3"), QString("3333  (1/3)"));
-    QCOMPARE(desk_->TextOf("StatusBar1.Panel1"), QString("Share of Mother"));
-    QCOMPARE(desk_->TextOf("Label13"), QString("2"));
+    QTRY_VERIFY(fixture_->AllAnswered());
+    QTRY_VERIFY(fixture_->Find("Text2")->isVisible());
+    QCOMPARE(fixture_->TextOf("Label2"), QString("MOTHER'S SHARE"));
+    QCOMPARE(fixture_->TextOf("Label3"), QString("3333  (1/3)"));
+    QCOMPARE(fixture_->TextOf("StatusBar1.Panel1"), QString("Share of Mother"));
+    QCOMPARE(fixture_->TextOf("Label13"), QString("2"));
   }
 
   void SomeCaptionsDoNothing() {
-    for (const char* name : {"Label1(0)", "Label1(24)", "Label1(25)", "Label1(29)"}) desk_->DoubleClick(name);
-    QCOMPARE(desk_->TextOf("Label13"), QString("0"));
-    desk_->Expect(executed);
-    desk_->DoubleClick("Label1(12)");
-    QCOMPARE(desk_->TextOf("Label13"), QString("1"));
+    for (const char* name : {"Label1(0)", "Label1(24)", "Label1(25)", "Label1(29)"})
+      fixture_->DoubleClick(name);
+    QCOMPARE(fixture_->TextOf("Label13"), QString("0"));
+    fixture_->Expect(executed);
+    fixture_->DoubleClick("Label1(12)");
+    QCOMPARE(fixture_->TextOf("Label13"), QString("1"));
   }
 
-  void BoxesToggle() {
-    auto* sons = desk_->Find<QLineEdit>("Text1(2)");
-    desk_->Type("Text1(2)", "3");
-    desk_->DoubleClick("Text1(2)");
+  void FieldsToggle() {
+    auto* sons = fixture_->Find<QLineEdit>("Text1(2)");
+    fixture_->Type("Text1(2)", "3");
+    fixture_->DoubleClick("Text1(2)");
     QCOMPARE(sons->text(), QString("0"));
-    desk_->Key("Text1(2)", Qt::Key_F2);
+    fixture_->Key("Text1(2)", Qt::Key_F2);
     QCOMPARE(sons->text(), QString("1"));
     ChooseFromMenu(sons, -1);
     QTRY_COMPARE(sons->text(), QString("0"));
     sons->undo();
     QCOMPARE(sons->text(), QString("1"));
-    desk_->Type("Text1(2)", "1,000");
+    fixture_->Type("Text1(2)", "1,000");
     QVERIFY(sons->toolTip().startsWith("Read as 1\n"));
-    desk_->Key("Text1(2)", Qt::Key_F2);
+    fixture_->Key("Text1(2)", Qt::Key_F2);
     QVERIFY(!sons->toolTip().startsWith("Read"));
-    desk_->DoubleClick("Text1(24)");
-    QCOMPARE(desk_->Find<QLineEdit>("Text1(24)")->text(), QString("ABDULLAH"));
-    // A click into a box takes the 0, so that the next key replaces it; the arrows lead on.
-    QTest::mouseClick(desk_->Find("Text1(3)"), Qt::LeftButton);
-    QTest::keyClicks(desk_->Find("Text1(3)"), "2");
-    QCOMPARE(desk_->Find<QLineEdit>("Text1(3)")->text(), QString("2"));
-    QTest::keyClick(desk_->Find("Text1(3)"), Qt::Key_Down);
-    QVERIFY(desk_->Find("Text1(4)")->hasFocus());
+    fixture_->DoubleClick("Text1(24)");
+    QCOMPARE(fixture_->Find<QLineEdit>("Text1(24)")->text(), QString("ABDULLAH"));
+    // A click into a field selects the 0, so that the next key replaces it; the arrows move on.
+    QTest::mouseClick(fixture_->Find("Text1(3)"), Qt::LeftButton);
+    QTest::keyClicks(fixture_->Find("Text1(3)"), "2");
+    QCOMPARE(fixture_->Find<QLineEdit>("Text1(3)")->text(), QString("2"));
+    QTest::keyClick(fixture_->Find("Text1(3)"), Qt::Key_Down);
+    QVERIFY(fixture_->Find("Text1(4)")->hasFocus());
   }
 
   // What stays where no number was typed is what the last run has left.
   void HintsFollowTheRuns() {
-    desk_->IgnoreBoxes();
-    desk_->DoubleClick("Label1(3)");
-    desk_->Type("Text1(25)", "none");
-    const QWidget* estate = desk_->Find("Text1(25)");
+    fixture_->IgnoreBoxes();
+    fixture_->DoubleClick("Label1(3)");
+    fixture_->Type("Text1(25)", "none");
+    const QWidget* estate = fixture_->Find("Text1(25)");
     QVERIFY(estate->accessibleDescription().endsWith(": 18600 stays."));
-    desk_->Type("Text1(27)", "99999");
-    desk_->DoubleClick("Label1(3)");
+    fixture_->Type("Text1(27)", "99999");
+    fixture_->DoubleClick("Label1(3)");
     QVERIFY(estate->accessibleDescription().endsWith(": 0 stays."));
     QVERIFY(estate->toolTip().startsWith(estate->accessibleDescription()));
   }
@@ -164,7 +166,7 @@ class CaseStudyWindowTest : public QObject {
     QFETCH(const QString, field);
     QFETCH(const QString, text);
     QFETCH(const QString, taken);
-    auto* widget = desk_->Find<QLineEdit>(qPrintable(field));
+    auto* widget = fixture_->Find<QLineEdit>(qPrintable(field));
     QGuiApplication::clipboard()->setText(text);
     widget->clear();
     QTest::keySequence(widget, QKeySequence::Paste);
@@ -188,76 +190,76 @@ class CaseStudyWindowTest : public QObject {
   void TypedDigits() {
     const QString five = QString::fromUtf8("٥");
     for (const char* field : {"Text1(2)", "Text1(24)"}) {
-      auto* widget = desk_->Find<QLineEdit>(field);
+      auto* widget = fixture_->Find<QLineEdit>(field);
       widget->clear();
       QKeyEvent key(QEvent::KeyPress, 0x665, {}, five);
       QApplication::sendEvent(widget, &key);
       QInputMethodEvent commit;
       commit.setCommitString(five);
       QApplication::sendEvent(widget, &commit);
-      QCOMPARE(widget->text(), widget == desk_->Find("Text1(2)") ? QString("55") : five + five);
+      QCOMPARE(widget->text(), widget == fixture_->Find("Text1(2)") ? QString("55") : five + five);
     }
   }
 
   void GenderAndView() {
-    auto* gender = desk_->Find<QComboBox>("Combo1");
-    desk_->Find("Text1(2)")->setFocus();
+    auto* gender = fixture_->Find<QComboBox>("Combo1");
+    fixture_->Find("Text1(2)")->setFocus();
     QWheelEvent passing({3, 3}, gender->mapToGlobal(QPointF(3, 3)), {}, {0, -120}, {}, {}, {}, false);
     QApplication::sendEvent(gender, &passing);
     QCOMPARE(gender->currentIndex(), 0);
     QTest::keyClick(gender, Qt::Key_Down);
-    QCOMPARE(desk_->TextOf("Label1(1)"), QString("Husband"));
-    QCOMPARE(desk_->Find("Text1(1)")->accessibleName(), QString("Husband"));
-    QCOMPARE(desk_->Find<QGroupBox>("Frame1")->title(), QString("Informations of the deceased Female"));
-    QVERIFY(desk_->Find("Image30(1)")->isVisible());
+    QCOMPARE(fixture_->TextOf("Label1(1)"), QString("Husband"));
+    QCOMPARE(fixture_->Find("Text1(1)")->accessibleName(), QString("Husband"));
+    QCOMPARE(fixture_->Find<QGroupBox>("Frame1")->title(), QString("Informations of the deceased Female"));
+    QVERIFY(fixture_->Find("Image30(1)")->isVisible());
 
-    desk_->Click("Label4(2)");
+    fixture_->Click("Label4(2)");
     QCOMPARE(gender->currentIndex(), 0);
-    QVERIFY(desk_->Find("Image41(5)")->isVisible());
-    QVERIFY(!desk_->Find("Image12")->isVisible());
-    QVERIFY(desk_->Find("Frame6(1)")->isVisible());
-    QVERIFY(!desk_->Find("Frame4(1)")->isVisible());
-    QWidget* arabic = desk_->Find("Label4(2)");
+    QVERIFY(fixture_->Find("Image41(5)")->isVisible());
+    QVERIFY(!fixture_->Find("Image12")->isVisible());
+    QVERIFY(fixture_->Find("Frame6(1)")->isVisible());
+    QVERIFY(!fixture_->Find("Frame4(1)")->isVisible());
+    QWidget* arabic = fixture_->Find("Label4(2)");
     const QColor border = arabic->grab().toImage().pixelColor(0, 0);
     QCOMPARE(border, arabic->palette().color(QPalette::WindowText));
-    QCOMPARE(desk_->Store.Read("Islamic Laws of Inheritance", "LanguageSetting", "LblPressed"),
+    QCOMPARE(fixture_->Store.Read("Islamic Laws of Inheritance", "LanguageSetting", "LblPressed"),
              std::string("2"));
-    QCOMPARE(desk_->Store.Read("Qismora", "LanguageSetting", "LblPressed"), std::string());
+    QCOMPARE(fixture_->Store.Read("Qismora", "LanguageSetting", "LblPressed"), std::string());
 
-    desk_->Open();
-    QVERIFY(desk_->Find("Frame6(0)")->isVisible());
-    desk_->Key("Label4(1)", Qt::Key_Space);
-    QVERIFY(!desk_->Find("Frame6(0)")->isVisible());
-    QVERIFY(desk_->Find("Image9")->isVisible());
+    fixture_->Open();
+    QVERIFY(fixture_->Find("Frame6(0)")->isVisible());
+    fixture_->Key("Label4(1)", Qt::Key_Space);
+    QVERIFY(!fixture_->Find("Frame6(0)")->isVisible());
+    QVERIFY(fixture_->Find("Image9")->isVisible());
   }
 
   // The panels over the captions of class II answer a question by a double click, and tick by a click.
   void ClassIIPanels() {
-    desk_->Click("Label4(0)");
-    auto* third = desk_->Find<QCheckBox>("Check1(4)");
-    QWidget* panel = desk_->Find("Image37(1)");
+    fixture_->Click("Label4(0)");
+    auto* third = fixture_->Find<QCheckBox>("Check1(4)");
+    QWidget* panel = fixture_->Find("Image37(1)");
     const QPoint line(10, panel->height() * 3 / 8);
     QTRY_VERIFY(!static_cast<qismora::PictureButton*>(panel)->PictureRect().isEmpty());
     QTest::mouseClick(panel, Qt::LeftButton, {}, QPoint(panel->width() - 2, line.y()));
     QVERIFY2(!third->isChecked(), "beside the captions nothing is ticked");
     QTest::mouseClick(panel, Qt::LeftButton, {}, line);
     QVERIFY(third->isChecked());
-    desk_->Expect("WE ARE CLASS II RESIDUARIES");
+    fixture_->Expect("WE ARE CLASS II RESIDUARIES");
     QTest::mouseClick(panel, Qt::LeftButton, {}, line);
     QTest::mouseDClick(panel, Qt::LeftButton, {}, line);
     QVERIFY(third->isChecked());
-    QCOMPARE(desk_->TextOf("Label2"), QString("CLASS II RESIDUARY (ASABA')"));
-    desk_->Expect("WE ARE CLASS II RESIDUARIES");
-    desk_->Key("Image37(1)", Qt::Key_Return);
+    QCOMPARE(fixture_->TextOf("Label2"), QString("CLASS II RESIDUARY (ASABA')"));
+    fixture_->Expect("WE ARE CLASS II RESIDUARIES");
+    fixture_->Key("Image37(1)", Qt::Key_Return);
     QVERIFY(third->isChecked());
-    QVERIFY(third->rect().right() >
-            panel->mapTo(&desk_->Window(), QPoint()).x() - third->mapTo(&desk_->Window(), QPoint()).x());
+    QVERIFY(third->rect().right() > panel->mapTo(&fixture_->Window(), QPoint()).x() -
+                                        third->mapTo(&fixture_->Window(), QPoint()).x());
   }
 
   void OddTexts_data() {
     QTest::addColumn<QString>("text");
     QTest::newRow("empty") << "";
-    QTest::newRow("letters") << "three";
+    QTest::newRow("words") << "three";
     QTest::newRow("long") << QString(400, '9');
     QTest::newRow("small") << "1e-400";
     QTest::newRow("comma") << "1,000";
@@ -267,73 +269,73 @@ class CaseStudyWindowTest : public QObject {
     QTest::newRow("half a pair") << QString(QChar(0xD83D));
     QTest::newRow("markup") << "<b>1</b>&amp;";
   }
-  // Whatever stands in the boxes, a command ends and the window goes on.
+  // Whatever the fields contain, a command ends and the window keeps working.
   void OddTexts() {
     QFETCH(const QString, text);
-    desk_->IgnoreBoxes();
+    fixture_->IgnoreBoxes();
     for (const char* box : {"Text1(1)", "Text1(7)", "Text1(13)", "Text1(24)", "Text1(25)", "Text1(28)"}) {
-      desk_->Find<QLineEdit>(box)->setText(text);
-      desk_->DoubleClick("Label1(3)");
-      desk_->Find<QAction>("Resid")->trigger();
-      desk_->DoubleClick(box);
+      fixture_->Find<QLineEdit>(box)->setText(text);
+      fixture_->DoubleClick("Label1(3)");
+      fixture_->Find<QAction>("Resid")->trigger();
+      fixture_->DoubleClick(box);
     }
-    QVERIFY(desk_->TextOf("Label13").toInt() > 0);
-    QCOMPARE(desk_->Window().size(), QSize(799, 599));
-    desk_->Click("Image2");
-    QCOMPARE(desk_->Find<QLineEdit>("Text1(7)")->text(), QString("0"));
+    QVERIFY(fixture_->TextOf("Label13").toInt() > 0);
+    QCOMPARE(fixture_->Window().size(), QSize(799, 599));
+    fixture_->Click("Image2");
+    QCOMPARE(fixture_->Find<QLineEdit>("Text1(7)")->text(), QString("0"));
   }
 
   void WillsAreAsked() {
-    const auto* wills = desk_->Find<QLineEdit>("Text1(28)");
-    desk_->Type("Text1(28)", "9000");
-    desk_->Expect("one third", QMessageBox::No);
-    desk_->Expect(executed);
-    desk_->DoubleClick("Label1(3)");
+    const auto* wills = fixture_->Find<QLineEdit>("Text1(28)");
+    fixture_->Type("Text1(28)", "9000");
+    fixture_->Expect("one third", QMessageBox::No);
+    fixture_->Expect(executed);
+    fixture_->DoubleClick("Label1(3)");
     QCOMPARE(wills->text(), QString("6200"));
-    desk_->Type("Text1(28)", "9000");
-    desk_->Expect("one third", QMessageBox::Yes);
-    desk_->Expect(executed);
-    desk_->DoubleClick("Label1(3)");
+    fixture_->Type("Text1(28)", "9000");
+    fixture_->Expect("one third", QMessageBox::Yes);
+    fixture_->Expect(executed);
+    fixture_->DoubleClick("Label1(3)");
     QCOMPARE(wills->text(), QString("9000"));
   }
 
   void ClearBringsFrame5() {
-    desk_->Expect(executed);
-    desk_->DoubleClick("Label1(3)");
-    QWidget* cover = desk_->Find("Frame5");
+    fixture_->Expect(executed);
+    fixture_->DoubleClick("Label1(3)");
+    QWidget* cover = fixture_->Find("Frame5");
     QVERIFY(!cover->isVisible());
-    QCOMPARE(desk_->Find("Text2")->focusPolicy(), Qt::StrongFocus);
-    desk_->Find<QCheckBox>("Check1(7)")->click();
-    const QColor green = desk_->Find("Label6")->palette().color(QPalette::WindowText);
-    desk_->Key("Image2", Qt::Key_Return);
+    QCOMPARE(fixture_->Find("Text2")->focusPolicy(), Qt::StrongFocus);
+    fixture_->Find<QCheckBox>("Check1(7)")->click();
+    const QColor green = fixture_->Find("Label6")->palette().color(QPalette::WindowText);
+    fixture_->Key("Image2", Qt::Key_Return);
     QVERIFY(cover->isVisible());
-    QVERIFY(!desk_->Find<QCheckBox>("Check1(7)")->isChecked());
-    QCOMPARE(desk_->Find("Text2")->focusPolicy(), Qt::NoFocus);
-    QVERIFY(desk_->Find("Label6")->palette().color(QPalette::WindowText) != green);
+    QVERIFY(!fixture_->Find<QCheckBox>("Check1(7)")->isChecked());
+    QCOMPARE(fixture_->Find("Text2")->focusPolicy(), Qt::NoFocus);
+    QVERIFY(fixture_->Find("Label6")->palette().color(QPalette::WindowText) != green);
     for (const char* name : {"Text2", "Label3"}) {
-      const QWidget* under = desk_->Find(name);
+      const QWidget* under = fixture_->Find(name);
       QVERIFY2(cover->geometry().contains(under->geometry()), name);
     }
   }
 
-  // The command of Aul stands there only while the shares exceed the estate.
+  // The command of Aul is shown only while the shares exceed the estate.
   void AulComesAndGoes() {
-    QVERIFY(!desk_->Find("AulRadd")->isVisible());
-    QTest::keyClick(desk_->Find("Combo1"), Qt::Key_Down);
-    desk_->Type("Text1(1)", "1");
-    desk_->Type("Text1(23)", "2");
-    desk_->Type("Text1(16)", "1");
-    desk_->Expect("APPLY 'AUL' DOCTRINE");
-    desk_->Find<QAction>("Resid")->trigger();
-    QVERIFY(desk_->Find("AulRadd")->isVisible());
-    QVERIFY(!desk_->Find<QAction>("AulRad")->isEnabled());
-    QTest::keyClick(&desk_->Window(), Qt::Key_F6);
-    QVERIFY(desk_->Find<QPlainTextEdit>("Text3")->toPlainText().contains("HUSBAND"));
+    QVERIFY(!fixture_->Find("AulRadd")->isVisible());
+    QTest::keyClick(fixture_->Find("Combo1"), Qt::Key_Down);
+    fixture_->Type("Text1(1)", "1");
+    fixture_->Type("Text1(23)", "2");
+    fixture_->Type("Text1(16)", "1");
+    fixture_->Expect("APPLY 'AUL' DOCTRINE");
+    fixture_->Find<QAction>("Resid")->trigger();
+    QVERIFY(fixture_->Find("AulRadd")->isVisible());
+    QVERIFY(!fixture_->Find<QAction>("AulRad")->isEnabled());
+    QTest::keyClick(&fixture_->Window(), Qt::Key_F6);
+    QVERIFY(fixture_->Find<QPlainTextEdit>("Text3")->toPlainText().contains("HUSBAND"));
   }
 
   void SavesWhatIsShown() {
-    desk_->Expect(executed);
-    desk_->DoubleClick("Label1(3)");
+    fixture_->Expect(executed);
+    fixture_->DoubleClick("Label1(3)");
     QTimer typist;
     connect(&typist, &QTimer::timeout, this, [&] {
       auto* dialog = qobject_cast<QFileDialog*>(QApplication::activeModalWidget());
@@ -344,7 +346,7 @@ class CaseStudyWindowTest : public QObject {
       QTest::keyClick(dialog, Qt::Key_Return);
     });
     typist.start(5);
-    desk_->Find<QAction>("SaveResults")->trigger();
+    fixture_->Find<QAction>("SaveResults")->trigger();
     QFile file("daughters.txt");
     QVERIFY(file.open(QIODevice::ReadOnly));
     QVERIFY(file.readLine().startsWith("DAUGHTERS' SHARE\r\n"));
@@ -352,61 +354,61 @@ class CaseStudyWindowTest : public QObject {
 
   // In the status bar and to a screen reader, with path and reason; a long path does not widen the window.
   void SavesAreReported() {
-    const auto* panel = desk_->Find<QLabel>("StatusBar1.Panel2");
-    const QSize size = desk_->Window().size();
-    auto* save = desk_->Find<QAction>("CreateSaveFullReport");
-    desk_->Expect("saved successfully");
+    const auto* panel = fixture_->Find<QLabel>("StatusBar1.Panel2");
+    const QSize size = fixture_->Window().size();
+    auto* save = fixture_->Find<QAction>("CreateSaveFullReport");
+    fixture_->Expect("saved successfully");
     save->trigger();
     QCOMPARE(panel->text(), "Saved: " + QDir::currentPath() + "/abdullah.txt");
     const QString name = QString(150, 'a') + " / 2026";
-    desk_->Find<QLineEdit>("Text1(24)")->setText(name);
+    fixture_->Find<QLineEdit>("Text1(24)")->setText(name);
     save->trigger();
     const QString said = "Not saved (this is no file name): " + QDir::currentPath() + '/' + name + ".txt";
     QCOMPARE(panel->text(), said);
     QCOMPARE(panel->toolTip(), said);
     const QAccessibleInterface* read =
-        QAccessible::queryAccessibleInterface(desk_->Find("StatusBar1.Panel2"));
+        QAccessible::queryAccessibleInterface(fixture_->Find("StatusBar1.Panel2"));
     QCOMPARE(read->text(QAccessible::Name), said);
     QCOMPARE(read->role(), QAccessible::Notification);
-    QCOMPARE(desk_->Window().size(), size);
-    QVERIFY(panel->geometry().left() > desk_->Find("StatusBar1.Panel1")->geometry().left());
+    QCOMPARE(fixture_->Window().size(), size);
+    QVERIFY(panel->geometry().left() > fixture_->Find("StatusBar1.Panel1")->geometry().left());
   }
 
   void Animation() {
-    auto* timer = desk_->Find<QTimer>("Timer1");
+    auto* timer = fixture_->Find<QTimer>("Timer1");
     QVERIFY(timer->isActive());
-    desk_->Form().Timer1_Timer();
-    QVERIFY(desk_->Find("Image42(2)")->isVisible());
-    QVERIFY(!desk_->Find("Image42(0)")->isVisible());
-    desk_->Click("Image42(2)");
+    fixture_->Form().Timer1_Timer();
+    QVERIFY(fixture_->Find("Image42(2)")->isVisible());
+    QVERIFY(!fixture_->Find("Image42(0)")->isVisible());
+    fixture_->Click("Image42(2)");
     QVERIFY(!timer->isActive());
-    desk_->MoveTo("Image7(1)");
-    QVERIFY(!desk_->Find("Image7(1)")->isVisible());
-    desk_->MoveTo("Image7(0)");
-    QVERIFY(!desk_->Find("Image7(1)")->isVisible());
-    desk_->MoveTo("Frame111", QPoint(2, 2));
-    QVERIFY(desk_->Find("Image7(1)")->isVisible());
+    fixture_->MoveTo("Image7(1)");
+    QVERIFY(!fixture_->Find("Image7(1)")->isVisible());
+    fixture_->MoveTo("Image7(0)");
+    QVERIFY(!fixture_->Find("Image7(1)")->isVisible());
+    fixture_->MoveTo("Frame111", QPoint(2, 2));
+    QVERIFY(fixture_->Find("Image7(1)")->isVisible());
   }
 
   void ThePointerShowsAReportBeingMade() {
-    int hourglasses = 0;
-    desk_->Form().Text3.Text.WhenChanged([&] {
+    int waiting = 0;
+    fixture_->Form().Text3.Text.WhenChanged([&] {
       const QCursor* shape = QGuiApplication::overrideCursor();
-      hourglasses += shape != nullptr && shape->shape() == Qt::WaitCursor ? 1 : 0;
+      waiting += shape != nullptr && shape->shape() == Qt::WaitCursor ? 1 : 0;
     });
-    desk_->Find<QAction>("Exec")->trigger();
-    QVERIFY(hourglasses > 0);
+    fixture_->Find<QAction>("Exec")->trigger();
+    QVERIFY(waiting > 0);
     QVERIFY(QGuiApplication::overrideCursor() == nullptr);
   }
 
   void ReportsGoToTheDocumentsWhereTheFolderIsClosed() {
-    // Nobody can write to a folder of the process table.
+    // A directory of the process table cannot be written to, not even by root.
     const QString before = QDir::currentPath();
     QVERIFY(QDir::setCurrent(QStringLiteral("/proc/self")));
     const std::string folder = qismora::SystemFolders().Reports();
-    desk_->Open();
+    fixture_->Open();
     QVERIFY(QDir::setCurrent(before));
-    auto* told = desk_->Find<QLabel>("StatusBar1.Panel2");
+    auto* told = fixture_->Find<QLabel>("StatusBar1.Panel2");
     QVERIFY(told->toolTip().endsWith(QString::fromStdString(folder)));
     QCOMPARE(told->accessibleName(), told->toolTip());
     QCOMPARE(QString::fromStdString(folder),
@@ -414,35 +416,35 @@ class CaseStudyWindowTest : public QObject {
     QVERIFY(QFileInfo(QString::fromStdString(folder)).isWritable());
   }
 
-  // Back only hides; the close box makes an end of the form, and the next opening starts anew.
+  // Back only hides; the close button ends the form, and the next opening starts with a new one.
   void BackAndClose() {
     int menus = 0;
-    desk_->Form().ShowMainMenu = [&menus] { ++menus; };
-    desk_->Type("Text1(2)", "5");
-    desk_->Find<QAction>("Back")->trigger();
-    QVERIFY(!desk_->Window().isVisible());
-    desk_->Window().show();
-    QCOMPARE(desk_->Find<QLineEdit>("Text1(2)")->text(), QString("5"));
-    desk_->Window().close();
-    QTRY_VERIFY(!desk_->IsOpen());
+    fixture_->Form().ShowMainMenu = [&menus] { ++menus; };
+    fixture_->Type("Text1(2)", "5");
+    fixture_->Find<QAction>("Back")->trigger();
+    QVERIFY(!fixture_->Window().isVisible());
+    fixture_->Window().show();
+    QCOMPARE(fixture_->Find<QLineEdit>("Text1(2)")->text(), QString("5"));
+    fixture_->Window().close();
+    QTRY_VERIFY(!fixture_->IsOpen());
     QCOMPARE(menus, 2);
-    desk_->Open();
-    QCOMPARE(desk_->Find<QLineEdit>("Text1(2)")->text(), QString("0"));
+    fixture_->Open();
+    QCOMPARE(fixture_->Find<QLineEdit>("Text1(2)")->text(), QString("0"));
   }
 
   void CentredWhenMaximized() {
-    const QWidget& window = desk_->Window();
-    const QWidget* frame = desk_->Find("Frame111");
+    const QWidget& window = fixture_->Window();
+    const QWidget* frame = fixture_->Find("Frame111");
     QCOMPARE(frame->pos(), QPoint(0, 0));
-    desk_->Window().showMaximized();
+    fixture_->Window().showMaximized();
     QTRY_VERIFY(window.isMaximized());
     QTRY_COMPARE(frame->pos(), QPoint((window.width() - 800) / 2, (window.height() - 600) / 2));
     QTRY_COMPARE(frame->size(), QSize(800, 600));
-    desk_->Window().showNormal();
+    fixture_->Window().showNormal();
     QTRY_COMPARE(frame->pos(), QPoint(0, 0));
-    const QSize answer = desk_->Find("Frame5")->size();
-    desk_->Window().resize(window.size() + QSize(100, 50));
-    QTRY_COMPARE(desk_->Find("Frame5")->size(), answer + QSize(100, 50));
+    const QSize answer = fixture_->Find("Frame5")->size();
+    fixture_->Window().resize(window.size() + QSize(100, 50));
+    QTRY_COMPARE(fixture_->Find("Frame5")->size(), answer + QSize(100, 50));
   }
 
  private:
@@ -457,7 +459,7 @@ class CaseStudyWindowTest : public QObject {
     QTest::keyClick(menu, Qt::Key_Return);
   }
 
-  std::optional<Desk> desk_;
+  std::optional<CaseStudyFixture> fixture_;
 };
 
 QTEST_MAIN(CaseStudyWindowTest)

@@ -15,24 +15,24 @@
 
 #include "base/Files.h"
 #include "shell/SessionLog.h"
-#include "windows/BoxWatch.h"
-#include "windows/ShellHome.h"
+#include "windows/MessageBoxSpy.h"
+#include "windows/ProgramFixture.h"
 #include "windows/style/Colours.h"
 #include "windows/style/OutlinedStyle.h"
 
 namespace qismora {
 
-using testing::BoxWatch;
-using testing::ShellHome;
+using testing::MessageBoxSpy;
+using testing::ProgramFixture;
 
 namespace {
 
-/// What a desktop sets; the rest, as the links, it leaves as it is.
+/// The colours that a desktop sets; others, such as links, keep their defaults.
 struct Theme {
   const char* Name;
   QRgb Window;
   QRgb Base;
-  QRgb Letters;
+  QRgb Text;
   QRgb Highlight;
   QRgb Highlighted;
 };
@@ -49,7 +49,7 @@ QPalette PaletteOf(const Theme& theme) {
   palette.setColor(QPalette::Base, theme.Base);
   for (const QPalette::ColorGroup group : {QPalette::Active, QPalette::Inactive}) {
     for (const auto role : {QPalette::WindowText, QPalette::Text, QPalette::ButtonText}) {
-      palette.setColor(group, role, theme.Letters);
+      palette.setColor(group, role, theme.Text);
     }
   }
   palette.setColor(QPalette::Link, Qt::blue);
@@ -58,25 +58,25 @@ QPalette PaletteOf(const Theme& theme) {
   return palette;
 }
 
-/// The colour that a widget writes with; none if it writes nothing.
-QColor InkOf(const QWidget* widget) {
-  const auto ink = [widget](const QString& words, QPalette::ColorRole role) {
+/// The colour of a widget's text; none without text.
+QColor TextColourOf(const QWidget* widget) {
+  const auto colour = [widget](const QString& words, QPalette::ColorRole role) {
     return words.isEmpty() ? QColor() : widget->palette().color(role);
   };
   if (const auto* label = qobject_cast<const QLabel*>(widget))
-    return ink(label->text(), label->foregroundRole());
+    return colour(label->text(), label->foregroundRole());
   if (const auto* group = qobject_cast<const QGroupBox*>(widget))
-    return ink(group->title(), QPalette::WindowText);
+    return colour(group->title(), QPalette::WindowText);
   if (const auto* button = qobject_cast<const QAbstractButton*>(widget)) {
-    return ink(button->text(), button->foregroundRole());
+    return colour(button->text(), button->foregroundRole());
   }
   const QString any = QStringLiteral("any");
   if (qobject_cast<const QComboBox*>(widget) || qobject_cast<const QMenuBar*>(widget)) {
-    return ink(any, QPalette::ButtonText);
+    return colour(any, QPalette::ButtonText);
   }
   const bool writes = qobject_cast<const QLineEdit*>(widget) || qobject_cast<const QPlainTextEdit*>(widget) ||
                       qobject_cast<const QTableWidget*>(widget);
-  return writes ? ink(any, QPalette::Text) : QColor();
+  return writes ? colour(any, QPalette::Text) : QColor();
 }
 
 QRect PlaceIn(const QImage& picture, const QWidget* widget) {
@@ -86,7 +86,7 @@ QRect PlaceIn(const QImage& picture, const QWidget* widget) {
 }
 
 /// The colour within a widget that there is most of; a gradient counts as one.
-QColor GroundOf(const QImage& picture, const QRect& place) {
+QColor BackgroundOf(const QImage& picture, const QRect& place) {
   constexpr QRgb alike = 0xFFF0F0F0;
   QHash<QRgb, int> counts;
   QRgb most = 0;
@@ -108,7 +108,7 @@ bool IsPlain(const QImage& picture) {
   return picture == plain;
 }
 
-/// How many points changed so much that nobody overlooks it.
+/// How many pixels changed so much that it cannot be overlooked.
 int PlainChanges(const QImage& one, const QImage& other) {
   int changes = 0;
   for (int y = 0; y < one.height(); ++y) {
@@ -128,22 +128,22 @@ class ComfortTest : public QObject {
  private slots:
   void init() {
     bright_ = QApplication::palette();
-    home_ = std::make_unique<ShellHome>();
-    windows_ = &home_->Start();
+    program_ = std::make_unique<ProgramFixture>();
+    windows_ = &program_->Start();
     menu_ = &windows_->MainMenu();
     InhMain& form = menu_->Form();
     form.ShowCaseStudy();
     study_ = windows_->Study();
   }
   void cleanup() {
-    home_.reset();
+    program_.reset();
     QApplication::setPalette(bright_);
     QCOMPARE(boxes_.Take(), QStringList());
   }
 
-  void lettersCanBeRead_data() { EachTheme(); }
-  // Also when the desktop changes its colours under the open windows.
-  void lettersCanBeRead() {
+  void textCanBeRead_data() { EachTheme(); }
+  // Also when the desktop changes its colours while the windows are open.
+  void textCanBeRead() {
     const QList<QWidget*> windows = OpenAll();
     Change();
     study_->Form().Frame5.Visible = false;
@@ -155,18 +155,18 @@ class ComfortTest : public QObject {
     analysis->popup(QPoint(0, 0));
     const QColor faint = analysis->palette().color(QPalette::Disabled, QPalette::Text);
     const QImage entries = analysis->grab().toImage();
-    QVERIFY(Contrast(faint, GroundOf(entries, entries.rect())) >= 4.5);
+    QVERIFY(Contrast(faint, BackgroundOf(entries, entries.rect())) >= 4.5);
     analysis->close();
     for (QWidget* window : windows) {
       const QImage picture = window->grab().toImage();
       for (const QWidget* widget : window->findChildren<QWidget*>()) {
-        const QColor ink = InkOf(widget);
-        if (!widget->isVisible() || widget->window() != window || !ink.isValid()) continue;
-        const QColor ground = GroundOf(picture, PlaceIn(picture, widget));
-        const QString told = QStringLiteral("%1 %2: %3 on %4")
-                                 .arg(QString::fromLatin1(widget->metaObject()->className()),
-                                      widget->objectName(), ink.name(), ground.name());
-        QVERIFY2(Contrast(ink, ground) >= 4.5, qPrintable(told));
+        const QColor text = TextColourOf(widget);
+        if (!widget->isVisible() || widget->window() != window || !text.isValid()) continue;
+        const QColor background = BackgroundOf(picture, PlaceIn(picture, widget));
+        const QString message = QStringLiteral("%1 %2: %3 on %4")
+                                    .arg(QString::fromLatin1(widget->metaObject()->className()),
+                                         widget->objectName(), text.name(), background.name());
+        QVERIFY2(Contrast(text, background) >= 4.5, qPrintable(message));
       }
     }
     const QColor red = Find(study_, "Text3")->palette().color(QPalette::Text);
@@ -179,7 +179,7 @@ class ComfortTest : public QObject {
   }
 
   void focusCanBeSeen_data() { EachTheme(); }
-  // Tab leads through all of a window and back to where it began, and each stop can be seen.
+  // Tab goes through a whole window and back to its start, and the focus can be seen at each stop.
   void focusCanBeSeen() {
     const QList<QWidget*> windows = OpenAll();
     Change();
@@ -205,7 +205,7 @@ class ComfortTest : public QObject {
     }
   }
 
-  // The ways that only keys have: into the bar, back although two entries share a letter, to the answer.
+  // What only keys do: enter the menu bar, go back although two entries share a mnemonic, go to the answer.
   void keysLeadEverywhere() {
     study_->activateWindow();
     QVERIFY(QTest::qWaitForWindowActive(study_));
@@ -314,7 +314,8 @@ class ComfortTest : public QObject {
   }
 
   QList<QWidget*> OpenAll() {
-    AppendLine(FromQt(home_->File(QStringLiteral("popuQism.ppl"))), SessionLine(Integer(1), {}, {}, Long(1)));
+    AppendLine(FromQt(program_->File(QStringLiteral("popuQism.ppl"))),
+               SessionLine(Integer(1), {}, {}, Long(1)));
     menu_->Form().ShowQurLaws();
     menu_->Form().ShowSession();
     menu_->Form().ShowCatalogue();
@@ -322,9 +323,9 @@ class ComfortTest : public QObject {
     return {menu_, study_, windows_->Laws(), windows_->Log(), windows_->Resources(), windows_->Catalogue()};
   }
 
-  BoxWatch boxes_;
+  MessageBoxSpy boxes_;
   QPalette bright_;
-  std::unique_ptr<ShellHome> home_;
+  std::unique_ptr<ProgramFixture> program_;
   ProgramWindows* windows_ = nullptr;
   InhMainWindow* menu_ = nullptr;
   CaseStudyWindow* study_ = nullptr;

@@ -5,14 +5,14 @@
 #include <QRadioButton>
 #include <QTest>
 
-#include "windows/BoxWatch.h"
-#include "windows/ShellHome.h"
+#include "windows/MessageBoxSpy.h"
+#include "windows/ProgramFixture.h"
 #include "windows/style/OutlinedStyle.h"
 
 namespace qismora {
 
-using testing::BoxWatch;
-using testing::ShellHome;
+using testing::MessageBoxSpy;
+using testing::ProgramFixture;
 using testing::Uses;
 
 class InstalledTest : public QObject {
@@ -35,7 +35,7 @@ class InstalledTest : public QObject {
   void cleanup() { QCOMPARE(boxes_.Take(), QStringList()); }
 
   void everyDocumentIsThere() {
-    ShellHome home(binaries_);
+    ProgramFixture home(binaries_);
     QWidget& menu = home.Start().MainMenu();
     for (const int entry : {1, 2, 4, 9, 10, 11, 12}) {
       menu.findChild<QRadioButton*>(QStringLiteral("Option1(%1)").arg(entry))->click();
@@ -48,7 +48,7 @@ class InstalledTest : public QObject {
   }
 
   void aReportGoesToTheUsersDocuments() {
-    ShellHome home(binaries_);
+    ProgramFixture home(binaries_);
     ProgramWindows& windows = home.Start();
     windows.MainMenu().findChild<QRadioButton*>(QStringLiteral("Option1(6)"))->click();
     QTRY_VERIFY(windows.Study() != nullptr);
@@ -65,7 +65,7 @@ class InstalledTest : public QObject {
   }
 
   // The installed program itself.
-  void theProgramPlaysItsFilmAndLogsItsSession() {
+  void theProgramPlaysItsVideoAndLogsItsSession() {
     QProcess program;
     program.start(binaries_ + QStringLiteral("/qismora"), {});
     QVERIFY(program.waitForStarted());
@@ -84,14 +84,14 @@ class InstalledTest : public QObject {
   QString binaries_;
   QString plugin_;
   QString share_;
-  BoxWatch boxes_;
+  MessageBoxSpy boxes_;
 };
 
 }  // namespace qismora
 
 int main(int argc, char** argv) {
   if (argc < 2) qFatal("usage: installed_test PREFIX");
-  // A user who has just arrived.
+  // A new user.
   const QTemporaryDir home;
   qputenv("HOME", home.path().toUtf8());
   for (const char* name : {"XDG_CONFIG_HOME", "XDG_DATA_HOME"}) qunsetenv(name);

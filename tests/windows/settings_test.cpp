@@ -1,5 +1,5 @@
-// The settings of the running program, which are files of the toolkit: two programs that share them, and hard
-// ends while they are written. It needs no window, but processes of their own.
+// The settings of the running program, which QSettings keeps in files: two programs that share them, and a
+// program that is killed while it writes. Needs no window, but processes.
 
 #include <gtest/gtest.h>
 #include <sched.h>
@@ -30,8 +30,8 @@ namespace fs = std::filesystem;
 using testing::Outcome;
 using testing::TemporaryFolder;
 
-/// A user's own folder for settings, in memory where the machine has such a folder: each setting is written
-/// through to the disk.
+/// A user's directory for settings, on a memory disk where there is one, since each setting is synchronized
+/// to the disk.
 struct SettingsFolder : TemporaryFolder {
   SettingsFolder() { QSettings::setPath(QSettings::NativeFormat, QSettings::UserScope, ToQt(Path())); }
 
@@ -69,8 +69,8 @@ class Turn {
   int ends_[2] = {};
 };
 
-// The toolkit knows a file that another program has changed by its size and its time. The clock of a file
-// system ticks every few milliseconds; no two users are as quick as that.
+// Qt recognizes a file that another program has changed by its size and time. The clock of a file system
+// ticks every few milliseconds.
 constexpr useconds_t tick = 20000;
 
 TEST(StoredSettings, TwoProgramsThatWriteInTurnLoseNothing) {
@@ -193,7 +193,7 @@ void AgeEmptyLocks(const TemporaryFolder& folder) {
   }
 }
 
-TEST(StoredSettings, AHardEndAtAnyMomentLeavesTheOldOrTheNewAndNobodyWaitsForIt) {
+TEST(StoredSettings, AKilledProgramLeavesTheOldOrTheNewAndNoOtherWaitsForIt) {
   std::set<std::string> states;
   int calls = 0;
   for (Outcome outcome = Outcome::Killed; outcome == Outcome::Killed; ++calls) {

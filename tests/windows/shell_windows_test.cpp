@@ -14,15 +14,15 @@
 
 #include "base/Files.h"
 #include "shell/SessionLog.h"
-#include "windows/BoxWatch.h"
-#include "windows/ShellHome.h"
+#include "windows/MessageBoxSpy.h"
+#include "windows/ProgramFixture.h"
 #include "windows/platform/RunningProgram.h"
 #include "windows/style/OutlinedStyle.h"
 
 namespace qismora {
 
-using testing::BoxWatch;
-using testing::ShellHome;
+using testing::MessageBoxSpy;
+using testing::ProgramFixture;
 using testing::Uses;
 
 namespace {
@@ -40,13 +40,13 @@ void DoubleClick(QWidget* widget) {
   QTest::mouseDClick(widget, Qt::LeftButton);
 }
 
-QString SpokenName(QWidget* widget) {
-  const QAccessibleInterface* spoken = QAccessible::queryAccessibleInterface(widget);
-  return spoken == nullptr ? QString() : spoken->text(QAccessible::Name);
+QString AccessibleName(QWidget* widget) {
+  const QAccessibleInterface* accessible = QAccessible::queryAccessibleInterface(widget);
+  return accessible == nullptr ? QString() : accessible->text(QAccessible::Name);
 }
 
 /// Whether a program has a handler for SIGTERM.
-bool ListensForTheEnd(qint64 process) {
+bool HandlesTermination(qint64 process) {
   QFile status(QStringLiteral("/proc/%1/status").arg(process));
   if (!status.open(QIODevice::ReadOnly)) return false;
   const QByteArray text = status.readAll();
@@ -61,15 +61,15 @@ class ShellWindowsTest : public QObject {
 
  private slots:
   void init() {
-    home_ = std::make_unique<ShellHome>();
-    windows_ = &home_->Start();
+    program_ = std::make_unique<ProgramFixture>();
+    windows_ = &program_->Start();
     menu_ = &windows_->MainMenu();
     QVERIFY(QTest::qWaitForWindowActive(menu_));
   }
   void cleanup() {
     boxes_.Watch();
     QCOMPARE(boxes_.Take(), QStringList());
-    home_.reset();
+    program_.reset();
   }
 
   void pagesOpenAndReturn_data() {
@@ -103,7 +103,7 @@ class ShellWindowsTest : public QObject {
       QVERIFY(QTest::qWaitForWindowActive(menu_));
       QVERIFY(!Option(entry)->isChecked());
     }
-    QCOMPARE(home_->Ended.Ends, 0);
+    QCOMPARE(program_->Ended.Ends, 0);
   }
 
   void anotherPageIsShownInTheOpenWindow() {
@@ -118,7 +118,7 @@ class ShellWindowsTest : public QObject {
   }
 
   void documentsAreHandedToTheViewer() {
-    home_->PutDocuments();
+    program_->PutDocuments();
     const std::pair<int, const char*> rows[] = {
         {1, "RULES OF DISTRIBUTION.pdf"}, {2, "Historical Background.pdf"}, {4, "Origin and Development.pdf"},
         {9, "Schools of Thoughts.pdf"},   {10, "References.pdf"},           {11, "RelationsEU.pdf"},
@@ -128,17 +128,17 @@ class ShellWindowsTest : public QObject {
       QTRY_COMPARE(boxes_.Count(), 1);
       QTRY_VERIFY(!Option(entry)->isChecked());
       QVERIFY(boxes_.Take().constFirst().endsWith(QStringLiteral("/documents/") + QString::fromLatin1(file)));
-      QCOMPARE(home_->Opened, QStringList{QString::fromLatin1(file)});
-      home_->Opened.clear();
+      QCOMPARE(program_->Opened, QStringList{QString::fromLatin1(file)});
+      program_->Opened.clear();
       QVERIFY(menu_->isVisible());
     }
   }
 
-  void aMissingDocumentIsTold() {
+  void aMissingDocumentIsReported() {
     Choose(11);
     QTRY_COMPARE(boxes_.Count(), 1);
     QVERIFY(boxes_.Take().constFirst().contains(QStringLiteral("is missing")));
-    QVERIFY(home_->Opened.isEmpty());
+    QVERIFY(program_->Opened.isEmpty());
     QTRY_VERIFY(menu_->cursor().shape() == Qt::ArrowCursor);
   }
 
@@ -162,7 +162,7 @@ class ShellWindowsTest : public QObject {
     study->close();
     QTRY_VERIFY(windows_->Study() == nullptr);
     QVERIFY(QTest::qWaitForWindowActive(menu_));
-    QCOMPARE(home_->Ended.Ends, 0);
+    QCOMPARE(program_->Ended.Ends, 0);
 
     Choose(6);
     QTRY_VERIFY(windows_->Study() != nullptr);
@@ -236,7 +236,7 @@ class ShellWindowsTest : public QObject {
       QTest::mouseClick(place, Qt::LeftButton);
       QCOMPARE(PictureShown(), next);
     }
-    windows_ = &home_->Start();
+    windows_ = &program_->Start();
     menu_ = &windows_->MainMenu();
     QCOMPARE(PictureShown(), 2);
     for (int i = 0; i < 6; ++i) {
@@ -247,7 +247,7 @@ class ShellWindowsTest : public QObject {
   void theLogIsShownNewestFirst() {
     for (int i = 1; i <= 3; ++i) {
       const DateTime start = {2024, 3, i, 8, 0, 0};
-      AppendLine(FromQt(home_->File(QStringLiteral("popuQism.ppl"))),
+      AppendLine(FromQt(program_->File(QStringLiteral("popuQism.ppl"))),
                  SessionLine(Integer(i), start, {2024, 3, i, 8, 0, 10 * i}, Long(10 * i)));
     }
     QTest::mouseClick(Find(menu_, "Label22"), Qt::LeftButton);
@@ -272,10 +272,10 @@ class ShellWindowsTest : public QObject {
     QVERIFY(selected->text().startsWith(QStringLiteral("3     03/03/2024 08:00:00")));
     log->close();
     QVERIFY(menu_->isVisible());
-    QCOMPARE(home_->Ended.Ends, 0);
+    QCOMPARE(program_->Ended.Ends, 0);
   }
 
-  void aMissingLogIsTold() {
+  void aMissingLogIsReported() {
     QTest::mouseClick(Find(menu_, "Label22"), Qt::LeftButton);
     QTRY_COMPARE(boxes_.Count(), 1);
     QCOMPARE(boxes_.Take(), QStringList{QStringLiteral("Error 53\nFile not found")});
@@ -285,8 +285,8 @@ class ShellWindowsTest : public QObject {
     QVERIFY(!boxes_.WasOnTop());
   }
 
-  // The case stays on top of all windows, but not of a box, wherever that comes from.
-  void noBoxIsCoveredByTheCase() {
+  // The case stays on top of all windows, but not of a message box, whichever window that belongs to.
+  void noMessageBoxIsCoveredByTheCase() {
     Choose(6);
     QTRY_VERIFY(windows_->Study() != nullptr);
     Choose(11);
@@ -296,7 +296,7 @@ class ShellWindowsTest : public QObject {
   }
 
   void theResourcesComeByADoubleClickAndGoBack() {
-    home_->PutDocuments();
+    program_->PutDocuments();
     DoubleClick(Find(menu_, "Frame2"));
     QTRY_VERIFY(windows_->Resources() != nullptr);
     QWidget* resources = windows_->Resources();
@@ -304,12 +304,12 @@ class ShellWindowsTest : public QObject {
     QTest::mouseClick(Find(resources, "Meeraas"), Qt::LeftButton);
     QTRY_COMPARE(boxes_.Count(), 1);
     boxes_.Take();
-    QCOMPARE(home_->Opened, QStringList{QStringLiteral("Historical Background.pdf")});
+    QCOMPARE(program_->Opened, QStringList{QStringLiteral("Historical Background.pdf")});
     QTest::mouseClick(Find(resources, "cmdLCM"), Qt::LeftButton);
     QCOMPARE(windows_->Record().LcmResult, Long(1));
     Find<QAction>(resources, "Back")->trigger();
     QVERIFY(menu_->isVisible() && !resources->isVisible());
-    QCOMPARE(home_->Ended.Ends, 0);
+    QCOMPARE(program_->Ended.Ends, 0);
   }
 
   void everyWayOutWritesOneLine_data() {
@@ -333,13 +333,13 @@ class ShellWindowsTest : public QObject {
     } else {
       raise(SIGTERM);
     }
-    QTRY_COMPARE(home_->Ended.Ends, 1);
+    QTRY_COMPARE(program_->Ended.Ends, 1);
     menu_->close();
     Find<QAction>(menu_, "Exitz")->trigger();
-    QCOMPARE(home_->Ended.Ends, 1);
-    QCOMPARE(home_->LogLines().size(), 1);
-    QCOMPARE(home_->Store().Read("Qismora", "Inheritance", "TimesExecuted"), std::string("9"));
-    QCOMPARE(Find<QAbstractButton>(&home_->Start().MainMenu(), "Label22")->text(), QStringLiteral("2"));
+    QCOMPARE(program_->Ended.Ends, 1);
+    QCOMPARE(program_->LogLines().size(), 1);
+    QCOMPARE(program_->Store().Read("Qismora", "Inheritance", "TimesExecuted"), std::string("9"));
+    QCOMPARE(Find<QAbstractButton>(&program_->Start().MainMenu(), "Label22")->text(), QStringLiteral("2"));
   }
 
   void anUnansweredQuestionIsNoConsent_data() {
@@ -351,7 +351,7 @@ class ShellWindowsTest : public QObject {
   // written.
   void anUnansweredQuestionIsNoConsent() {
     QFETCH(const bool, closed);
-    home_.reset();
+    program_.reset();
     boxes_.Leave();
     const QTemporaryDir folder;
     const QString before = QDir::currentPath();
@@ -381,49 +381,49 @@ class ShellWindowsTest : public QObject {
 
   // The program itself, told to end from outside as at the end of a desktop session.
   void theRunningProgramEndsInOrder() {
-    const QString program = home_->File(QStringLiteral("qismora"));
+    const QString program = program_->File(QStringLiteral("qismora"));
     QVERIFY(QFile::copy(QStringLiteral(QISMORA_PROGRAM), program));
     for (int run = 1; run <= 2; ++run) {
       QProcess process;
       process.start(program, {});
       QVERIFY(process.waitForStarted());
-      QTRY_VERIFY(ListensForTheEnd(process.processId()));
+      QTRY_VERIFY(HandlesTermination(process.processId()));
       process.terminate();
       QVERIFY(process.waitForFinished());
       QCOMPARE(process.exitStatus(), QProcess::NormalExit);
       QCOMPARE(process.exitCode(), 0);
-      QCOMPARE(home_->LogLines().size(), run);
+      QCOMPARE(program_->LogLines().size(), run);
     }
   }
 
-  // The films are there, and so is the library that plays them, but not the part of it that reads a film.
-  void withoutABackendForFilmsTheProgramRuns() {
-    const QString program = home_->File(QStringLiteral("qismora"));
+  // The videos and the plugin are there, but not the backend that reads videos.
+  void withoutAVideoBackendTheProgramRuns() {
+    const QString program = program_->File(QStringLiteral("qismora"));
     const QString folder = QFileInfo(QStringLiteral(QISMORA_PROGRAM)).path();
     if (!QFile::exists(folder + QStringLiteral("/qismora_video.so"))) QSKIP("built without Qt Multimedia");
     QVERIFY(QFile::copy(QStringLiteral(QISMORA_PROGRAM), program));
     QVERIFY(QFile::copy(folder + QStringLiteral("/qismora_video.so"),
-                        home_->File(QStringLiteral("qismora_video.so"))));
+                        program_->File(QStringLiteral("qismora_video.so"))));
     QVERIFY(QFile::copy(folder + QStringLiteral("/brindhaven1.avi"),
-                        home_->File(QStringLiteral("brindhaven1.avi"))));
-    home_->Put(home_->File(QStringLiteral("qt.conf")), "[Paths]\nPlugins=.\n");
+                        program_->File(QStringLiteral("brindhaven1.avi"))));
+    program_->Put(program_->File(QStringLiteral("qt.conf")), "[Paths]\nPlugins=.\n");
     QVERIFY(QFile::link(QLibraryInfo::path(QLibraryInfo::PluginsPath) + QStringLiteral("/platforms"),
-                        home_->File(QStringLiteral("platforms"))));
+                        program_->File(QStringLiteral("platforms"))));
     QProcess process;
     process.start(program, {});
     QVERIFY(process.waitForStarted());
-    QTRY_VERIFY_WITH_TIMEOUT(Uses(process.processId(), home_->File(QStringLiteral("qismora_video.so"))),
+    QTRY_VERIFY_WITH_TIMEOUT(Uses(process.processId(), program_->File(QStringLiteral("qismora_video.so"))),
                              10000);
     QVERIFY2(!process.waitForFinished(300), process.readAllStandardError().constData());
     process.terminate();
     QVERIFY(process.waitForFinished());
     QCOMPARE(process.exitCode(), 0);
-    QCOMPARE(home_->LogLines().size(), 1);
+    QCOMPARE(program_->LogLines().size(), 1);
   }
 
   // In a build the program's files lie beside it; installed, they lie under share, and the log of a user who
-  // cannot write there goes to the user's own data.
-  void foldersOfABuildAndOfAnInstalledProgram() {
+  // cannot write there goes to the user's data directory.
+  void directoriesOfABuildAndOfAnInstalledProgram() {
     const QTemporaryDir prefix;
     const QString bin = prefix.filePath(QStringLiteral("bin"));
     QDir(prefix.path()).mkpath(QStringLiteral("bin"));
@@ -485,27 +485,28 @@ class ShellWindowsTest : public QObject {
       QVERIFY(built.open(QIODevice::ReadOnly));
       QByteArray content = built.readAll();
       if (damaged == QLatin1String(name)) content.replace(content.size() / 2, 4096, QByteArray(4096, 'x'));
-      home_->Put(home_->File(QLatin1String(name)), content);
+      program_->Put(program_->File(QLatin1String(name)), content);
     }
-    menu_ = &home_->Start({home_->File({})}).MainMenu();
-    QVERIFY(!home_->Player().IsLoaded());
+    menu_ = &program_->Start({program_->File({})}).MainMenu();
+    QVERIFY(!program_->Player().IsLoaded());
     QVERIFY(QTest::qWaitForWindowActive(menu_));
     auto* panel = Find(menu_, "Frame5");
     const QImage blank = panel->grab().toImage();
     if (damaged == QLatin1String("none")) {
-      QTRY_VERIFY(home_->Player().IsLoaded());
+      QTRY_VERIFY(program_->Player().IsLoaded());
       QTRY_VERIFY(panel->grab().toImage() != blank);
       return;
     }
     QTest::qWait(200);
-    QVERIFY(!home_->Player().IsLoaded());
+    QVERIFY(!program_->Player().IsLoaded());
     QTest::mouseDClick(panel, Qt::LeftButton);
     QCOMPARE(panel->grab().toImage(), blank);
   }
 
-  // Whatever takes the focus has a name to be spoken, and no caption is cut.
+  // Whatever takes the focus has an accessible name, and no caption is cut.
   void everyControlIsNamedAndShownWhole() {
-    AppendLine(FromQt(home_->File(QStringLiteral("popuQism.ppl"))), SessionLine(Integer(1), {}, {}, Long(1)));
+    AppendLine(FromQt(program_->File(QStringLiteral("popuQism.ppl"))),
+               SessionLine(Integer(1), {}, {}, Long(1)));
     Choose(0);
     QTRY_VERIFY(windows_->Laws() != nullptr);
     QTest::mouseClick(Find(menu_, "Label22"), Qt::LeftButton);
@@ -518,7 +519,7 @@ class ShellWindowsTest : public QObject {
       for (QWidget* widget : window->findChildren<QWidget*>()) {
         if (!widget->isVisible()) continue;
         if ((widget->focusPolicy() & Qt::TabFocus) != 0) {
-          QVERIFY2(!SpokenName(widget).isEmpty(), qPrintable(widget->objectName()));
+          QVERIFY2(!AccessibleName(widget).isEmpty(), qPrintable(widget->objectName()));
         }
         const auto* label = qobject_cast<QLabel*>(widget);
         if (label == nullptr || label->wordWrap()) continue;
@@ -547,8 +548,8 @@ class ShellWindowsTest : public QObject {
     return shown;
   }
 
-  BoxWatch boxes_;
-  std::unique_ptr<ShellHome> home_;
+  MessageBoxSpy boxes_;
+  std::unique_ptr<ProgramFixture> program_;
   ProgramWindows* windows_ = nullptr;
   InhMainWindow* menu_ = nullptr;
 };

@@ -9,14 +9,14 @@
 #include <QStyle>
 #include <QTest>
 
-#include "windows/BoxWatch.h"
-#include "windows/ShellHome.h"
+#include "windows/MessageBoxSpy.h"
+#include "windows/ProgramFixture.h"
 #include "windows/style/OutlinedStyle.h"
 
 namespace qismora {
 
-using testing::BoxWatch;
-using testing::ShellHome;
+using testing::MessageBoxSpy;
+using testing::ProgramFixture;
 
 namespace {
 
@@ -46,13 +46,13 @@ class SmallScreenTest : public QObject {
     QApplication::setFont(font);
   }
   void init() {
-    home_ = std::make_unique<ShellHome>();
-    windows_ = &home_->Start();
+    program_ = std::make_unique<ProgramFixture>();
+    windows_ = &program_->Start();
     windows_->MainMenu().Form().ShowCaseStudy();
     windows_->MainMenu().Form().ShowQurLaws();
     windows_->ShowMainMenu();
   }
-  void cleanup() { home_.reset(); }
+  void cleanup() { program_.reset(); }
 
   void everythingCanBeReached_data() {
     QTest::addColumn<bool>("maximized");
@@ -119,8 +119,8 @@ class SmallScreenTest : public QObject {
   }
 
  private:
-  BoxWatch boxes_;
-  std::unique_ptr<ShellHome> home_;
+  MessageBoxSpy boxes_;
+  std::unique_ptr<ProgramFixture> program_;
   ProgramWindows* windows_ = nullptr;
 };
 

@@ -7,20 +7,20 @@
 
 namespace qismora::testing {
 
-/// Reads every message box that comes up and presses its first button. A test takes the texts that it
-/// expects; what is left at its end came unexpectedly.
-class BoxWatch : public QObject {
+/// Records the text of every message box and closes it. A test takes the texts that it expects; what is left
+/// at its end was unexpected.
+class MessageBoxSpy : public QObject {
  public:
-  BoxWatch() { startTimer(5); }
+  MessageBoxSpy() { startTimer(5); }
 
-  /// Leaves the boxes to the test.
+  /// Leaves the message boxes to the test.
   void Leave() { watches_ = false; }
   void Watch() { watches_ = true; }
 
-  /// The texts of the boxes so far.
+  /// The texts recorded so far.
   QStringList Take() { return std::exchange(texts_, {}); }
   int Count() const { return static_cast<int>(texts_.size()); }
-  /// The window that the last box belonged to, and whether that box stayed on top of all.
+  /// The window that the last message box belonged to, and whether that box stayed on top.
   QString Owner() const { return owner_; }
   bool WasOnTop() const { return onTop_; }
 
@@ -29,7 +29,7 @@ class BoxWatch : public QObject {
     QWidget* modal = QApplication::activeModalWidget();
     if (modal == nullptr || !watches_) return;
     auto* box = qobject_cast<QMessageBox*>(modal);
-    texts_.append(box != nullptr ? box->text() : QStringLiteral("a modal window that is no box"));
+    texts_.append(box != nullptr ? box->text() : QStringLiteral("a modal window that is not a message box"));
     owner_ = modal->parentWidget() == nullptr ? QString() : modal->parentWidget()->objectName();
     onTop_ = (modal->windowFlags() & Qt::WindowStaysOnTopHint) != 0;
     modal->close();

@@ -26,14 +26,14 @@ inline bool Uses(qint64 process, const QString& file) {
   return maps.open(QIODevice::ReadOnly) && maps.readAll().contains(file.toUtf8() + '\n');
 }
 
-/// The program with its real windows and ports, in a folder of its own or where it is installed. Only its end
-/// and the viewer of documents are caught.
-class ShellHome : public QObject {
+/// The program with its real windows and ports, in a temporary directory or where it is installed. Only its
+/// end and the document viewer are replaced.
+class ProgramFixture : public QObject {
   Q_OBJECT
 
  public:
-  ShellHome() : ShellHome(QString()) {}
-  explicit ShellHome(const QString& binaries)
+  ProgramFixture() : ProgramFixture(QString()) {}
+  explicit ProgramFixture(const QString& binaries)
       : folders_(binaries.isEmpty() ? folder_.filePath(QStringLiteral("bin")) : binaries), dialog_(folders_) {
     QDir(folder_.path()).mkpath(QStringLiteral("bin"));
     QDesktopServices::setUrlHandler(QStringLiteral("file"), this, "open");
@@ -42,7 +42,7 @@ class ShellHome : public QObject {
                     QString::fromUtf8(application) + QStringLiteral(".conf"));
     }
   }
-  ~ShellHome() override { QDesktopServices::unsetUrlHandler(QStringLiteral("file")); }
+  ~ProgramFixture() override { QDesktopServices::unsetUrlHandler(QStringLiteral("file")); }
 
   ProgramWindows& Start(const QStringList& pluginFolders = {}) {
     windows_.reset();

@@ -14,17 +14,17 @@
 
 namespace qismora::testing {
 
-/// A Case Study window on the offscreen desk of a user who has just arrived: empty settings, an empty
-/// folder, and somebody who answers the boxes that are expected and reports those that are not.
-class Desk {
+/// A Case Study window of a new user: empty settings and an empty directory. Expected message boxes are
+/// answered, unexpected ones reported.
+class CaseStudyFixture {
  public:
-  Desk();
-  ~Desk();
+  CaseStudyFixture();
+  ~CaseStudyFixture();
 
   CaseStudyWindow& Window() { return *window_; }
   CaseStudy& Form() { return window_->Form(); }
   bool IsOpen() const { return window_ != nullptr; }
-  /// Opens a window as the program does, the view taken from the settings.
+  /// Opens a window as the program does, with the view of the settings.
   void Open();
 
   template <class Widget = QWidget>
@@ -34,11 +34,11 @@ class Desk {
     return found;
   }
 
-  /// Clicks into the box and types, as a person does.
-  void Type(const char* box, const QString& text);
+  /// Clicks into the field and types.
+  void Type(const char* field, const QString& text);
   void Click(const char* name);
   void DoubleClick(const char* name);
-  /// A double click that takes its way through the window, down to what lies on top at that place.
+  /// A double click sent to the window, which passes it to the widget on top at that place.
   void DoubleClickAt(const char* name);
   /// Moves the mouse over the widget, or whatever lies on top of it; to its middle if no place is given.
   void MoveTo(const char* name, QPoint place = {});
@@ -46,11 +46,11 @@ class Desk {
   /// The text of a label or a button.
   QString TextOf(const char* name);
 
-  /// The next box says this; its button is clicked with the mouse.
+  /// The next message box contains these words; this button of it is clicked.
   void Expect(const QString& words, QMessageBox::StandardButton answer = QMessageBox::Ok);
-  /// Boxes are of no interest; each is closed.
+  /// Message boxes are closed unread.
   void IgnoreBoxes() { ignore_ = true; }
-  /// True when all expected boxes came and no others.
+  /// Whether all expected message boxes have come, and no others.
   bool AllAnswered() const { return expected_.empty() && surprises_ == 0; }
 
   CaseRecord Record;

@@ -1,4 +1,4 @@
-#include "Desk.h"
+#include "CaseStudyFixture.h"
 
 #include <QAbstractButton>
 #include <QApplication>
@@ -8,8 +8,8 @@
 
 namespace qismora::testing {
 
-Desk::Desk() : before_(QDir::currentPath()) {
-  // The toolkit asks but once where settings lie.
+CaseStudyFixture::CaseStudyFixture() : before_(QDir::currentPath()) {
+  // Qt looks up the directory of the settings once.
   static const QTemporaryDir settings;
   qputenv("XDG_CONFIG_HOME", settings.path().toLocal8Bit());
   QDir(settings.filePath(QStringLiteral("Qismora"))).removeRecursively();
@@ -21,20 +21,20 @@ Desk::Desk() : before_(QDir::currentPath()) {
   Open();
 }
 
-Desk::~Desk() {
+CaseStudyFixture::~CaseStudyFixture() {
   delete window_;
   QDir::setCurrent(before_);
 }
 
-void Desk::Open() {
+void CaseStudyFixture::Open() {
   delete window_;
   const Double view = ParsePrefix(Store.Read(ApplicationTitle, "LanguageSetting", "LblPressed"));
   window_ = new CaseStudyWindow(Record, outside_, static_cast<int>(view.Value()));
   window_->show();
-  if (!QTest::qWaitForWindowActive(window_)) qFatal("the window does not come up");
+  if (!QTest::qWaitForWindowActive(window_)) qFatal("the window does not become active");
 }
 
-void Desk::Answer(QMessageBox& box) {
+void CaseStudyFixture::Answer(QMessageBox& box) {
   QAbstractButton* button = box.buttons().constFirst();
   if (!ignore_) {
     const bool known = !expected_.empty() && box.text().contains(expected_.front().Words);
@@ -43,46 +43,46 @@ void Desk::Answer(QMessageBox& box) {
       expected_.pop_front();
     } else {
       ++surprises_;
-      qWarning("unexpected box: %s", qPrintable(box.text()));
+      qWarning("unexpected message box: %s", qPrintable(box.text()));
     }
   }
   QTest::mouseClick(button, Qt::LeftButton);
 }
 
-void Desk::Expect(const QString& words, QMessageBox::StandardButton answer) {
+void CaseStudyFixture::Expect(const QString& words, QMessageBox::StandardButton answer) {
   expected_.push_back({words, answer});
 }
 
-void Desk::Type(const char* box, const QString& text) {
+void CaseStudyFixture::Type(const char* field, const QString& text) {
   window_->activateWindow();
-  auto* widget = Find<QLineEdit>(box);
+  auto* widget = Find<QLineEdit>(field);
   QTest::mouseClick(widget, Qt::LeftButton);
   QTest::keyClick(widget, Qt::Key_A, Qt::ControlModifier);
   QTest::keyClicks(widget, text);
 }
 
-void Desk::Click(const char* name) { QTest::mouseClick(Find(name), Qt::LeftButton); }
+void CaseStudyFixture::Click(const char* name) { QTest::mouseClick(Find(name), Qt::LeftButton); }
 
-void Desk::DoubleClick(const char* name) { QTest::mouseDClick(Find(name), Qt::LeftButton); }
+void CaseStudyFixture::DoubleClick(const char* name) { QTest::mouseDClick(Find(name), Qt::LeftButton); }
 
-void Desk::DoubleClickAt(const char* name) {
+void CaseStudyFixture::DoubleClickAt(const char* name) {
   QWidget* widget = Find(name);
   const QPoint place = widget->mapTo(window_.data(), widget->rect().center());
   QTest::mouseDClick(window_->windowHandle(), Qt::LeftButton, {}, place);
 }
 
-void Desk::MoveTo(const char* name, QPoint place) {
+void CaseStudyFixture::MoveTo(const char* name, QPoint place) {
   QWidget* widget = Find(name);
   if (place.isNull()) place = widget->rect().center();
   QTest::mouseMove(window_->windowHandle(), widget->mapTo(window_.data(), place));
 }
 
-void Desk::Key(const char* name, Qt::Key key) {
+void CaseStudyFixture::Key(const char* name, Qt::Key key) {
   window_->activateWindow();
   Find(name)->setFocus(Qt::TabFocusReason);
   QTest::keyClick(Find(name), key);
 }
 
-QString Desk::TextOf(const char* name) { return Find(name)->property("text").toString(); }
+QString CaseStudyFixture::TextOf(const char* name) { return Find(name)->property("text").toString(); }
 
 }  // namespace qismora::testing
