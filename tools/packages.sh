@@ -6,8 +6,7 @@ packages_to_run=(
   cmake              # build
   ninja-build        # build
   qt6-base-dev       # windows, with the plugins for X11 and for no display
-  qt6-svg-dev        # pictures
-  libqt6svg6         # pictures, the plugin that reads them
+  libqt6svg6         # pictures: the plugin that reads them
   qt6-multimedia-dev # the player of the two videos
   qt6-wayland        # windows on a Wayland desktop
   fonts-dejavu-core  # letters, where no other font is installed

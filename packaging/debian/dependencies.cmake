@@ -13,7 +13,8 @@ file(REMOVE_RECURSE ${folder})
 if(NOT found MATCHES "shlibs:Depends=([^\n]*)")
   message(FATAL_ERROR "dpkg-shlibdeps names no package that the program depends on.\n${told}")
 endif()
-set(CPACK_DEBIAN_PACKAGE_DEPENDS ${CMAKE_MATCH_1})
+# No library names the plugin that reads the pictures.
+set(CPACK_DEBIAN_PACKAGE_DEPENDS "${CMAKE_MATCH_1}, libqt6svg6")
 
 # What no library tells: windows on Wayland, the way to a viewer, and a viewer of the documents.
 set(CPACK_DEBIAN_PACKAGE_RECOMMENDS "qt6-wayland, xdg-utils, evince | pdf-viewer")

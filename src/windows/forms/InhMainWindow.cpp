@@ -127,7 +127,6 @@ QWidget* InhMainWindow::Head() {
   heading->setObjectName(QStringLiteral("Label1"));
   heading->setFont(HeadingFont(font(), headingSize));
   heading->setAlignment(Qt::AlignCenter);
-  heading->setWordWrap(true);
   Binder::Caption(form_.Label1, heading);
   row->addWidget(place);
   row->addWidget(heading, 1);

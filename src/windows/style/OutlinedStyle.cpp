@@ -129,7 +129,6 @@ void OutlinedStyle::drawPrimitive(PrimitiveElement element, const QStyleOption* 
                    option->rect.adjusted(0, title + titleMargin, 0, 0));
   }
   QProxyStyle::drawPrimitive(element, option, painter, widget);
-  const QColor outline = Line(palette, frameStrength);
   const bool radio = element == PE_IndicatorRadioButton;
   const qreal round = radio ? option->rect.width() / 2.0 : roundness;
   switch (element) {
@@ -142,7 +141,8 @@ void OutlinedStyle::drawPrimitive(PrimitiveElement element, const QStyleOption* 
       [[fallthrough]];
     case PE_PanelMenu:
       if (HasFocus(*option) || NeedsOutlines(palette)) {
-        DrawBox(painter, HasFocus(*option) ? FocusColour(palette) : outline, option->rect);
+        DrawBox(painter, HasFocus(*option) ? FocusColour(palette) : Line(palette, frameStrength),
+                option->rect);
       }
       return;
     case PE_IndicatorRadioButton:
@@ -153,7 +153,7 @@ void OutlinedStyle::drawPrimitive(PrimitiveElement element, const QStyleOption* 
         DrawOutline(painter, FocusColour(palette), option->rect, round);
         DrawOutline(painter, FocusColour(palette), option->rect.marginsRemoved(oneLine), round);
       } else if (NeedsOutlines(palette)) {
-        DrawOutline(painter, outline, option->rect, round);
+        DrawOutline(painter, Line(palette, frameStrength), option->rect, round);
       }
       return;
     default:

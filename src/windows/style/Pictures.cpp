@@ -1,9 +1,9 @@
 #include "windows/style/Pictures.h"
 
+#include <QImageReader>
 #include <QPainter>
 #include <QStyle>
 #include <QStyleOptionButton>
-#include <QSvgRenderer>
 #include <utility>
 
 namespace qismora {
@@ -14,24 +14,30 @@ constexpr QSize smallIcon{20, 20};
 constexpr int iconSizes[] = {16, 24, 32, 48, 64, 128};
 constexpr int firstFullIcon = 48;
 
+// Qt's image plugin reads the drawings. It is loaded with the first of them, after the first window is shown.
+QPixmap Read(const QString& file, const QSize& place, qreal scale) {
+  QImageReader reader(file);
+  const QSize size = reader.size().scaled(place, Qt::KeepAspectRatio);
+  reader.setScaledSize((QSizeF(size) * scale).toSize().expandedTo(QSize(1, 1)));
+  QPixmap pixmap = QPixmap::fromImageReader(&reader);
+  pixmap.setDevicePixelRatio(scale);
+  return pixmap;
+}
+
+QString FileOf(const QString& name) { return QStringLiteral(":/pictures/%1.svg").arg(name); }
+
 }  // namespace
 
 QIcon ProgramIcon() {
-  QSvgRenderer full(QStringLiteral(":/pictures/icon.svg"));
-  QSvgRenderer plain(QStringLiteral(":/pictures/icon-small.svg"));
+  const QString full = FileOf(QStringLiteral("icon"));
+  const QString plain = FileOf(QStringLiteral("icon-small"));
   QIcon icon;
-  for (const int size : iconSizes) {
-    QPixmap pixmap(size, size);
-    pixmap.fill(Qt::transparent);
-    QPainter painter(&pixmap);
-    (size < firstFullIcon ? plain : full).render(&painter);
-    icon.addPixmap(pixmap);
-  }
+  for (const int size : iconSizes) icon.addPixmap(Read(size < firstFullIcon ? plain : full, {size, size}, 1));
   return icon;
 }
 
 void Drawing::Show(const QString& name) {
-  file_ = QStringLiteral(":/pictures/%1.svg").arg(name);
+  file_ = FileOf(name);
   pixmap_ = {};
 }
 
@@ -44,17 +50,11 @@ QPixmap Drawing::For(QWidget* widget, const QSize& place, const QColor& colour) 
   const qreal scale = widget->devicePixelRatioF();
   const bool kept = !pixmap_.isNull() && place_ == place && colour_ == colour;
   if (kept && pixmap_.devicePixelRatioF() == scale) return pixmap_;
-  QSvgRenderer renderer(file_);
-  const QSize size = renderer.defaultSize().scaled(place, Qt::KeepAspectRatio);
-  pixmap_ = QPixmap((QSizeF(size) * scale).toSize().expandedTo(QSize(1, 1)));
-  pixmap_.setDevicePixelRatio(scale);
-  pixmap_.fill(Qt::transparent);
-  QPainter painter(&pixmap_);
-  const QRectF all(QPointF(0, 0), QSizeF(size));
-  renderer.render(&painter, all);
-  if (colour.isValid()) {
+  pixmap_ = Read(file_, place, scale);
+  if (colour.isValid() && !pixmap_.isNull()) {
+    QPainter painter(&pixmap_);
     painter.setCompositionMode(QPainter::CompositionMode_SourceIn);
-    painter.fillRect(all, colour);
+    painter.fillRect(pixmap_.rect(), colour);
   }
   place_ = place;
   colour_ = colour;
