@@ -10,6 +10,7 @@
 #include "residue/ClassII.h"
 #include "residue/Residuaries.h"
 #include "rules/Rules.h"
+#include "screens/Captions.h"
 #include "screens/Event.h"
 #include "screens/Misreading.h"
 #include "shell/AppSettings.h"
@@ -17,43 +18,6 @@
 namespace qismora {
 
 namespace {
-
-struct Caption {
-  int Index;
-  const char* Words;
-};
-
-constexpr Caption captions[] = {
-    {0, "CASE WHEN DECEASED IS A"},
-    {1, "Wives"},
-    {2, "Sons"},
-    {3, "Daughters"},
-    {4, "Grand Sons"},
-    {5, "Grand Daughters"},
-    {6, "Great grand Sons"},
-    {7, "Gt. gnd. Daughter"},
-    {13, "Father"},
-    {14, "Grand Father"},
-    {15, "Great grand Father"},
-    {16, "Mother"},
-    {17, "Mother's Mother"},
-    {18, "Gr. Mot's Mother"},
-    {19, "Father's Mother"},
-    {20, "Gd. Fath's Mother"},
-    {21, "Father's G.Moth."},
-    {22, "Brothers (Full)"},
-    {23, "Sisters (Full)"},
-    {24, "Deceased"},
-    {25, "Gross Estate"},
-    {26, "Funeral exp."},
-    {27, "Debts"},
-    {28, "Will(s)"},
-    {29, "Net Estate"},
-    {30, "Consanguine Sister"},
-    {31, "Consang. Brother"},
-    {32, "Uterine Sisters"},
-    {33, "Uterine Brothers"},
-};
 
 constexpr Caption firstTexts[] = {
     {NameBox, "ABDULLAH"}, {GrossEstateBox, "18600"}, {FuneralBox, "1000"},
@@ -116,7 +80,7 @@ CaseStudy::CaseStudy(CaseRecord& record, Outside& outside, int savedLanguage)
     : CaseScreen(outside), record_(record) {
   static_cast<ScreenLayer&>(record) = ScreenLayer{};
 
-  for (const Caption& caption : captions) Label1(caption.Index).Caption = caption.Words;
+  for (const Caption& caption : Captions()) Label1(caption.Index).Caption = caption.Words;
   for (const int box : HeirBoxes) Text1(box).Text = "0";
   for (const Caption& text : firstTexts) Text1(text.Index).Text = text.Words;
   for (int i = 0; i < Check1.Size; ++i) Check1(i).Caption = ClassIIRows[static_cast<std::size_t>(i)].Caption;
@@ -160,7 +124,7 @@ void CaseStudy::Comb1_Data() {
 void CaseStudy::Combo1_Click() {
   const bool male = Combo1.ListIndex == Male;
   Frame1.Caption = Join("Informations of the deceased ", Combo1.Text());
-  Label1(1).Caption = male ? "Wives" : "Husband";
+  Label1(1).Caption = CaptionOf(1, !male);
   (male ? record_.Husband : record_.Wives) = Integer(0);
   if (Label4(2).BorderStyle == 1) {
     ShowArabicCaptions();
