@@ -1,0 +1,172 @@
+#include "screens/CaseTexts.h"
+
+#include <algorithm>
+
+#include "base/Text.h"
+#include "residue/ClassII.h"
+#include "screens/Captions.h"
+
+namespace qismora {
+
+namespace {
+
+using Kind = enum Entry::Kind;
+
+constexpr int spouseField = 1;
+
+std::size_t Index(int index) { return static_cast<std::size_t>(index); }
+
+/// The caption in the form in which captions are compared.
+std::string Comparable(std::string_view caption) {
+  constexpr std::string_view roundApostrophe = "’";
+  std::string plain;
+  for (std::size_t i = 0; i < caption.size(); ++i) {
+    const char c = caption[i];
+    if (caption.substr(i).starts_with(roundApostrophe)) {
+      plain += '\'';
+      i += roundApostrophe.size() - 1;
+    } else if (c >= 'A' && c <= 'Z') {
+      plain += static_cast<char>(c - 'A' + 'a');
+    } else if (c != ' ' || (!plain.empty() && plain.back() != ' ')) {
+      plain += c;
+    }
+  }
+  if (plain.ends_with(' ')) plain.pop_back();
+  return plain;
+}
+
+/// Whether the text counts nobody: blanks, zeros, or nothing at all.
+bool CountsNobody(std::string_view text) { return text.find_first_not_of(" 0") == std::string_view::npos; }
+
+struct FaultRow {
+  CaseFault Fault;
+  const char* Before;
+  const char* Behind;
+};
+
+// What is quoted stands between the two.
+constexpr FaultRow faultRows[] = {
+    {CaseFault::NotUtf8, "The text is not UTF-8.", nullptr},
+    {CaseFault::ControlCharacter, "There is a control character in the line.", nullptr},
+    {CaseFault::NoEqualsSign, "There is no equals sign in ", "."},
+    {CaseFault::UnknownCaption, "", " is not a caption of the Case Study screen."},
+    {CaseFault::NamedTwice, "", " is given twice."},
+    {CaseFault::WrongQuotation, "", " is not quoted correctly."},
+    {CaseFault::NotAVersion, "", " is not a version of case files."},
+    {CaseFault::LineTooLong, "The line is too long.", nullptr},
+    {CaseFault::FileTooLarge, "The file is too large for a case.", nullptr},
+    {CaseFault::NotTicked, "", " takes the word ticked, or 0."},
+    {CaseFault::NotYesOrNo, "", " takes yes or no."},
+    {CaseFault::WivesAndHusband, "Both Wives and Husband are given.", nullptr},
+    {CaseFault::WivesOfAWoman, "Wives are given, but the deceased is female.", nullptr},
+    {CaseFault::HusbandOfAMan, "A husband is given, but the deceased is male.", nullptr},
+};
+
+}  // namespace
+
+CaseTexts::CaseTexts() {
+  Fields.fill("0");
+  Fields[Index(NameBox)].clear();
+}
+
+CaseTexts ReadScreen(const CaseScreen& screen, bool heirsConsent) {
+  CaseTexts texts;
+  for (const Caption& caption : Captions()) {
+    if (caption.Index == 0 || caption.Index == NetEstateBox) continue;
+    texts.Fields[Index(caption.Index)] = screen.Text1(caption.Index).Text;
+  }
+  for (int i = 0; i < screen.Check1.Size; ++i) texts.ClassII[Index(i)] = screen.Check1(i).Value != 0;
+  texts.Gender = screen.Combo1.ListIndex == Female ? Female : Male;
+  texts.HeirsConsent = heirsConsent;
+  return texts;
+}
+
+void TypeIntoScreen(const CaseTexts& texts, CaseScreen& screen) {
+  screen.Combo1.ListIndex = texts.Gender;
+  for (const Caption& caption : Captions()) {
+    if (caption.Index == 0 || caption.Index == NetEstateBox) continue;
+    screen.Text1(caption.Index).Text = texts.Fields[Index(caption.Index)];
+  }
+  for (int i = 0; i < screen.Check1.Size; ++i) screen.Check1(i).Value = texts.ClassII[Index(i)] ? 1 : 0;
+}
+
+std::optional<Entry> FindEntry(std::string_view caption) {
+  const std::string wanted = Comparable(caption);
+  const auto is = [&](std::string_view words) { return wanted == Comparable(words); };
+  if (is("Name")) return Entry{Kind::Name};
+  if (is("Deceased")) return Entry{Kind::Deceased};
+  if (is("Heirs consent")) return Entry{Kind::HeirsConsent};
+  if (is(HusbandCaption)) return Entry{Kind::Husband};
+  for (const Caption& row : Captions()) {
+    if (row.Index != 0 && row.Index != NetEstateBox && is(row.Words)) return Entry{Kind::Field, row.Index};
+  }
+  for (int i = 0; i < static_cast<int>(ClassIIRows.size()); ++i) {
+    if (is(ClassIIRows[Index(i)].Caption)) return Entry{Kind::ClassII, i};
+  }
+  return std::nullopt;
+}
+
+std::string English(CaseFault fault, std::string_view what) {
+  const FaultRow& row = *std::ranges::find(faultRows, fault, &FaultRow::Fault);
+  if (row.Behind == nullptr) return row.Before;
+  return Join(row.Before, "\"", what, "\"", row.Behind);
+}
+
+std::optional<int> GenderOf(std::string_view value) {
+  const std::string word = Comparable(value);
+  if (word == "male") return Male;
+  if (word == "female") return Female;
+  return std::nullopt;
+}
+
+std::optional<CaseFault> CaseEntries::Set(Entry entry, std::string_view value) {
+  switch (entry.Kind) {
+    case Kind::Field:
+      (entry.Index == spouseField ? wives_ : texts_.Fields[Index(entry.Index)]) = value;
+      break;
+    case Kind::Husband:
+      husband_ = value;
+      break;
+    case Kind::ClassII: {
+      const bool ticked = value == "1" || Comparable(value) == "ticked";
+      if (!ticked && value != "0" && !value.empty()) return CaseFault::NotTicked;
+      texts_.ClassII[Index(entry.Index)] = ticked;
+      break;
+    }
+    case Kind::Name:
+      texts_.Fields[Index(NameBox)] = value;
+      break;
+    case Kind::Deceased:
+      if (const std::optional<int> gender = GenderOf(value)) {
+        gender_ = gender;
+      } else {
+        texts_.Fields[Index(NameBox)] = value;
+      }
+      break;
+    case Kind::HeirsConsent: {
+      const std::string word = Comparable(value);
+      if (word != "yes" && word != "no") return CaseFault::NotYesOrNo;
+      texts_.HeirsConsent = word == "yes";
+      break;
+    }
+  }
+  return std::nullopt;
+}
+
+std::optional<CaseFault> CaseEntries::Settle() {
+  const bool wives = !CountsNobody(wives_);
+  const bool husband = !CountsNobody(husband_);
+  if (wives && husband) return CaseFault::WivesAndHusband;
+  if (wives && gender_ == Female) return CaseFault::WivesOfAWoman;
+  if (husband && gender_ == Male) return CaseFault::HusbandOfAMan;
+  texts_.Gender = gender_.value_or(husband ? Female : Male);
+  texts_.Fields[Index(spouseField)] = texts_.Gender == Female ? husband_ : wives_;
+  return std::nullopt;
+}
+
+void CaseEntries::Clear() {
+  static const CaseEntries nothing;
+  *this = nothing;
+}
+
+}  // namespace qismora

@@ -1,0 +1,92 @@
+#pragma once
+
+#include <array>
+#include <optional>
+#include <string>
+#include <string_view>
+
+#include "case/CaseScreen.h"
+
+namespace qismora {
+
+/// What is typed into the Case Study screen for one case, as the text that stands in each field. The net
+/// estate is derived and no part of it.
+struct CaseTexts {
+  CaseTexts();
+
+  /// By the index on the screen. The name is at NameBox; the others are "0" unless typed.
+  std::array<std::string, 34> Fields;
+  std::array<bool, 12> ClassII{};
+  int Gender = Male;
+  bool HeirsConsent = false;
+
+  bool operator==(const CaseTexts&) const = default;
+};
+
+/// What the fields of the screen hold. The consent of the heirs is not part of the screen.
+CaseTexts ReadScreen(const CaseScreen& screen, bool heirsConsent);
+
+/// Types the case into the screen, the gender first. Nothing is run.
+void TypeIntoScreen(const CaseTexts& texts, CaseScreen& screen);
+
+/// What a caption names: the caption stands before the equals sign of a case file, or heads a column of a
+/// table.
+struct Entry {
+  enum class Kind { Field, Husband, ClassII, Name, Deceased, HeirsConsent };
+  Kind Kind = Kind::Field;
+  /// Of Field: its index on the screen. Of ClassII: its place in the order of succession.
+  int Index = 0;
+
+  bool operator==(const Entry&) const = default;
+};
+
+/// The entry of a caption. Capitals, doubled blanks and the shape of an apostrophe do not matter.
+std::optional<Entry> FindEntry(std::string_view caption);
+
+/// What can be wrong with a case that comes as text, whatever its fields hold.
+enum class CaseFault {
+  NotUtf8,
+  ControlCharacter,
+  NoEqualsSign,
+  UnknownCaption,
+  NamedTwice,
+  WrongQuotation,
+  NotAVersion,
+  LineTooLong,
+  FileTooLarge,
+  NotTicked,
+  NotYesOrNo,
+  WivesAndHusband,
+  WivesOfAWoman,
+  HusbandOfAMan,
+};
+
+/// The fault as an English sentence; where it concerns a caption or a line, that is quoted.
+std::string English(CaseFault fault, std::string_view what);
+
+/// The gender that "Deceased" gives; nothing where its value is a name.
+std::optional<int> GenderOf(std::string_view value);
+
+/// Puts a case together from its entries, which may come in any order.
+class CaseEntries {
+ public:
+  /// "Deceased" takes Male or Female as the gender, anything else as the name; class II takes ticked or 1,
+  /// and 0 or nothing; the consent of the heirs takes yes or no.
+  std::optional<CaseFault> Set(Entry entry, std::string_view value);
+
+  /// The case, once all entries are set: the one field of wives and husband is that of the spouse who is
+  /// named. Without a word on the gender a husband has survived a woman, else the deceased is a man.
+  std::optional<CaseFault> Settle();
+  const CaseTexts& Texts() const { return texts_; }
+
+  /// As if nothing had been set; the memory is kept.
+  void Clear();
+
+ private:
+  CaseTexts texts_;
+  std::string wives_ = "0";
+  std::string husband_ = "0";
+  std::optional<int> gender_;
+};
+
+}  // namespace qismora
