@@ -80,9 +80,9 @@ CaseStudy::CaseStudy(CaseRecord& record, Outside& outside, int savedLanguage)
     : CaseScreen(outside), record_(record) {
   static_cast<ScreenLayer&>(record) = ScreenLayer{};
 
-  for (const Caption& caption : Captions()) Label1(caption.Index).Caption = caption.Words;
+  for (const Caption& caption : Captions()) Label1(caption.Index).Caption = std::string(caption.Words);
   for (const int box : HeirBoxes) Text1(box).Text = "0";
-  for (const Caption& text : firstTexts) Text1(text.Index).Text = text.Words;
+  for (const Caption& text : firstTexts) Text1(text.Index).Text = std::string(text.Words);
   for (int i = 0; i < Check1.Size; ++i) Check1(i).Caption = ClassIIRows[static_cast<std::size_t>(i)].Caption;
   for (int i = 0; i < Label4.Size; ++i) Label4(i).Caption = viewCaptions[i];
   for (int i = 0; i < Text1.Size; ++i) {
@@ -124,7 +124,7 @@ void CaseStudy::Comb1_Data() {
 void CaseStudy::Combo1_Click() {
   const bool male = Combo1.ListIndex == Male;
   Frame1.Caption = Join("Informations of the deceased ", Combo1.Text());
-  Label1(1).Caption = CaptionOf(1, !male);
+  Label1(1).Caption = std::string(CaptionOf(1, !male));
   (male ? record_.Husband : record_.Wives) = Integer(0);
   if (Label4(2).BorderStyle == 1) {
     ShowArabicCaptions();

@@ -5,6 +5,7 @@
 #include "base/Text.h"
 #include "residue/ClassII.h"
 #include "screens/Captions.h"
+#include "screens/HeirFields.h"
 
 namespace qismora {
 
@@ -75,7 +76,7 @@ CaseTexts ReadScreen(const CaseScreen& screen, bool heirsConsent) {
     if (caption.Index == 0 || caption.Index == NetEstateBox) continue;
     texts.Fields[Index(caption.Index)] = screen.Text1(caption.Index).Text;
   }
-  for (int i = 0; i < screen.Check1.Size; ++i) texts.ClassII[Index(i)] = screen.Check1(i).Value != 0;
+  for (int i = 0; i < screen.Check1.Size; ++i) texts.ClassII[Index(i)] = screen.Check1(i).Value == 1;
   texts.Gender = screen.Combo1.ListIndex == Female ? Female : Male;
   texts.HeirsConsent = heirsConsent;
   return texts;
@@ -96,7 +97,7 @@ std::optional<Entry> FindEntry(std::string_view caption) {
   if (is("Name")) return Entry{Kind::Name};
   if (is("Deceased")) return Entry{Kind::Deceased};
   if (is("Heirs consent")) return Entry{Kind::HeirsConsent};
-  if (is(HusbandCaption)) return Entry{Kind::Husband};
+  if (is(CaptionOf(faraid::Kind::Husband))) return Entry{Kind::Husband};
   for (const Caption& row : Captions()) {
     if (row.Index != 0 && row.Index != NetEstateBox && is(row.Words)) return Entry{Kind::Field, row.Index};
   }

@@ -4,6 +4,7 @@
 
 #include "base/Text.h"
 #include "residue/ClassII.h"
+#include "screens/Captions.h"
 #include "screens/HeirFields.h"
 
 namespace qismora {
@@ -68,26 +69,28 @@ constexpr const char* faultWords[] = {
 /// Reads the fields one after the other and notes those that cannot be read.
 class Fields {
  public:
-  explicit Fields(const CaseScreen& screen) : screen_(screen) {}
+  explicit Fields(const CaseTexts& texts) : texts_(texts) {}
 
   int Heads(std::string_view caption, int index, int most) {
-    return static_cast<int>(Noted(caption, index, ReadHeads(screen_.Text1(index).Text.Get(), most), most));
+    return static_cast<int>(Noted(caption, index, ReadHeads(Text(index), most), most));
   }
-  faraid::Hundredths Amount(std::string_view caption, int index) {
-    return Noted(caption, index, ReadAmount(screen_.Text1(index).Text.Get()), 0);
+  faraid::Hundredths Amount(int index) {
+    return Noted(CaptionOf(index, false), index, ReadAmount(Text(index)), 0);
   }
 
   std::vector<UnreadableField> Unreadable;
 
  private:
+  const std::string& Text(int index) const { return texts_.Fields[static_cast<std::size_t>(index)]; }
+
   std::int64_t Noted(std::string_view caption, int index, const FieldReading& reading, int most) {
     if (reading.Fault != FieldFault::None) {
-      Unreadable.push_back({std::string(caption), screen_.Text1(index).Text, reading.Fault, most});
+      Unreadable.push_back({std::string(caption), Text(index), reading.Fault, most});
     }
     return reading.Value;
   }
 
-  const CaseScreen& screen_;
+  const CaseTexts& texts_;
 };
 
 }  // namespace
@@ -127,25 +130,28 @@ std::string English(const UnreadableField& field) {
   return words;
 }
 
-DivisionInput ReadDivisionInput(const CaseScreen& screen, bool heirsConsent) {
-  const faraid::Kind otherSpouse =
-      screen.Combo1.ListIndex == Female ? faraid::Kind::Wives : faraid::Kind::Husband;
+DivisionInput ReadDivisionInput(const CaseTexts& texts) {
+  const faraid::Kind otherSpouse = texts.Gender == Female ? faraid::Kind::Wives : faraid::Kind::Husband;
   DivisionInput input;
-  Fields fields(screen);
+  Fields fields(texts);
   for (const HeirField& field : HeirFields) {
     if (field.Heir == otherSpouse) continue;
     input.Family[field.Heir] = fields.Heads(field.Caption, field.Index, faraid::MostOf(field.Heir));
   }
-  for (int i = 0; i < screen.Check1.Size; ++i) {
-    input.Family[ClassIIKind(i)] = screen.Check1(i).Value == 1 ? 1 : 0;
+  for (std::size_t i = 0; i < texts.ClassII.size(); ++i) {
+    input.Family[ClassIIKind(static_cast<int>(i))] = texts.ClassII[i] ? 1 : 0;
   }
-  input.Estate.Gross = fields.Amount("Gross Estate", GrossEstateBox);
-  input.Estate.Funeral = fields.Amount("Funeral exp.", FuneralBox);
-  input.Estate.Debts = fields.Amount("Debts", DebtsBox);
-  input.Estate.Bequests = fields.Amount("Will(s)", WillsBox);
-  input.Estate.HeirsConsent = heirsConsent;
+  input.Estate.Gross = fields.Amount(GrossEstateBox);
+  input.Estate.Funeral = fields.Amount(FuneralBox);
+  input.Estate.Debts = fields.Amount(DebtsBox);
+  input.Estate.Bequests = fields.Amount(WillsBox);
+  input.Estate.HeirsConsent = texts.HeirsConsent;
   input.Unreadable = std::move(fields.Unreadable);
   return input;
+}
+
+DivisionInput ReadDivisionInput(const CaseScreen& screen, bool heirsConsent) {
+  return ReadDivisionInput(ReadScreen(screen, heirsConsent));
 }
 
 }  // namespace qismora

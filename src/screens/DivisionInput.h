@@ -4,9 +4,9 @@
 #include <string_view>
 #include <vector>
 
-#include "case/CaseScreen.h"
 #include "faraid/Estate.h"
 #include "faraid/Family.h"
+#include "screens/CaseTexts.h"
 
 namespace qismora {
 
@@ -44,6 +44,9 @@ struct DivisionInput {
   faraid::Estate Estate;
   std::vector<UnreadableField> Unreadable;
 };
+
+/// Reads the texts of a case.
+DivisionInput ReadDivisionInput(const CaseTexts& texts);
 
 /// Reads the fields of the Case Study screen and changes nothing.
 DivisionInput ReadDivisionInput(const CaseScreen& screen, bool heirsConsent);
