@@ -1,0 +1,145 @@
+#include <array>
+
+#include "divide/Answers.h"
+#include "screens/HeirFields.h"
+
+namespace qismora::divide {
+
+namespace {
+
+// Fractions stand as two whole numbers: a spreadsheet reads 1/8 as a date.
+constexpr std::array<std::string_view, 17> columns = {
+    "id",
+    "school",
+    "heir",
+    "heads",
+    "share_numerator",
+    "share_denominator",
+    "each_numerator",
+    "each_denominator",
+    "amount",
+    "amount_each",
+    "heads_with_one_more",
+    "standing",
+    "net_estate",
+    "bequests_paid",
+    "base",
+    "raised_to",
+    "corrected_base",
+};
+constexpr std::string_view reasonColumn = "reason";
+
+/// Appends a line field by field.
+class Line {
+ public:
+  Line(std::string& text, char separator) : text_(text), separator_(separator) {}
+
+  void Words(std::string_view words) { text_.append(words) += separator_; }
+  void Number(std::int64_t number) {
+    AppendNumber(text_, number);
+    text_ += separator_;
+  }
+  /// A base that is not there is an empty field.
+  void Base(std::int64_t base) {
+    if (base > 0) AppendNumber(text_, base);
+    text_ += separator_;
+  }
+  void Fraction(const faraid::Fraction& fraction) {
+    Number(fraction.Num());
+    Number(fraction.Den());
+  }
+  void Amount(faraid::Hundredths amount) {
+    AppendAmount(text_, amount);
+    text_ += separator_;
+  }
+  /// Words that may hold anything.
+  void Quoted(std::string_view words) {
+    const char special[] = {separator_, '"', '\r', '\n'};
+    const bool padded = words.starts_with(' ') || words.ends_with(' ');
+    if (!padded && words.find_first_of(std::string_view(special, sizeof special)) == std::string_view::npos) {
+      return Words(words);
+    }
+    text_ += '"';
+    for (const char c : words) text_.append(c == '"' ? 2 : 1, c);
+    text_ += '"';
+    text_ += separator_;
+  }
+  void Standing(const faraid::Row& row) {
+    AppendStanding(text_, row);
+    text_ += separator_;
+  }
+  void End() { text_.back() = '\n'; }
+
+ private:
+  std::string& text_;
+  char separator_;
+};
+
+char SeparatorOf(const Options& options) { return options.Separator != 0 ? options.Separator : ','; }
+
+void Begin(const Options& options, std::string& text) {
+  if (!options.Header) return;
+  Line line(text, SeparatorOf(options));
+  for (const std::string_view column : columns) line.Words(column);
+  if (options.Reasons) line.Words(reasonColumn);
+  line.End();
+}
+
+void WriteRow(const Answer& answer, const SchoolDivision& school, std::size_t index, const Options& options,
+              std::string& text) {
+  const faraid::Row& row = school.Division.Rows[index];
+  const faraid::Amount& amount = school.Amounts[index];
+  const EachAmount each = EachOf(row, amount);
+  Line line(text, SeparatorOf(options));
+  line.Quoted(answer.Id);
+  line.Words(WordOf(school.School));
+  line.Words(CaptionOf(row.Heir));
+  line.Number(row.Heads);
+  line.Fraction(row.Share);
+  line.Fraction(row.PerHead);
+  line.Amount(amount.Together);
+  line.Amount(each.Amount);
+  line.Number(each.HeadsWithOneMore);
+  line.Standing(row);
+  line.Amount(answer.Settlement.Net);
+  line.Amount(answer.Settlement.Bequests);
+  line.Base(school.Division.Base);
+  line.Base(school.Division.RaisedTo);
+  line.Base(CorrectedBaseOf(school.Division));
+  if (options.Reasons) line.Quoted(faraid::English(row.Why));
+  line.End();
+}
+
+/// A family for whom nothing is left has one line, so that it is not missed.
+void WriteShortfall(const Answer& answer, const Options& options, std::string& text) {
+  const char separator = SeparatorOf(options);
+  Line line(text, separator);
+  line.Quoted(answer.Id);
+  for (std::size_t i = 1; i < columns.size(); ++i) {
+    if (columns[i] == "standing") {
+      text.append("nothing to divide: short by ");
+      line.Amount(answer.Settlement.Shortfall);
+    } else if (columns[i] == "net_estate" || columns[i] == "bequests_paid") {
+      line.Amount(0);
+    } else {
+      line.Words({});
+    }
+  }
+  if (options.Reasons) line.Words({});
+  line.End();
+}
+
+void Write(const Answer& answer, const Options& options, bool, std::string& text) {
+  if (answer.Settlement.Shortfall > 0) return WriteShortfall(answer, options, text);
+  for (const SchoolDivision& school : answer.Schools) {
+    for (std::size_t i = 0; i < school.Division.Rows.Size(); ++i) WriteRow(answer, school, i, options, text);
+  }
+}
+
+void End(std::string&) {}
+
+}  // namespace
+
+const AnswerFormat CsvFormat = {Begin, Write, End};
+
+}  // namespace qismora::divide

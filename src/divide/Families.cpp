@@ -1,0 +1,208 @@
+#include "divide/Families.h"
+
+#include <algorithm>
+#include <array>
+
+#include "base/Encoding.h"
+#include "base/Text.h"
+#include "divide/Records.h"
+#include "screens/CaseFile.h"
+
+namespace qismora::divide {
+
+namespace {
+
+constexpr std::string_view byteOrderMark = "\xEF\xBB\xBF";
+constexpr std::array separators = {',', ';', '\t'};
+
+std::string_view Trimmed(std::string_view text) {
+  const std::size_t first = text.find_first_not_of(" \t");
+  if (first == std::string_view::npos) return {};
+  return text.substr(first, text.find_last_not_of(" \t") - first + 1);
+}
+
+/// The first line that is neither blank nor a comment of a case file.
+std::string_view FirstLine(Window& window) {
+  while (true) {
+    std::string_view text = window.Text();
+    while (!text.empty()) {
+      const std::size_t end = text.find('\n');
+      const std::string_view line = Trimmed(text.substr(0, end));
+      if (end == std::string_view::npos) break;
+      if (!line.empty() && line != "\r" && !line.starts_with('#')) return line;
+      text.remove_prefix(end + 1);
+    }
+    if (text.size() > RecordReader::MostBytes || !window.Fill()) return Trimmed(text);
+  }
+}
+
+bool IsCaseFile(Window& window) { return FirstLine(window).find('=') != std::string_view::npos; }
+
+/// The separator that stands most often in the header.
+char DetectSeparator(std::string_view header) {
+  return *std::ranges::max_element(separators, {}, [&](char c) { return std::ranges::count(header, c); });
+}
+
+/// The captions of a header that is given on the command line, without their quotation marks.
+std::vector<std::string_view> SplitHeader(std::string_view header, char separator) {
+  std::vector<std::string_view> captions;
+  while (true) {
+    const std::size_t end = header.find(separator);
+    std::string_view caption = Trimmed(header.substr(0, end));
+    if (caption.size() > 1 && caption.starts_with('"') && caption.ends_with('"')) {
+      caption = caption.substr(1, caption.size() - 2);
+    }
+    captions.push_back(caption);
+    if (end == std::string_view::npos) return captions;
+    header.remove_prefix(end + 1);
+  }
+}
+
+void ReadFields(const CaseTexts& texts, InputFamily& family) {
+  if (!family.Faults.empty()) return;
+  family.Texts = &texts;
+  family.Input = ReadDivisionInput(texts);
+  for (const UnreadableField& field : family.Input.Unreadable)
+    family.Faults.push_back(Join(English(field), "."));
+}
+
+bool IsId(std::string_view caption) { return caption == "id" || caption == "Id" || caption == "ID"; }
+
+/// What the columns of a table are for.
+class Columns {
+ public:
+  /// From the header row.
+  Columns(const std::vector<std::string_view>& captions, std::int64_t line, bool ignoreUnknown,
+          const InputEvents& events) {
+    for (const std::string_view caption : captions) {
+      const std::string words(Trimmed(caption));
+      const std::optional<Entry> entry = FindEntry(words);
+      if (IsId(words)) {
+        Add({Use::Id, {}, words}, line);
+      } else if (entry) {
+        Add({Use::Entry, *entry, words}, line);
+      } else if (ignoreUnknown || words.empty()) {
+        Add({Use::Nothing, {}, words}, line);
+        if (!words.empty()) events.PassedOver(line, Join("The column \"", words, "\" is passed over."));
+      } else {
+        throw InputFault{line, English(CaseFault::UnknownCaption, words)};
+      }
+    }
+    if (std::ranges::none_of(columns_, [](const Column& column) { return column.For == Use::Entry; })) {
+      throw InputFault{line, "No column has a caption of the Case Study screen."};
+    }
+  }
+
+  /// Puts the case of a row together; false where the row has not as many fields as the header.
+  bool Read(const std::vector<std::string_view>& fields, InputFamily& family) {
+    const bool tooMany =
+        std::any_of(fields.begin() + static_cast<std::ptrdiff_t>(std::min(fields.size(), columns_.size())),
+                    fields.end(), [](std::string_view field) { return !Trimmed(field).empty(); });
+    if (tooMany || fields.size() < columns_.size()) {
+      family.Faults.push_back(Join("The row has ", static_cast<int>(fields.size()),
+                                   " fields, and the header ", static_cast<int>(columns_.size()), "."));
+      return false;
+    }
+    entries_.Clear();
+    for (std::size_t i = 0; i < columns_.size(); ++i) {
+      const Column& column = columns_[i];
+      const std::string_view value = Trimmed(fields[i]);
+      if (value.empty() || column.For == Use::Nothing) continue;  // an empty field is as no field
+      if (column.For == Use::Id) {
+        family.Id = value;
+      } else if (const auto fault = entries_.Set(column.Meaning, value)) {
+        family.Faults.push_back(English(*fault, column.Words));
+      }
+    }
+    if (const auto fault = entries_.Settle()) family.Faults.push_back(English(*fault, {}));
+    ReadFields(entries_.Texts(), family);
+    return true;
+  }
+
+ private:
+  enum class Use : std::uint8_t { Nothing, Id, Entry };
+  struct Column {
+    Use For;
+    Entry Meaning;
+    std::string Words;
+  };
+
+  void Add(Column column, std::int64_t line) {
+    const auto same = [&](const Column& other) {
+      return column.For != Use::Nothing && other.For == column.For && other.Meaning == column.Meaning;
+    };
+    if (std::ranges::any_of(columns_, same)) {
+      throw InputFault{line, English(CaseFault::NamedTwice, column.Words)};
+    }
+    columns_.push_back(std::move(column));
+  }
+
+  std::vector<Column> columns_;
+  CaseEntries entries_;
+};
+
+void ReadTable(Window& window, const Options& options, std::int64_t& number, const InputEvents& events) {
+  const std::string_view header = options.Columns.empty() ? FirstLine(window) : options.Columns;
+  const char separator = options.Separator != 0 ? options.Separator : DetectSeparator(header);
+  RecordReader rows(window, separator);
+  const auto columns = [&]() -> Columns {
+    if (!options.Columns.empty())
+      return {SplitHeader(options.Columns, separator), 0, options.IgnoreColumns, events};
+    if (!rows.Next()) throw InputFault{0, "There is no header row."};
+    if (rows.Fault() != RecordFault::None) throw InputFault{rows.Line(), std::string(English(rows.Fault()))};
+    return {rows.Fields(), rows.Line(), options.IgnoreColumns, events};
+  };
+  Columns read = columns();
+  InputFamily family;
+  std::string digits;
+  for (; rows.Next(); ++number) {
+    digits = std::to_string(number);
+    family.Id = digits;
+    family.Line = rows.Line();
+    family.Faults.clear();
+    if (rows.Fault() == RecordFault::None) {
+      if (!read.Read(rows.Fields(), family)) rows.Distrust();
+    } else {
+      family.Faults.emplace_back(English(rows.Fault()));
+    }
+    events.Family(family);
+  }
+}
+
+void ReadCase(Window& window, const std::string& id, const InputEvents& events) {
+  while (window.Text().size() <= MostBytesOfCaseFile && window.Fill()) {
+  }
+  const CaseFileReading file = ParseCaseFile(window.Text());
+  for (const CaseLine& line : file.Unknown) {
+    events.PassedOver(line.Number, Join("\"", line.Text, "\" is of a newer version and is passed over."));
+  }
+  InputFamily family;
+  family.Id = id;
+  if (file.Fault) {
+    family.Line = file.Fault->Line.Number;
+    family.Faults.push_back(English(file.Fault->Fault, file.Fault->Line.Text));
+  } else {
+    ReadFields(file.Case, family);
+  }
+  events.Family(family);
+}
+
+}  // namespace
+
+void ReadFamilies(Source& source, const Options& options, std::int64_t& number, const InputEvents& events) {
+  Window window(source);
+  while (window.Text().size() < byteOrderMark.size() && window.Fill()) {
+  }
+  if (window.Text().starts_with(byteOrderMark)) window.Skip(byteOrderMark.size());
+  const bool detects = options.Input == InputKind::Detected && options.Columns.empty();
+  if (options.Input == InputKind::Case || (detects && IsCaseFile(window))) {
+    std::string id = source.Path();
+    if (id == "-") id = std::to_string(number);
+    ++number;
+    ReadCase(window, id, events);
+  } else {
+    ReadTable(window, options, number, events);
+  }
+}
+
+}  // namespace qismora::divide

@@ -1,0 +1,141 @@
+#include "divide/Answers.h"
+#include "screens/HeirFields.h"
+
+// Amounts and fractions are texts: a reader that makes binary floating point of its numbers would falsify
+// them.
+
+namespace qismora::divide {
+
+namespace {
+
+void AppendText(std::string& json, std::string_view text) {
+  constexpr std::string_view hexDigits = "0123456789abcdef";
+  json += '"';
+  for (const char c : text) {
+    const auto byte = static_cast<unsigned char>(c);
+    if (c == '"' || c == '\\') {
+      json.append({'\\', c});
+    } else if (byte < 0x20) {
+      Append(json, "\\u00");
+      json.append({hexDigits[byte >> 4], hexDigits[byte & 15]});
+    } else {
+      json += c;
+    }
+  }
+  json += '"';
+}
+
+// Each member is followed by a comma, which the end of the object replaces.
+
+void Key(std::string& json, std::string_view key) { Append(json, "\"", key, "\":"); }
+
+void TextMember(std::string& json, std::string_view key, std::string_view text) {
+  Key(json, key);
+  AppendText(json, text);
+  json += ',';
+}
+
+void NumberMember(std::string& json, std::string_view key, std::int64_t number) {
+  Key(json, key);
+  AppendNumber(json, number);
+  json += ',';
+}
+
+/// A base that is not there is null.
+void BaseMember(std::string& json, std::string_view key, std::int64_t base) {
+  if (base > 0) return NumberMember(json, key, base);
+  Key(json, key);
+  Append(json, "null,");
+}
+
+void AmountMember(std::string& json, std::string_view key, faraid::Hundredths amount) {
+  Key(json, key);
+  json += '"';
+  AppendAmount(json, amount);
+  Append(json, "\",");
+}
+
+void FractionMember(std::string& json, std::string_view key, const faraid::Fraction& fraction) {
+  Key(json, key);
+  json += '"';
+  AppendFraction(json, fraction);
+  Append(json, "\",");
+}
+
+/// Closes an object or an array that is a member or an item.
+void Close(std::string& json, char bracket) {
+  if (json.back() == ',') json.pop_back();
+  json.append({bracket, ','});
+}
+
+void AppendHeir(std::string& json, const SchoolDivision& school, std::size_t index, bool reasons) {
+  const faraid::Row& row = school.Division.Rows[index];
+  const EachAmount each = EachOf(row, school.Amounts[index]);
+  json += '{';
+  TextMember(json, "heir", CaptionOf(row.Heir));
+  NumberMember(json, "heads", row.Heads);
+  FractionMember(json, "share", row.Share);
+  FractionMember(json, "share_each", row.PerHead);
+  AmountMember(json, "amount", school.Amounts[index].Together);
+  AmountMember(json, "amount_each", each.Amount);
+  NumberMember(json, "heads_with_one_more", each.HeadsWithOneMore);
+  Key(json, "standing");
+  json += '"';
+  AppendStanding(json, row);
+  Append(json, "\",");
+  if (reasons) TextMember(json, "reason", faraid::English(row.Why));
+  Close(json, '}');
+}
+
+void AppendSchool(std::string& json, const SchoolDivision& school, bool reasons) {
+  json += '{';
+  TextMember(json, "school", WordOf(school.School));
+  BaseMember(json, "base", school.Division.Base);
+  BaseMember(json, "raised_to", school.Division.RaisedTo);
+  BaseMember(json, "corrected_base", CorrectedBaseOf(school.Division));
+  Key(json, "heirs");
+  json += '[';
+  for (std::size_t i = 0; i < school.Division.Rows.Size(); ++i) AppendHeir(json, school, i, reasons);
+  Close(json, ']');
+  Close(json, '}');
+}
+
+void AppendFamily(std::string& json, const Answer& answer, bool reasons) {
+  json += '{';
+  TextMember(json, "id", answer.Id);
+  if (!answer.Name.empty()) TextMember(json, "name", answer.Name);
+  AmountMember(json, "gross_estate", answer.Estate.Gross);
+  AmountMember(json, "funeral", answer.Estate.Funeral);
+  AmountMember(json, "debts", answer.Estate.Debts);
+  AmountMember(json, "bequests", answer.Estate.Bequests);
+  AmountMember(json, "bequests_paid", answer.Settlement.Bequests);
+  AmountMember(json, "net_estate", answer.Settlement.Net);
+  AmountMember(json, "shortfall", answer.Settlement.Shortfall);
+  Key(json, "divisions");
+  json += '[';
+  for (const SchoolDivision& school : answer.Schools) AppendSchool(json, school, reasons);
+  Close(json, ']');
+  Close(json, '}');
+  json.pop_back();
+}
+
+void BeginLines(const Options&, std::string&) {}
+void WriteLine(const Answer& answer, const Options& options, bool, std::string& text) {
+  AppendFamily(text, answer, options.Reasons);
+  text += '\n';
+}
+void EndLines(std::string&) {}
+
+void BeginArray(const Options&, std::string& text) { text += '['; }
+void WriteItem(const Answer& answer, const Options& options, bool first, std::string& text) {
+  Append(text, first ? "\n" : ",\n");
+  AppendFamily(text, answer, options.Reasons);
+}
+void EndArray(std::string& text) { Append(text, "\n]\n"); }
+
+}  // namespace
+
+const AnswerFormat JsonFormat = {BeginArray, WriteItem, EndArray};
+const AnswerFormat JsonLinesFormat = {BeginLines, WriteLine, EndLines};
+
+}  // namespace qismora::divide

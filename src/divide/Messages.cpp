@@ -1,0 +1,62 @@
+#include "divide/Messages.h"
+
+#include <iostream>
+
+#include "base/Encoding.h"
+
+namespace qismora::divide {
+
+namespace {
+
+/// No control character of an input reaches the terminal.
+std::string Plain(std::string_view text) {
+  constexpr std::string_view hexDigits = "0123456789abcdef";
+  std::string plain;
+  for (std::size_t i = 0; i < text.size(); ++i) {
+    const auto byte = static_cast<unsigned char>(text[i]);
+    if (FindControlCharacter(text.substr(i, 2)) == 0) {
+      plain.append({'\\', 'x', hexDigits[byte >> 4], hexDigits[byte & 15]});
+    } else {
+      plain += text[i];
+    }
+  }
+  return plain;
+}
+
+}  // namespace
+
+Messages::Messages(bool quiet) : showsProgress_(!quiet && ErrorsGoToTerminal() && !OutputIsTerminal()) {}
+
+void Messages::Say(std::string_view sentence) {
+  TakeAwayProgress();
+  std::cerr << "qismora-divide: " + Plain(sentence) + "\n";
+}
+
+void Messages::Say(std::string_view place, std::int64_t line, std::string_view sentence) {
+  std::string text(place);
+  if (line > 0) text.append(":").append(std::to_string(line));
+  Say(text.append(": ").append(sentence));
+}
+
+void Messages::ShowProgress(const Source& source) {
+  const Clock::time_point now = Clock::now();
+  if (now - shown_ < std::chrono::milliseconds(200)) return;
+  shown_ = now;
+  const double seconds = std::chrono::duration<double>(now - start_).count();
+  std::string text = "\r\x1b[K" + std::to_string(families_) + " families, " +
+                     std::to_string(static_cast<std::int64_t>(static_cast<double>(families_) / seconds)) +
+                     " a second";
+  if (source.Length() > 0) {
+    text +=
+        ", " + std::to_string(source.BytesRead() * 100 / source.Length()) + " % of " + Plain(source.Name());
+  }
+  std::cerr << text << std::flush;
+  progressStands_ = true;
+}
+
+void Messages::TakeAwayProgress() {
+  if (progressStands_) std::cerr << "\r\x1b[K" << std::flush;
+  progressStands_ = false;
+}
+
+}  // namespace qismora::divide

@@ -1,0 +1,226 @@
+#include <algorithm>
+
+#include "base/Encoding.h"
+#include "divide/Answers.h"
+#include "screens/HeirFields.h"
+
+namespace qismora::divide {
+
+namespace {
+
+using faraid::Kind;
+
+/// A table as lines of cells; the columns become as wide as their widest cell.
+class TextTable {
+ public:
+  /// Figures stand at the right of their column, words at the left.
+  enum class Side { Left, Right };
+
+  explicit TextTable(std::vector<Side> sides) : sides_(std::move(sides)) {}
+
+  void Add(std::vector<std::string> cells) { lines_.push_back(std::move(cells)); }
+
+  const std::vector<std::string>& LastLine() const { return lines_.back(); }
+
+  void AppendTo(std::string& text) const {
+    std::vector<std::size_t> widths(sides_.size());
+    for (const auto& line : lines_) {
+      for (std::size_t i = 0; i < line.size(); ++i) widths[i] = std::max(widths[i], line[i].size());
+    }
+    for (const auto& line : lines_) {
+      for (std::size_t i = 0; i < line.size(); ++i) {
+        const std::size_t blanks = widths[i] - line[i].size();
+        text.append(2, ' ');
+        if (sides_[i] == Side::Right) text.append(blanks, ' ');
+        text.append(line[i]);
+        if (sides_[i] == Side::Left && i + 1 < line.size()) text.append(blanks, ' ');
+      }
+      text.erase(text.find_last_not_of(' ') + 1);
+      text += '\n';
+    }
+  }
+
+ private:
+  std::vector<Side> sides_;
+  std::vector<std::vector<std::string>> lines_;
+};
+
+using Side = TextTable::Side;
+
+std::string AmountText(faraid::Hundredths amount) {
+  std::string text;
+  AppendAmount(text, amount);
+  return text;
+}
+
+std::string FractionText(const faraid::Fraction& fraction) {
+  std::string text;
+  AppendFraction(text, fraction);
+  return text;
+}
+
+std::string EachText(const faraid::Row& row, const faraid::Amount& amount) {
+  const EachAmount each = EachOf(row, amount);
+  std::string text = AmountText(each.Amount);
+  if (each.HeadsWithOneMore > 0) Append(text, " or ", AmountText(each.Amount + 1));
+  return text;
+}
+
+std::string BaseText(std::int64_t base) { return base > 0 ? std::to_string(base) : ""; }
+
+void AppendHead(const Answer& answer, std::string& text) {
+  const auto appendPlain = [&](std::string_view words) {
+    for (const char c : words) text += FindControlCharacter({&c, 1}) == 0 ? ' ' : c;
+  };
+  Append(text, "Family ");
+  appendPlain(answer.Id);
+  if (!answer.Name.empty()) Append(text, ", "), appendPlain(answer.Name);
+  Append(text, "\n");
+  const faraid::Settlement& settlement = answer.Settlement;
+  if (settlement.Shortfall > 0) {
+    Append(text, "Nothing to divide, short by ", AmountText(settlement.Shortfall), "\n");
+    return;
+  }
+  if (settlement.Bequests < answer.Estate.Bequests) {
+    Append(text, "Bequests ", AmountText(answer.Estate.Bequests), ", limited to ",
+           AmountText(settlement.Bequests), "\n");
+  }
+  Append(text, "Net estate ", AmountText(settlement.Net));
+}
+
+void AppendOneSchool(const Answer& answer, bool reasons, std::string& text) {
+  const SchoolDivision& school = answer.Schools.front();
+  const faraid::Division& division = school.Division;
+  Append(text, ", ", NameOf(school.School), " law");
+  if (division.Base > 0) Append(text, ", base ", BaseText(division.Base));
+  if (division.RaisedTo > 0) Append(text, ", raised to ", BaseText(division.RaisedTo));
+  if (division.Base > 0) Append(text, ", corrected base ", BaseText(division.CorrectedBase));
+  Append(text, "\n\n");
+  TextTable table(
+      {Side::Left, Side::Right, Side::Right, Side::Right, Side::Right, Side::Right, Side::Left, Side::Left});
+  table.Add({"Heir", "Heads", "Share", "Each", "Amount", "Each", "Standing", reasons ? "Why" : ""});
+  for (std::size_t i = 0; i < division.Rows.Size(); ++i) {
+    const faraid::Row& row = division.Rows[i];
+    const faraid::Amount& amount = school.Amounts[i];
+    const bool takes = row.Share > 0;
+    std::string standing;
+    AppendStanding(standing, row);
+    table.Add({std::string(CaptionOf(row.Heir)), row.Heir == Kind::Remainder ? "" : std::to_string(row.Heads),
+               takes ? FractionText(row.Share) : "nothing", takes ? FractionText(row.PerHead) : "",
+               takes ? AmountText(amount.Together) : "", takes ? EachText(row, amount) : "", standing,
+               reasons ? faraid::English(row.Why) : ""});
+  }
+  table.Add({"Together", "", "1", "", AmountText(answer.Settlement.Net), "", "", ""});
+  table.AppendTo(text);
+}
+
+/// The kinds that have a row in any of the schools.
+faraid::KindSet KindsOf(const Answer& answer) {
+  faraid::KindSet kinds;
+  for (const SchoolDivision& school : answer.Schools) {
+    for (const faraid::Row& row : school.Division.Rows) kinds = kinds | row.Heir;
+  }
+  return kinds;
+}
+
+/// The row of the kind, or as many as there are rows where it has none.
+std::size_t IndexOf(const SchoolDivision& school, Kind kind) {
+  const auto& rows = school.Division.Rows;
+  return static_cast<std::size_t>(std::ranges::find(rows, kind, &faraid::Row::Heir) - rows.begin());
+}
+
+/// The reasons of one kind, schools that agree in one line.
+void AppendReasons(const Answer& answer, Kind kind, std::string& text) {
+  std::vector<std::pair<std::string, std::string>> reasons;  // the words, and the schools
+  for (const SchoolDivision& school : answer.Schools) {
+    const std::size_t i = IndexOf(school, kind);
+    if (i == school.Division.Rows.Size()) continue;
+    const std::string words = faraid::English(school.Division.Rows[i].Why);
+    const auto same = std::ranges::find(reasons, words, &std::pair<std::string, std::string>::first);
+    if (same == reasons.end()) {
+      reasons.emplace_back(words, NameOf(school.School));
+    } else {
+      Append(same->second, ", ", NameOf(school.School));
+    }
+  }
+  for (const auto& [words, schools] : reasons) {
+    Append(text, "  ", CaptionOf(kind), reasons.size() > 1 ? " (" + schools + ")" : "", ": ", words, "\n");
+  }
+}
+
+struct BaseRow {
+  const char* Words;
+  std::int64_t faraid::Division::*Base;
+};
+constexpr BaseRow baseRows[] = {
+    {"Base", &faraid::Division::Base},
+    {"Raised to", &faraid::Division::RaisedTo},
+    {"Corrected base", &faraid::Division::CorrectedBase},
+};
+
+/// The line of one kind, with its share and amount in each school; a star where the schools differ.
+std::vector<std::string> CellsOf(const Answer& answer, Kind kind) {
+  std::vector<std::string> cells = {std::string(CaptionOf(kind)), ""};
+  bool differs = false;
+  for (const SchoolDivision& school : answer.Schools) {
+    const std::size_t i = IndexOf(school, kind);
+    const bool has = i < school.Division.Rows.Size();
+    const bool takes = has && school.Division.Rows[i].Share > 0;
+    if (has && kind != Kind::Remainder) cells[1] = std::to_string(school.Division.Rows[i].Heads);
+    cells.push_back(takes ? FractionText(school.Division.Rows[i].Share) : "nothing");
+    differs = differs || cells.back() != cells[2];
+    cells.push_back(takes ? AmountText(school.Amounts[i].Together) : "");
+  }
+  if (differs) cells[0] += '*';
+  return cells;
+}
+
+void AppendSideBySide(const Answer& answer, bool reasons, std::string& text) {
+  Append(text, "\n\n");
+  std::vector<Side> sides = {Side::Left};
+  sides.resize(2 + 2 * answer.Schools.size(), Side::Right);
+  TextTable table(sides);
+  std::vector<std::string> header = {"Heir", "Heads"};
+  for (const SchoolDivision& school : answer.Schools) {
+    header.insert(header.end(), {std::string(NameOf(school.School)), "Amount"});
+  }
+  table.Add(header);
+  const faraid::KindSet kinds = KindsOf(answer);
+  bool anyDiffers = false;
+  for (const Kind kind : kinds) {
+    table.Add(CellsOf(answer, kind));
+    anyDiffers = anyDiffers || table.LastLine().front().ends_with('*');
+  }
+  for (const BaseRow& row : baseRows) {
+    std::vector<std::string> cells = {row.Words, ""};
+    bool any = false;
+    for (const SchoolDivision& school : answer.Schools) {
+      const std::int64_t base = school.Division.Base > 0 ? school.Division.*row.Base : 0;
+      cells.insert(cells.end(), {BaseText(base), ""});
+      any = any || base > 0;
+    }
+    if (any) table.Add(cells);
+  }
+  table.AppendTo(text);
+  if (anyDiffers) Append(text, "\n  * The schools differ.\n");
+  if (!reasons) return;
+  text += '\n';
+  for (const Kind kind : kinds) AppendReasons(answer, kind, text);
+}
+
+void Begin(const Options&, std::string&) {}
+
+void Write(const Answer& answer, const Options& options, bool first, std::string& text) {
+  if (!first) text += '\n';
+  AppendHead(answer, text);
+  if (answer.Schools.size() == 1) AppendOneSchool(answer, options.Reasons, text);
+  if (answer.Schools.size() > 1) AppendSideBySide(answer, options.Reasons, text);
+}
+
+void End(std::string&) {}
+
+}  // namespace
+
+const AnswerFormat TableFormat = {Begin, Write, End};
+
+}  // namespace qismora::divide

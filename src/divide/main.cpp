@@ -1,0 +1,108 @@
+// qismora-divide: divides many estates, from tables or case files, without a window.
+
+#include <algorithm>
+
+#include "divide/Answers.h"
+#include "divide/Families.h"
+#include "divide/Messages.h"
+
+namespace qismora::divide {
+
+namespace {
+
+/// Divides what is read and writes it out, family by family.
+class Run {
+ public:
+  explicit Run(const Options& options)
+      : options_(options), format_(FormatOf(options)), messages_(options.Quiet), number_(options.First) {}
+
+  ExitStatus All() {
+    try {
+      format_.Begin(options_, out_.Buffer);
+      for (const std::string& path : options_.Paths) ReadSource(path);
+      format_.End(out_.Buffer);
+      out_.Flush();
+    } catch (const CannotWrite& failure) {
+      messages_.Say(failure.what());
+      return NotDone;
+    }
+    if (refused_ == 0) return status_;
+    if (!options_.Quiet) {
+      messages_.Say(std::to_string(refused_) + " of " + std::to_string(divided_ + refused_) +
+                    " families were not divided.");
+    }
+    return std::max(status_, SomeNotDivided);
+  }
+
+ private:
+  void ReadSource(const std::string& path) {
+    try {
+      Source source(path, [this] { out_.Flush(); });
+      const InputEvents events = {
+          .Family =
+              [&](const InputFamily& family) {
+                if (family.Faults.empty()) {
+                  Divide(family);
+                } else {
+                  Refuse(source, family);
+                }
+                messages_.Progress(source);
+              },
+          .PassedOver = [&](std::int64_t line,
+                            const std::string& sentence) { messages_.Say(source.Name(), line, sentence); },
+      };
+      try {
+        ReadFamilies(source, options_, number_, events);
+      } catch (const InputFault& fault) {
+        messages_.Say(source.Name(), fault.Line, fault.Sentence);
+        status_ = NotDone;
+      }
+    } catch (const CannotRead& failure) {
+      messages_.Say(failure.what());
+      status_ = NotDone;
+    }
+  }
+
+  void Divide(const InputFamily& family) {
+    answer_.Id = family.Id;
+    answer_.Name = family.Texts->Fields[static_cast<std::size_t>(NameBox)];
+    answer_.Estate = family.Input.Estate;
+    answer_.Estate.HeirsConsent = answer_.Estate.HeirsConsent || options_.HeirsConsent;
+    answer_.Settlement = faraid::Settle(answer_.Estate);
+    answer_.Schools.resize(answer_.Settlement.Shortfall > 0 ? 0 : options_.Schools.size());
+    for (std::size_t i = 0; i < answer_.Schools.size(); ++i) {
+      SchoolDivision& school = answer_.Schools[i];
+      school.School = options_.Schools[i];
+      school.Division = faraid::Divide(family.Input.Family, school.School);
+      school.Amounts = faraid::AmountsOf(school.Division, answer_.Settlement.Net);
+    }
+    format_.Write(answer_, options_, divided_ == 0, out_.Buffer);
+    ++divided_;
+    out_.Wrote();
+  }
+
+  void Refuse(const Source& source, const InputFamily& family) {
+    ++refused_;
+    if (OutputIsTerminal()) out_.Flush();  // the fault stands where its family would
+    for (const std::string& fault : family.Faults) messages_.Say(source.Name(), family.Line, fault);
+  }
+
+  const Options& options_;
+  const AnswerFormat& format_;
+  Messages messages_;
+  Sink out_;
+  Answer answer_;
+  std::int64_t number_;
+  std::int64_t divided_ = 0;
+  std::int64_t refused_ = 0;
+  ExitStatus status_ = AllDivided;
+};
+
+}  // namespace
+
+}  // namespace qismora::divide
+
+int main(int count, char** words) {
+  const qismora::divide::Options options = qismora::divide::ReadOptions(count, words);
+  return qismora::divide::Run(options).All();
+}
