@@ -1,8 +1,9 @@
-# Read by CPack. Asks Debian's tool which packages the libraries come from: those of the program are needed,
+# Read by CPack. Asks Debian's tool which packages the libraries come from: those of the programs are needed,
 # those of the video plugin only recommended, since without the plugin a panel stays blank and nothing else.
 set(folder ${CPACK_PACKAGE_DIRECTORY}/dependencies)
 file(WRITE ${folder}/debian/control "") # the tool insists on one
-set(command dpkg-shlibdeps -O -dDepends -e${CPACK_QISMORA_PROGRAMS}/qismora)
+set(command dpkg-shlibdeps -O -dDepends -e${CPACK_QISMORA_PROGRAMS}/qismora
+            -e${CPACK_QISMORA_PROGRAMS}/qismora-divide)
 set(plugin ${CPACK_QISMORA_PROGRAMS}/qismora_video.so)
 if(EXISTS ${plugin})
   list(APPEND command -dRecommends -e${plugin})
