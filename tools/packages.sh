@@ -23,6 +23,7 @@ packages_to_measure=(
 # shellcheck disable=SC2034 # used by ./check
 packages_to_check=(
   "${packages_to_measure[@]}"
+  ccache             # compiles again only what has changed
   python3-pyqt6.qtsvg python3-fonttools libharfbuzz-bin # the tool that draws the caption pictures
   fonts-noto-core    # Urdu captions, and the default font that the tests of the windows measure
   fonts-hosny-amiri  # Arabic captions
