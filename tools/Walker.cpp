@@ -24,8 +24,8 @@ namespace qismora::tour {
 
 namespace {
 
-constexpr int letters = 12;
-constexpr int moment = 15;
+constexpr int fontPixels = 12;
+constexpr int pollMilliseconds = 15;
 constexpr double mebibyte = 1024.0 * 1024.0;
 
 struct PastSession {
@@ -33,7 +33,7 @@ struct PastSession {
   DateTime End;
 };
 
-// The sessions that the log tells of when the tour begins.
+// The sessions that are in the log when the tour begins.
 constexpr PastSession pastSessions[] = {
     {{2024, 2, 12, 9, 15, 0}, {2024, 2, 12, 9, 47, 30}},
     {{2024, 2, 19, 18, 2, 11}, {2024, 2, 19, 18, 9, 48}},
@@ -41,10 +41,10 @@ constexpr PastSession pastSessions[] = {
     {{2024, 3, 4, 20, 1, 59}, {2024, 3, 4, 20, 14, 3}},
 };
 
-/// Everything around the program. Its files lie below the current folder, so that a picture that shows where
-/// shows no name made for this tour alone.
-struct Surroundings {
-  Surroundings() {
+/// The ports of the program on its tour. All files are below the current directory, so that no picture shows
+/// the name of a temporary directory.
+struct TourPorts {
+  TourPorts() {
     QDir().mkpath(QStringLiteral("Documents"));
     Folders.Folder = "Documents";
     Memory.Figures = {8192 * mebibyte, 5120 * mebibyte, 32 * mebibyte};
@@ -69,24 +69,24 @@ struct Surroundings {
   ShellOutside Ports{{Clock, Boxes, Dialog, Settings, Folders}, Viewer, Player, Memory, Program};
 };
 
-/// Plays the steps of the stops. Message boxes are read while they are up, photographed where the stop is for
-/// them, and left by the button that Return presses.
+/// Plays the steps of the stops. When a message box opens, it takes a picture of it and closes it with
+/// Return.
 class Walker : public QObject {
  public:
   explicit Walker(ProgramWindows& windows) : windows_(windows) {
     windows_.ShowMainMenu();
-    startTimer(moment);
+    startTimer(pollMilliseconds);
   }
 
   QImage Visit(const Stop& stop) {
-    box_ = {};
+    messageBox_ = {};
     for (const Step& step : stop.Steps) {
       Play(step);
       Wait();
     }
-    if (stop.Shows == Shown::Box) {
-      if (box_.isNull()) qFatal("no box comes up for the picture %s", stop.Picture);
-      return box_;
+    if (stop.Shows == Shown::MessageBox) {
+      if (messageBox_.isNull()) qFatal("no message box opens for the picture %s", stop.Picture);
+      return messageBox_;
     }
     return WindowAtRest();
   }
@@ -95,38 +95,38 @@ class Walker : public QObject {
   void timerEvent(QTimerEvent*) override {
     auto* box = qobject_cast<QMessageBox*>(QApplication::activeModalWidget());
     if (box == nullptr || !box->isActiveWindow()) return;
-    // A box looks different until it has the focus.
-    const QImage before = std::exchange(coming_, Taken(box));
-    if (coming_ != before) return;
-    if (box_.isNull()) box_ = coming_;
+    // A message box looks different until it has the focus.
+    const QImage previous = std::exchange(last_, Picture(box));
+    if (last_ != previous) return;
+    if (messageBox_.isNull()) messageBox_ = last_;
     QTest::keyClick(box, Qt::Key_Return);
   }
 
  private:
-  static QImage Taken(QWidget* widget) {
+  static QImage Picture(QWidget* widget) {
     return widget->grab().toImage().convertToFormat(QImage::Format_RGB32);
   }
 
-  // Behind a box that has closed, no window is active until somebody turns to it.
-  QWidget* InUse() {
+  // After a message box has closed, no window is active until one is activated.
+  QWidget* ActiveWindow() {
     if (QApplication::activeWindow() == nullptr) {
-      (last_ != nullptr && last_->isVisible() ? last_.data() : &windows_.MainMenu())->activateWindow();
+      (window_ != nullptr && window_->isVisible() ? window_.data() : &windows_.MainMenu())->activateWindow();
       Wait();
     }
-    last_ = QApplication::activeWindow();
-    return last_;
+    window_ = QApplication::activeWindow();
+    return window_;
   }
 
-  /// A window that has been asked for may take a moment to come.
+  /// Waits for the control, since a window may take a moment to open.
   template <class Object>
   Object* Find(const char* name) {
-    for (int patience = 200; patience > 0; --patience) {
-      QWidget* window = InUse();
+    for (int attempts = 200; attempts > 0; --attempts) {
+      QWidget* window = ActiveWindow();
       Object* found = window == nullptr ? nullptr : window->findChild<Object*>(QString::fromLatin1(name));
       if (found != nullptr) return found;
       Wait();
     }
-    qFatal("the window in use has no %s", name);
+    qFatal("the active window has no %s", name);
   }
 
   void Play(const Step& step) {
@@ -145,26 +145,26 @@ class Walker : public QObject {
       case Do::Pick:
         return Find<QComboBox>(step.Name)->setCurrentText(QString::fromLatin1(step.Text));
       case Do::Type: {
-        auto* box = Find<QLineEdit>(step.Name);
-        QTest::mouseClick(box, Qt::LeftButton);
-        box->selectAll();
-        return QTest::keyClicks(box, QString::fromLatin1(step.Text));
+        auto* field = Find<QLineEdit>(step.Name);
+        QTest::mouseClick(field, Qt::LeftButton);
+        field->selectAll();
+        return QTest::keyClicks(field, QString::fromLatin1(step.Text));
       }
       case Do::Bottom: {
         QScrollBar* bar = Find<QPlainTextEdit>(step.Name)->verticalScrollBar();
         return bar->setValue(bar->maximum());
       }
       case Do::Close:
-        InUse()->close();
+        ActiveWindow()->close();
     }
   }
 
   void Wait() {
-    QTest::qWait(moment);
+    QTest::qWait(pollMilliseconds);
     StopTheAnimation();
   }
 
-  // It stands at the same picture, however late it is stopped.
+  // Stops the animation always at the same picture.
   void StopTheAnimation() {
     if (windows_.Study() == nullptr) return;
     CaseStudy& form = windows_.Study()->Form();
@@ -174,27 +174,27 @@ class Walker : public QObject {
     while (!form.Image42(0).Visible);
   }
 
-  // Drawings come a moment after their window; the picture is taken when nothing moves any more.
+  // A window may be drawn in several steps. The picture is taken when it has stopped changing.
   QImage WindowAtRest() {
-    constexpr int stillRounds = 3;
-    QWidget* window = InUse();
-    QImage last = Taken(window);
-    for (int still = 0; still < stillRounds;) {
+    constexpr int unchangedRounds = 3;
+    QWidget* window = ActiveWindow();
+    QImage picture = Picture(window);
+    for (int unchanged = 0; unchanged < unchangedRounds;) {
       Wait();
-      QImage next = Taken(window);
-      still = next == last ? still + 1 : 0;
-      last = next;
+      QImage next = Picture(window);
+      unchanged = next == picture ? unchanged + 1 : 0;
+      picture = next;
     }
-    return last;
+    return picture;
   }
 
   ProgramWindows& windows_;
-  QPointer<QWidget> last_;
-  QImage box_;
-  QImage coming_;
+  QPointer<QWidget> window_;
+  QImage messageBox_;
+  QImage last_;
 };
 
-/// Desktop, scale and style of whoever starts the tour are out of the picture.
+/// Makes the pictures independent of the desktop, scale and style of the user who starts the tour.
 void FixEnvironment(const QString& home) {
   for (const char* name : {"QT_SCALE_FACTOR", "QT_SCREEN_SCALE_FACTORS", "QT_FONT_DPI", "QT_STYLE_OVERRIDE",
                            "QT_QPA_PLATFORMTHEME", "QT_PLUGIN_PATH"}) {
@@ -203,28 +203,28 @@ void FixEnvironment(const QString& home) {
   qputenv("QT_QPA_PLATFORM", "offscreen");
   qputenv("LC_ALL", "C.UTF-8");
   qputenv("XDG_CONFIG_HOME", home.toLocal8Bit());
-  qputenv("QT_LOGGING_RULES", "default.warning=false");  // what a screen that nobody sees cannot do
+  qputenv("QT_LOGGING_RULES", "default.warning=false");  // what the offscreen platform cannot do
 }
 
 }  // namespace
 
-Album Walk(const std::vector<Stop>& road, int argc, char** argv) {
+Album Walk(const std::vector<Stop>& stops, int argc, char** argv) {
   const QTemporaryDir home;
   FixEnvironment(home.path());
   QApplication::setStyle(new OutlinedStyle);
   QApplication application(argc, argv);
   QApplication::setCursorFlashTime(0);
   QFont font(QStringLiteral("DejaVu Sans"));
-  font.setPixelSize(letters);
+  font.setPixelSize(fontPixels);
   QApplication::setFont(font);
 
   const QString before = QDir::currentPath();
   QDir::setCurrent(home.path());
-  Surroundings around;
-  ProgramWindows windows(around.Ports, around.Player);
+  TourPorts tour;
+  ProgramWindows windows(tour.Ports, tour.Player);
   Walker walker(windows);
   Album album;
-  for (const Stop& stop : road) album[QString::fromLatin1(stop.Picture)] = walker.Visit(stop);
+  for (const Stop& stop : stops) album[QString::fromLatin1(stop.Picture)] = walker.Visit(stop);
   QDir::setCurrent(before);
   return album;
 }

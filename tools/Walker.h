@@ -7,7 +7,7 @@
 
 namespace qismora::tour {
 
-/// What a user does with a control of the window in use, by the control's name.
+/// What a user does with a control of the active window. The control is given by its name.
 enum class Do { Click, DoubleClick, Hover, Choose, Pick, Type, Bottom, Close };
 
 struct Step {
@@ -16,8 +16,8 @@ struct Step {
   const char* Text = "";
 };
 
-/// What a picture shows: the window in use behind the steps, or the message box that comes up on the way.
-enum class Shown { Window, Box };
+/// What a picture shows: the active window after the steps, or the first message box that the steps open.
+enum class Shown { Window, MessageBox };
 
 struct Stop {
   const char* Picture;
@@ -25,10 +25,11 @@ struct Stop {
   Shown Shows = Shown::Window;
 };
 
+/// The pictures by name.
 using Album = std::map<QString, QImage>;
 
-/// Starts the program with its real windows, walks the road and brings a picture from each stop. It makes the
-/// QApplication itself, since much of what has to be fixed must be so before.
-Album Walk(const std::vector<Stop>& road, int argc, char** argv);
+/// Starts the program with its real windows, plays the stops in order and takes a picture at each. It creates
+/// the QApplication itself, since the environment must be fixed before that.
+Album Walk(const std::vector<Stop>& stops, int argc, char** argv);
 
 }  // namespace qismora::tour

@@ -1,6 +1,6 @@
-// Walks the program through its main roads and leaves a picture of each screen. It needs no display. The
-// clock stands still, memory and letters are fixed and everything that is saved lies in a temporary folder,
-// so that the same build leaves the same pictures.
+// Goes through the windows of the program and takes a picture of each. It needs no display. The clock stands
+// still, the memory figures and the font are fixed, and all files are in a temporary directory, so that the
+// same build gives the same pictures.
 
 #include <QDir>
 #include <QImage>
@@ -23,8 +23,8 @@ const char* const name = "Text1(24)";
 const char* const gross = "Text1(25)";
 const char* const wills = "Text1(28)";
 
-/// The road, from picture to picture: what is done in the window in use, and what is then to be seen.
-const std::vector<Stop> road = {
+/// The pictures in order. For each: its name, the steps in the active window, and what the picture shows.
+const std::vector<Stop> stops = {
     {"main-menu", {}},
     {"main-menu-hover", {{Do::Hover, "Option1(6)"}}},
     {"disclaimer", {{Do::Choose, "Disclaimer"}}},
@@ -57,12 +57,12 @@ const std::vector<Stop> road = {
     {"residuaries", {{Do::Choose, "Resid"}}},
     {"residuaries-urdu", {{Do::Click, "Label4(0)"}}},
     {"residuaries-arabic", {{Do::Click, "Label4(2)"}}},
-    {"class-two", {{Do::DoubleClick, "Image37(3)"}}, Shown::Box},
-    {"message-box", {{Do::Click, "Label4(1)"}, {Do::DoubleClick, "Label1(1)"}}, Shown::Box},
+    {"class-two", {{Do::DoubleClick, "Image37(3)"}}, Shown::MessageBox},
+    {"message-box", {{Do::Click, "Label4(1)"}, {Do::DoubleClick, "Label1(1)"}}, Shown::MessageBox},
     {"narrative", {}},
     {"all-individual", {{Do::Choose, "FullReport"}}},
     {"summary", {{Do::Choose, "Exec"}, {Do::Bottom, "Text3"}}},
-    {"wills-question", {{Do::Type, wills, "12000"}, {Do::Choose, "Resid"}}, Shown::Box},
+    {"wills-question", {{Do::Type, wills, "12000"}, {Do::Choose, "Resid"}}, Shown::MessageBox},
 
     // A husband and two full sisters: more shares than estate. A mother and a daughter: less.
     {"aul-message",
@@ -74,7 +74,7 @@ const std::vector<Stop> road = {
       {Do::Type, gross, "4200"},
       {Do::Type, wills, "0"},
       {Do::Choose, "Resid"}},
-     Shown::Box},
+     Shown::MessageBox},
     {"aul", {{Do::Click, "AulRadd"}}},
     {"radd",
      {{Do::Click, "Image2"},
@@ -82,49 +82,49 @@ const std::vector<Stop> road = {
       {Do::Type, daughter, "1"},
       {Do::Choose, "Resid"},
       {Do::Click, "AulRadd"}}},
-    {"report-saved", {{Do::Choose, "CreateSaveFullReport"}}, Shown::Box},
+    {"report-saved", {{Do::Choose, "CreateSaveFullReport"}}, Shown::MessageBox},
     {"full-report", {}},
-    {"save-question", {{Do::Choose, "CreateSaveFullReport"}}, Shown::Box},
+    {"save-question", {{Do::Choose, "CreateSaveFullReport"}}, Shown::MessageBox},
 };
 
-/// How far two colours are apart in the channel in which they differ most.
-int Apart(QRgb a, QRgb b) {
+/// The largest difference of two colours in any channel.
+int Difference(QRgb a, QRgb b) {
   return std::max({qAbs(qRed(a) - qRed(b)), qAbs(qGreen(a) - qGreen(b)), qAbs(qBlue(a) - qBlue(b))});
 }
 
-/// The colour with each channel on the nearest of so many levels.
-QRgb OnLevels(QRgb colour, int levels) {
+/// The colour with each channel rounded to one of a number of levels.
+QRgb Quantized(QRgb colour, int levels) {
   const auto part = [levels](int c) { return qRound(c * levels / 255.0) * 255 / levels; };
   return qRgb(part(qRed(colour)), part(qGreen(colour)), part(qBlue(colour)));
 }
 
-/// The picture in no more colours than a file with a table of colours holds: a third of the bytes, and no
-/// difference to the eye.
-QImage WithFewColours(const QImage& picture) {
+/// The picture with a palette of at most 256 colours. The file is a third as large, and the eye sees no
+/// difference.
+QImage WithPalette(const QImage& picture) {
   constexpr std::size_t most = 256;
   std::unordered_map<QRgb, int> places;
-  QImage few(picture.size(), QImage::Format_Indexed8);
+  QImage indexed(picture.size(), QImage::Format_Indexed8);
   for (const int levels : {255, 51, 17, 15, 5}) {
     places.clear();
-    for (int y = 0; y < few.height() && places.size() <= most; ++y) {
-      for (int x = 0; x < few.width(); ++x) {
-        const QRgb colour = OnLevels(picture.pixel(x, y), levels);
+    for (int y = 0; y < indexed.height() && places.size() <= most; ++y) {
+      for (int x = 0; x < indexed.width(); ++x) {
+        const QRgb colour = Quantized(picture.pixel(x, y), levels);
         const auto place = places.try_emplace(colour, static_cast<int>(places.size())).first;
-        few.scanLine(y)[x] = static_cast<uchar>(place->second);
+        indexed.scanLine(y)[x] = static_cast<uchar>(place->second);
       }
     }
     if (places.size() <= most) break;
   }
-  few.setColorCount(static_cast<int>(places.size()));
-  for (const auto& [colour, place] : places) few.setColor(place, colour);
-  return few;
+  indexed.setColorCount(static_cast<int>(places.size()));
+  for (const auto& [colour, place] : places) indexed.setColor(place, colour);
+  return indexed;
 }
 
 bool Save(const Album& album, const QDir& folder) {
   folder.mkpath(QStringLiteral("."));
   for (const auto& [title, picture] : album) {
     const QString file = folder.filePath(title + QStringLiteral(".png"));
-    if (!WithFewColours(picture).save(file, "PNG", 0)) {  // 0 packs it as tightly as PNG can
+    if (!WithPalette(picture).save(file, "PNG", 0)) {  // 0 is Qt's best compression
       std::fprintf(stderr, "qismora_tour: cannot write %s\n", qPrintable(file));
       return false;
     }
@@ -133,30 +133,30 @@ bool Save(const Album& album, const QDir& folder) {
   return true;
 }
 
-/// Letters drawn by another version of the libraries may differ by a shade here and there.
-bool LookAlike(const QImage& kept, const QImage& taken) {
-  constexpr int shade = 64;
+/// Text drawn by another version of the libraries may differ slightly in a few pixels.
+bool AreSimilar(const QImage& kept, const QImage& taken) {
+  constexpr int mostDifference = 64;
   constexpr int mostPixels = 20;
   if (kept.size() != taken.size()) return false;
-  int differ = 0;
+  int different = 0;
   for (int y = 0; y < kept.height(); ++y) {
     for (int x = 0; x < kept.width(); ++x)
-      differ += Apart(kept.pixel(x, y), taken.pixel(x, y)) > shade ? 1 : 0;
+      different += Difference(kept.pixel(x, y), taken.pixel(x, y)) > mostDifference ? 1 : 0;
   }
-  return differ <= mostPixels;
+  return different <= mostPixels;
 }
 
-/// Holds the pictures that are kept in a folder against those just taken.
+/// Compares the pictures kept in a directory with those just taken.
 bool Compare(const Album& album, const QDir& folder) {
   const QStringList files = folder.entryList({QStringLiteral("*.png")}, QDir::Files);
   bool same = !files.isEmpty();
   for (const QString& file : files) {
     const auto taken = album.find(QString(file).remove(QStringLiteral(".png")));
-    if (taken != album.end() && LookAlike(QImage(folder.filePath(file)), taken->second)) continue;
+    if (taken != album.end() && AreSimilar(QImage(folder.filePath(file)), taken->second)) continue;
     std::fprintf(stderr, "%s is out of date\n", qPrintable(folder.filePath(file)));
     same = false;
   }
-  if (!same) std::fputs("Renew the pictures with tools/tour and look at them.\n", stderr);
+  if (!same) std::fputs("Retake the pictures with tools/tour and look at them.\n", stderr);
   return same;
 }
 
@@ -165,10 +165,10 @@ bool Compare(const Album& album, const QDir& folder) {
 int main(int argc, char** argv) {
   const bool compare = argc == 3 && qstrcmp(argv[1], "--compare") == 0;
   if (argc != 2 && !compare) {
-    std::fputs("usage: qismora_tour FOLDER, or qismora_tour --compare FOLDER\n", stderr);
+    std::fputs("usage: qismora_tour DIRECTORY, or qismora_tour --compare DIRECTORY\n", stderr);
     return 2;
   }
   const QDir folder(QString::fromLocal8Bit(argv[argc - 1]));
-  const Album album = Walk(road, argc, argv);
+  const Album album = Walk(stops, argc, argv);
   return (compare ? Compare(album, folder) : Save(album, folder)) ? 0 : 1;
 }
