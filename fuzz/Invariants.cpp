@@ -11,7 +11,7 @@ namespace {
 
 void CheckFinite(std::initializer_list<Double> amounts) {
   for (const Double& amount : amounts) {
-    if (!std::isfinite(amount.Value())) Fault("a number of the record is none");
+    if (!std::isfinite(amount.Value())) Fault("a number of the record is not finite");
   }
 }
 
@@ -67,7 +67,7 @@ void CheckNumbers(const CaseRecord& c) {
   CheckFinite(c.SummaryAmount);
 }
 
-/// The longest texts carry every amount with its 309 digits, and the name of the deceased.
+/// The longest texts contain every amount, with up to 309 digits each, and the name of the deceased.
 void CheckLengths(const CaseStudy& study, const CaseRecord& c) {
   const std::size_t most = 64 * 1024 + 64 * study.Text1(NameBox).Text.Get().size();
   for (const std::string* text : {&study.Text2.Text.Get(),
@@ -100,7 +100,7 @@ void CheckLengths(const CaseStudy& study, const CaseRecord& c) {
                                   &c.SummaryReport,
                                   &c.ClassIINarrative,
                                   &c.ClassIIText}) {
-    if (text->size() > most) Fault("a text has no end");
+    if (text->size() > most) Fault("a text is too long");
   }
 }
 
@@ -108,7 +108,7 @@ void CheckLengths(const CaseStudy& study, const CaseRecord& c) {
 
 void CheckInvariants(const CaseStudy& study, const CaseRecord& c) {
   if (study.Text2.Visible && study.Text3.Visible) Fault("both long texts are visible");
-  if (c.ReportToFile) Fault("the full report has ended and still silences the messages");
+  if (c.ReportToFile) Fault("the full report has ended but still suppresses messages");
   CheckNumbers(c);
   CheckLengths(study, c);
 }

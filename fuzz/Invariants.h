@@ -5,8 +5,8 @@
 
 namespace qismora::testing {
 
-/// Ends the program with a message when the screen or its record holds what no command may leave behind: both
-/// long texts visible, a number that is none, a text longer than any case can make it.
+/// Ends the program with a message when the screen or its record is in a state that no command may leave:
+/// both long texts visible, a number that is not finite, or a text longer than any case can make it.
 void CheckInvariants(const CaseStudy& study, const CaseRecord& c);
 
 /// Ends the program with a message.

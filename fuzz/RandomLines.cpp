@@ -51,14 +51,14 @@ constexpr const char* answers[] = {"answer Yes",      "answer Yes",
                                    "file FullReport", "write zayd.txt an earlier report",
                                    "write .txt ",     "write FullReport half"};
 
-// Commands that only together reach what they reach: a file that is replaced, and a panel that shows nothing
-// while the hidden text holds something.
+// Sequences of commands that reach rare states: a file that is replaced, and an empty panel over a hidden text that is
+// not empty.
 const std::vector<std::string> replacing = {"write out.txt earlier", "file out.txt", "answer Yes",
                                             "click SaveResults"};
 const std::vector<std::string> emptyPanel = {"click Resid", "type Text1(1) 5", "doubleclick Label1(2)",
                                              "click AulRadd"};
 
-// What people type, and what nobody should.
+// Unusual and invalid input.
 constexpr const char* oddTexts[] = {
     "",
     " ",
@@ -117,7 +117,7 @@ constexpr const char* oddTexts[] = {
 constexpr const char* names[] = {"Zayd",       "ZAYD", "",           ".",   "..", "a/b",  "a\\b",
                                  "عبد الله É", "İßŉ",  "FullReport", "con", " ",  "\xc3", "tab\tname"};
 
-constexpr int largestLetter = 255;
+constexpr int largestByte = 255;
 
 }  // namespace
 
@@ -169,17 +169,17 @@ std::string RandomLines::Estate() {
   return Below(4) == 0 ? Join(static_cast<int>(Below(1000000))) : Join(static_cast<int>(24000 * Below(9)));
 }
 
-/// Any bytes but a line break, now and then very many.
+/// Any bytes except a line break, sometimes very many.
 std::string RandomLines::Noise() {
   std::string noise(Below(Below(8) == 0 ? 2000 : 12), ' ');
-  for (char& letter : noise) {
-    letter = static_cast<char>(1 + Below(largestLetter));
-    if (letter == '\n') letter = '0';
+  for (char& byte : noise) {
+    byte = static_cast<char>(1 + Below(largestByte));
+    if (byte == '\n') byte = '0';
   }
   return noise;
 }
 
-/// A law page, or the common multiple of a few numbers.
+/// A law page, or the least common multiple of a few numbers.
 std::string RandomLines::Numbers() {
   if (Below(4) != 0) return Join("page ", static_cast<int>(Below(20)));
   std::string line = "lcm";

@@ -6,8 +6,8 @@
 
 namespace qismora::testing {
 
-/// A random line of a script: a text typed into a box, a command, or an answer to a box that may come. Most
-/// boxes take a likely count, so that cases are played through; the rest take odd texts.
+/// Random lines of a script: a text typed into a field, a command, or an answer to a later message box. Most
+/// fields get a likely count, so that complete cases are played; the others get unusual texts.
 class RandomLines {
  public:
   explicit RandomLines(std::uint64_t seed) : random_(seed) {}

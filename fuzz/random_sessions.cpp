@@ -1,7 +1,8 @@
-// Plays so many random sessions after one another on one record, each on a new screen, and tells how fast
-// they were and whether memory has grown.
-//   random_sessions SESSIONS [SEED [tell]]
-// With "tell" it prints every line that it plays: the last ones before a crash are the script that led to it.
+// Plays a number of random sessions on one record, each on a new screen. It prints their speed and fails when
+// memory grows.
+//   random_sessions SESSIONS [SEED [print]]
+// With "print", it prints every line that it plays: the last lines before a crash are the script that caused
+// it.
 
 #include <unistd.h>
 
@@ -32,11 +33,11 @@ namespace {
 #define QISMORA_SANITIZED
 #endif
 
-// The sanitizer keeps freed memory back, so its growth tells nothing.
+// The sanitizer does not return freed memory, so growth means nothing there.
 #ifdef QISMORA_SANITIZED
-constexpr bool memoryTells = false;
+constexpr bool memoryIsMeasured = false;
 #else
-constexpr bool memoryTells = true;
+constexpr bool memoryIsMeasured = true;
 #endif
 constexpr long mostGrowth = 1024;
 constexpr unsigned longestSession = 20;
@@ -54,10 +55,10 @@ void Clear(const TemporaryFolder& folder) {
   for (const auto& entry : fs::directory_iterator(folder.Path())) fs::remove_all(entry.path());
 }
 
-/// Sessions on the same record, which carries over from one to the next.
+/// Sessions on one record, whose values carry over from one session to the next.
 class Sessions {
  public:
-  Sessions(std::uint64_t seed, bool tell) : random_(seed), tell_(tell) {}
+  Sessions(std::uint64_t seed, bool print) : random_(seed), print_(print) {}
 
   void Play(int count) {
     for (int session = 0; session < count; ++session) {
@@ -71,14 +72,14 @@ class Sessions {
 
  private:
   void PlayOne() {
-    Say("# a new screen");
+    Print("# a new screen");
     Player player(record_, nowhere_, folder_.Path());
     for (std::size_t lines = 5 + random_.Below(40); lines > 0; --lines) {
       const std::string line = random_.Next();
-      if (random_.Below(8) == 0) Say("# " + obstacles_.Place(random_));
+      if (random_.Below(8) == 0) Print("# " + obstacles_.Place(random_));
       player.Boxes().QuestionsEnd = random_.Below(16) == 0;
-      if (player.Boxes().QuestionsEnd) Say("# questions end unanswered");
-      Say(line);
+      if (player.Boxes().QuestionsEnd) Print("# questions end unanswered");
+      Print(line);
       const bool command = line.starts_with("click ");
       if (command) obstacles_.Look(player.Boxes());
       player.Perform(line);
@@ -87,12 +88,12 @@ class Sessions {
     }
   }
 
-  void Say(const std::string& line) const {
-    if (tell_) std::cout << line << std::endl;
+  void Print(const std::string& line) const {
+    if (print_) std::cout << line << std::endl;
   }
 
   RandomLines random_;
-  bool tell_;
+  bool print_;
   std::ostream nowhere_{nullptr};
   TemporaryFolder folder_;
   Obstacles obstacles_{folder_.Path()};
@@ -103,18 +104,18 @@ class Sessions {
 
 int main(int argc, char** argv) {
   if (argc < 2) {
-    std::cerr << "usage: random_sessions SESSIONS [SEED [tell]]\n";
+    std::cerr << "usage: random_sessions SESSIONS [SEED [print]]\n";
     return 2;
   }
   const int count = std::stoi(argv[1]);
   const std::uint64_t seed = argc > 2 ? std::stoull(argv[2]) : std::random_device()();
-  const bool tell = argc > 3 && std::strcmp(argv[3], "tell") == 0;
+  const bool print = argc > 3 && std::strcmp(argv[3], "print") == 0;
   std::cout << count << " random sessions with the seed " << seed << std::endl;
 
   if (fs::exists("/dev/shm")) setenv("TMPDIR", "/dev/shm", 0);
-  Sessions sessions(seed, tell);
+  Sessions sessions(seed, print);
   const auto begin = std::chrono::steady_clock::now();
-  // The first tenth fills the caches of the allocator and counts as the start.
+  // Memory is compared after the first tenth, which fills the caches of the allocator.
   sessions.Play(count / 10);
   const long atStart = ResidentKilobytes();
   sessions.Play(count / 2 - count / 10);
@@ -125,8 +126,8 @@ int main(int argc, char** argv) {
 
   std::cout << static_cast<long>(count / took.count()) << " sessions a second; resident " << atStart
             << " KiB at the start, " << atHalf << " KiB at half, " << atEnd << " KiB at the end\n";
-  if (memoryTells && atEnd - atHalf > mostGrowth) {
-    std::cerr << "memory grows\n";
+  if (memoryIsMeasured && atEnd - atHalf > mostGrowth) {
+    std::cerr << "memory has grown\n";
     return 1;
   }
   return 0;

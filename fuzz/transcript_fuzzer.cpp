@@ -1,6 +1,6 @@
-// Plays any bytes as a script and looks for what no script may bring about: a failure that leaves its event,
-// a report of the sanitizers, a file outside of the script's folder, a record that breaks its promises. Lines
-// that are no command are passed over, so that a script with one wrong letter still tells something.
+// Plays any bytes as a script and looks for what no script may cause: a failure that escapes its event, a
+// report of the sanitizers, a file outside the script's directory, a record that breaks its invariants. Lines
+// that are not commands are skipped, so that a script with one wrong byte is still played.
 
 #include <algorithm>
 #include <filesystem>
@@ -25,16 +25,16 @@ std::size_t LLVMFuzzerMutate(std::uint8_t* data, std::size_t size, std::size_t m
 
 namespace {
 
-/// The folder of the scripts, within one of its own that must stay empty but for it.
-class Playground {
+/// The directory of the scripts, inside another directory that must stay empty otherwise.
+class ScriptDirectory {
  public:
-  Playground() { fs::create_directory(Path()); }
+  ScriptDirectory() { fs::create_directory(Path()); }
 
   std::string Path() const { return outer_.File("scripts"); }
 
   void Clear() const {
     for (const auto& entry : fs::directory_iterator(outer_.Path())) {
-      if (entry.path() != Path()) Fault("a script has left its folder");
+      if (entry.path() != Path()) Fault("a script wrote outside its directory");
     }
     for (const auto& entry : fs::directory_iterator(Path())) fs::remove_all(entry.path());
   }
@@ -43,9 +43,9 @@ class Playground {
   TemporaryFolder outer_;
 };
 
-/// Takes everything and keeps nothing.
-class Nowhere : public std::streambuf {
-  int overflow(int letter) override { return letter == EOF ? 0 : letter; }
+/// Discards all output.
+class NullBuffer : public std::streambuf {
+  int overflow(int byte) override { return byte == EOF ? 0 : byte; }
   std::streamsize xsputn(const char*, std::streamsize count) override { return count; }
 };
 
@@ -59,7 +59,7 @@ std::vector<std::string> Lines(std::string_view script) {
   return lines;
 }
 
-/// Puts a line in, takes one out, doubles one, or moves one to another place.
+/// Inserts, removes, duplicates or swaps lines.
 void ChangeLines(std::vector<std::string>& lines, RandomLines& random) {
   const auto place = [&](std::size_t extra) {
     return lines.begin() + static_cast<std::ptrdiff_t>(random.Below(lines.size() + extra));
@@ -79,19 +79,19 @@ void ChangeLines(std::vector<std::string>& lines, RandomLines& random) {
 
 }  // namespace
 
-/// Files in memory, where the machine offers it, and no folder was asked for.
+/// Puts the files in memory where the machine supports it, unless TMPDIR is set.
 int LLVMFuzzerInitialize(int*, char***) {
   if (fs::exists("/dev/shm")) setenv("TMPDIR", "/dev/shm", 0);
   return 0;
 }
 
 int LLVMFuzzerTestOneInput(const std::uint8_t* data, std::size_t size) {
-  static const Playground playground;
-  static Nowhere nowhere;
-  std::ostream out(&nowhere);
+  static const ScriptDirectory directory;
+  static NullBuffer discarded;
+  std::ostream out(&discarded);
   {
     CaseRecord record;
-    Player player(record, out, playground.Path());
+    Player player(record, out, directory.Path());
     for (const std::string& line : Lines({reinterpret_cast<const char*>(data), size})) {
       try {
         player.Perform(line);
@@ -101,11 +101,11 @@ int LLVMFuzzerTestOneInput(const std::uint8_t* data, std::size_t size) {
     }
     player.Play("show");
   }
-  playground.Clear();
+  directory.Clear();
   return 0;
 }
 
-/// Half of the changes are made by lines, since a script is a row of commands; the other half by bytes.
+/// Changes whole lines half of the time, since a script is a list of commands, and bytes otherwise.
 std::size_t LLVMFuzzerCustomMutator(std::uint8_t* data, std::size_t size, std::size_t most, unsigned seed) {
   RandomLines random(seed);
   if (random.Below(2) == 0) return LLVMFuzzerMutate(data, size, most);
