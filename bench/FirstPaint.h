@@ -13,7 +13,7 @@
 #include <string>
 #include <utility>
 
-/// Calls once, when the window has been painted.
+/// Calls a function once, when the window has been painted.
 class FirstPaint : public QObject {
  public:
   FirstPaint(QWidget* window, std::function<void()> painted) : QObject(window), painted_(std::move(painted)) {
@@ -38,8 +38,8 @@ inline double Milliseconds() {
   return static_cast<double>(now.tv_sec) * 1e3 + static_cast<double>(now.tv_nsec) / 1e6;
 }
 
-/// The time that the processor has worked for this process, in milliseconds.
-inline double ProcessorTime() {
+/// The CPU time of this process, in milliseconds.
+inline double CpuTime() {
   rusage used{};
   getrusage(RUSAGE_SELF, &used);
   const auto milliseconds = [](const timeval& time) {
@@ -48,7 +48,7 @@ inline double ProcessorTime() {
   return milliseconds(used.ru_utime) + milliseconds(used.ru_stime);
 }
 
-/// The most memory that the process has had, in MiB.
+/// The peak memory of this process, in MiB.
 inline double PeakMemory() {
   std::ifstream status("/proc/self/status");
   for (std::string line; std::getline(status, line);) {
@@ -57,8 +57,8 @@ inline double PeakMemory() {
   return 0;
 }
 
-/// What bench/measure.py reads: the moment, the processor's time up to it, and the peak of memory.
-inline void TellStart() { std::printf("%.3f %.3f %.2f", Milliseconds(), ProcessorTime(), PeakMemory()); }
+/// Prints what bench/measure.py reads: the current time, the CPU time and the peak memory.
+inline void PrintStart() { std::printf("%.3f %.3f %.2f", Milliseconds(), CpuTime(), PeakMemory()); }
 
 inline void EndProbe() {
   std::printf("\n");

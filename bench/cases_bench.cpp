@@ -1,5 +1,5 @@
-// How fast a case is on a form without windows, and that memory does not grow over a million cases.
-//   qismora_bench --count NAME    runs one command under callgrind, which counts what Counted does
+// Measures the speed of a case on a form without windows, and the memory before and after a million cases.
+//   qismora_bench --count NAME    runs one command for callgrind, which counts the instructions of Counted
 
 #include <benchmark/benchmark.h>
 #include <unistd.h>
@@ -23,7 +23,7 @@ using testing::MemoryCase;
 /// A wife, two daughters, father and mother, a full sister and a uterine brother.
 void TypeSevenHeirs(MemoryCase& played) {
   played.TypeEstate("24000");
-  for (const int box : {1, 13, 16, 23, 33}) played.Type(box, "1");
+  for (const int field : {1, 13, 16, 23, 33}) played.Type(field, "1");
   played.Type(3, "2");
 }
 
@@ -36,7 +36,7 @@ void TypeSixHeirs(MemoryCase& played) {
 /// Thirteen kinds of heir, most of them excluded by the son.
 void TypeThirteenHeirs(MemoryCase& played) {
   played.TypeEstate("24000");
-  for (const int box : {1, 2, 3, 5, 7, 13, 16, 17, 22, 23, 30, 31, 32, 33}) played.Type(box, "1");
+  for (const int field : {1, 2, 3, 5, 7, 13, 16, 17, 22, 23, 30, 31, 32, 33}) played.Type(field, "1");
 }
 
 void PressResiduaries(MemoryCase& played) { played.Study->Residuaries_Click(); }
@@ -86,7 +86,7 @@ void Time(benchmark::State& state, const Command& command) {
 
 [[gnu::noinline]] void Counted(const Command& command, MemoryCase& played) { command.Press(played); }
 
-/// Runs the command so often that the count can be divided by 100. The first run fills the caches of the
+/// Runs the command 100 times, so that the count is divided by 100. The first run fills the caches of the
 /// allocator and is not counted.
 void Count(const std::string& name) {
   for (const Command& command : commands) {
@@ -109,7 +109,7 @@ long ResidentKilobytes() {
   return resident * sysconf(_SC_PAGESIZE) / 1024;
 }
 
-void PrintGrowthOverAMillionCases() {
+void PrintMemoryOverAMillionCases() {
   MemoryCase played;
   TypeSevenHeirs(played);
   const auto play = [&](int cases) {
@@ -141,6 +141,6 @@ int main(int argc, char** argv) {
   benchmark::Initialize(&argc, argv);
   benchmark::AddCustomContext("compiler", __VERSION__);
   benchmark::RunSpecifiedBenchmarks();
-  PrintGrowthOverAMillionCases();
+  PrintMemoryOverAMillionCases();
   return 0;
 }

@@ -1,7 +1,7 @@
 #!/usr/bin/env python3
-"""Measures the program and writes a page of it.
+"""Measures the program and writes the results to a page.
 
-measure.py FOLDER PAGE [PACKAGE]     FOLDER holds startup_menu, startup_bare and qismora_bench
+measure.py DIRECTORY PAGE [PACKAGE]     DIRECTORY holds startup_menu, startup_bare and qismora_bench
 """
 
 import datetime
@@ -30,14 +30,14 @@ BENCHMARKS = {
     "ResiduariesWithoutMessage": "The command Residuaries without the father, which shows no message box",
     "SelectedReport": "The command Execute Selected, a son and thirteen other kinds of heir",
     "FullReportWithoutFiles": "A full report, without its files",
-    "FullReportInMemoryFiles": "A full report with its files, on a disk in memory",
+    "FullReportInMemoryFiles": "A full report with its files, in a memory file system",
     "DivisionInOneSchool": "A division among seven kinds of heir in one school, with its reasons",
     "DivisionInFourSchools": "The same in the four schools",
 }
 
 
 class Load:
-    """How much of the processors others have used since this was made."""
+    """The share of the CPU that other processes have used since this object was created."""
 
     def __init__(self):
         self.start = self.used()
@@ -61,10 +61,10 @@ def run(*command, environment=None):
 
 
 def start(command, environment):
-    """Time and processor's time to the painted window, peak memory, and what else the probe tells."""
+    """Time and CPU time to the painted window, peak memory, and the further numbers that the probe prints."""
     before = time.monotonic() * 1000
-    told = [float(word) for word in run(*command, environment=environment).split()]
-    return [told[0] - before] + told[1:]
+    printed = [float(word) for word in run(*command, environment=environment).split()]
+    return [printed[0] - before] + printed[1:]
 
 
 def write_log(folder, lines):
@@ -75,14 +75,14 @@ def write_log(folder, lines):
 
 
 def measure_starts(programs, lines):
-    """The medians of the program and of the bare one, in turns; the number of widgets; how Case Study opens."""
+    """The medians of the program and of the minimal one, in turns; the number of widgets; the times to open Case Study."""
     with tempfile.TemporaryDirectory() as home:
         environment = dict(os.environ, QT_QPA_PLATFORM="offscreen", XDG_CONFIG_HOME=home, XDG_DATA_HOME=home,
                            XDG_RUNTIME_DIR=home)
         if lines:
             write_log(home, lines)
         menu = [os.path.join(programs, "startup_menu"), home]
-        # The first run writes the settings; after it nothing is there for the first time.
+        # The first run writes the settings and fills the caches, so it is not counted.
         widgets = int(start(menu, environment)[3])
         bare = [os.path.join(programs, "startup_bare"), str(widgets)]
         start(bare, environment)
@@ -104,31 +104,31 @@ def count_instructions(programs, name):
 
 
 def measure_cases(programs):
-    """The medians of the benchmarks in microseconds, the memory over a million cases, the compiler."""
+    """The medians of the benchmarks in microseconds, the memory before and after a million cases, the compiler."""
     with tempfile.TemporaryDirectory() as folder:
         out = os.path.join(folder, "benchmarks.json")
         names = "|".join(BENCHMARKS)
-        told = run(os.path.join(programs, "qismora_bench"), f"--benchmark_filter=^({names})$",
+        printed = run(os.path.join(programs, "qismora_bench"), f"--benchmark_filter=^({names})$",
                    f"--benchmark_repetitions={REPETITIONS}", f"--benchmark_out={out}")
         with open(out) as file:
             result = json.load(file)
     medians = {row["run_name"]: row["cpu_time"] for row in result["benchmarks"]
                if row.get("aggregate_name") == "median"}
-    growth = re.search(r"(\d+) KiB before, (\d+) KiB after", told)
+    growth = re.search(r"(\d+) KiB before, (\d+) KiB after", printed)
     return medians, growth.groups(), result["context"]["compiler"]
 
 
-def families_a_second(programs):
-    """How many families of a table qismora-divide divides in a second of the processor, the median of its runs."""
+def families_per_second(programs):
+    """The number of families that qismora-divide divides per second of CPU time, the median of its runs."""
     rng = random.Random(1)
     families = 300_000
     with tempfile.NamedTemporaryFile("w", suffix=".csv") as table:
         table.write("id,Wives,Sons,Daughters,Father,Grand Father,Mother,Mother's Mother,Brothers (Full),"
                     "Sisters (Full),Consanguine Sister,Uterine Brothers,Gross Estate,Debts,Will(s)\n")
         for row in range(families):
-            heads = [rng.choice((0, 0, 1, 2)) for _ in range(3)] + [rng.choice((0, 1)) for _ in range(4)]
-            heads += [rng.choice((0, 0, 0, 1, 3)) for _ in range(4)]
-            table.write(f"{row},{','.join(map(str, heads))},{rng.randrange(10**9) / 100:.2f},500,1000.50\n")
+            counts = [rng.choice((0, 0, 1, 2)) for _ in range(3)] + [rng.choice((0, 1)) for _ in range(4)]
+            counts += [rng.choice((0, 0, 0, 1, 3)) for _ in range(4)]
+            table.write(f"{row},{','.join(map(str, counts))},{rng.randrange(10**9) / 100:.2f},500,1000.50\n")
         table.flush()
         times = []
         for _ in range(REPETITIONS):
@@ -140,20 +140,20 @@ def families_a_second(programs):
     return families / statistics.median(times)
 
 
-def model_of_processor():
+def cpu_model():
     with open("/proc/cpuinfo") as file:
         return next((line.split(":")[1].strip() for line in file if line.startswith("model name")),
                     "unknown")
 
 
-def told_load(others):
-    share = f"others used {100 * others:.0f} % of the processors meanwhile"
-    return f"{share}: the machine was busy, so times are too high and ratios coarse" if others > BUSY else share
+def load_text(others):
+    share = f"other processes used {100 * others:.0f} % of the CPU meanwhile"
+    return f"{share}: the machine was busy, so times are too high and ratios are rough" if others > BUSY else share
 
 
-def beside(what, unit, both, limit=""):
-    mine, plain = both
-    return f"| {what} | {mine:.1f} {unit} | {plain:.1f} {unit} | {mine / plain:.2f} | {limit} |"
+def compared(what, unit, both, limit=""):
+    program, minimal = both
+    return f"| {what} | {program:.1f} {unit} | {minimal:.1f} {unit} | {program / minimal:.2f} | {limit} |"
 
 
 def write_page(path, programs, packages):
@@ -161,46 +161,46 @@ def write_page(path, programs, packages):
     (quick, cpu, memory), widgets, openings = measure_starts(programs, 0)
     (quick_log, cpu_log, memory_log), _, _ = measure_starts(programs, 10000)
     cases, growth, compiler = measure_cases(programs)
-    families = families_a_second(programs)
+    families = families_per_second(programs)
     qt = run("qtpaths6", "--query", "QT_VERSION").strip()
     limit = f"{MOST_TIMES}"
     rows = [
         "# Measurements",
         "",
-        "Written by `./measure`. Times are of this machine; ratios tell more.",
+        "Written by `./measure`. Times depend on the machine; ratios depend on it less.",
         "",
         "| | |",
         "|---|---|",
         f"| Day | {datetime.date.today()} |",
-        f"| Machine | {os.cpu_count()} cores, {model_of_processor()} |",
-        f"| Load | {told_load(load.share_of_others())} |",
+        f"| Machine | {os.cpu_count()} cores, {cpu_model()} |",
+        f"| Load | {load_text(load.share_of_others())} |",
         f"| Built with | C++ compiler {compiler.strip()}, optimized; Qt {qt}, windows drawn offscreen |",
         "",
         "## Start",
         "",
-        "From the start of the process to the painted main menu, beside a bare Qt program that shows as many plain",
-        f"widgets: {widgets} labels and radio buttons. Medians of {STARTS} starts of each, in turns, no film loaded.",
+        "From the start of the process to the painted main menu, compared with a minimal Qt program that shows as many",
+        f"plain widgets: {widgets} labels and radio buttons. Medians of {STARTS} starts of each, in turns, without videos.",
         "",
-        "| | Qismora | Bare program | Ratio | At most |",
+        "| | Qismora | Minimal program | Ratio | Limit |",
         "|---|---|---|---|---|",
-        beside("Painted, no log", "ms", quick, limit),
-        beside("Painted, 10,000 lines in the log", "ms", quick_log, limit),
-        beside("Processor's time, no log", "ms", cpu),
-        beside("Processor's time, 10,000 lines in the log", "ms", cpu_log),
-        beside("Peak memory, no log", "MiB", memory, limit),
-        beside("Peak memory, 10,000 lines in the log", "MiB", memory_log, limit),
+        compared("Painted, no log", "ms", quick, limit),
+        compared("Painted, 10,000 lines in the log", "ms", quick_log, limit),
+        compared("CPU time, no log", "ms", cpu),
+        compared("CPU time, 10,000 lines in the log", "ms", cpu_log),
+        compared("Peak memory, no log", "MiB", memory, limit),
+        compared("Peak memory, 10,000 lines in the log", "MiB", memory_log, limit),
         "",
-        f"Case Study opened {OPENINGS} times in each of these runs; the medians:",
+        f"Case Study was opened {OPENINGS} times in each of these runs. The medians:",
         "",
-        "| | | At most |",
+        "| | | Limit |",
         "|---|---|---|",
         f"| Opens from the menu, the first time | {openings[0]:.1f} ms | {MOST_OPENING} ms |",
         f"| Opens from the menu, the best of {OPENINGS} times | {openings[1]:.1f} ms | |",
         "",
         "## Cases, without windows",
         "",
-        f"Seven heirs where nothing else is said; processor's time, medians of {REPETITIONS} runs of many repetitions;",
-        "instructions counted by callgrind.",
+        f"CPU time for seven heirs unless stated otherwise: medians of {REPETITIONS} runs of many repetitions.",
+        "Instructions were counted with callgrind.",
         "",
         "| | Time | Instructions |",
         "|---|---|---|",

@@ -1,6 +1,7 @@
-// The program as it starts: tells when the main menu was painted, what that took, the number of its widgets,
-// and how long the Case Study takes to open from the menu, the first time and at best.
-//   startup_menu FOLDER [OPENINGS]     FOLDER stands for the program's own
+// Starts the program. It prints when the main menu was painted, the CPU time, the memory and the number of
+// its widgets. Then it prints how long the Case Study takes to open from the menu, the first time and at
+// best.
+//   startup_menu DIRECTORY [OPENINGS]     DIRECTORY is used as the program's own
 
 #include <algorithm>
 
@@ -12,7 +13,7 @@ using namespace qismora;
 
 namespace {
 
-/// Opens and closes the Case Study so many times.
+/// Opens and closes the Case Study a number of times.
 class Openings {
  public:
   Openings(ProgramWindows& windows, int count) : windows_(windows), left_(count) {}
@@ -49,7 +50,7 @@ int main(int argc, char** argv) {
   RunningProgram program(QString::fromLocal8Bit(argv[1]));
   Openings openings(program.Windows, argc > 2 ? std::stoi(argv[2]) : 0);
   FirstPaint painted(&program.Windows.MainMenu(), [&] {
-    TellStart();
+    PrintStart();
     int widgets = 0;
     for (const QWidget* widget : program.Windows.MainMenu().findChildren<QWidget*>())
       widgets += widget->isVisible() ? 1 : 0;
