@@ -45,7 +45,7 @@ Control ParseControl(std::string_view text) {
   return {text.substr(0, open), IndexUpTo(text.substr(open + 1, text.size() - open - 2), 99)};
 }
 
-/// The first word of the text, which keeps what stands behind one blank.
+/// Removes the first word and one blank from the text, and returns the word.
 std::string_view TakeWord(std::string_view& text) {
   const std::size_t end = std::min(text.find(' '), text.size());
   const std::string_view word = text.substr(0, end);
@@ -86,7 +86,7 @@ void Player::Perform(std::string_view line) {
   (this->*found->second)(rest);
 }
 
-/// The view at an opening is the index that was read at program start, when there were no settings.
+/// The view of a new screen is the index read at program start. There are no settings then, so it is 0.
 void Player::Open() {
   study_.reset();
   study_ = std::make_unique<CaseStudy>(record_, outside_, 0);

@@ -13,19 +13,19 @@
 
 namespace qismora::testing {
 
-/// A script line that is no command.
+/// Thrown for a script line that is not a command.
 struct NoCommand {};
 
-/// Plays the lines of a script on a Case Study screen without a window, and prints what comes of them. All
-/// files of a script lie in one folder.
+/// Plays the lines of a script on a Case Study screen without a window, and prints the transcript. All files
+/// of a script are in one directory.
 class Player {
  public:
-  /// Opens the screen on the record, over a world of its own.
+  /// Opens the screen on the record, with fake ports.
   Player(CaseRecord& record, std::ostream& out, const std::string& folder);
 
-  /// Prints the line, plays it, and prints its boxes and what changed.
+  /// Prints the line, plays it, and prints its message boxes and what changed.
   void Play(std::string_view line);
-  /// Plays the line without looking at what changed.
+  /// Plays the line without printing it or what changed.
   void Perform(std::string_view line);
 
   const CaseStudy& Study() const { return *study_; }

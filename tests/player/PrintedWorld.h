@@ -10,7 +10,7 @@
 
 namespace qismora::testing {
 
-/// Boxes that are printed as they come.
+/// Prints each message box when it is shown.
 class PrintedBoxes : public MemoryBoxes {
  public:
   explicit PrintedBoxes(std::ostream& out) : out_(out) {}
@@ -31,7 +31,7 @@ class PrintedBoxes : public MemoryBoxes {
   std::ostream& out_;
 };
 
-/// The save dialog: file names of the queue, in the folder of the script.
+/// Prints each save dialog. It answers with the file names of the queue, in the directory of the script.
 class PrintedDialog : public MemoryDialog {
  public:
   PrintedDialog(std::ostream& out, const std::string& folder) : out_(out), folder_(folder) {}
@@ -41,7 +41,7 @@ class PrintedDialog : public MemoryDialog {
     const std::optional<std::string> name = MemoryDialog::AskPath(suggestedName, filter);
     out_ << (name ? "  file " + Escaped(*name) : "  cancel") << '\n';
     if (!name) return name;
-    // A name that would leave the folder is none, as ".." is none.
+    // A name outside the directory becomes "..", which is not a valid file name either.
     return Join(folder_, "/", IsFileName(*name) ? *name : "..");
   }
 

@@ -8,7 +8,7 @@ namespace qismora::testing {
 
 namespace {
 
-/// Prints the fields of a record, one line each, and leaves out what is 0, empty or False.
+/// Prints the fields of a record, one per line, except those that are 0, empty or False.
 class Printer {
  public:
   explicit Printer(std::ostream& out) : out_(out) {}

@@ -8,7 +8,7 @@
 using namespace qismora;
 using namespace qismora::testing;
 
-/// Plays standard input to its end, or to a line that is no command, in a new empty folder.
+/// Plays standard input in a new empty directory, to its end or to a line that is not a command.
 int main() {
   std::ios::sync_with_stdio(false);
   const TemporaryFolder folder;
@@ -21,7 +21,7 @@ int main() {
       player.Play(line);
     } catch (const NoCommand&) {
       std::cout.flush();
-      std::cerr << "line " << number << " is no command: " << line << '\n';
+      std::cerr << "line " << number << " is not a command: " << line << '\n';
       return 2;
     }
   }

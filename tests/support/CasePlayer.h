@@ -18,23 +18,24 @@ namespace qismora::testing {
 
 using Lines = std::vector<std::string>;
 
-/// Plays a worked case as a user does, on a screen of its own, and holds each answer against the one told.
+/// Plays a worked case on a screen of its own, as a user would, and compares each answer with the expected
+/// one.
 class CasePlayer {
  public:
   CasePlayer() {
     world_.Folders.Folder = folder_.Path();
-    boxes_ = {{"Wives", 1}, {"Husband", 1}};  // box 1 bears the caption of either
-    for (const int box : HeirBoxes) boxes_[screen_.Label1(box).Caption.Get()] = box;
-    for (const int box : {NameBox, GrossEstateBox, FuneralBox, DebtsBox, WillsBox}) {
-      boxes_[screen_.Label1(box).Caption.Get()] = box;
-      if (box != NameBox) screen_.Text1(box).Text = "0";
+    fields_ = {{"Wives", 1}, {"Husband", 1}};  // both captions belong to field 1
+    for (const int field : HeirBoxes) fields_[screen_.Label1(field).Caption.Get()] = field;
+    for (const int field : {NameBox, GrossEstateBox, FuneralBox, DebtsBox, WillsBox}) {
+      fields_[screen_.Label1(field).Caption.Get()] = field;
+      if (field != NameBox) screen_.Text1(field).Text = "0";
     }
-    for (int i = 0; i < screen_.Check1.Size; ++i) checks_[screen_.Check1(i).Caption.Get()] = i;
+    for (int i = 0; i < screen_.Check1.Size; ++i) checkBoxes_[screen_.Check1(i).Caption.Get()] = i;
   }
 
   void Play(const documents::WorkedCase& worked) {
     for (const auto& [caption, value] : worked.Boxes) Enter(caption, value);
-    // Aul and Radd stand on a distribution, whether the case tells it or not.
+    // Aul and Radd work on a distribution, even if the case does not show it.
     if (worked.Answers.front().Command == "Aul & Radd") screen_.Resid_Click();
     for (const documents::Played& answer : worked.Answers) {
       SCOPED_TRACE(answer.Command);
@@ -55,16 +56,17 @@ class CasePlayer {
       screen_.Combo1.ListIndex = value == "Female" ? Female : Male;
     } else if (caption == "Answer") {
       world_.Boxes.Answers.push_back(value == "Yes" ? Answer::Yes : Answer::No);
-    } else if (const auto box = boxes_.find(caption); box != boxes_.end()) {
-      screen_.Text1(box->second).Text = value;
-    } else if (const auto check = checks_.find(caption); check != checks_.end() && value == "ticked") {
-      screen_.Check1(check->second).Value = 1;
+    } else if (const auto field = fields_.find(caption); field != fields_.end()) {
+      screen_.Text1(field->second).Text = value;
+    } else if (const auto checkBox = checkBoxes_.find(caption);
+               checkBox != checkBoxes_.end() && value == "ticked") {
+      screen_.Check1(checkBox->second).Value = 1;
     } else {
       ADD_FAILURE() << "the screen has no " << caption << " = " << value;
     }
   }
 
-  /// Does what the command says, and what the user then reads, without empty lines.
+  /// Runs the command and returns what the user then reads, without empty lines.
   Lines Run(const std::string& command) {
     if (command == "Message") return Message();
     if (command == "Files") return Files();
@@ -81,7 +83,7 @@ class CasePlayer {
     if (command == "Execute Selected") screen_.Exec_Click();
     if (command == "Full Report") screen_.CreateSaveFullReport_Click();
     if (const std::string doubleClick = "Double click "; command.starts_with(doubleClick)) {
-      screen_.Label1_DblClick(boxes_.at(command.substr(doubleClick.size())));
+      screen_.Label1_DblClick(fields_.at(command.substr(doubleClick.size())));
       Lines lines = {screen_.Label2.Caption, screen_.Label3.Caption};
       std::ranges::copy(LinesOf(screen_.Text2.Text), std::back_inserter(lines));
       return lines;
@@ -131,25 +133,26 @@ class CasePlayer {
     return text;
   }
 
-  /// A long line may be told up to an ellipsis.
-  static std::string Cut(const std::string& line, const std::string& told) {
-    const std::size_t ellipsis = told.find("…");
+  /// The line, cut where the expected line has an ellipsis.
+  static std::string Cut(const std::string& line, const std::string& expected) {
+    const std::size_t ellipsis = expected.find("…");
     return ellipsis == std::string::npos ? line : line.substr(0, ellipsis) + "…";
   }
 
-  /// What was played with the lines left out for which the told answer has a line with an ellipsis alone.
-  static Lines Shortened(const Lines& told, const Lines& played) {
+  /// The played lines without those that the expected answer leaves out by a line with an ellipsis alone.
+  static Lines Shortened(const Lines& expected, const Lines& played) {
     Lines shortened;
     auto at = played.begin();
-    for (std::size_t i = 0; i < told.size() && at != played.end(); ++i) {
-      if (told[i] != "…") {
-        shortened.push_back(Cut(*at++, told[i]));
+    for (std::size_t i = 0; i < expected.size() && at != played.end(); ++i) {
+      if (expected[i] != "…") {
+        shortened.push_back(Cut(*at++, expected[i]));
         continue;
       }
-      shortened.push_back(told[i]);
-      at = i + 1 == told.size() ? played.end() : std::find_if(at, played.end(), [&](const std::string& line) {
-        return Cut(line, told[i + 1]) == told[i + 1];
-      });
+      shortened.push_back(expected[i]);
+      at = i + 1 == expected.size() ? played.end()
+                                    : std::find_if(at, played.end(), [&](const std::string& line) {
+                                        return Cut(line, expected[i + 1]) == expected[i + 1];
+                                      });
     }
     shortened.insert(shortened.end(), at, played.end());
     return shortened;
@@ -159,8 +162,8 @@ class CasePlayer {
   MemoryWorld world_;
   CaseRecord record_;
   CaseStudy screen_{record_, world_.Ports, 1};
-  std::map<std::string, int> boxes_;
-  std::map<std::string, int> checks_;
+  std::map<std::string, int> fields_;
+  std::map<std::string, int> checkBoxes_;
 };
 
 }  // namespace qismora::testing

@@ -8,17 +8,17 @@
 
 namespace qismora::testing {
 
-/// A Case Study screen without a window, over a world in memory.
+/// A Case Study screen without a window, on fake ports.
 struct MemoryCase {
   explicit MemoryCase(int savedLanguage = 0)
       : Study(std::make_unique<CaseStudy>(Record, World.Ports, savedLanguage)) {}
 
-  void Type(int box, const std::string& text) { Study->Text1(box).Text = text; }
+  void Type(int field, const std::string& text) { Study->Text1(field).Text = text; }
 
-  /// An estate with nothing to be paid from it.
+  /// Types an estate without funeral expenses, debts and wills.
   void TypeEstate(const std::string& estate) {
     Type(GrossEstateBox, estate);
-    for (const int box : {FuneralBox, DebtsBox, WillsBox}) Type(box, "0");
+    for (const int field : {FuneralBox, DebtsBox, WillsBox}) Type(field, "0");
   }
 
   MemoryWorld World;

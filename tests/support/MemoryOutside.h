@@ -9,14 +9,16 @@
 
 namespace qismora::testing {
 
-/// The outside world in memory: a clock that stands still, boxes and dialogs that answer from a queue,
-/// settings in a map.
+// Fakes of all ports.
+
+/// A clock that stands still.
 class MemoryClock : public Clock {
  public:
   DateTime Now() override { return Time; }
   DateTime Time = {2024, 3, 5, 14, 7, 9};
 };
 
+/// Records the message boxes and answers from a queue.
 class MemoryBoxes : public MessageBoxes {
  public:
   struct Box {
@@ -26,7 +28,7 @@ class MemoryBoxes : public MessageBoxes {
     Answer Given = Answer::Ok;
   };
 
-  /// A box with a choice takes the first answer of the queue, or No when it is empty.
+  /// A message box with a choice takes the first answer of the queue, or No when the queue is empty.
   Answer Show(BoxStyle style, BoxButtons buttons, const std::string& text) override {
     Shown.push_back({style, buttons, text});
     if (buttons == BoxButtons::Ok) return Answer::Ok;
@@ -43,6 +45,7 @@ class MemoryBoxes : public MessageBoxes {
   bool QuestionsEnd = false;
 };
 
+/// Answers with the paths of a queue, and cancels when the queue is empty.
 class MemoryDialog : public SaveDialog {
  public:
   std::optional<std::string> AskPath(const std::string& suggestedName, const std::string&) override {
@@ -57,6 +60,7 @@ class MemoryDialog : public SaveDialog {
   std::deque<std::string> Paths;
 };
 
+/// Keeps the settings in a map.
 class MemorySettings : public Settings {
  public:
   std::string Read(const std::string& application, const std::string& section,
@@ -72,6 +76,7 @@ class MemorySettings : public Settings {
   std::map<std::string, std::string> Values;
 };
 
+/// One directory for everything.
 class MemoryFolders : public Folders {
  public:
   std::string Reports() override { return Folder; }
@@ -79,6 +84,7 @@ class MemoryFolders : public Folders {
   std::string Folder = ".";
 };
 
+/// Records the documents that it should open.
 class MemoryViewer : public DocumentViewer {
  public:
   bool Open(const std::string& path) override {
@@ -90,7 +96,7 @@ class MemoryViewer : public DocumentViewer {
   bool HasViewer = true;
 };
 
-/// A player that notes what it would play.
+/// Records the videos that it should play.
 class MemoryPlayer : public VideoPlayer {
  public:
   void SetFile(const std::string& path) override { File = path; }
@@ -100,18 +106,21 @@ class MemoryPlayer : public VideoPlayer {
   std::vector<std::string> Played;
 };
 
+/// Returns fixed memory figures.
 class MemoryMemory : public MemoryMeter {
  public:
   MemoryFigures Read() override { return Figures; }
   MemoryFigures Figures;
 };
 
+/// Counts how often the program was ended.
 class MemoryProgram : public Program {
  public:
   void End() override { ++Ends; }
   int Ends = 0;
 };
 
+/// All fakes, and the ports that refer to them.
 struct MemoryWorld {
   MemoryClock Clock;
   MemoryBoxes Boxes;

@@ -12,8 +12,8 @@ namespace qismora::testing {
 
 enum class Outcome { Ended, Killed, NotPermitted };
 
-/// Runs the program in a process of its own and kills it when it makes its call of that number to the system,
-/// before the call has done anything.
+/// Runs the program in a child process and kills it at its system call of that number, before the call takes
+/// effect. NotPermitted where processes may not be traced.
 inline Outcome RunUpToCall(int number, const std::function<void()>& program) {
   constexpr int notPermitted = 77;
   const pid_t child = fork();
@@ -26,7 +26,7 @@ inline Outcome RunUpToCall(int number, const std::function<void()>& program) {
   int status = 0;
   waitpid(child, &status, 0);
   if (WIFEXITED(status)) return Outcome::NotPermitted;
-  // Each call stops the program twice: when it is made, and when it returns.
+  // Each system call stops the process twice: on entry and on return.
   for (int stops = 0; stops < 2 * number - 1; ++stops) {
     ptrace(PTRACE_SYSCALL, child, nullptr, nullptr);
     waitpid(child, &status, 0);
@@ -41,7 +41,7 @@ inline Outcome RunUpToCall(int number, const std::function<void()>& program) {
   return Outcome::Killed;
 }
 
-/// Runs two programs at once and waits for their good end.
+/// Runs two programs at the same time and expects both to succeed.
 inline void RunTwoPrograms(const std::function<void(int program)>& run) {
   pid_t children[2] = {};
   for (int program = 0; program < 2; ++program) {
@@ -56,7 +56,7 @@ inline void RunTwoPrograms(const std::function<void(int program)>& run) {
     ASSERT_GT(wait(&status), 0);
     EXPECT_EQ(status, 0);
     if (status == 0) continue;
-    for (const pid_t child : children) kill(child, SIGKILL);  // one may wait for the other
+    for (const pid_t child : children) kill(child, SIGKILL);  // the other one may wait for the failed one
   }
 }
 

@@ -8,14 +8,14 @@
 
 namespace qismora::testing {
 
-/// Folders whose files are written through to the disk, as the program's are.
+/// A directory whose files are synchronized to the disk, as the program's are.
 class DiskFolders : public MemoryFolders {
  public:
   void WriteThrough(const std::string& path) override { SyncToDisk(path); }
 };
 
-/// One run of the program, with a wife and so many sons, that saves all it can save in a folder. A file of an
-/// earlier run is replaced.
+/// One run of the program, with a wife and a number of sons, that saves every kind of file in a directory. It
+/// replaces the files of earlier runs.
 class SavingProgram {
  public:
   SavingProgram(const std::string& folder, int sons) : folder_(folder) {

@@ -7,12 +7,12 @@
 
 namespace qismora::testing {
 
-/// A new empty folder that goes with the object.
+/// A new empty directory. The destructor removes it.
 class TemporaryFolder {
  public:
   TemporaryFolder() {
     std::string name = (std::filesystem::temp_directory_path() / "qismora-XXXXXX").string();
-    if (mkdtemp(name.data()) == nullptr) throw std::runtime_error("no temporary folder");
+    if (mkdtemp(name.data()) == nullptr) throw std::runtime_error("cannot make a temporary directory");
     path_ = name;
   }
   ~TemporaryFolder() {
