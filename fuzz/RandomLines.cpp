@@ -51,8 +51,8 @@ constexpr const char* answers[] = {"answer Yes",      "answer Yes",
                                    "file FullReport", "write zayd.txt an earlier report",
                                    "write .txt ",     "write FullReport half"};
 
-// Sequences of commands that reach rare states: a file that is replaced, and an empty panel over a hidden text that is
-// not empty.
+// Sequences of commands that reach rare states: a file that is replaced, and an empty panel over a hidden
+// text that is not empty.
 const std::vector<std::string> replacing = {"write out.txt earlier", "file out.txt", "answer Yes",
                                             "click SaveResults"};
 const std::vector<std::string> emptyPanel = {"click Resid", "type Text1(1) 5", "doubleclick Label1(2)",
@@ -148,20 +148,20 @@ std::string RandomLines::Next() {
       return Below(8) == 0 ? Numbers() : Join("type Text1(", NameBox, ") ", names[Below(std::size(names))]);
     case 8:
     case 9: {
-      const int box = GrossEstateBox + static_cast<int>(Below(4));
-      return Join("type Text1(", box, ") ", Typed(box));
+      const int field = GrossEstateBox + static_cast<int>(Below(4));
+      return Join("type Text1(", field, ") ", Typed(field));
     }
     default: {
-      const int box = HeirBoxes[Below(HeirBoxes.size())];
-      return Join("type Text1(", box, ") ", Typed(box));
+      const int field = HeirBoxes[Below(HeirBoxes.size())];
+      return Join("type Text1(", field, ") ", Typed(field));
     }
   }
 }
 
-std::string RandomLines::Typed(int box) {
+std::string RandomLines::Typed(int field) {
   if (Below(12) == 0) return Below(4) == 0 ? Noise() : oddTexts[Below(std::size(oddTexts))];
-  if (box == GrossEstateBox) return Estate();
-  if (box > GrossEstateBox) return Below(2) == 0 ? "0" : Join(static_cast<int>(Below(5000)));
+  if (field == GrossEstateBox) return Estate();
+  if (field > GrossEstateBox) return Below(2) == 0 ? "0" : Join(static_cast<int>(Below(5000)));
   return Join(static_cast<int>(Below(Below(4) == 0 ? 21 : 4)));
 }
 

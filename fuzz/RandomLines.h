@@ -17,7 +17,7 @@ class RandomLines {
   std::size_t Below(std::size_t count) { return static_cast<std::size_t>(random_() % count); }
 
  private:
-  std::string Typed(int box);
+  std::string Typed(int field);
   std::string Estate();
   std::string Noise();
   std::string Numbers();

@@ -21,7 +21,7 @@ class SavingProgram {
   SavingProgram(const std::string& folder, int sons) : folder_(folder) {
     folders_.Folder = folder;
     Study.Text1(GrossEstateBox).Text = "24000";
-    for (const int box : {FuneralBox, DebtsBox, WillsBox}) Study.Text1(box).Text = "0";
+    for (const int field : {FuneralBox, DebtsBox, WillsBox}) Study.Text1(field).Text = "0";
     Study.Text1(NameBox).Text = "Zayd";
     Study.Text1(1).Text = "1";
     Study.Text1(2).Text = std::to_string(sons);
