@@ -34,7 +34,7 @@ class CasePlayer {
   }
 
   void Play(const documents::WorkedCase& worked) {
-    for (const auto& [caption, value] : worked.Boxes) Enter(caption, value);
+    for (const auto& [caption, value] : worked.Fields) Enter(caption, value);
     // Aul and Radd work on a distribution, even if the case does not show it.
     if (worked.Answers.front().Command == "Aul & Radd") screen_.Resid_Click();
     for (const documents::Played& answer : worked.Answers) {

@@ -20,7 +20,7 @@ struct Played {
 /// A worked case: what is typed, by the captions of the fields, and the answers in the order of the commands.
 struct WorkedCase {
   std::string Title;
-  std::vector<std::pair<std::string, std::string>> Boxes;
+  std::vector<std::pair<std::string, std::string>> Fields;
   std::vector<Played> Answers;
 };
 
@@ -37,7 +37,7 @@ inline std::pair<std::string, std::string> SplitEntry(const std::string& line) {
   return {Trim(line.substr(0, equals)), Trim(line.substr(equals + 2))};
 }
 
-/// The command that a line gives, with a colon behind it; empty for any other line.
+/// The command on a line that ends with a colon; empty for any other line.
 inline std::string CommandOf(const std::string& line) {
   static const std::vector<std::string> commands = {"Residuaries",      "Aul & Radd",  "All Individual",
                                                     "Execute Selected", "Full Report", "Then type",
@@ -61,8 +61,8 @@ inline WorkedCase ReadCase(const std::vector<std::string>& lines) {
     } else if (!worked.Answers.empty()) {
       worked.Answers.back().Lines.push_back(Trim(line));
     } else {
-      worked.Boxes.push_back(SplitEntry(line));
-      if (worked.Boxes.back().first.empty()) throw std::runtime_error("expected `caption = value`: " + line);
+      worked.Fields.push_back(SplitEntry(line));
+      if (worked.Fields.back().first.empty()) throw std::runtime_error("expected `caption = value`: " + line);
     }
   }
   if (worked.Answers.empty()) throw std::runtime_error("a case without an answer: " + worked.Title);
