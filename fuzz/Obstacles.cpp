@@ -17,8 +17,8 @@ namespace {
 
 constexpr const char* names[] = {"FullReport", "FullReport", "zayd.txt", "out.txt", ".txt", "..txt"};
 
-constexpr const char* kinds[] = {"nothing",     "link", "dangling link", "link to a device",
-                                 "second name", "pipe", "folder",        "private file"};
+constexpr const char* kinds[] = {"nothing",   "link", "dangling link", "link to a device",
+                                 "hard link", "pipe", "directory",     "private file"};
 
 constexpr auto ownerOnly = fs::perms::owner_read | fs::perms::owner_write;
 
@@ -39,9 +39,9 @@ std::string Obstacles::Place(RandomLines& random) {
   if (kind == "link") fs::create_symlink(target, path);
   if (kind == "dangling link") fs::create_symlink(elsewhere_.File("none"), path);
   if (kind == "link to a device") fs::create_symlink("/dev/zero", path);
-  if (kind == "second name") fs::create_hard_link(target, path);
-  if (kind == "pipe" && mkfifo(path.c_str(), 0600) != 0) Fault("no pipe");
-  if (kind == "folder") fs::create_directory(path);
+  if (kind == "hard link") fs::create_hard_link(target, path);
+  if (kind == "pipe" && mkfifo(path.c_str(), 0600) != 0) Fault("cannot make a pipe");
+  if (kind == "directory") fs::create_directory(path);
   if (kind == "private file") {
     std::ofstream(path) << "private";
     fs::permissions(path, ownerOnly);
@@ -81,7 +81,8 @@ void Obstacles::Check(const MemoryBoxes& boxes) const {
     if (box.Given == Answer::Yes && box.Text.starts_with("File with the name")) resultsAgreed = true;
     if (box.Buttons != BoxButtons::Ok && boxes.QuestionsEnd) unanswered = &box;
   }
-  if (unanswered != nullptr && unanswered != &boxes.Shown.back()) Fault("a command goes on unanswered");
+  if (unanswered != nullptr && unanswered != &boxes.Shown.back())
+    Fault("a command went on after an unanswered question");
 
   const Entries after = EntriesOf(folder_);
   for (const auto& [name, entry] : after) {
@@ -89,26 +90,27 @@ void Obstacles::Check(const MemoryBoxes& boxes) const {
     const bool own = name == "FullReport";
     const auto earlier = before_.find(name);
     if (earlier == before_.end()) {
-      if (unanswered != nullptr && !own) Fault("an unanswered question has made a file");
+      if (unanswered != nullptr && !own) Fault("a file was made after an unanswered question");
       continue;
     }
     if (earlier->second == entry) continue;
     const Entry& was = earlier->second;
     if (was.Status.type() == fs::file_type::regular &&
         was.Status.permissions() != entry.Status.permissions()) {
-      Fault("a replaced file has lost its permissions");
+      Fault("a replaced file lost its permissions");
     }
     const bool ordinary = was.Status.type() == fs::file_type::regular && was.Names == 1;
-    if (!(own && ordinary) && !reportAgreed && !resultsAgreed) Fault("a file was replaced unasked");
+    if (!(own && ordinary) && !reportAgreed && !resultsAgreed) Fault("a file was replaced without consent");
   }
   for (const auto& [name, entry] : before_) {
     if (!after.contains(name)) Fault("a file was deleted");
   }
-  if (!resultsAgreed && EntriesOf(elsewhere_.Path()) != elsewhereBefore_) Fault("a link was written through");
+  if (!resultsAgreed && EntriesOf(elsewhere_.Path()) != elsewhereBefore_)
+    Fault("a file was written through a link");
 
   // The working file is complete before the question about the report's own name.
   const bool mayHaveWritten = unanswered == nullptr || unanswered->Text.starts_with("SAVING THIS REPORT");
-  if (!mayHaveWritten && after != before_) Fault("an unanswered question has written a file");
+  if (!mayHaveWritten && after != before_) Fault("a file was written after an unanswered question");
 }
 
 }  // namespace qismora::testing

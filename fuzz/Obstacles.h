@@ -10,16 +10,16 @@
 
 namespace qismora::testing {
 
-/// What the file commands may find in a folder that others can write to: links, second names, pipes, devices,
-/// folders, private files. Each command is held against what it may do to them.
+/// Entries that the file commands may find in a directory that others can write to: symbolic and hard links,
+/// pipes, devices, directories, private files. Checks what each command does to them.
 class Obstacles {
  public:
   explicit Obstacles(std::string folder) : folder_(std::move(folder)) {}
 
-  /// Puts one of them under a name that the commands use; says which.
+  /// Puts one of them under a name that the commands use. Returns a description of it.
   std::string Place(RandomLines& random);
 
-  /// Notes what lies there before a command.
+  /// Records the entries before a command.
   void Look(const MemoryBoxes& boxes);
   /// Ends the program with a message when the command has deleted a file, changed one without the user's
   /// consent, written through a link that he did not choose, or left an unfinished file.

@@ -41,7 +41,7 @@ class MemoryBoxes : public MessageBoxes {
 
   std::vector<Box> Shown;
   std::deque<Answer> Answers;
-  /// Questions end unanswered, as with the program.
+  /// Every question ends without an answer, as when the program ends.
   bool QuestionsEnd = false;
 };
 
