@@ -1,4 +1,4 @@
-// How fast a division is, with its reasons in words and without.
+// Measures the speed of a division, with and without its reasons in words.
 
 #include <benchmark/benchmark.h>
 
