@@ -11,48 +11,48 @@
 #include "aulradd/AulRadd.h"
 #include "reports/ReportRuns.h"
 #include "residue/Residuaries.h"
-#include "support/MemoryCase.h"
+#include "support/ScreenFixture.h"
 #include "support/TemporaryFolder.h"
 
 namespace qismora {
 namespace {
 
 namespace fs = std::filesystem;
-using testing::MemoryCase;
+using testing::ScreenFixture;
 
 /// A wife, two daughters, father and mother, a full sister and a uterine brother.
-void TypeSevenHeirs(MemoryCase& played) {
+void TypeSevenHeirs(ScreenFixture& played) {
   played.TypeEstate("24000");
   for (const int field : {1, 13, 16, 23, 33}) played.Type(field, "1");
   played.Type(3, "2");
 }
 
 /// The same family without the father: the estate suffices, so that no message box is shown.
-void TypeSixHeirs(MemoryCase& played) {
+void TypeSixHeirs(ScreenFixture& played) {
   TypeSevenHeirs(played);
   played.Type(13, "0");
 }
 
 /// Thirteen kinds of heir, most of them excluded by the son.
-void TypeThirteenHeirs(MemoryCase& played) {
+void TypeThirteenHeirs(ScreenFixture& played) {
   played.TypeEstate("24000");
   for (const int field : {1, 2, 3, 5, 7, 13, 16, 17, 22, 23, 30, 31, 32, 33}) played.Type(field, "1");
 }
 
-void PressResiduaries(MemoryCase& played) { played.Study->Residuaries_Click(); }
+void PressResiduaries(ScreenFixture& played) { played.Study->Residuaries_Click(); }
 
-void DoubleClickAllHeirs(MemoryCase& played) {
+void DoubleClickAllHeirs(ScreenFixture& played) {
   for (const int heir : {1, 3, 13, 16, 23, 33}) played.Study->Label1_DblClick(heir);
 }
 
-void MakeFullReport(MemoryCase& played) {
+void MakeFullReport(ScreenFixture& played) {
   played.Record.ReportToFile = true;
   RunSelectedReport(played.Record, *played.Study);
   RunResiduaries(played.Record, *played.Study);
   RunAulRadd(played.Record, *played.Study);
 }
 
-void SaveFullReport(MemoryCase& played) {
+void SaveFullReport(ScreenFixture& played) {
   if (fs::exists("/dev/shm")) setenv("TMPDIR", "/dev/shm", 1);
   static const testing::TemporaryFolder folder;
   played.World.Folders.Folder = folder.Path();
@@ -62,21 +62,22 @@ void SaveFullReport(MemoryCase& played) {
 
 struct Command {
   const char* Name;
-  void (*Type)(MemoryCase&);
-  void (*Press)(MemoryCase&);
+  void (*Type)(ScreenFixture&);
+  void (*Press)(ScreenFixture&);
 };
 
 constexpr Command commands[] = {
     {"Residuaries", TypeSevenHeirs, PressResiduaries},
     {"ResiduariesWithoutMessage", TypeSixHeirs, PressResiduaries},
     {"DoubleClicksOnSixHeirs", TypeSevenHeirs, DoubleClickAllHeirs},
-    {"SelectedReport", TypeThirteenHeirs, [](MemoryCase& played) { played.Study->SelectedReport_Click(); }},
+    {"SelectedReport", TypeThirteenHeirs,
+     [](ScreenFixture& played) { played.Study->SelectedReport_Click(); }},
     {"FullReportWithoutFiles", TypeSevenHeirs, MakeFullReport},
     {"FullReportInMemoryFiles", TypeSevenHeirs, SaveFullReport},
 };
 
 void Time(benchmark::State& state, const Command& command) {
-  MemoryCase played;
+  ScreenFixture played;
   command.Type(played);
   for (auto _ : state) {
     command.Press(played);
@@ -84,14 +85,14 @@ void Time(benchmark::State& state, const Command& command) {
   }
 }
 
-[[gnu::noinline]] void Counted(const Command& command, MemoryCase& played) { command.Press(played); }
+[[gnu::noinline]] void Counted(const Command& command, ScreenFixture& played) { command.Press(played); }
 
 /// Runs the command 100 times, so that the count is divided by 100. The first run fills the caches of the
 /// allocator and is not counted.
 void Count(const std::string& name) {
   for (const Command& command : commands) {
     if (command.Name != name) continue;
-    MemoryCase played;
+    ScreenFixture played;
     command.Type(played);
     command.Press(played);
     for (int i = 0; i < 100; ++i) {
@@ -110,7 +111,7 @@ long ResidentKilobytes() {
 }
 
 void PrintMemoryOverAMillionCases() {
-  MemoryCase played;
+  ScreenFixture played;
   TypeSevenHeirs(played);
   const auto play = [&](int cases) {
     for (int i = 0; i < cases; ++i) {

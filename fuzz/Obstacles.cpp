@@ -65,18 +65,18 @@ Obstacles::Entries Obstacles::EntriesOf(const std::string& folder) {
   return entries;
 }
 
-void Obstacles::Look(const MemoryBoxes& boxes) {
+void Obstacles::Look(const FakeMessageBoxes& boxes) {
   before_ = EntriesOf(folder_);
   elsewhereBefore_ = EntriesOf(elsewhere_.Path());
   shownBefore_ = boxes.Shown.size();
 }
 
-void Obstacles::Check(const MemoryBoxes& boxes) const {
+void Obstacles::Check(const FakeMessageBoxes& boxes) const {
   bool reportAgreed = false;
   bool resultsAgreed = false;
-  const MemoryBoxes::Box* unanswered = nullptr;
+  const FakeMessageBoxes::Box* unanswered = nullptr;
   for (std::size_t i = shownBefore_; i < boxes.Shown.size(); ++i) {
-    const MemoryBoxes::Box& box = boxes.Shown[i];
+    const FakeMessageBoxes::Box& box = boxes.Shown[i];
     if (box.Given == Answer::Yes && box.Text.starts_with("SAVING THIS REPORT")) reportAgreed = true;
     if (box.Given == Answer::Yes && box.Text.starts_with("File with the name")) resultsAgreed = true;
     if (box.Buttons != BoxButtons::Ok && boxes.QuestionsEnd) unanswered = &box;

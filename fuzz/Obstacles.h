@@ -5,7 +5,7 @@
 #include <string>
 
 #include "fuzz/RandomLines.h"
-#include "support/MemoryOutside.h"
+#include "support/FakePorts.h"
 #include "support/TemporaryFolder.h"
 
 namespace qismora::testing {
@@ -20,10 +20,10 @@ class Obstacles {
   std::string Place(RandomLines& random);
 
   /// Records the entries before a command.
-  void Look(const MemoryBoxes& boxes);
+  void Look(const FakeMessageBoxes& boxes);
   /// Ends the program with a message when the command has deleted a file, changed one without the user's
   /// consent, written through a link that he did not choose, or left an unfinished file.
-  void Check(const MemoryBoxes& boxes) const;
+  void Check(const FakeMessageBoxes& boxes) const;
 
  private:
   struct Entry {

@@ -95,7 +95,7 @@ int LLVMFuzzerTestOneInput(const std::uint8_t* data, std::size_t size) {
     for (const std::string& line : Lines({reinterpret_cast<const char*>(data), size})) {
       try {
         player.Perform(line);
-      } catch (const NoCommand&) {
+      } catch (const UnknownCommand&) {
       }
       CheckInvariants(player.Study(), record);
     }

@@ -15,7 +15,7 @@
 
 #include "base/Files.h"
 #include "shell/SessionLog.h"
-#include "support/MemoryOutside.h"
+#include "support/FakePorts.h"
 #include "windows/forms/ProgramWindows.h"
 #include "windows/platform/ShellPorts.h"
 #include "windows/style/OutlinedStyle.h"
@@ -56,16 +56,16 @@ struct TourPorts {
     }
   }
 
-  testing::MemoryClock Clock;
+  testing::FakeClock Clock;
   QtProgram Running;
   QtMessageBoxes Boxes{Running};
-  testing::MemoryFolders Folders;
+  testing::FakeFolders Folders;
   QtSaveDialog Dialog{Folders};
   QtSettings Settings;
-  testing::MemoryViewer Viewer;
+  testing::FakeDocumentViewer Viewer;
   QtVideoPlayer Player{QStringList()};
-  testing::MemoryMemory Memory;
-  testing::MemoryProgram Program;
+  testing::FakeMemoryMeter Memory;
+  testing::FakeProgram Program;
   ShellOutside Ports{{Clock, Boxes, Dialog, Settings, Folders}, Viewer, Player, Memory, Program};
 };
 

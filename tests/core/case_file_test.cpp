@@ -6,14 +6,14 @@
 
 #include "base/Failure.h"
 #include "screens/CaseFile.h"
-#include "support/MemoryCase.h"
+#include "support/ScreenFixture.h"
 #include "support/TemporaryFolder.h"
 
 namespace qismora {
 namespace {
 
-using testing::MemoryCase;
-using testing::MemoryFolders;
+using testing::FakeFolders;
+using testing::ScreenFixture;
 using testing::TemporaryFolder;
 
 const std::string& FieldOf(const CaseFileReading& reading, int index) {
@@ -159,7 +159,7 @@ TEST(CaseFile, NoDamageGoesUnnoticedOrBreaksTheReader) {
 }
 
 TEST(CaseFile, OpeningOneIsTypingIt) {
-  MemoryCase played;
+  ScreenFixture played;
   played.Type(1, "1");
   played.Type(5, "3");
   played.Study->Check1(2).Value = 1;
@@ -176,14 +176,14 @@ TEST(CaseFile, OpeningOneIsTypingIt) {
   EXPECT_EQ(played.Study->Check1(4).Value, 1);
   EXPECT_TRUE(played.World.Boxes.Shown.empty());
 
-  MemoryCase other;
+  ScreenFixture other;
   TypeIntoScreen(ReadScreen(*played.Study, false), *other.Study);
   EXPECT_EQ(ReadScreen(*other.Study, false), ReadScreen(*played.Study, false));
 }
 
 TEST(CaseFile, IsSavedAndOpened) {
   const TemporaryFolder folder;
-  MemoryFolders places;
+  FakeFolders places;
   CaseTexts texts;
   texts.Fields[2] = "1";
   SaveCaseFile(places, folder.File("a.qismora"), texts);

@@ -2,7 +2,7 @@
 
 #include "screens/DivisionInput.h"
 #include "screens/HeirFields.h"
-#include "support/MemoryCase.h"
+#include "support/ScreenFixture.h"
 
 namespace qismora {
 namespace {
@@ -54,7 +54,7 @@ TEST(ReadHeads, ReadsDigitsAloneUpToTheMost) {
 }
 
 TEST(DivisionInput, KnowsTheCaptionsOfTheScreen) {
-  const testing::MemoryCase played;
+  const testing::ScreenFixture played;
   for (const int gender : {Male, Female}) {
     played.Study->Combo1.ListIndex = gender;
     const faraid::Kind otherSpouse = gender == Male ? faraid::Kind::Husband : faraid::Kind::Wives;
@@ -70,7 +70,7 @@ TEST(DivisionInput, KnowsTheCaptionsOfTheScreen) {
 }
 
 TEST(DivisionInput, ReadsEachFieldIntoItsOwnKind) {
-  testing::MemoryCase played;
+  testing::ScreenFixture played;
   played.Study->Combo1.ListIndex = Female;
   for (const HeirField& field : HeirFields) {
     if (field.Heir == faraid::Kind::Wives) continue;

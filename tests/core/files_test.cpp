@@ -10,14 +10,14 @@
 #include <fstream>
 
 #include "base/NewFile.h"
-#include "support/MemoryOutside.h"
+#include "support/FakePorts.h"
 #include "support/TemporaryFolder.h"
 
 namespace qismora {
 namespace {
 
 namespace fs = std::filesystem;
-using testing::MemoryFolders;
+using testing::FakeFolders;
 using testing::TemporaryFolder;
 
 /// No file of this process grows beyond the size, as on a disk that is full.
@@ -45,7 +45,7 @@ std::vector<std::string> EntriesOf(const std::string& folder) {
 }
 
 void Write(const std::string& path, const std::string& content, Replace replace = Replace::Agreed) {
-  MemoryFolders places;
+  FakeFolders places;
   WriteSafely(places, path, content, replace);
 }
 
@@ -153,7 +153,7 @@ TEST(Files, AReplacedFileKeepsItsPermissions) {
 }
 
 /// A disk that reports an error when it shall write through: first the file, or its folder.
-class FailingDisk : public MemoryFolders {
+class FailingDisk : public FakeFolders {
  public:
   explicit FailingDisk(int good) : good_(good) {}
   void WriteThrough(const std::string&) override {
@@ -177,7 +177,7 @@ TEST(Files, ADiskThatFailsToWriteThroughLeavesTheEarlierFile) {
 }
 
 /// Ends the program hard at the moment when the new content is written and the old file still stands.
-class KilledWhileSaving : public MemoryFolders {
+class KilledWhileSaving : public FakeFolders {
  public:
   void WriteThrough(const std::string&) override { std::raise(SIGKILL); }
 };
@@ -197,7 +197,7 @@ TEST(Files, AKilledProgramLeavesTheEarlierFileAndTheNextSaveCleansUp) {
   EXPECT_EQ(ReadWholeFile(folder.File("a.txt")), "earlier");
   ASSERT_EQ(EntriesOf(folder.Path()).size(), 2U);
 
-  MemoryFolders places;
+  FakeFolders places;
   NewFile running(places, folder.File("b.txt"), Replace::Nothing);
   std::ofstream(folder.File(".report-of-mine.part")) << "a name of the user's own";
   Write(folder.File("a.txt"), "later");

@@ -7,14 +7,14 @@
 #include <fstream>
 
 #include "base/Files.h"
-#include "support/MemoryCase.h"
+#include "support/ScreenFixture.h"
 #include "support/TemporaryFolder.h"
 
 namespace qismora {
 namespace {
 
 namespace fs = std::filesystem;
-using testing::MemoryCase;
+using testing::ScreenFixture;
 using testing::TemporaryFolder;
 
 /// A case whose report goes to a folder of its own.
@@ -47,7 +47,7 @@ class ReportFiles : public ::testing::Test {
   }
 
   TemporaryFolder Folder;
-  MemoryCase Case;
+  ScreenFixture Case;
   std::vector<SaveOutcome> Outcomes;
 };
 
@@ -109,7 +109,7 @@ TEST_F(ReportFiles, AFolderWithoutPermissionKeepsTheEarlierReports) {
 }
 
 /// Ends the program hard once a report is complete on the disk and not yet in its place.
-class KilledFolders : public testing::MemoryFolders {
+class KilledFolders : public testing::FakeFolders {
  public:
   void WriteThrough(const std::string&) override { std::raise(SIGKILL); }
 };

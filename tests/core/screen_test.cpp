@@ -1,14 +1,14 @@
 #include <gtest/gtest.h>
 
-#include "support/MemoryCase.h"
+#include "support/ScreenFixture.h"
 
 namespace qismora {
 namespace {
 
-using testing::MemoryCase;
+using testing::ScreenFixture;
 
 TEST(Screen, TheAnimationGoesRoundAndStops) {
-  const MemoryCase played;
+  const ScreenFixture played;
   CaseStudy& study = *played.Study;
   const auto shown = [&] {
     int at = -1;
@@ -30,7 +30,7 @@ TEST(Screen, TheAnimationGoesRoundAndStops) {
 }
 
 TEST(Screen, EachClearStepsTheColourOfTheNameAndComesBackToGreen) {
-  const MemoryCase played;
+  const ScreenFixture played;
   CaseStudy& study = *played.Study;
   const int first = study.Label6.ForeColor;
   study.Image2_Click();
@@ -45,7 +45,7 @@ TEST(Screen, EachClearStepsTheColourOfTheNameAndComesBackToGreen) {
 }
 
 TEST(Screen, TheBorderOfTheClearPictureGoesWithAChangedBox) {
-  MemoryCase played;
+  ScreenFixture played;
   CaseStudy& study = *played.Study;
   study.Image2_MouseDown();
   study.Image2_Click();
@@ -58,7 +58,7 @@ TEST(Screen, TheBorderOfTheClearPictureGoesWithAChangedBox) {
 }
 
 TEST(Screen, HoveringTakesDecorationsAwayAndTheFrameBringsThemBack) {
-  const MemoryCase played;
+  const ScreenFixture played;
   CaseStudy& study = *played.Study;
   study.Image6_MouseMove();
   study.Image4_MouseMove();
@@ -75,7 +75,7 @@ TEST(Screen, HoveringTakesDecorationsAwayAndTheFrameBringsThemBack) {
 }
 
 TEST(Screen, TheFrameIsCentredOnlyInAMaximizedWindow) {
-  const MemoryCase played;
+  const ScreenFixture played;
   CaseStudy& study = *played.Study;
   study.Form_Resize(true, 19200, 10800);
   EXPECT_EQ(study.Frame111Left, 3600);
@@ -88,17 +88,17 @@ TEST(Screen, TheFrameIsCentredOnlyInAMaximizedWindow) {
 TEST(Screen, TheSavedViewOpensAndEachChoiceIsSaved) {
   const std::string key = std::string(ApplicationTitle) + "/LanguageSetting/LblPressed";
   for (const int view : {0, 1, 2}) {
-    MemoryCase played(view);
+    ScreenFixture played(view);
     EXPECT_EQ(played.Study->Label4(view).BorderStyle, 1);
     EXPECT_EQ(played.World.Settings.Values[key], std::to_string(view));
     played.Study->Label4_Click(2 - view);
     EXPECT_EQ(played.World.Settings.Values[key], std::to_string(2 - view));
   }
-  EXPECT_EQ(MemoryCase(7).Study->Label4(0).BorderStyle, 1) << "a view that is none is the first";
+  EXPECT_EQ(ScreenFixture(7).Study->Label4(0).BorderStyle, 1) << "a view that is none is the first";
 }
 
 TEST(Screen, TheGenderKeepsTheArabicPictures) {
-  const MemoryCase played(2);
+  const ScreenFixture played(2);
   CaseStudy& study = *played.Study;
   study.Combo1.ListIndex = Female;
   EXPECT_TRUE(study.Image41(1).Visible);
@@ -108,7 +108,7 @@ TEST(Screen, TheGenderKeepsTheArabicPictures) {
 }
 
 TEST(Screen, ARefusedCountSendsTheFocusToItsBox) {
-  MemoryCase played;
+  ScreenFixture played;
   int focused = 0;
   for (const int box : HeirBoxes) {
     played.Study->Text1(box).FocusWanted = [&focused, box] { focused = box; };
@@ -128,7 +128,7 @@ TEST(Screen, ARefusedCountSendsTheFocusToItsBox) {
 }
 
 TEST(Screen, BackAndTheCloseBoxShowTheMenu) {
-  const MemoryCase played;
+  const ScreenFixture played;
   CaseStudy& study = *played.Study;
   std::string road;
   study.ShowMainMenu = [&] { road += "menu "; };
@@ -166,7 +166,7 @@ TEST(Screen, SaysWhatIsReadWhereThatIsNotWhatStandsThere) {
       {DebtsBox, "4e9", "This is too large and will be refused."},
   };
   for (const auto& row : rows) {
-    MemoryCase played;
+    ScreenFixture played;
     played.Type(row.Field, row.Typed);
     EXPECT_EQ(played.Study->MisreadingOf(row.Field), row.Said) << row.Field << " " << row.Typed;
   }
@@ -174,7 +174,7 @@ TEST(Screen, SaysWhatIsReadWhereThatIsNotWhatStandsThere) {
 
 // A refused estate is lost, and a switch of gender takes the spouse away.
 TEST(Screen, SaysWhichFigureStays) {
-  MemoryCase played;
+  ScreenFixture played;
   played.Type(1, "3");
   played.Study->Label1_DblClick(3);
   const auto stays = [&](int field) {
@@ -198,7 +198,7 @@ TEST(Screen, AnyTextInAnyBoxIsAnsweredAndNothingEscapes) {
       "NaN",   "inf",   "2147483648"};
   for (const int box : HeirBoxes) {
     for (const std::string& text : texts) {
-      MemoryCase played;
+      ScreenFixture played;
       played.Type(box, text);
       played.Type(GrossEstateBox, text);
       EXPECT_NO_THROW({

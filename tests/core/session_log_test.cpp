@@ -11,13 +11,13 @@
 #include "base/Text.h"
 #include "screens/Session.h"
 #include "shell/SessionLog.h"
-#include "support/MemoryOutside.h"
+#include "support/FakePorts.h"
 #include "support/TemporaryFolder.h"
 
 namespace qismora {
 namespace {
 
-using testing::MemoryWorld;
+using testing::FakePorts;
 using testing::TemporaryFolder;
 
 constexpr DateTime noon = {2024, 3, 5, 12, 0, 0};
@@ -43,7 +43,7 @@ struct Logged {
   }
 
   TemporaryFolder Folder;
-  MemoryWorld World;
+  FakePorts World;
   CaseRecord Record;
 };
 
@@ -59,8 +59,8 @@ TEST(SessionLog, TheLoaderFindsWhatTheExitHasWritten) {
   const int numbers[] = {1, 12, 123, 1234, 12345, 32767, -5, -32768};
   const int lengths[] = {0, 9, 3725, -1, -86400, 99999, 9999999, -999999};
   for (std::size_t i = 0; i < std::size(numbers); ++i) logged.Add(numbers[i], noon, later, lengths[i]);
-  const MemoryWorld& world = logged.World;
-  const SessionTable table = ReadSessionLog(const_cast<MemoryWorld&>(world).Ports);
+  const FakePorts& world = logged.World;
+  const SessionTable table = ReadSessionLog(const_cast<FakePorts&>(world).Ports);
   ASSERT_EQ(table.Count, static_cast<int>(std::size(numbers)));
   for (std::size_t i = 0; i < std::size(numbers); ++i) {
     const SessionRow& row = table.Rows[i + 1];
@@ -145,7 +145,7 @@ TEST(SessionLog, TheExitRunsOnceAndSavesTheExecutions) {
 }
 
 /// The folder of a log that cannot be written for a given reason.
-class FailingFolders : public testing::MemoryFolders {
+class FailingFolders : public testing::FakeFolders {
  public:
   explicit FailingFolders(int failure) : failure_(failure) {}
   std::string Log() override { throw Failure(failure_); }
@@ -156,7 +156,7 @@ class FailingFolders : public testing::MemoryFolders {
 
 TEST(SessionLog, OnlyAnOpenFileIsTold) {
   for (const int failure : {FileAlreadyOpen, PermissionDenied, PathFileAccess}) {
-    MemoryWorld world;
+    FakePorts world;
     FailingFolders folders(failure);
     ShellOutside ports{{world.Clock, world.Boxes, world.Dialog, world.Settings, folders},
                        world.Viewer,

@@ -11,13 +11,13 @@
 #include "screens/QurLaws.h"
 #include "screens/Zummy.h"
 #include "shell/Documents.h"
-#include "support/MemoryOutside.h"
+#include "support/FakePorts.h"
 #include "support/TemporaryFolder.h"
 
 namespace qismora {
 namespace {
 
-using testing::MemoryWorld;
+using testing::FakePorts;
 using testing::TemporaryFolder;
 
 constexpr const char* lowerImage = "Islamic Laws of Inheritance/ImageSetting/LowerImage";
@@ -62,7 +62,7 @@ struct Menu {
   }
 
   TemporaryFolder Folder;
-  MemoryWorld World;
+  FakePorts World;
   CaseRecord Record;
   ShellRecord Shell;
   std::unique_ptr<InhMain> Form;
@@ -265,7 +265,7 @@ TEST(Zummy, BackHidesItAndTheDoubleClickOnTheFrameHidesTheMenu) {
 }
 
 TEST(LawPages, ANumberWithoutAPageLeavesTheFormAsItIs) {
-  MemoryWorld world;
+  FakePorts world;
   ShellRecord shell;
   shell.LawPage = Integer(5);
   QurLaws form(shell, world.Boxes);
@@ -279,7 +279,7 @@ TEST(LawPages, ANumberWithoutAPageLeavesTheFormAsItIs) {
 }
 
 TEST(LawPages, TheEntryAndTheCloseBoxLeadToTheMenu) {
-  MemoryWorld world;
+  FakePorts world;
   const ShellRecord shell;
   for (const auto close : {&QurLaws::Close_Click, &QurLaws::Form_Unload}) {
     QurLaws form(shell, world.Boxes);
@@ -319,7 +319,7 @@ TEST(Animation, AFileOfAnotherLengthIsNeverPlayedAndAMissingOneIsNoMatter) {
 }
 
 TEST(Catalogue, MemoryIsReadAtEachOpening) {
-  MemoryWorld world;
+  FakePorts world;
   world.Memory.Figures = {8.0 * 1024 * 1024 * 1024, 1024.0 * 1024, 30.6 * 1024 * 1024};
   prginfo form({"1.0", {"Qt 6", "zlib"}}, world.Memory);
   EXPECT_EQ(form.TotalMemory.Get(), "8192 MiB");

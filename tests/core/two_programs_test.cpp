@@ -65,7 +65,7 @@ TEST(TwoPrograms, AReportUnderTheSameNameIsThatOfOneOfThem) {
 TEST(TwoPrograms, EachSessionHasItsLine) {
   const TemporaryFolder folder;
   RunTwoPrograms([&](int sons) { SavingProgram(folder.Path(), sons).End(); });
-  testing::MemoryWorld world;
+  testing::FakePorts world;
   world.Folders.Folder = folder.Path();
   const SessionTable table = ReadSessionLog(world.Ports);
   EXPECT_EQ(table.Count, 2 * rounds);

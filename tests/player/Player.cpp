@@ -25,11 +25,11 @@ std::optional<int> Number(std::string_view text) {
 
 int IndexUpTo(std::string_view text, int last) {
   const std::optional<int> index = Number(text);
-  if (!index || *index < 0 || *index > last) throw NoCommand();
+  if (!index || *index < 0 || *index > last) throw UnknownCommand();
   return *index;
 }
 
-bool HasTextBox(int index) { return (index >= 1 && index <= 7) || (index >= 13 && index <= 33); }
+bool HasField(int index) { return (index >= 1 && index <= 7) || (index >= 13 && index <= 33); }
 bool HasLabel(int index) { return (index >= 0 && index <= 7) || (index >= 12 && index <= 33); }
 
 /// A control's name and its index, -1 where it has none: "Text1(3)" is Text1 and 3.
@@ -41,7 +41,7 @@ struct Control {
 Control ParseControl(std::string_view text) {
   if (!text.ends_with(')')) return {text, -1};
   const std::size_t open = text.find('(');
-  if (open == std::string_view::npos) throw NoCommand();
+  if (open == std::string_view::npos) throw UnknownCommand();
   return {text.substr(0, open), IndexUpTo(text.substr(open + 1, text.size() - open - 2), 99)};
 }
 
@@ -64,7 +64,7 @@ Player::Player(CaseRecord& record, std::ostream& out, const std::string& folder)
 void Player::Play(std::string_view line) {
   out_ << "> " << line << '\n';
   Perform(line);
-  std::vector<Shown> now = Snapshot(*study_);
+  std::vector<ControlValue> now = Snapshot(*study_);
   PrintChanges(out_, shown_, now);
   shown_ = std::move(now);
 }
@@ -82,7 +82,7 @@ void Player::Perform(std::string_view line) {
       {"page", &Player::Page},      {"division", &Player::Division},
   };
   const auto* found = std::ranges::find(commands, command, &std::pair<std::string_view, Command>::first);
-  if (found == std::end(commands)) throw NoCommand();
+  if (found == std::end(commands)) throw UnknownCommand();
   (this->*found->second)(rest);
 }
 
@@ -105,9 +105,9 @@ void Player::SetClock(std::string_view rest) {
 }
 
 void Player::Type(std::string_view rest) {
-  const Control box = ParseControl(TakeWord(rest));
-  if (box.Name != "Text1" || !HasTextBox(box.Index)) throw NoCommand();
-  study_->Text1(box.Index).Text = std::string(rest);
+  const Control field = ParseControl(TakeWord(rest));
+  if (field.Name != "Text1" || !HasField(field.Index)) throw UnknownCommand();
+  study_->Text1(field.Index).Text = std::string(rest);
 }
 
 void Player::Choose(std::string_view rest) { study_->Combo1.ListIndex = IndexUpTo(rest, 1); }
@@ -117,12 +117,12 @@ void Player::Untick(std::string_view rest) { study_->Check1(IndexUpTo(rest, 11))
 void Player::DoubleClick(std::string_view rest) {
   const Control control = ParseControl(rest);
   if (control.Name == "Label1" && HasLabel(control.Index)) return study_->Label1_DblClick(control.Index);
-  if (control.Name == "Text1" && HasTextBox(control.Index)) return study_->Text1_DblClick(control.Index);
+  if (control.Name == "Text1" && HasField(control.Index)) return study_->Text1_DblClick(control.Index);
   if (control.Name == "Image37" && control.Index >= 0 && control.Index <= 5) {
     return study_->Image37_DblClick(control.Index);
   }
   if (rest == "Label13") return study_->Label13_DblClick();
-  throw NoCommand();
+  throw UnknownCommand();
 }
 
 void Player::Click(std::string_view rest) {
@@ -147,7 +147,7 @@ void Player::Click(std::string_view rest) {
     return study_->Label4_Click(control.Index);
   }
   const auto* found = std::ranges::find(handlers, rest, &std::pair<std::string_view, Handler>::first);
-  if (found == std::end(handlers)) throw NoCommand();
+  if (found == std::end(handlers)) throw UnknownCommand();
   if ((rest == "AulRad" && !study_->AulRad.Enabled) || (rest == "AulRadd" && !study_->AulRadd.Visible)) {
     out_ << "  not available\n";
     return;
@@ -159,25 +159,25 @@ void Player::PutAnswer(std::string_view rest) {
   static constexpr std::pair<std::string_view, Answer> answers[] = {
       {"Yes", Answer::Yes}, {"No", Answer::No}, {"Cancel", Answer::Cancel}};
   const auto* found = std::ranges::find(answers, rest, &std::pair<std::string_view, Answer>::first);
-  if (found == std::end(answers)) throw NoCommand();
+  if (found == std::end(answers)) throw UnknownCommand();
   boxes_.Answers.push_back(found->second);
 }
 
 void Player::PutFile(std::string_view rest) {
-  if (rest.empty()) throw NoCommand();
+  if (rest.empty()) throw UnknownCommand();
   dialog_.Paths.emplace_back(rest);
 }
 
 void Player::Write(std::string_view rest) {
   const std::string name(TakeWord(rest));
-  if (!IsFileName(name)) throw NoCommand();
+  if (!IsFileName(name)) throw UnknownCommand();
   try {
     fs::remove(Path(name));
     WriteSafely(folders_, Path(name), Join(rest, CRLF), Replace::Nothing);
   } catch (const Failure&) {
-    throw NoCommand();
+    throw UnknownCommand();
   } catch (const fs::filesystem_error&) {
-    throw NoCommand();
+    throw UnknownCommand();
   }
 }
 
@@ -191,7 +191,7 @@ void Player::Cat(std::string_view rest) {
 }
 
 void Player::List(std::string_view rest) {
-  if (!rest.empty()) throw NoCommand();
+  if (!rest.empty()) throw UnknownCommand();
   std::vector<std::string> names;
   for (const auto& entry : fs::directory_iterator(folders_.Folder))
     names.push_back(entry.path().filename().string());
@@ -200,13 +200,13 @@ void Player::List(std::string_view rest) {
 }
 
 void Player::Reopen(std::string_view rest) {
-  if (!rest.empty()) throw NoCommand();
+  if (!rest.empty()) throw UnknownCommand();
   study_->Form_QueryUnload();
   Open();
 }
 
 void Player::Show(std::string_view rest) {
-  if (!rest.empty()) throw NoCommand();
+  if (!rest.empty()) throw UnknownCommand();
   PrintRecord(out_, record_);
 }
 
@@ -215,7 +215,7 @@ void Player::Lcm(std::string_view rest) {
   while (!rest.empty()) {
     const std::optional<int> number = Number(TakeWord(rest));
     const bool fits = number && *number >= -32768 && *number <= 32767;
-    if (!fits || count == record_.LcmDen.Size) throw NoCommand();
+    if (!fits || count == record_.LcmDen.Size) throw UnknownCommand();
     record_.LcmDen(count++) = Integer(*number);
   }
   record_.LcmCount = Integer(count);
@@ -231,7 +231,7 @@ void Player::Lcm(std::string_view rest) {
 
 void Player::Page(std::string_view rest) {
   const std::optional<int> number = Number(rest);
-  if (!number) throw NoCommand();
+  if (!number) throw UnknownCommand();
   GuardedEvent(boxes_, [&] {
     ShellRecord shell;
     shell.LawPage = Integer(*number);
@@ -257,7 +257,7 @@ void Player::Division(std::string_view rest) {
   const auto* school =
       std::ranges::find(schools, TakeWord(rest), &std::pair<std::string_view, School>::first);
   const bool consent = rest == "consent";
-  if (school == std::end(schools) || (!consent && !rest.empty())) throw NoCommand();
+  if (school == std::end(schools) || (!consent && !rest.empty())) throw UnknownCommand();
   for (const std::string& line : DivisionLines(ReadDivisionInput(*study_, consent), school->second)) {
     out_ << "  | " << Escaped(line) << '\n';
   }

@@ -6,7 +6,7 @@
 #include <string_view>
 #include <vector>
 
-#include "player/PrintedWorld.h"
+#include "player/PrintedPorts.h"
 #include "player/Transcript.h"
 #include "screens/CaseStudy.h"
 #include "screens/QurLaws.h"
@@ -14,7 +14,7 @@
 namespace qismora::testing {
 
 /// Thrown for a script line that is not a command.
-struct NoCommand {};
+struct UnknownCommand {};
 
 /// Plays the lines of a script on a Case Study screen without a window, and prints the transcript. All files
 /// of a script are in one directory.
@@ -29,7 +29,7 @@ class Player {
   void Perform(std::string_view line);
 
   const CaseStudy& Study() const { return *study_; }
-  MemoryBoxes& Boxes() { return boxes_; }
+  FakeMessageBoxes& Boxes() { return boxes_; }
 
  private:
   void Open();
@@ -56,14 +56,14 @@ class Player {
 
   std::ostream& out_;
   CaseRecord& record_;
-  MemoryClock clock_;
-  PrintedBoxes boxes_;
-  PrintedDialog dialog_;
-  MemorySettings settings_;
-  MemoryFolders folders_;
+  FakeClock clock_;
+  PrintedMessageBoxes boxes_;
+  PrintedSaveDialog dialog_;
+  FakeSettings settings_;
+  FakeFolders folders_;
   Outside outside_{clock_, boxes_, dialog_, settings_, folders_};
   std::unique_ptr<CaseStudy> study_;
-  std::vector<Shown> shown_;
+  std::vector<ControlValue> shown_;
 };
 
 }  // namespace qismora::testing

@@ -11,13 +11,13 @@ const char* FlagText(bool flag) { return flag ? "True" : "False"; }
 std::string Indexed(const char* name, int index) { return Join(name, "(", index, ")"); }
 
 template <class Pictures>
-void AddVisible(std::vector<Shown>& all, const char* name, const Pictures& pictures) {
+void AddVisible(std::vector<ControlValue>& all, const char* name, const Pictures& pictures) {
   for (int i = 0; i < pictures.Size; ++i) {
     all.push_back({Indexed(name, i) + ".Visible", FlagText(pictures(i).Visible)});
   }
 }
 
-bool HasTextBox(int index) { return (index >= 1 && index <= 7) || index >= 13; }
+bool HasField(int index) { return (index >= 1 && index <= 7) || index >= 13; }
 
 }  // namespace
 
@@ -48,8 +48,8 @@ void PrintPieces(std::ostream& out, std::string_view mark, std::string_view text
   }
 }
 
-std::vector<Shown> Snapshot(const CaseStudy& study) {
-  std::vector<Shown> all = {
+std::vector<ControlValue> Snapshot(const CaseStudy& study) {
+  std::vector<ControlValue> all = {
       {"Label2", study.Label2.Caption},
       {"Label3", study.Label3.Caption},
       {"StatusBar1", study.StatusBar1.Caption},
@@ -59,7 +59,7 @@ std::vector<Shown> Snapshot(const CaseStudy& study) {
       {"Combo1", Join(study.Combo1.ListIndex.Get())},
   };
   for (int i = 0; i < study.Text1.Size; ++i) {
-    if (HasTextBox(i)) all.push_back({Indexed("Text1", i), study.Text1(i).Text});
+    if (HasField(i)) all.push_back({Indexed("Text1", i), study.Text1(i).Text});
   }
   for (int i = 0; i < study.Check1.Size; ++i) {
     all.push_back({Indexed("Check1", i), Join(study.Check1(i).Value.Get())});
@@ -87,7 +87,8 @@ std::vector<Shown> Snapshot(const CaseStudy& study) {
   return all;
 }
 
-void PrintChanges(std::ostream& out, const std::vector<Shown>& before, const std::vector<Shown>& after) {
+void PrintChanges(std::ostream& out, const std::vector<ControlValue>& before,
+                  const std::vector<ControlValue>& after) {
   for (std::size_t i = 0; i < after.size(); ++i) {
     if (before[i].Value == after[i].Value) continue;
     if (after[i].IsLong) {

@@ -11,17 +11,18 @@
 namespace qismora::testing {
 
 /// One control of a transcript: its name and value. A long text is printed on lines of its own.
-struct Shown {
+struct ControlValue {
   std::string Name;
   std::string Value;
   bool IsLong = false;
 };
 
 /// All controls that a transcript shows, in its order.
-std::vector<Shown> Snapshot(const CaseStudy& study);
+std::vector<ControlValue> Snapshot(const CaseStudy& study);
 
 /// Prints the controls that differ between two snapshots.
-void PrintChanges(std::ostream& out, const std::vector<Shown>& before, const std::vector<Shown>& after);
+void PrintChanges(std::ostream& out, const std::vector<ControlValue>& before,
+                  const std::vector<ControlValue>& after);
 
 /// Prints the fields of the record that are not 0, empty or False.
 void PrintRecord(std::ostream& out, const CaseRecord& c);

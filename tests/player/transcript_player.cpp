@@ -19,7 +19,7 @@ int main() {
     if (line.empty() || line.starts_with('#')) continue;
     try {
       player.Play(line);
-    } catch (const NoCommand&) {
+    } catch (const UnknownCommand&) {
       std::cout.flush();
       std::cerr << "line " << number << " is not a command: " << line << '\n';
       return 2;

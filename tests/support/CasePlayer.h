@@ -10,7 +10,7 @@
 #include <vector>
 
 #include "screens/CaseStudy.h"
-#include "support/MemoryOutside.h"
+#include "support/FakePorts.h"
 #include "support/TemporaryFolder.h"
 #include "support/WorkedCase.h"
 
@@ -93,7 +93,7 @@ class CasePlayer {
 
   Lines Message() {
     Lines lines;
-    for (const MemoryBoxes::Box& box : world_.Boxes.Shown) {
+    for (const FakeMessageBoxes::Box& box : world_.Boxes.Shown) {
       std::ranges::copy(LinesOf(box.Text), std::back_inserter(lines));
     }
     return lines;
@@ -159,7 +159,7 @@ class CasePlayer {
   }
 
   TemporaryFolder folder_;
-  MemoryWorld world_;
+  FakePorts world_;
   CaseRecord record_;
   CaseStudy screen_{record_, world_.Ports, 1};
   std::map<std::string, int> fields_;

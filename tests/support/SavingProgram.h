@@ -4,12 +4,12 @@
 
 #include "base/Files.h"
 #include "shell/SessionLog.h"
-#include "support/MemoryCase.h"
+#include "support/ScreenFixture.h"
 
 namespace qismora::testing {
 
 /// A directory whose files are synchronized to the disk, as the program's are.
-class DiskFolders : public MemoryFolders {
+class DiskFolders : public FakeFolders {
  public:
   void WriteThrough(const std::string& path) override { SyncToDisk(path); }
 };
@@ -42,7 +42,7 @@ class SavingProgram {
 
  private:
   std::string folder_;
-  MemoryWorld world_;
+  FakePorts world_;
   DiskFolders folders_;
   ShellOutside ports_{{world_.Clock, world_.Boxes, world_.Dialog, world_.Settings, folders_},
                       world_.Viewer,

@@ -8,7 +8,7 @@
 #include <memory>
 
 #include "shell/Documents.h"
-#include "support/MemoryOutside.h"
+#include "support/FakePorts.h"
 #include "windows/forms/ProgramWindows.h"
 #include "windows/platform/ShellPorts.h"
 #include "windows/platform/Utf8.h"
@@ -77,7 +77,7 @@ class ProgramFixture : public QObject {
   QtVideoPlayer& Player() { return *player_; }
   Settings& Store() { return settings_; }
 
-  MemoryProgram Ended;
+  FakeProgram Ended;
   QStringList Opened;
 
  public slots:

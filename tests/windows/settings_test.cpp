@@ -17,7 +17,7 @@
 #include "base/Text.h"
 #include "shell/AppSettings.h"
 #include "shell/SessionLog.h"
-#include "support/MemoryOutside.h"
+#include "support/FakePorts.h"
 #include "support/Processes.h"
 #include "support/TemporaryFolder.h"
 #include "windows/platform/Ports.h"
@@ -170,7 +170,7 @@ TEST(StoredSettings, OnlyAnOrdinaryFileIsReadOrWritten) {
 void RunOnce(const TemporaryFolder& folder, int number) {
   Store(LowerImage, number);
   Store(LblPressed, number);
-  testing::MemoryWorld world;
+  testing::FakePorts world;
   world.Folders.Folder = folder.Path();
   QtSettings settings;
   ShellOutside outside{{world.Clock, world.Boxes, world.Dialog, settings, world.Folders},

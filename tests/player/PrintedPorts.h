@@ -6,14 +6,14 @@
 #include "base/Files.h"
 #include "base/Text.h"
 #include "player/Transcript.h"
-#include "support/MemoryOutside.h"
+#include "support/FakePorts.h"
 
 namespace qismora::testing {
 
 /// Prints each message box when it is shown.
-class PrintedBoxes : public MemoryBoxes {
+class PrintedMessageBoxes : public FakeMessageBoxes {
  public:
-  explicit PrintedBoxes(std::ostream& out) : out_(out) {}
+  explicit PrintedMessageBoxes(std::ostream& out) : out_(out) {}
 
   Answer Show(BoxStyle style, BoxButtons buttons, const std::string& text) override {
     static constexpr const char* styles[] = {"plain", "information", "warning", "critical"};
@@ -22,7 +22,7 @@ class PrintedBoxes : public MemoryBoxes {
     out_ << "  box " << styles[static_cast<int>(style)] << ' ' << buttonNames[static_cast<int>(buttons)]
          << '\n';
     PrintPieces(out_, "  ! ", text);
-    const Answer answer = MemoryBoxes::Show(style, buttons, text);
+    const Answer answer = FakeMessageBoxes::Show(style, buttons, text);
     if (buttons != BoxButtons::Ok) out_ << "  answer " << answers[static_cast<int>(answer)] << '\n';
     return answer;
   }
@@ -32,13 +32,13 @@ class PrintedBoxes : public MemoryBoxes {
 };
 
 /// Prints each save dialog. It answers with the file names of the queue, in the directory of the script.
-class PrintedDialog : public MemoryDialog {
+class PrintedSaveDialog : public FakeSaveDialog {
  public:
-  PrintedDialog(std::ostream& out, const std::string& folder) : out_(out), folder_(folder) {}
+  PrintedSaveDialog(std::ostream& out, const std::string& folder) : out_(out), folder_(folder) {}
 
   std::optional<std::string> AskPath(const std::string& suggestedName, const std::string& filter) override {
     out_ << "  dialog " << Escaped(suggestedName) << '\n';
-    const std::optional<std::string> name = MemoryDialog::AskPath(suggestedName, filter);
+    const std::optional<std::string> name = FakeSaveDialog::AskPath(suggestedName, filter);
     out_ << (name ? "  file " + Escaped(*name) : "  cancel") << '\n';
     if (!name) return name;
     // A name outside the directory becomes "..", which is not a valid file name either.

@@ -41,7 +41,7 @@ void SaveAll(const TemporaryFolder& folder, int sons) {
 
 bool IsUnfinished(const std::string& name) { return name.starts_with(".report-") && name.ends_with(".part"); }
 
-/// The folder after the hard end, held against the one before and the one after a whole run.
+/// The folder after the kill, held against the one before and the one after a whole run.
 void CheckFolder(const Content& found, const Content& before, const Content& after) {
   for (const auto& [name, text] : found) {
     if (IsUnfinished(name)) continue;
@@ -84,8 +84,8 @@ void EndAtEveryCall(bool reportsBefore) {
   EXPECT_GT(states.size(), 5U) << calls << " calls";
 }
 
-TEST(HardEnd, AtEachMomentOfTheFirstSaving) { EndAtEveryCall(false); }
-TEST(HardEnd, AtEachMomentOfSavingOverEarlierReports) { EndAtEveryCall(true); }
+TEST(Kill, AtEachMomentOfTheFirstSaving) { EndAtEveryCall(false); }
+TEST(Kill, AtEachMomentOfSavingOverEarlierReports) { EndAtEveryCall(true); }
 
 }  // namespace
 }  // namespace qismora

@@ -4,13 +4,13 @@
 
 #include "case/CaseRecord.h"
 #include "screens/CaseStudy.h"
-#include "support/MemoryOutside.h"
+#include "support/FakePorts.h"
 
 namespace qismora::testing {
 
 /// A Case Study screen without a window, on fake ports.
-struct MemoryCase {
-  explicit MemoryCase(int savedLanguage = 0)
+struct ScreenFixture {
+  explicit ScreenFixture(int savedLanguage = 0)
       : Study(std::make_unique<CaseStudy>(Record, World.Ports, savedLanguage)) {}
 
   void Type(int field, const std::string& text) { Study->Text1(field).Text = text; }
@@ -21,7 +21,7 @@ struct MemoryCase {
     for (const int field : {FuneralBox, DebtsBox, WillsBox}) Type(field, "0");
   }
 
-  MemoryWorld World;
+  FakePorts World;
   CaseRecord Record;
   std::unique_ptr<CaseStudy> Study;
 };

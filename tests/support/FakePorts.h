@@ -12,14 +12,14 @@ namespace qismora::testing {
 // Fakes of all ports.
 
 /// A clock that stands still.
-class MemoryClock : public Clock {
+class FakeClock : public Clock {
  public:
   DateTime Now() override { return Time; }
   DateTime Time = {2024, 3, 5, 14, 7, 9};
 };
 
 /// Records the message boxes and answers from a queue.
-class MemoryBoxes : public MessageBoxes {
+class FakeMessageBoxes : public MessageBoxes {
  public:
   struct Box {
     BoxStyle Style;
@@ -46,7 +46,7 @@ class MemoryBoxes : public MessageBoxes {
 };
 
 /// Answers with the paths of a queue, and cancels when the queue is empty.
-class MemoryDialog : public SaveDialog {
+class FakeSaveDialog : public SaveDialog {
  public:
   std::optional<std::string> AskPath(const std::string& suggestedName, const std::string&) override {
     Suggested = suggestedName;
@@ -61,7 +61,7 @@ class MemoryDialog : public SaveDialog {
 };
 
 /// Keeps the settings in a map.
-class MemorySettings : public Settings {
+class FakeSettings : public Settings {
  public:
   std::string Read(const std::string& application, const std::string& section,
                    const std::string& key) override {
@@ -77,7 +77,7 @@ class MemorySettings : public Settings {
 };
 
 /// One directory for everything.
-class MemoryFolders : public Folders {
+class FakeFolders : public Folders {
  public:
   std::string Reports() override { return Folder; }
   std::string Application() override { return Folder; }
@@ -85,7 +85,7 @@ class MemoryFolders : public Folders {
 };
 
 /// Records the documents that it should open.
-class MemoryViewer : public DocumentViewer {
+class FakeDocumentViewer : public DocumentViewer {
  public:
   bool Open(const std::string& path) override {
     Opened.push_back(path);
@@ -97,7 +97,7 @@ class MemoryViewer : public DocumentViewer {
 };
 
 /// Records the videos that it should play.
-class MemoryPlayer : public VideoPlayer {
+class FakeVideoPlayer : public VideoPlayer {
  public:
   void SetFile(const std::string& path) override { File = path; }
   void Play() override { Played.push_back(File); }
@@ -107,30 +107,30 @@ class MemoryPlayer : public VideoPlayer {
 };
 
 /// Returns fixed memory figures.
-class MemoryMemory : public MemoryMeter {
+class FakeMemoryMeter : public MemoryMeter {
  public:
   MemoryFigures Read() override { return Figures; }
   MemoryFigures Figures;
 };
 
 /// Counts how often the program was ended.
-class MemoryProgram : public Program {
+class FakeProgram : public Program {
  public:
   void End() override { ++Ends; }
   int Ends = 0;
 };
 
 /// All fakes, and the ports that refer to them.
-struct MemoryWorld {
-  MemoryClock Clock;
-  MemoryBoxes Boxes;
-  MemoryDialog Dialog;
-  MemorySettings Settings;
-  MemoryFolders Folders;
-  MemoryViewer Viewer;
-  MemoryPlayer Player;
-  MemoryMemory Memory;
-  MemoryProgram Program;
+struct FakePorts {
+  FakeClock Clock;
+  FakeMessageBoxes Boxes;
+  FakeSaveDialog Dialog;
+  FakeSettings Settings;
+  FakeFolders Folders;
+  FakeDocumentViewer Viewer;
+  FakeVideoPlayer Player;
+  FakeMemoryMeter Memory;
+  FakeProgram Program;
   ShellOutside Ports{{Clock, Boxes, Dialog, Settings, Folders}, Viewer, Player, Memory, Program};
 };
 
