@@ -51,7 +51,8 @@ class ClassIIPanel::ColumnCaptions : public PictureButton {
   // None beside the captions.
   QCheckBox* CheckAt(const QPoint& place) const {
     if (!PictureRect().contains(place)) return nullptr;
-    return checks_[static_cast<std::size_t>(place.y() * rows / height() * columns + column_)];
+    const int index = place.y() * rows / height() * columns + column_;
+    return checks_[static_cast<std::size_t>(index)];
   }
 
   const Checks& checks_;
