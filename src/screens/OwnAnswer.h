@@ -1,0 +1,61 @@
+#pragma once
+
+#include <array>
+#include <cstdint>
+#include <string>
+
+#include "faraid/Kinds.h"
+#include "screens/CaseTexts.h"
+
+namespace qismora {
+
+/// What the commands of Case Study show in the end.
+enum class OwnOutcome : std::uint8_t {
+  /// An amount for every heir who has a line.
+  Figures,
+  /// A closing sentence, or nothing: the fixed shares use up the estate exactly, or a spouse is alone.
+  NoFigures,
+  /// A message that refuses a figure as too large.
+  FigureRefused,
+  /// A message that refuses the estate: nothing is left to divide.
+  EstateRefused,
+  /// A failure, such as a fraction beyond the range of its numbers.
+  Failed,
+};
+
+/// The doctrine by which the last text divides.
+enum class Doctrine : std::uint8_t { NotApplied, AulApplied, RaddApplied };
+
+/// What a kind of heir finally has: all heads together, and each. The amounts are not rounded; the texts show
+/// whole numbers.
+struct OwnShare {
+  double Together = 0;
+  double Each = 0;
+};
+
+/// The answer of the commands: Residuaries, and Aul & Radd where it applies.
+struct OwnAnswer {
+  OwnOutcome Outcome = OwnOutcome::NoFigures;
+  Doctrine Applied = Doctrine::NotApplied;
+  /// The net estate as the commands compute it: below 0 where more is paid from it than there is, and 0 where
+  /// it is refused.
+  double NetEstate = 0;
+  /// A comma ends the reading of an amount.
+  bool StopsAtComma = false;
+  /// By the number of the kind. An heir without a line in the last text has nothing. Without figures, what
+  /// the rules decided and Execute Selected shows; nothing where the estate is refused or the run failed.
+  std::array<OwnShare, faraid::KindCount> Shares{};
+  /// The message that refuses a figure or the estate.
+  std::string Refusal;
+
+  /// The shares are decided, shown or not.
+  bool IsDecided() const { return Outcome == OwnOutcome::Figures || Outcome == OwnOutcome::NoFigures; }
+  const OwnShare& Of(faraid::Kind kind) const { return Shares[static_cast<std::size_t>(kind)]; }
+};
+
+/// What the commands would answer to the case in a fresh start. It runs them on a record and a screen of its
+/// own: no message appears, no file is written and no execution counts. The question about the wills is
+/// answered with Yes where the heirs consent, else with No.
+OwnAnswer OwnAnswerOf(const CaseTexts& texts);
+
+}  // namespace qismora
