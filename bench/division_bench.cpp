@@ -2,7 +2,11 @@
 
 #include <benchmark/benchmark.h>
 
+#include <string>
+
 #include "faraid/Amounts.h"
+#include "screens/Differences.h"
+#include "screens/HeirFields.h"
 
 namespace faraid {
 namespace {
@@ -63,6 +67,25 @@ void DivisionBesideAGrandfather(benchmark::State& state) {
   for (auto _ : state) benchmark::DoNotOptimize(AmountsOf(Divide(family, School::Shafii), net));
 }
 BENCHMARK(DivisionBesideAGrandfather)->Unit(benchmark::kMicrosecond);
+
+/// What the window does at each change: it reads the fields, divides with reasons, runs the commands and
+/// compares.
+void DivisionComparedWithCommands(benchmark::State& state) {
+  using namespace qismora;
+  const Family family = SevenKinds();
+  CaseTexts texts;
+  for (const HeirField& field : HeirFields) {
+    if (field.Heir == Husband) continue;
+    texts.Fields[static_cast<std::size_t>(field.Index)] = std::to_string(family[field.Heir]);
+  }
+  texts.Fields[GrossEstateBox] = "240000";
+  for (auto _ : state) {
+    const DivisionInput input = ReadDivisionInput(texts);
+    DivideWithReasons(School::Hanafi);
+    benchmark::DoNotOptimize(Compare(input, OwnAnswerOf(texts), School::Hanafi));
+  }
+}
+BENCHMARK(DivisionComparedWithCommands)->Unit(benchmark::kMicrosecond);
 
 }  // namespace
 }  // namespace faraid

@@ -33,6 +33,7 @@ BENCHMARKS = {
     "FullReportInMemoryFiles": "A full report with its files, in a memory file system",
     "DivisionInOneSchool": "A division among seven kinds of heir in one school, with its reasons",
     "DivisionInFourSchools": "The same in the four schools",
+    "DivisionComparedWithCommands": "The same in one school, compared with the answer of the commands",
 }
 
 
