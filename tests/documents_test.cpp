@@ -3,8 +3,10 @@
 
 #include <gtest/gtest.h>
 
+#include <algorithm>
 #include <filesystem>
 
+#include "screens/Differences.h"
 #include "support/CasePlayer.h"
 
 namespace qismora {
@@ -24,6 +26,28 @@ TEST(Documents, TheWorkedCasesAreTheProgramsOwn) {
     }
   }
   EXPECT_GT(cases, 90);
+}
+
+/// Whether the case differs in this kind from the Hanafi division, which the commands follow, or from
+/// another.
+bool Shows(const documents::WorkedCase& worked, const DifferenceKind& kind) {
+  const CaseTexts texts = testing::CasePlayer().Type(worked);
+  const auto names = [&](faraid::School school) {
+    const Differences differences = Compare(ReadDivisionInput(texts), OwnAnswerOf(texts), school);
+    return std::ranges::find(differences.Kinds, &kind) != differences.Kinds.end();
+  };
+  return names(faraid::School::Hanafi) || names(faraid::School::Shafii);
+}
+
+TEST(Documents, EveryKindOfDifferenceIsShownInTheSectionThatItNames) {
+  const auto cases = documents::ReadCases(PROJECT_FOLDER "/docs/peculiarities.md");
+  for (const DifferenceKind& kind : DifferenceKinds()) {
+    EXPECT_TRUE(std::ranges::any_of(cases,
+                                    [&](const documents::WorkedCase& worked) {
+                                      return worked.Section == kind.Section && Shows(worked, kind);
+                                    }))
+        << kind.Section << ": " << kind.Sentence;
+  }
 }
 
 }  // namespace

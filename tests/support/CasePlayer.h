@@ -10,6 +10,7 @@
 #include <vector>
 
 #include "screens/CaseStudy.h"
+#include "screens/DivisionText.h"
 #include "support/FakePorts.h"
 #include "support/TemporaryFolder.h"
 #include "support/WorkedCase.h"
@@ -33,8 +34,14 @@ class CasePlayer {
     for (int i = 0; i < screen_.Check1.Size; ++i) checkBoxes_[screen_.Check1(i).Caption.Get()] = i;
   }
 
-  void Play(const documents::WorkedCase& worked) {
+  /// Types what the case begins with, and returns it.
+  CaseTexts Type(const documents::WorkedCase& worked) {
     for (const auto& [caption, value] : worked.Fields) Enter(caption, value);
+    return ReadScreen(screen_, heirsConsent_);
+  }
+
+  void Play(const documents::WorkedCase& worked) {
+    Type(worked);
     // Aul and Radd work on a distribution, even if the case does not show it.
     if (worked.Answers.front().Command == "Aul & Radd") screen_.Resid_Click();
     for (const documents::Played& answer : worked.Answers) {
@@ -54,6 +61,8 @@ class CasePlayer {
   void Enter(const std::string& caption, const std::string& value) {
     if (caption == "Deceased" && (value == "Male" || value == "Female")) {
       screen_.Combo1.ListIndex = value == "Female" ? Female : Male;
+    } else if (caption == "Heirs consent") {
+      heirsConsent_ = value == "yes";
     } else if (caption == "Answer") {
       world_.Boxes.Answers.push_back(value == "Yes" ? Answer::Yes : Answer::No);
     } else if (const auto field = fields_.find(caption); field != fields_.end()) {
@@ -70,6 +79,10 @@ class CasePlayer {
   Lines Run(const std::string& command) {
     if (command == "Message") return Message();
     if (command == "Files") return Files();
+    if (const std::string division = "Division "; command.starts_with(division)) {
+      return DivisionLines(ReadDivisionInput(screen_, heirsConsent_),
+                           SchoolOf(command.substr(division.size())));
+    }
     world_.Boxes.Shown.clear();
     if (command == "Residuaries") {
       screen_.Resid_Click();
@@ -89,6 +102,12 @@ class CasePlayer {
       return lines;
     }
     return LinesOf(screen_.Text3.Text);
+  }
+
+  static faraid::School SchoolOf(const std::string& name) {
+    if (name == "Maliki") return faraid::School::Maliki;
+    if (name == "Shafi'i") return faraid::School::Shafii;
+    return name == "Hanbali" ? faraid::School::Hanbali : faraid::School::Hanafi;
   }
 
   Lines Message() {
@@ -164,6 +183,7 @@ class CasePlayer {
   CaseStudy screen_{record_, world_.Ports, 1};
   std::map<std::string, int> fields_;
   std::map<std::string, int> checkBoxes_;
+  bool heirsConsent_ = false;
 };
 
 }  // namespace qismora::testing

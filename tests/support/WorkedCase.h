@@ -22,6 +22,8 @@ struct WorkedCase {
   std::string Title;
   std::vector<std::pair<std::string, std::string>> Fields;
   std::vector<Played> Answers;
+  /// The heading under which it stands, as a link names it.
+  std::string Section;
 };
 
 inline std::string Trim(const std::string& text) {
@@ -39,9 +41,10 @@ inline std::pair<std::string, std::string> SplitEntry(const std::string& line) {
 
 /// The command on a line that ends with a colon; empty for any other line.
 inline std::string CommandOf(const std::string& line) {
-  static const std::vector<std::string> commands = {"Residuaries",      "Aul & Radd",  "All Individual",
-                                                    "Execute Selected", "Full Report", "Then type",
-                                                    "Message",          "Files"};
+  static const std::vector<std::string> commands = {
+      "Residuaries",     "Aul & Radd",      "All Individual",   "Execute Selected",
+      "Full Report",     "Then type",       "Message",          "Files",
+      "Division Hanafi", "Division Maliki", "Division Shafi'i", "Division Hanbali"};
   if (line.empty() || line.back() != ':') return "";
   std::string words = line.substr(0, line.size() - 1);
   const bool known =
@@ -69,6 +72,21 @@ inline WorkedCase ReadCase(const std::vector<std::string>& lines) {
   return worked;
 }
 
+/// A heading as a link names it: lower case, hyphens for blanks, no punctuation.
+inline std::string AnchorOf(const std::string& heading) {
+  std::string anchor;
+  for (const char c : Trim(heading.substr(heading.find_first_not_of('#')))) {
+    if (c >= 'A' && c <= 'Z') {
+      anchor += static_cast<char>(c - 'A' + 'a');
+    } else if ((c >= 'a' && c <= 'z') || (c >= '0' && c <= '9') || c == '-' || c == '_') {
+      anchor += c;
+    } else if (c == ' ') {
+      anchor += '-';
+    }
+  }
+  return anchor;
+}
+
 /// The worked cases of a Markdown file. Throws a std::runtime_error if one cannot be read.
 inline std::vector<WorkedCase> ReadCases(const std::string& path) {
   std::ifstream in(path);
@@ -76,13 +94,19 @@ inline std::vector<WorkedCase> ReadCases(const std::string& path) {
   std::vector<WorkedCase> cases;
   std::vector<std::string> lines;
   bool inside = false;
+  std::string section;
   for (std::string line; std::getline(in, line);) {
     if (line.starts_with("```")) {
-      if (inside) cases.push_back(ReadCase(lines));
+      if (inside) {
+        cases.push_back(ReadCase(lines));
+        cases.back().Section = section;
+      }
       inside = !inside && Trim(line) == "```case";
       lines.clear();
     } else if (inside && !Trim(line).empty()) {
       lines.push_back(line);
+    } else if (!inside && line.starts_with("#")) {
+      section = AnchorOf(line);
     }
   }
   if (inside) throw std::runtime_error(path + ": a case without an end");
