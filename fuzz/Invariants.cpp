@@ -5,6 +5,8 @@
 #include <cstdlib>
 #include <initializer_list>
 
+#include "screens/Differences.h"
+
 namespace qismora::testing {
 
 namespace {
@@ -104,6 +106,20 @@ void CheckLengths(const CaseStudy& study, const CaseRecord& c) {
   }
 }
 
+/// Whatever is typed, the commands have an answer of their own, and no line differs without a kind.
+void CheckComparison(const CaseStudy& study) {
+  const CaseTexts texts = ReadScreen(study, false);
+  const OwnAnswer own = OwnAnswerOf(texts);
+  for (const OwnShare& share : own.Shares) {
+    if (!std::isfinite(share.Together) || !std::isfinite(share.Each)) Fault("a share is not finite");
+  }
+  const DivisionInput input = ReadDivisionInput(texts);
+  for (const faraid::School school : {faraid::School::Hanafi, faraid::School::Hanbali}) {
+    const Differences differences = Compare(input, own, school);
+    if (!differences.Heirs.IsEmpty() && differences.None()) Fault("a line differs without a kind");
+  }
+}
+
 }  // namespace
 
 void CheckInvariants(const CaseStudy& study, const CaseRecord& c) {
@@ -111,6 +127,7 @@ void CheckInvariants(const CaseStudy& study, const CaseRecord& c) {
   if (c.ReportToFile) Fault("the full report has ended but still suppresses messages");
   CheckNumbers(c);
   CheckLengths(study, c);
+  CheckComparison(study);
 }
 
 void Fault(const char* what) {
