@@ -68,9 +68,9 @@ ClassIIPanel::ClassIIPanel(CaseStudy& form, Binder& binder, QWidget* parent)
       grid_(new QGridLayout(this)) {
   setObjectName(QStringLiteral("Frame3"));
   setAccessibleName(tr("Class II residuaries"));
-  grid_->setContentsMargins(8, 2, 8, 4);
+  grid_->setContentsMargins(8, 1, 8, 2);
   grid_->setHorizontalSpacing(12);
-  grid_->setVerticalSpacing(1);
+  grid_->setVerticalSpacing(0);
   AddChecks();
   for (int column = 0; column < columns; ++column) {
     grid_->setColumnStretch(column, 1);

@@ -97,9 +97,9 @@ HeirsPanel::HeirsPanel(CaseStudy& form, Binder& binder, QWidget* parent)
   setObjectName(QStringLiteral("Frame1"));
   setAccessibleName(tr("Heirs and estate of the deceased"));
   binder.Box(form.Frame1, this);
-  grid_->setContentsMargins(8, 2, 8, 4);
+  grid_->setContentsMargins(8, 1, 8, 2);
   grid_->setHorizontalSpacing(4);
-  grid_->setVerticalSpacing(1);
+  grid_->setVerticalSpacing(0);
   grid_->setColumnMinimumWidth(gapColumn, gapWidth);
   for (const int column : {0, rightColumn}) {
     grid_->setColumnStretch(column, 1);
