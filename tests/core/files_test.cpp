@@ -146,13 +146,40 @@ TEST(Files, LinksAreFollowedToTheirEnd) {
 TEST(Files, AReplacedFileKeepsItsPermissions) {
   const TemporaryFolder folder;
   Write(folder.File("a.txt"), "earlier");
-  constexpr auto own = fs::perms::owner_read | fs::perms::owner_write;
-  fs::permissions(folder.File("a.txt"), own);
-  Write(folder.File("a.txt"), "later");
-  EXPECT_EQ(fs::status(folder.File("a.txt")).permissions(), own);
+  for (const int mode : {0600, 0640, 0664, 0755}) {
+    fs::permissions(folder.File("a.txt"), fs::perms(mode));
+    Write(folder.File("a.txt"), "later");
+    EXPECT_EQ(fs::status(folder.File("a.txt")).permissions(), fs::perms(mode));
+  }
 }
 
-/// A disk that reports an error when it shall write through: first the file, or its folder.
+// In a shared folder anybody may put a new file in the place of somebody else's.
+TEST(Files, AFileThatTheUserMayNotWriteToIsNotReplaced) {
+  const TemporaryFolder folder;
+  Write(folder.File("a.txt"), "earlier");
+  fs::permissions(folder.File("a.txt"), fs::perms(0444));
+  fs::permissions(folder.Path(), fs::perms(0777));
+  const pid_t child = fork();
+  if (child == 0) {
+    constexpr uid_t nobody = 65534;
+    if (geteuid() == 0 && setuid(nobody) != 0) _exit(1);
+    for (const Replace replace : {Replace::OwnFile, Replace::Agreed}) {
+      try {
+        Write(folder.File("a.txt"), "later", replace);
+        _exit(2);
+      } catch (const FileFailure& failure) {
+        if (failure.Reason != "you have no permission") _exit(3);
+      }
+    }
+    _exit(0);
+  }
+  int status = 0;
+  waitpid(child, &status, 0);
+  EXPECT_EQ(status, 0);
+  EXPECT_EQ(ReadWholeFile(folder.File("a.txt")), "earlier");
+}
+
+/// A disk that reports an error when it shall write through: the file, its folder, or the folder once more.
 class FailingDisk : public FakeFolders {
  public:
   explicit FailingDisk(int good) : good_(good) {}
@@ -173,6 +200,9 @@ TEST(Files, ADiskThatFailsToWriteThroughLeavesTheEarlierFile) {
     EXPECT_EQ(ReadWholeFile(folder.File("a.txt")), "earlier");
     EXPECT_EQ(EntriesOf(folder.Path()).size(), 1U);
   }
+  FailingDisk disk(2);
+  EXPECT_THROW(WriteSafely(disk, folder.File("a.txt"), "later", Replace::Agreed), FileFailure)
+      << "the new name may be lost";
   EXPECT_THROW(SyncToDisk(folder.File("missing")), FileFailure);
 }
 
