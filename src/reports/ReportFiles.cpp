@@ -95,7 +95,7 @@ void SaveShownText(CaseScreen& screen, const std::string& path) {
   const std::size_t separator = path.rfind('/');
   const std::string name = path.substr(separator + 1);
   if (!IsFileName(name)) throw FileFailure(PathFileAccess, "this is no file name");
-  const std::vector<std::string> File1 = ListFiles(path.substr(0, separator));
+  const std::vector<std::string> File1 = ListFiles(path.substr(0, separator) + "/");
   const bool exists = std::ranges::find(File1, name) != File1.end();
   if (exists && !AskToReplaceResults(screen, name)) return;
 

@@ -198,6 +198,9 @@ TEST_F(ReportFiles, ResultsAreNotSavedOverAFolder) {
   Case.Study->SaveResults_Click();
   EXPECT_TRUE(Case.World.Boxes.Shown.empty());
   EXPECT_EQ(Outcome(), Ended("results", "a folder has this name"));
+  Case.World.Dialog.Paths = {"/proc"};
+  Case.Study->SaveResults_Click();
+  EXPECT_EQ(Outcome().second, "a folder has this name") << "the root of all folders is found too";
 }
 
 TEST_F(ReportFiles, AnEmptyPanelLeavesAnEarlierFileThatTheUserAgreedToReplace) {
