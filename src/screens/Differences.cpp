@@ -151,63 +151,64 @@ bool SchoolDiffers(const Compared& c) {
 
 // Those of the estate stand first, then those in which no amount is shown.
 constexpr DifferenceKind kinds[] = {
-    {Concern::Estate, HasComma,                                  //
+    {Concern::Estate, "comma", HasComma,                         //
      "The commands read an amount only up to its first comma.",  //
      "what-is-typed-and-what-is-read"},
-    {Concern::Estate, HasDecimalsThatAreRounded,
+    {Concern::Estate, "rounded-figure", HasDecimalsThatAreRounded,
      "The commands round funeral expenses, debts and wills to whole numbers.",
      "what-is-typed-and-what-is-read"},
-    {Concern::Estate, IsTooLargeToBeRead,
+    {Concern::Estate, "figure-too-large", IsTooLargeToBeRead,
      "The commands refuse funeral expenses, debts and wills above 2,147,483,647.",  //
      "very-large-amounts"},
-    {Concern::Estate, IsNothingLeft,
+    {Concern::Estate, "nothing-left", IsNothingLeft,
      "Funeral expenses and debts exceed the estate. The commands refuse it, or divide a negative estate.",
      "negative-amounts"},
-    {Concern::Estate, AreBequestsLimitedOtherwise,
+    {Concern::Estate, "bequest-limit", AreBequestsLimitedOtherwise,
      "The commands limit the wills to a third of the gross estate, as a whole number, and not to a third of "
      "what funeral expenses and debts leave.",
      "10-a-third-of-the-gross-estate"},
 
-    {Concern::Figures, IsSpouseAlone,
+    {Concern::Figures, "spouse-alone", IsSpouseAlone,
      "No other heir is alive beside husband or wife. The commands show no figures.",
      "9-answers-without-figures"},
-    {Concern::Figures, FitsExactly,
+    {Concern::Figures, "exact-shares", FitsExactly,
      "The fixed shares use up the estate exactly. The commands show no figures.",
      "9-answers-without-figures"},
-    {Concern::Figures, IsSpousesAmountTooLarge,
+    {Concern::Figures, "spouse-amount-too-large", IsSpousesAmountTooLarge,
      "The estate is too large for the commands: they cannot round the spouse's amount and show no figures.",
      "very-large-amounts"},
-    {Concern::Figures, IsFamilyTooLarge,
+    {Concern::Figures, "family-too-large", IsFamilyTooLarge,
      "The family is too large for the fractions of the commands: they show no final figures.",
      "very-large-families"},
 
-    {Concern::Shares, ConsanguineBrotherBesideDaughters,
+    {Concern::Shares, "consanguine-brother-beside-daughters", ConsanguineBrotherBesideDaughters,
      "The commands give a consanguine brother beside daughters nothing, unless a consanguine sister is alive.",
      "1-a-consanguine-brother-without-sisters-beside-daughters"},
-    {Concern::Shares, SonsDaughtersLoseTheirShare,
+    {Concern::Shares, "sons-daughters-lose-share", SonsDaughtersLoseTheirShare,
      "The commands let son's daughters share with the son's son's son instead of taking their fixed share.",
      "2-sons-daughters-beside-a-sons-sons-son-no-daughter"},
-    {Concern::Shares, SonsDaughtersLoseTheirSixth,
+    {Concern::Shares, "sons-daughters-lose-sixth", SonsDaughtersLoseTheirSixth,
      "The commands let son's daughters share with the son's son's son instead of taking their sixth. A son's "
      "son's daughter then takes nothing.",
      "3-one-daughter-a-sons-daughter-and-a-sons-sons-son"},
-    {Concern::Shares, SonsSonsDaughterLeftOut,
+    {Concern::Shares, "sons-sons-daughter-left-out", SonsSonsDaughterLeftOut,
      "The commands leave the son's son's daughter out of the residue that she shares with her brother.",
      "4-a-sons-sons-daughter-left-out-of-the-residue"},
-    {Concern::Shares, SonsSonsDaughterBesideTwoDaughters,
+    {Concern::Shares, "sons-sons-daughter-beside-two-daughters", SonsSonsDaughterBesideTwoDaughters,
      "The commands give a son's son's daughter a sixth, though two daughters have taken the two thirds.",
      "5-two-daughters-and-a-sons-sons-daughter"},
-    {Concern::Shares, ConsanguineSisterTakesTwice,
+    {Concern::Shares, "consanguine-sister-takes-twice", ConsanguineSisterTakesTwice,
      "The commands give a consanguine sister beside her brother and one full sister a sixth, and then her "
      "part of the residue.",
      "6-one-full-sister-with-consanguine-brothers-and-sisters"},
-    {Concern::Shares, GreatGrandmothersBesideGrandfather,
+    {Concern::Shares, "great-grandmothers-beside-grandfather", GreatGrandmothersBesideGrandfather,
      "Beside a grandfather the commands give the sixth of the great grandmothers to nobody, or also to the "
      "grandfather's mother.",
      "7-great-grandmothers-beside-a-living-grandfather"},
-    {Concern::Shares, GrandfatherHasNoLine, "The text of Aul has no line for a grandfather.",
-     "8-a-grandfather-in-the-aul-text"},
-    {Concern::Shares, SchoolDiffers, "The commands follow Hanafi law, from which this school differs here.",
+    {Concern::Shares, "grandfather-has-no-line", GrandfatherHasNoLine,
+     "The text of Aul has no line for a grandfather.", "8-a-grandfather-in-the-aul-text"},
+    {Concern::Shares, "school", SchoolDiffers,
+     "The commands follow Hanafi law, from which this school differs here.",
      "12-where-schools-and-countries-differ"},
 };
 

@@ -18,6 +18,8 @@ enum class Concern : std::uint8_t { Estate, Figures, Shares };
 /// A kind of difference between the answer of the commands and the division.
 struct DifferenceKind {
   Concern Of;
+  /// A short word for other programs. It stays as it is when the sentence changes.
+  std::string_view Id;
   /// Asked about the estate only where it differs, and about the shares only where they are decided.
   bool (*When)(const Compared&);
   /// What happens, for the user.

@@ -90,6 +90,15 @@ void Check(const Answered& answered, std::set<const DifferenceKind*>& named) {
   }
 }
 
+TEST(Differences, HaveIdsOfTheirOwn) {
+  std::set<std::string_view> ids;
+  for (const DifferenceKind& kind : DifferenceKinds()) {
+    EXPECT_TRUE(ids.insert(kind.Id).second) << kind.Id;
+    // A list of them has blanks between them, in a table with any separator.
+    EXPECT_EQ(kind.Id.find_first_of(" ,;\t\""), std::string_view::npos) << kind.Id;
+  }
+}
+
 TEST(Differences, HaveAKindAndEachKindIsADifference) {
   testing::RandomCases random(6);
   std::set<const DifferenceKind*> named;
