@@ -1,8 +1,8 @@
 # Completion of qismora-divide for bash.
 
 _qismora_divide() {
-  local options="--school= --format= --reasons --consent --input= --separator= --columns= --ignore-columns --first=
-    --no-header --quiet --help --version"
+  local options="--school= --format= --reasons --compare --consent --input= --separator= --columns= --ignore-columns
+    --first= --no-header --quiet --help --version"
   local cur=${COMP_WORDS[COMP_CWORD]} prev=${COMP_WORDS[COMP_CWORD - 1]} words=
   # bash takes --option=value as three words.
   if [[ $cur == = ]]; then

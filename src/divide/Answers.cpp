@@ -15,6 +15,9 @@ using faraid::Standing;
 constexpr std::array<std::string_view, 4> words = {"hanafi", "maliki", "shafii", "hanbali"};
 constexpr std::array<std::string_view, 4> names = {"Hanafi", "Maliki", "Shafi'i", "Hanbali"};
 
+constexpr std::array<std::string_view, 5> outcomes = {"figures", "no figures", "figure refused",
+                                                      "estate refused", "failed"};
+
 }  // namespace
 
 std::string_view WordOf(School school) { return words[static_cast<std::size_t>(school)]; }
@@ -74,6 +77,16 @@ void AppendAmount(std::string& text, faraid::Hundredths amount) {
   const std::array decimals = {'.', static_cast<char>('0' + rest / 10), static_cast<char>('0' + rest % 10)};
   text.append(decimals.data(), decimals.size());
 }
+
+void AppendAmount(std::string& text, double amount) {
+  std::array<char, 400> digits;
+  const auto [end, error] =
+      std::to_chars(digits.data(), digits.data() + digits.size(), amount, std::chars_format::fixed, 2);
+  const std::string_view words(digits.data(), end);
+  text.append(words == "-0.00" ? "0.00" : words);
+}
+
+std::string_view WordsOf(OwnOutcome outcome) { return outcomes[static_cast<std::size_t>(outcome)]; }
 
 void AppendFraction(std::string& text, const faraid::Fraction& fraction) {
   AppendNumber(text, fraction.Num());

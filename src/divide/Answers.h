@@ -1,5 +1,6 @@
 #pragma once
 
+#include <optional>
 #include <string>
 #include <string_view>
 #include <vector>
@@ -8,6 +9,8 @@
 #include "faraid/Amounts.h"
 #include "faraid/Division.h"
 #include "faraid/Estate.h"
+#include "screens/Differences.h"
+#include "screens/OwnAnswer.h"
 
 namespace qismora::divide {
 
@@ -17,6 +20,8 @@ struct SchoolDivision {
   faraid::Division Division;
   /// One for each row of the division.
   faraid::Amounts Amounts;
+  /// From the answer of the commands, where that is asked for.
+  Differences Differs;
 };
 
 /// One family divided. The schools' rows are of the same heirs; a remainder may stand in some schools alone.
@@ -27,6 +32,10 @@ struct Answer {
   faraid::Settlement Settlement;
   /// Empty where expenses and debts exceed the estate.
   std::vector<SchoolDivision> Schools;
+  /// What the commands of Case Study answer, where that is asked for.
+  std::optional<OwnAnswer> Commands;
+  /// Where expenses and debts exceed the estate, in what the commands differ.
+  Differences Differs;
 };
 
 /// How answers are written: what stands before all of them, one of them, and what stands behind.
@@ -70,6 +79,10 @@ void Append(std::string& text, const Pieces&... pieces) {
 void AppendNumber(std::string& text, std::int64_t number);
 /// With a point and two decimals.
 void AppendAmount(std::string& text, faraid::Hundredths amount);
+/// An amount of the commands, rounded to two decimals.
+void AppendAmount(std::string& text, double amount);
+/// "figures", "no figures", "figure refused", "estate refused", "failed".
+std::string_view WordsOf(OwnOutcome outcome);
 /// A whole number without a denominator, else as 1/8.
 void AppendFraction(std::string& text, const faraid::Fraction& fraction);
 

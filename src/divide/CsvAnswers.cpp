@@ -28,6 +28,10 @@ constexpr std::array<std::string_view, 17> columns = {
     "corrected_base",
 };
 constexpr std::string_view reasonColumn = "reason";
+constexpr std::array<std::string_view, 7> comparedColumns = {
+    "commands_answer", "commands_net_estate", "commands_amount",      "commands_amount_each",
+    "differs",         "differences",         "differences_in_words",
+};
 
 /// Appends a line field by field.
 class Line {
@@ -49,6 +53,10 @@ class Line {
     Number(fraction.Den());
   }
   void Amount(faraid::Hundredths amount) {
+    AppendAmount(text_, amount);
+    text_ += separator_;
+  }
+  void CommandsAmount(double amount) {
     AppendAmount(text_, amount);
     text_ += separator_;
   }
@@ -82,7 +90,36 @@ void Begin(const Options& options, std::string& text) {
   Line line(text, SeparatorOf(options));
   for (const std::string_view column : columns) line.Words(column);
   if (options.Reasons) line.Words(reasonColumn);
+  if (options.Compare) {
+    for (const std::string_view column : comparedColumns) line.Words(column);
+  }
   line.End();
+}
+
+/// What the commands answer for one heir, or for nobody where nothing is left to divide.
+void WriteCommands(const OwnAnswer& commands, const Differences& differences, const faraid::Row* row,
+                   Line& line) {
+  line.Words(WordsOf(commands.Outcome));
+  line.CommandsAmount(commands.NetEstate);
+  const bool hasAmount =
+      row != nullptr && commands.Outcome == OwnOutcome::Figures && row->Heir != faraid::Kind::Remainder;
+  if (hasAmount) {
+    line.CommandsAmount(commands.Of(row->Heir).Together);
+    line.CommandsAmount(commands.Of(row->Heir).Each);
+  } else {
+    line.Words({});
+    line.Words({});
+  }
+  const bool differs = row != nullptr ? differences.Heirs.Has(row->Heir) : !differences.None();
+  line.Words(differs ? "yes" : "no");
+  std::string ids;
+  std::string sentences;
+  for (const DifferenceKind* kind : differences.Kinds) {
+    Append(ids, ids.empty() ? "" : " ", kind->Id);
+    Append(sentences, sentences.empty() ? "" : " ", kind->Sentence);
+  }
+  line.Words(ids);
+  line.Quoted(sentences);
 }
 
 void WriteRow(const Answer& answer, const SchoolDivision& school, std::size_t index, const Options& options,
@@ -107,6 +144,7 @@ void WriteRow(const Answer& answer, const SchoolDivision& school, std::size_t in
   line.Base(school.Division.RaisedTo);
   line.Base(CorrectedBaseOf(school.Division));
   if (options.Reasons) line.Quoted(faraid::English(row.Why));
+  if (answer.Commands) WriteCommands(*answer.Commands, school.Differs, &row, line);
   line.End();
 }
 
@@ -126,6 +164,7 @@ void WriteShortfall(const Answer& answer, const Options& options, std::string& t
     }
   }
   if (options.Reasons) line.Words({});
+  if (answer.Commands) WriteCommands(*answer.Commands, answer.Differs, nullptr, line);
   line.End();
 }
 

@@ -41,14 +41,24 @@ void NumberMember(std::string& json, std::string_view key, std::int64_t number) 
   json += ',';
 }
 
-/// A base that is not there is null.
-void BaseMember(std::string& json, std::string_view key, std::int64_t base) {
-  if (base > 0) return NumberMember(json, key, base);
+void NullMember(std::string& json, std::string_view key) {
   Key(json, key);
   Append(json, "null,");
 }
 
+/// A base that is not there is null.
+void BaseMember(std::string& json, std::string_view key, std::int64_t base) {
+  base > 0 ? NumberMember(json, key, base) : NullMember(json, key);
+}
+
 void AmountMember(std::string& json, std::string_view key, faraid::Hundredths amount) {
+  Key(json, key);
+  json += '"';
+  AppendAmount(json, amount);
+  Append(json, "\",");
+}
+
+void AmountMember(std::string& json, std::string_view key, double amount) {
   Key(json, key);
   json += '"';
   AppendAmount(json, amount);
@@ -68,7 +78,48 @@ void Close(std::string& json, char bracket) {
   json.append({bracket, ','});
 }
 
-void AppendHeir(std::string& json, const SchoolDivision& school, std::size_t index, bool reasons) {
+/// What the commands of Case Study answer for all heirs together.
+void AppendCommands(std::string& json, const OwnAnswer& commands) {
+  Key(json, "commands");
+  json += '{';
+  TextMember(json, "answer", WordsOf(commands.Outcome));
+  AmountMember(json, "net_estate", commands.NetEstate);
+  if (commands.Refusal.empty()) {
+    NullMember(json, "message");
+  } else {
+    TextMember(json, "message", commands.Refusal);
+  }
+  Close(json, '}');
+}
+
+void AppendCommandsShare(std::string& json, const OwnAnswer& commands, const Differences& differences,
+                         faraid::Kind heir) {
+  if (commands.Outcome == OwnOutcome::Figures && heir != faraid::Kind::Remainder) {
+    AmountMember(json, "commands_amount", commands.Of(heir).Together);
+    AmountMember(json, "commands_amount_each", commands.Of(heir).Each);
+  } else {
+    NullMember(json, "commands_amount");
+    NullMember(json, "commands_amount_each");
+  }
+  Key(json, "differs");
+  Append(json, differences.Heirs.Has(heir) ? "true," : "false,");
+}
+
+void AppendDifferences(std::string& json, const Differences& differences) {
+  Key(json, "differences");
+  json += '[';
+  for (const DifferenceKind* kind : differences.Kinds) {
+    json += '{';
+    TextMember(json, "id", kind->Id);
+    TextMember(json, "sentence", kind->Sentence);
+    TextMember(json, "section", kind->Section);
+    Close(json, '}');
+  }
+  Close(json, ']');
+}
+
+void AppendHeir(std::string& json, const Answer& answer, const SchoolDivision& school, std::size_t index,
+                bool reasons) {
   const faraid::Row& row = school.Division.Rows[index];
   const EachAmount each = EachOf(row, school.Amounts[index]);
   json += '{';
@@ -84,10 +135,11 @@ void AppendHeir(std::string& json, const SchoolDivision& school, std::size_t ind
   AppendStanding(json, row);
   Append(json, "\",");
   if (reasons) TextMember(json, "reason", faraid::English(row.Why));
+  if (answer.Commands) AppendCommandsShare(json, *answer.Commands, school.Differs, row.Heir);
   Close(json, '}');
 }
 
-void AppendSchool(std::string& json, const SchoolDivision& school, bool reasons) {
+void AppendSchool(std::string& json, const Answer& answer, const SchoolDivision& school, bool reasons) {
   json += '{';
   TextMember(json, "school", WordOf(school.School));
   BaseMember(json, "base", school.Division.Base);
@@ -95,8 +147,9 @@ void AppendSchool(std::string& json, const SchoolDivision& school, bool reasons)
   BaseMember(json, "corrected_base", CorrectedBaseOf(school.Division));
   Key(json, "heirs");
   json += '[';
-  for (std::size_t i = 0; i < school.Division.Rows.Size(); ++i) AppendHeir(json, school, i, reasons);
+  for (std::size_t i = 0; i < school.Division.Rows.Size(); ++i) AppendHeir(json, answer, school, i, reasons);
   Close(json, ']');
+  if (answer.Commands) AppendDifferences(json, school.Differs);
   Close(json, '}');
 }
 
@@ -111,9 +164,13 @@ void AppendFamily(std::string& json, const Answer& answer, bool reasons) {
   AmountMember(json, "bequests_paid", answer.Settlement.Bequests);
   AmountMember(json, "net_estate", answer.Settlement.Net);
   AmountMember(json, "shortfall", answer.Settlement.Shortfall);
+  if (answer.Commands) {
+    AppendCommands(json, *answer.Commands);
+    if (answer.Schools.empty()) AppendDifferences(json, answer.Differs);
+  }
   Key(json, "divisions");
   json += '[';
-  for (const SchoolDivision& school : answer.Schools) AppendSchool(json, school, reasons);
+  for (const SchoolDivision& school : answer.Schools) AppendSchool(json, answer, school, reasons);
   Close(json, ']');
   Close(json, '}');
   json.pop_back();

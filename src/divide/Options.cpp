@@ -26,6 +26,8 @@ read.
   -f, --format=FORMAT    table (the default, for people), csv, json, or jsonl
                          for one JSON object a line
   -r, --reasons          give the reason and the source of each share
+      --compare          give also what the commands of the window Case Study
+                         answer, and why it differs
   -c, --consent          the heirs consent to bequests of more than a third
   -i, --input=KIND       csv or case; without it the first line decides
   -d, --separator=SEP    comma, semicolon or tab between the fields of tables;
@@ -42,12 +44,19 @@ The exit status is 0 when every family was divided, 1 when some were not, and
 2 when a file or an option could not be read or the answer not be written.
 )";
 
-enum LongOption : int { ColumnsOption = 256, IgnoreColumnsOption, FirstOption, NoHeaderOption };
+enum LongOption : int {
+  CompareOption = 256,
+  ColumnsOption,
+  IgnoreColumnsOption,
+  FirstOption,
+  NoHeaderOption
+};
 
-constexpr std::array<option, 15> longOptions = {{
+constexpr std::array<option, 16> longOptions = {{
     {"school", required_argument, nullptr, 's'},
     {"format", required_argument, nullptr, 'f'},
     {"reasons", no_argument, nullptr, 'r'},
+    {"compare", no_argument, nullptr, CompareOption},
     {"consent", no_argument, nullptr, 'c'},
     {"input", required_argument, nullptr, 'i'},
     {"separator", required_argument, nullptr, 'd'},
@@ -136,6 +145,9 @@ Options ReadOptions(int count, char** words) {
         break;
       case 'r':
         options.Reasons = true;
+        break;
+      case CompareOption:
+        options.Compare = true;
         break;
       case 'c':
         options.HeirsConsent = true;

@@ -16,6 +16,8 @@ struct Options {
   std::vector<faraid::School> Schools = {faraid::School::Hanafi};
   Format Answer = Format::Table;
   bool Reasons = false;
+  /// With the answer of the commands of Case Study.
+  bool Compare = false;
   bool HeirsConsent = false;
   bool Header = true;
   bool Quiet = false;

@@ -68,13 +68,15 @@ std::string EachText(const faraid::Row& row, const faraid::Amount& amount) {
 
 std::string BaseText(std::int64_t base) { return base > 0 ? std::to_string(base) : ""; }
 
+/// No control character of an input or of a message reaches the terminal.
+void AppendPlain(std::string& text, std::string_view words) {
+  for (const char c : words) text += FindControlCharacter({&c, 1}) == 0 ? ' ' : c;
+}
+
 void AppendHead(const Answer& answer, std::string& text) {
-  const auto appendPlain = [&](std::string_view words) {
-    for (const char c : words) text += FindControlCharacter({&c, 1}) == 0 ? ' ' : c;
-  };
   Append(text, "Family ");
-  appendPlain(answer.Id);
-  if (!answer.Name.empty()) Append(text, ", "), appendPlain(answer.Name);
+  AppendPlain(text, answer.Id);
+  if (!answer.Name.empty()) Append(text, ", "), AppendPlain(text, answer.Name);
   Append(text, "\n");
   const faraid::Settlement& settlement = answer.Settlement;
   if (settlement.Shortfall > 0) {
@@ -88,6 +90,55 @@ void AppendHead(const Answer& answer, std::string& text) {
   Append(text, "Net estate ", AmountText(settlement.Net));
 }
 
+/// What the commands of Case Study answer for an heir.
+std::string CommandsText(const OwnAnswer& commands, Kind heir) {
+  if (heir == Kind::Remainder) return {};
+  switch (commands.Outcome) {
+    case OwnOutcome::Figures:
+      break;
+    case OwnOutcome::FigureRefused:
+    case OwnOutcome::EstateRefused:
+      return "refused";
+    case OwnOutcome::NoFigures:
+    case OwnOutcome::Failed:
+      return std::string(WordsOf(commands.Outcome));
+  }
+  const double amount = commands.Of(heir).Together;
+  if (amount == 0) return "nothing";
+  std::string text;
+  AppendAmount(text, amount);
+  return text;
+}
+
+bool IsRefused(const OwnAnswer& commands) {
+  return commands.Outcome == OwnOutcome::FigureRefused || commands.Outcome == OwnOutcome::EstateRefused;
+}
+
+void AppendRefusal(const OwnAnswer& commands, std::string& text) {
+  if (!IsRefused(commands)) return;
+  Append(text, "  The commands of Case Study refuse it: \"");
+  AppendPlain(text, commands.Refusal);
+  Append(text, "\"\n");
+}
+
+/// What the commands give where they differ in nothing. They may show no figures where no heir receives
+/// anything.
+std::string_view AgreementOf(const OwnAnswer& commands) {
+  return commands.Outcome == OwnOutcome::Figures ? "the same answer."
+                                                 : "no figures, and no heir receives anything.";
+}
+
+/// With the place where it is explained.
+std::string SentenceOf(const DifferenceKind& kind) {
+  std::string text;
+  Append(text, kind.Sentence, " See peculiarities.md#", kind.Section, ".");
+  return text;
+}
+
+void AppendKinds(const Differences& differences, std::string& text) {
+  for (const DifferenceKind* kind : differences.Kinds) Append(text, "  ", SentenceOf(*kind), "\n");
+}
+
 void AppendOneSchool(const Answer& answer, bool reasons, std::string& text) {
   const SchoolDivision& school = answer.Schools.front();
   const faraid::Division& division = school.Division;
@@ -96,22 +147,40 @@ void AppendOneSchool(const Answer& answer, bool reasons, std::string& text) {
   if (division.RaisedTo > 0) Append(text, ", raised to ", BaseText(division.RaisedTo));
   if (division.Base > 0) Append(text, ", corrected base ", BaseText(division.CorrectedBase));
   Append(text, "\n\n");
-  TextTable table(
-      {Side::Left, Side::Right, Side::Right, Side::Right, Side::Right, Side::Right, Side::Left, Side::Left});
-  table.Add({"Heir", "Heads", "Share", "Each", "Amount", "Each", "Standing", reasons ? "Why" : ""});
+  const bool compares = answer.Commands.has_value();
+  std::vector<Side> sides(compares ? 7 : 6, Side::Right);
+  sides.front() = Side::Left;
+  sides.insert(sides.end(), {Side::Left, Side::Left});
+  TextTable table(sides);
+  const auto add = [&](std::vector<std::string> cells, std::string commands) {
+    if (compares) cells.insert(cells.begin() + 6, std::move(commands));
+    table.Add(std::move(cells));
+  };
+  add({"Heir", "Heads", "Share", "Each", "Amount", "Each", "Standing", reasons ? "Why" : ""}, "Commands");
   for (std::size_t i = 0; i < division.Rows.Size(); ++i) {
     const faraid::Row& row = division.Rows[i];
     const faraid::Amount& amount = school.Amounts[i];
     const bool takes = row.Share > 0;
     std::string standing;
     AppendStanding(standing, row);
-    table.Add({std::string(CaptionOf(row.Heir)), row.Heir == Kind::Remainder ? "" : std::to_string(row.Heads),
-               takes ? FractionText(row.Share) : "nothing", takes ? FractionText(row.PerHead) : "",
-               takes ? AmountText(amount.Together) : "", takes ? EachText(row, amount) : "", standing,
-               reasons ? faraid::English(row.Why) : ""});
+    const bool differs = compares && school.Differs.Heirs.Has(row.Heir);
+    add({std::string(CaptionOf(row.Heir)) + (differs ? "*" : ""),
+         row.Heir == Kind::Remainder ? "" : std::to_string(row.Heads),
+         takes ? FractionText(row.Share) : "nothing", takes ? FractionText(row.PerHead) : "",
+         takes ? AmountText(amount.Together) : "", takes ? EachText(row, amount) : "", standing,
+         reasons ? faraid::English(row.Why) : ""},
+        compares ? CommandsText(*answer.Commands, row.Heir) : "");
   }
-  table.Add({"Together", "", "1", "", AmountText(answer.Settlement.Net), "", "", ""});
+  add({"Together", "", "1", "", AmountText(answer.Settlement.Net), "", "", ""}, "");
   table.AppendTo(text);
+  if (!compares) return;
+  text += '\n';
+  if (!school.Differs.Heirs.IsEmpty()) Append(text, "  * The commands of Case Study give another answer.\n");
+  AppendRefusal(*answer.Commands, text);
+  AppendKinds(school.Differs, text);
+  if (school.Differs.None() && !IsRefused(*answer.Commands)) {
+    Append(text, "  The commands of Case Study give ", AgreementOf(*answer.Commands), "\n");
+  }
 }
 
 /// The kinds that have a row in any of the schools.
@@ -129,23 +198,51 @@ std::size_t IndexOf(const SchoolDivision& school, Kind kind) {
   return static_cast<std::size_t>(std::ranges::find(rows, kind, &faraid::Row::Heir) - rows.begin());
 }
 
-/// The reasons of one kind, schools that agree in one line.
-void AppendReasons(const Answer& answer, Kind kind, std::string& text) {
-  std::vector<std::pair<std::string, std::string>> reasons;  // the words, and the schools
+/// What is said of each school, as "  SUBJECT (Maliki, Shafi'i): WORDS"; schools of which the same is said
+/// are in one line, those without words in none.
+template <class WordsOf>
+void AppendBySchool(const Answer& answer, std::string_view subject, WordsOf wordsOf, std::string& text) {
+  std::vector<std::pair<std::string, std::string>> said;  // the words, and the schools
   for (const SchoolDivision& school : answer.Schools) {
-    const std::size_t i = IndexOf(school, kind);
-    if (i == school.Division.Rows.Size()) continue;
-    const std::string words = faraid::English(school.Division.Rows[i].Why);
-    const auto same = std::ranges::find(reasons, words, &std::pair<std::string, std::string>::first);
-    if (same == reasons.end()) {
-      reasons.emplace_back(words, NameOf(school.School));
+    const std::string words = wordsOf(school);
+    if (words.empty()) continue;
+    const auto same = std::ranges::find(said, words, &std::pair<std::string, std::string>::first);
+    if (same == said.end()) {
+      said.emplace_back(words, NameOf(school.School));
     } else {
       Append(same->second, ", ", NameOf(school.School));
     }
   }
-  for (const auto& [words, schools] : reasons) {
-    Append(text, "  ", CaptionOf(kind), reasons.size() > 1 ? " (" + schools + ")" : "", ": ", words, "\n");
+  for (const auto& [words, schools] : said) {
+    Append(text, "  ", subject, said.size() > 1 ? " (" + schools + ")" : "", ": ", words, "\n");
   }
+}
+
+void AppendReasons(const Answer& answer, Kind kind, std::string& text) {
+  const auto why = [&](const SchoolDivision& school) {
+    const std::size_t i = IndexOf(school, kind);
+    return i < school.Division.Rows.Size() ? faraid::English(school.Division.Rows[i].Why) : std::string();
+  };
+  AppendBySchool(answer, CaptionOf(kind), why, text);
+}
+
+/// In what the commands differ from each school.
+void AppendDifferencesBySchool(const Answer& answer, std::string& text) {
+  text += '\n';
+  AppendRefusal(*answer.Commands, text);
+  const auto differences = [&](const SchoolDivision& school) {
+    std::string words;
+    if (school.Differs.None() && !IsRefused(*answer.Commands)) Append(words, AgreementOf(*answer.Commands));
+    for (const Kind heir : school.Differs.Heirs) {
+      Append(words, words.empty() ? "another answer for " : ", ", CaptionOf(heir));
+    }
+    if (!school.Differs.Heirs.IsEmpty()) words += '.';
+    for (const DifferenceKind* kind : school.Differs.Kinds) {
+      Append(words, words.empty() ? "" : " ", SentenceOf(*kind));
+    }
+    return words;
+  };
+  AppendBySchool(answer, "Commands of Case Study", differences, text);
 }
 
 struct BaseRow {
@@ -172,18 +269,20 @@ std::vector<std::string> CellsOf(const Answer& answer, Kind kind) {
     cells.push_back(takes ? AmountText(school.Amounts[i].Together) : "");
   }
   if (differs) cells[0] += '*';
+  if (answer.Commands) cells.push_back(CommandsText(*answer.Commands, kind));
   return cells;
 }
 
 void AppendSideBySide(const Answer& answer, bool reasons, std::string& text) {
   Append(text, "\n\n");
   std::vector<Side> sides = {Side::Left};
-  sides.resize(2 + 2 * answer.Schools.size(), Side::Right);
+  sides.resize(2 + 2 * answer.Schools.size() + (answer.Commands ? 1 : 0), Side::Right);
   TextTable table(sides);
   std::vector<std::string> header = {"Heir", "Heads"};
   for (const SchoolDivision& school : answer.Schools) {
     header.insert(header.end(), {std::string(NameOf(school.School)), "Amount"});
   }
+  if (answer.Commands) header.emplace_back("Commands");
   table.Add(header);
   const faraid::KindSet kinds = KindsOf(answer);
   bool anyDiffers = false;
@@ -203,6 +302,7 @@ void AppendSideBySide(const Answer& answer, bool reasons, std::string& text) {
   }
   table.AppendTo(text);
   if (anyDiffers) Append(text, "\n  * The schools differ.\n");
+  if (answer.Commands) AppendDifferencesBySchool(answer, text);
   if (!reasons) return;
   text += '\n';
   for (const Kind kind : kinds) AppendReasons(answer, kind, text);
@@ -213,6 +313,10 @@ void Begin(const Options&, std::string&) {}
 void Write(const Answer& answer, const Options& options, bool first, std::string& text) {
   if (!first) text += '\n';
   AppendHead(answer, text);
+  if (answer.Schools.empty() && answer.Commands) {
+    AppendRefusal(*answer.Commands, text);
+    AppendKinds(answer.Differs, text);
+  }
   if (answer.Schools.size() == 1) AppendOneSchool(answer, options.Reasons, text);
   if (answer.Schools.size() > 1) AppendSideBySide(answer, options.Reasons, text);
 }

@@ -76,9 +76,23 @@ class Run {
       school.Division = faraid::Divide(family.Input.Family, school.School);
       school.Amounts = faraid::AmountsOf(school.Division, answer_.Settlement.Net);
     }
+    if (options_.Compare) CompareWithCommands(family);
     format_.Write(answer_, options_, divided_ == 0, out_.Buffer);
     ++divided_;
     out_.Wrote();
+  }
+
+  void CompareWithCommands(const InputFamily& family) {
+    CaseTexts texts = *family.Texts;
+    texts.HeirsConsent = answer_.Estate.HeirsConsent;
+    const DivisionInput input = {.Family = family.Input.Family, .Estate = answer_.Estate, .Unreadable = {}};
+    answer_.Commands = OwnAnswerOf(texts);
+    for (SchoolDivision& school : answer_.Schools) {
+      school.Differs = Compare(input, *answer_.Commands, school.School);
+    }
+    if (answer_.Schools.empty()) {
+      answer_.Differs = Compare(input, *answer_.Commands, options_.Schools.front());
+    }
   }
 
   void Refuse(const Source& source, const InputFamily& family) {
