@@ -74,6 +74,7 @@ class Columns {
   /// From the header row.
   Columns(const std::vector<std::string_view>& captions, std::int64_t line, bool ignoreUnknown,
           const InputEvents& events) {
+    std::vector<std::string> unknown;
     for (const std::string_view caption : captions) {
       const std::string words(Trimmed(caption));
       const std::optional<Entry> entry = FindEntry(words);
@@ -85,9 +86,10 @@ class Columns {
         Add({Use::Nothing, {}, words}, line);
         if (!words.empty()) events.PassedOver(line, Join("The column \"", words, "\" is passed over."));
       } else {
-        throw InputFault{line, English(CaseFault::UnknownCaption, words)};
+        unknown.push_back(words);
       }
     }
+    if (!unknown.empty()) throw InputFault{line, EnglishOfUnknown(unknown)};
     if (std::ranges::none_of(columns_, [](const Column& column) { return column.For == Use::Entry; })) {
       throw InputFault{line, "No column has a caption of the Case Study screen."};
     }
@@ -120,6 +122,13 @@ class Columns {
   }
 
  private:
+  static std::string EnglishOfUnknown(const std::vector<std::string>& captions) {
+    std::string text;
+    for (const std::string& caption : captions) text += Join(text.empty() ? "\"" : ", \"", caption, "\"");
+    return Join(text, captions.size() == 1 ? " is not a caption" : " are not captions",
+                " of the Case Study screen. The manual lists them; --ignore-columns passes over others.");
+  }
+
   enum class Use : std::uint8_t { Nothing, Id, Entry };
   struct Column {
     Use For;
@@ -141,10 +150,31 @@ class Columns {
   CaseEntries entries_;
 };
 
+/// Some programs write "sep=;" as the first line of a table. The separator, or 0.
+char NamedSeparator(std::string_view text) {
+  const bool isNamed = text.size() > 5 && text.starts_with("sep=") && (text[5] == '\r' || text[5] == '\n') &&
+                       std::ranges::find(separators, text[4]) != separators.end();
+  return isNamed ? text[4] : '\0';
+}
+
+/// What is no text at all, but comes from a spreadsheet.
+void RefuseWorkbooks(std::string_view begin) {
+  if (begin.starts_with("PK\x03\x04") || begin.starts_with("\xD0\xCF\x11\xE0")) {
+    throw InputFault{0, "This is the workbook of a spreadsheet. Save the table as CSV UTF-8."};
+  }
+  if (begin.starts_with("\xFF\xFE") || begin.starts_with("\xFE\xFF")) {
+    throw InputFault{0, "This is UTF-16. Save the table as CSV UTF-8."};
+  }
+}
+
 void ReadTable(Window& window, const Options& options, std::int64_t& number, const InputEvents& events) {
-  const std::string_view header = options.Columns.empty() ? FirstLine(window) : options.Columns;
-  const char separator = options.Separator != 0 ? options.Separator : DetectSeparator(header);
+  const char named = NamedSeparator(window.Text());
+  char separator = options.Separator != 0 ? options.Separator : named;
+  if (separator == 0) {
+    separator = DetectSeparator(options.Columns.empty() ? FirstLine(window) : options.Columns);
+  }
   RecordReader rows(window, separator);
+  if (named != 0) rows.Next();
   const auto columns = [&]() -> Columns {
     if (!options.Columns.empty())
       return {SplitHeader(options.Columns, separator), 0, options.IgnoreColumns, events};
@@ -191,11 +221,13 @@ void ReadCase(Window& window, const std::string& id, const InputEvents& events) 
 
 void ReadFamilies(Source& source, const Options& options, std::int64_t& number, const InputEvents& events) {
   Window window(source);
-  while (window.Text().size() < byteOrderMark.size() && window.Fill()) {
+  while (window.Text().size() < 16 && window.Fill()) {
   }
+  RefuseWorkbooks(window.Text());
   if (window.Text().starts_with(byteOrderMark)) window.Skip(byteOrderMark.size());
   const bool detects = options.Input == InputKind::Detected && options.Columns.empty();
-  if (options.Input == InputKind::Case || (detects && IsCaseFile(window))) {
+  if (options.Input == InputKind::Case ||
+      (detects && NamedSeparator(window.Text()) == 0 && IsCaseFile(window))) {
     std::string id = source.Path();
     if (id == "-") id = std::to_string(number);
     ++number;

@@ -3,6 +3,7 @@
 #include <getopt.h>
 
 #include <array>
+#include <cctype>
 #include <charconv>
 #include <cstdlib>
 #include <iostream>
@@ -108,10 +109,19 @@ constexpr std::array<Choice<char>, 6> separators = {{
 
 template <class Choices>
 auto Chosen(std::string_view option, std::string_view word, const Choices& choices) {
-  for (const auto& choice : choices) {
-    if (choice.Word == word) return choice.Meaning;
+  // Neither capitals nor the apostrophe of Shafi'i matter.
+  std::string plain;
+  for (const char c : word) {
+    if (c != '\'') plain += static_cast<char>(std::tolower(static_cast<unsigned char>(c)));
   }
-  EndWrong(std::string(option).append(" cannot be \"").append(word).append("\"."));
+  std::string words;
+  for (const auto& choice : choices) {
+    if (choice.Word == plain) return choice.Meaning;
+    if (choice.Word.size() > 1) words.append(words.empty() ? "" : ", ").append(choice.Word);
+  }
+  EndWrong(
+      std::string(option).append(" cannot be \"").append(word).append("\". It is one of ").append(words) +
+      ".");
 }
 
 std::int64_t Number(std::string_view option, std::string_view word) {

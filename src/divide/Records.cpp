@@ -1,5 +1,7 @@
 #include "divide/Records.h"
 
+#include <algorithm>
+
 #include "base/Encoding.h"
 
 namespace qismora::divide {
@@ -15,17 +17,23 @@ std::string_view English(RecordFault fault) {
     case RecordFault::TooLong:
       return "The row is too long.";
     case RecordFault::NotUtf8:
-      return "The row is not UTF-8.";
+      return "The row is not UTF-8. Save the table as CSV UTF-8.";
   }
   return {};
 }
+
+namespace {
+
+bool IsBlank(std::string_view field) { return field.find_first_not_of(' ') == std::string_view::npos; }
+
+}  // namespace
 
 bool RecordReader::Next() {
   do {
     window_.Skip(scanned_);
     line_ += lines_;
     if (!ReadRecord()) return false;
-  } while (fields_.size() == 1 && fields_.front().empty());
+  } while (fault_ == RecordFault::None && std::ranges::all_of(fields_, IsBlank));
   return true;
 }
 

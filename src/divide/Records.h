@@ -14,9 +14,10 @@ enum class RecordFault { None, TextBehindQuotation, OpenQuotation, TooLong, NotU
 std::string_view English(RecordFault fault);
 
 /// Reads a table by records as RFC 4180 has them: fields between separators, in quotation marks where they
-/// hold separators, line breaks or doubled quotation marks; lines end in LF or CRLF; empty lines are skipped.
-/// The memory that it takes does not grow with the table. A record with a wrong quotation is a fault of its
-/// first line alone: the reading goes on with the next line.
+/// hold separators, line breaks or doubled quotation marks; lines end in LF or CRLF. Records whose fields are
+/// all blank are skipped: spreadsheets write them below their tables. The memory that it takes does not grow
+/// with the table. A record with a wrong quotation is a fault of its first line alone: the reading goes on
+/// with the next line.
 class RecordReader {
  public:
   RecordReader(Window& window, char separator) : window_(window), separator_(separator) {}
