@@ -139,6 +139,26 @@ void AppendKinds(const Differences& differences, std::string& text) {
   for (const DifferenceKind* kind : differences.Kinds) Append(text, "  ", SentenceOf(*kind), "\n");
 }
 
+/// Where the division has nothing to divide. The commands may divide all the same, since they read or round
+/// otherwise, or go on below 0.
+void AppendCommandsOfShortfall(const Answer& answer, std::string& text) {
+  const OwnAnswer& commands = *answer.Commands;
+  AppendRefusal(commands, text);
+  if (!IsRefused(commands)) {
+    Append(text, "  The commands of Case Study have a net estate of ");
+    AppendAmount(text, commands.NetEstate);
+    std::string shares;
+    for (std::size_t i = 0; i < faraid::KindCount; ++i) {
+      const auto heir = static_cast<Kind>(i);
+      if (commands.Outcome != OwnOutcome::Figures || commands.Of(heir).Together == 0) continue;
+      Append(shares, shares.empty() ? " and give " : ", ", CaptionOf(heir), " ",
+             CommandsText(commands, heir));
+    }
+    Append(text, shares.empty() ? " and show no figures" : shares, ".\n");
+  }
+  AppendKinds(answer.Differs, text);
+}
+
 void AppendOneSchool(const Answer& answer, bool reasons, std::string& text) {
   const SchoolDivision& school = answer.Schools.front();
   const faraid::Division& division = school.Division;
@@ -313,10 +333,7 @@ void Begin(const Options&, std::string&) {}
 void Write(const Answer& answer, const Options& options, bool first, std::string& text) {
   if (!first) text += '\n';
   AppendHead(answer, text);
-  if (answer.Schools.empty() && answer.Commands) {
-    AppendRefusal(*answer.Commands, text);
-    AppendKinds(answer.Differs, text);
-  }
+  if (answer.Schools.empty() && answer.Commands) AppendCommandsOfShortfall(answer, text);
   if (answer.Schools.size() == 1) AppendOneSchool(answer, options.Reasons, text);
   if (answer.Schools.size() > 1) AppendSideBySide(answer, options.Reasons, text);
 }
