@@ -151,8 +151,16 @@ class Columns {
 };
 
 /// Some programs write "sep=;" as the first line of a table. The separator, or 0.
-char NamedSeparator(std::string_view text) {
-  const bool isNamed = text.size() > 5 && text.starts_with("sep=") && (text[5] == '\r' || text[5] == '\n') &&
+char NamedSeparator(Window& window) {
+  constexpr std::string_view begin = "sep=";
+  constexpr std::size_t length = begin.size() + 2;  // with the separator and the end of the line
+  // No more is waited for than is needed.
+  while (window.Text().size() < length && begin.starts_with(window.Text().substr(0, begin.size())) &&
+         window.Fill()) {
+  }
+  const std::string_view text = window.Text();
+  const bool isNamed = text.size() >= length && text.starts_with(begin) &&
+                       (text[5] == '\r' || text[5] == '\n') &&
                        std::ranges::find(separators, text[4]) != separators.end();
   return isNamed ? text[4] : '\0';
 }
@@ -168,7 +176,7 @@ void RefuseWorkbooks(std::string_view begin) {
 }
 
 void ReadTable(Window& window, const Options& options, std::int64_t& number, const InputEvents& events) {
-  const char named = NamedSeparator(window.Text());
+  const char named = NamedSeparator(window);
   char separator = options.Separator != 0 ? options.Separator : named;
   if (separator == 0) {
     separator = DetectSeparator(options.Columns.empty() ? FirstLine(window) : options.Columns);
@@ -221,13 +229,12 @@ void ReadCase(Window& window, const std::string& id, const InputEvents& events) 
 
 void ReadFamilies(Source& source, const Options& options, std::int64_t& number, const InputEvents& events) {
   Window window(source);
-  while (window.Text().size() < 16 && window.Fill()) {
+  while (window.Text().size() < 4 && window.Fill()) {
   }
   RefuseWorkbooks(window.Text());
   if (window.Text().starts_with(byteOrderMark)) window.Skip(byteOrderMark.size());
   const bool detects = options.Input == InputKind::Detected && options.Columns.empty();
-  if (options.Input == InputKind::Case ||
-      (detects && NamedSeparator(window.Text()) == 0 && IsCaseFile(window))) {
+  if (options.Input == InputKind::Case || (detects && NamedSeparator(window) == 0 && IsCaseFile(window))) {
     std::string id = source.Path();
     if (id == "-") id = std::to_string(number);
     ++number;

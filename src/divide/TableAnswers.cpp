@@ -220,8 +220,8 @@ std::size_t IndexOf(const SchoolDivision& school, Kind kind) {
 
 /// What is said of each school, as "  SUBJECT (Maliki, Shafi'i): WORDS"; schools of which the same is said
 /// are in one line, those without words in none.
-template <class WordsOf>
-void AppendBySchool(const Answer& answer, std::string_view subject, WordsOf wordsOf, std::string& text) {
+template <class Saying>
+void AppendBySchool(const Answer& answer, std::string_view subject, Saying wordsOf, std::string& text) {
   std::vector<std::pair<std::string, std::string>> said;  // the words, and the schools
   for (const SchoolDivision& school : answer.Schools) {
     const std::string words = wordsOf(school);
