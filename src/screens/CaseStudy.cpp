@@ -11,6 +11,7 @@
 #include "residue/Residuaries.h"
 #include "rules/Rules.h"
 #include "screens/Captions.h"
+#include "screens/CaseTexts.h"
 #include "screens/Event.h"
 #include "screens/Misreading.h"
 #include "shell/AppSettings.h"
@@ -18,11 +19,6 @@
 namespace qismora {
 
 namespace {
-
-constexpr Caption firstTexts[] = {
-    {NameBox, "ABDULLAH"}, {GrossEstateBox, "18600"}, {FuneralBox, "1000"},
-    {DebtsBox, "5000"},    {WillsBox, "2600"},        {NetEstateBox, "0"},
-};
 
 constexpr const char* viewCaptions[] = {"Urd ", "E", "Arabic "};
 
@@ -82,7 +78,9 @@ CaseStudy::CaseStudy(CaseRecord& record, Outside& outside, int savedLanguage)
 
   for (const Caption& caption : Captions()) Label1(caption.Index).Caption = std::string(caption.Words);
   for (const int box : HeirBoxes) Text1(box).Text = "0";
-  for (const Caption& text : firstTexts) Text1(text.Index).Text = std::string(text.Words);
+  Text1(NameBox).Text = "ABDULLAH";
+  for (const ExampleFigure& example : ExampleFigures) Text1(example.Index).Text = std::string(example.Text);
+  Text1(NetEstateBox).Text = "0";
   for (int i = 0; i < Check1.Size; ++i) Check1(i).Caption = ClassIIRows[static_cast<std::size_t>(i)].Caption;
   for (int i = 0; i < Label4.Size; ++i) Label4(i).Caption = viewCaptions[i];
   for (int i = 0; i < Text1.Size; ++i) {

@@ -23,6 +23,19 @@ struct CaseTexts {
   bool operator==(const CaseTexts&) const = default;
 };
 
+/// A figure of the estate with which the screen opens, as an example.
+struct ExampleFigure {
+  int Index;
+  std::string_view Text;
+};
+
+inline constexpr std::array<ExampleFigure, 4> ExampleFigures = {{
+    {GrossEstateBox, "18600"},
+    {FuneralBox, "1000"},
+    {DebtsBox, "5000"},
+    {WillsBox, "2600"},
+}};
+
 /// What the fields of the screen hold. The consent of the heirs is not part of the screen.
 CaseTexts ReadScreen(const CaseScreen& screen, bool heirsConsent);
 

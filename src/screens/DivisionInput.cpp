@@ -85,7 +85,7 @@ class Fields {
 
   std::int64_t Noted(std::string_view caption, int index, const FieldReading& reading, int most) {
     if (reading.Fault != FieldFault::None) {
-      Unreadable.push_back({std::string(caption), Text(index), reading.Fault, most});
+      Unreadable.push_back({std::string(caption), Text(index), reading.Fault, most, index});
     }
     return reading.Value;
   }

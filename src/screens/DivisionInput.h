@@ -32,6 +32,8 @@ struct UnreadableField {
   std::string Text;
   FieldFault Fault = FieldFault::None;
   int Most = 0;
+  /// Of Text1.
+  int Index = 0;
 };
 
 /// The fault in English: Sons: "101" is more than 100. The text stands as it was typed.

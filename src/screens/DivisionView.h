@@ -1,0 +1,116 @@
+#pragma once
+
+#include <array>
+#include <optional>
+#include <string>
+#include <vector>
+
+#include "faraid/Amounts.h"
+#include "faraid/Division.h"
+#include "screens/CaseTexts.h"
+#include "screens/DivisionInput.h"
+
+namespace qismora {
+
+/// What became of the estate as a whole.
+enum class DivisionOutcome {
+  /// Fields cannot be read; nothing is divided.
+  Unreadable,
+  /// Funeral expenses and debts exceed the estate; nothing is divided.
+  Short,
+  /// No heir inherits; the whole is the remainder.
+  NoHeirs,
+  /// The fixed shares exceed the estate, so that all are reduced.
+  Awl,
+  /// The fixed shares leave something, which returns to the sharers other than the spouse.
+  Radd,
+  /// A spouse alone: what the fixed share leaves is the remainder.
+  Remainder,
+  /// Residuaries take what the fixed shares leave, or the whole.
+  Residue,
+  /// The fixed shares come to the whole estate.
+  FitsExactly,
+};
+
+/// One line of the division: an heir, or the remainder.
+struct DivisionLine {
+  faraid::Row Law;
+  faraid::Amount Amount;
+  /// Of the corrected base, all heads together.
+  std::int64_t Parts = 0;
+
+  faraid::Kind Heir() const { return Law.Heir; }
+  bool Takes() const { return Law.Share > 0; }
+  bool operator==(const DivisionLine&) const = default;
+};
+
+/// The line below those who take: the heads, the parts and the money come to this.
+struct DivisionSum {
+  int Heads = 0;
+  std::int64_t Parts = 0;
+  faraid::Hundredths Together = 0;
+
+  bool operator==(const DivisionSum&) const = default;
+};
+
+/// The division of a case by one school, as the window and the paper show it: values alone, no words.
+struct DivisionView {
+  faraid::School School = faraid::School::Hanafi;
+  std::string Name;
+  int Gender = Male;
+
+  DivisionOutcome Outcome = DivisionOutcome::Unreadable;
+  /// The fields that cannot be read, in the order of the screen.
+  std::vector<UnreadableField> Unreadable;
+
+  faraid::Estate Estate;
+  faraid::Settlement Settlement;
+  /// The fields of the estate that still hold the figures with which the screen opens, by index.
+  std::vector<int> Examples;
+
+  /// The shares and the bases; empty where nothing is divided.
+  faraid::Division Division;
+  /// Those who take, in the order of the division, and the remainder last.
+  std::vector<DivisionLine> Takers;
+  DivisionSum Sum;
+  /// The heirs who are alive and receive nothing.
+  std::vector<DivisionLine> Others;
+
+  /// There is a table: the family is read, and something or nothing is divided among it.
+  bool IsDivided() const {
+    return Outcome != DivisionOutcome::Unreadable && Outcome != DivisionOutcome::Short;
+  }
+  /// The bequests exceed what they may take.
+  bool BequestsAreCut() const { return Settlement.Bequests < Estate.Bequests; }
+  /// More is left to others than a third of what expenses and debts leave, so that the consent matters.
+  bool ConsentMatters() const;
+  /// The line of an heir who is alive, else null.
+  const DivisionLine* Find(faraid::Kind heir) const;
+};
+
+/// Divides what the texts of a case hold.
+DivisionView ViewDivision(const CaseTexts& texts, faraid::School school);
+
+/// The same case in the four schools, in their order.
+using SchoolViews = std::array<DivisionView, 4>;
+SchoolViews ViewFourSchools(const CaseTexts& texts);
+
+/// Whether the schools differ about an heir: in the share, or in the reason of nothing.
+bool SchoolsDiffer(const SchoolViews& views, faraid::Kind heir);
+
+/// What an heir receives in one division and in another; nothing where he is not alive in it.
+struct HeirChange {
+  faraid::Kind Heir = faraid::Kind::Remainder;
+  std::optional<faraid::Hundredths> Before;
+  std::optional<faraid::Hundredths> Now;
+
+  faraid::Hundredths Difference() const { return Now.value_or(0) - Before.value_or(0); }
+};
+
+/// Every heir of either division, in the order of the division; the remainder last.
+std::vector<HeirChange> Compare(const DivisionView& before, const DivisionView& now);
+
+/// The case as it would be if so many of these heirs were alive.
+CaseTexts WithHeads(CaseTexts texts, faraid::Kind heir, int heads);
+
+}  // namespace qismora
