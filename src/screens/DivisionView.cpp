@@ -112,7 +112,7 @@ bool SchoolsDiffer(const SchoolViews& views, Kind heir) {
   });
 }
 
-std::vector<HeirChange> Compare(const DivisionView& before, const DivisionView& now) {
+std::vector<HeirChange> ChangesBetween(const DivisionView& before, const DivisionView& now) {
   std::vector<HeirChange> changes;
   for (std::size_t i = 0; i <= faraid::KindCount; ++i) {
     const auto kind = static_cast<Kind>(i);

@@ -108,7 +108,7 @@ struct HeirChange {
 };
 
 /// Every heir of either division, in the order of the division; the remainder last.
-std::vector<HeirChange> Compare(const DivisionView& before, const DivisionView& now);
+std::vector<HeirChange> ChangesBetween(const DivisionView& before, const DivisionView& now);
 
 /// The case as it would be if so many of these heirs were alive.
 CaseTexts WithHeads(CaseTexts texts, faraid::Kind heir, int heads);

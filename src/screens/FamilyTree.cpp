@@ -1,0 +1,351 @@
+#include "screens/FamilyTree.h"
+
+#include <algorithm>
+#include <array>
+#include <span>
+
+namespace qismora {
+
+namespace {
+
+using faraid::Kind;
+using faraid::KindSet;
+
+constexpr int generations = 3;
+constexpr int rowCount = 2 * generations + 1;
+constexpr int deceasedRow = generations;
+constexpr int mostClassIIRows = 4;
+
+/// An ascendant, and the places in the table of his or her own parents.
+struct Ascendant {
+  Kind Heir;
+  int Generation;
+  std::array<int, 2> Parents;
+};
+
+constexpr int nobody = -1;
+
+// The father's side stands on the left.
+constexpr Ascendant ascendants[] = {
+    {Kind::Father, 1, {2, 3}},
+    {Kind::Mother, 1, {4, nobody}},
+    {Kind::Grandfather, 2, {5, 6}},
+    {Kind::FathersMother, 2, {7, nobody}},
+    {Kind::MothersMother, 2, {8, nobody}},
+    {Kind::GreatGrandfather, 3, {nobody, nobody}},
+    {Kind::GrandfathersMother, 3, {nobody, nobody}},
+    {Kind::FathersMothersMother, 3, {nobody, nobody}},
+    {Kind::MothersMothersMother, 3, {nobody, nobody}},
+};
+
+struct Descent {
+  Kind Male;
+  Kind Female;
+};
+
+constexpr Descent descents[generations] = {
+    {Kind::Sons, Kind::Daughters},
+    {Kind::SonsSons, Kind::SonsDaughters},
+    {Kind::SonsSonsSons, Kind::SonsSonsDaughters},
+};
+
+constexpr Descent siblings[] = {
+    {Kind::FullBrothers, Kind::FullSisters},
+    {Kind::ConsanguineBrothers, Kind::ConsanguineSisters},
+    {Kind::UterineBrothers, Kind::UterineSisters},
+};
+
+/// A node whose column is known, while rows have no height yet: the vertical place is counted from the middle
+/// of its row.
+struct Placed {
+  TreeNode Node;
+  int Row = 0;
+};
+
+/// The end of a line: a row and what to add to the given edge of it.
+struct End {
+  int X = 0;
+  int Row = 0;
+  enum class Edge { Middle, Above, FarAbove } Where = Edge::Middle;
+  int Offset = 0;
+};
+
+class Layout {
+ public:
+  Layout(const DivisionView& view, const TreeMetrics& metrics) : view_(view), m_(metrics) {
+    for (const auto* lines : {&view.Takers, &view.Others}) {
+      for (const DivisionLine& line : *lines) {
+        if (line.Heir() != Kind::Remainder) alive_ = alive_ | line.Heir();
+      }
+    }
+  }
+
+  FamilyTree Make() {
+    Add({TreeNode::Role::Deceased, Kind::Remainder, -m_.DeceasedWidth / 2, 0, m_.DeceasedWidth,
+         m_.NodeHeight},
+        0, deceasedRow);
+    AddAscendants();
+    AddDescendants();
+    AddSiblings();
+    AddSpouse();
+    AddClassII();
+    return Finish();
+  }
+
+ private:
+  int Step() const { return m_.NodeWidth + m_.Gap; }
+  int GridStep() const { return m_.NodeHeight + m_.Gap; }
+
+  void Add(TreeNode node, int middle, int row) {
+    node.Y = middle - node.Height / 2;
+    placed_.push_back({node, row});
+    int& half = halfHeights_[static_cast<std::size_t>(row)];
+    half = std::max(half, std::max(-node.Y, node.Y + node.Height));
+  }
+  void AddHeir(Kind heir, int centre, int row, int middle = 0) {
+    Add({TreeNode::Role::Heir, heir, centre - m_.NodeWidth / 2, 0, m_.NodeWidth, m_.NodeHeight}, middle, row);
+  }
+  void AddLink(int centre, int row) {
+    Add({TreeNode::Role::Link, Kind::Remainder, centre - m_.Link / 2, 0, m_.Link, m_.Link}, 0, row);
+  }
+  void AddLine(std::vector<End> ends) { lines_.push_back(std::move(ends)); }
+
+  bool IsNeeded(int ascendant) const {
+    if (ascendant == nobody) return false;
+    const Ascendant& person = ascendants[ascendant];
+    return alive_.Has(person.Heir) || std::ranges::any_of(person.Parents, [&](int p) { return IsNeeded(p); });
+  }
+
+  // The children of one person in the picture are the parents in the family: the tree stands on its head.
+  struct Block {
+    int Width = 0;
+    int Centre = 0;
+  };
+  Block PlaceParents(const std::array<int, 2>& parents, int left, int row, int leastWidth) {
+    std::vector<int> centres;
+    int width = 0;
+    std::vector<int> needed;
+    for (const int parent : parents) {
+      if (IsNeeded(parent)) needed.push_back(parent);
+    }
+    if (needed.empty()) return {leastWidth, left + leastWidth / 2};
+    // Where the child is wider than all above it, these stand over its middle.
+    const int own = WidthAbove(needed);
+    int x = left + std::max(0, (leastWidth - own) / 2);
+    for (const int parent : needed) {
+      const Ascendant& person = ascendants[parent];
+      const int parentRow = deceasedRow - person.Generation;
+      const bool alive = alive_.Has(person.Heir);
+      const Block block = PlaceParents(person.Parents, x, parentRow, alive ? m_.NodeWidth : m_.Link);
+      if (alive) {
+        AddHeir(person.Heir, block.Centre, parentRow);
+      } else {
+        AddLink(block.Centre, parentRow);
+      }
+      centres.push_back(block.Centre);
+      x += block.Width + m_.Gap;
+      width += block.Width + (width > 0 ? m_.Gap : 0);
+    }
+    const int centre = (centres.front() + centres.back()) / 2;
+    for (const int parent : centres) {
+      AddLine({{parent, row - 1},
+               {parent, row, End::Edge::FarAbove},
+               {centre, row, End::Edge::FarAbove},
+               {centre, row}});
+    }
+    return {std::max(width, leastWidth), centre};
+  }
+  int WidthAbove(const std::vector<int>& people) const {
+    int width = 0;
+    for (const int i : people) {
+      const Ascendant& person = ascendants[i];
+      std::vector<int> above;
+      for (const int parent : person.Parents) {
+        if (IsNeeded(parent)) above.push_back(parent);
+      }
+      width += std::max(WidthAbove(above), alive_.Has(person.Heir) ? m_.NodeWidth : m_.Link) +
+               (width > 0 ? m_.Gap : 0);
+    }
+    return width;
+  }
+
+  // Laid out from 0 and then moved, so that the deceased stands between the parents.
+  void AddAscendants() {
+    const std::size_t firstNode = placed_.size();
+    const std::size_t firstLine = lines_.size();
+    const Block block = PlaceParents({0, 1}, 0, deceasedRow, 0);
+    for (std::size_t i = firstNode; i < placed_.size(); ++i) placed_[i].Node.X -= block.Centre;
+    for (std::size_t i = firstLine; i < lines_.size(); ++i) {
+      for (End& end : lines_[i]) end.X -= block.Centre;
+    }
+  }
+
+  // The trunk runs down the middle, through the child who has died.
+  void AddDescendants() {
+    int last = 0;
+    for (int g = 0; g < generations; ++g) {
+      if (alive_.HasAny(descents[g].Male | descents[g].Female)) last = g + 1;
+    }
+    for (int g = 0; g < last; ++g) {
+      const int row = deceasedRow + 1 + g;
+      const bool goesOn = g + 1 < last;
+      const bool male = alive_.Has(descents[g].Male);
+      const bool female = alive_.Has(descents[g].Female);
+      const bool alone = !goesOn && male != female;
+      const int side = alone ? 0 : (Step() + (goesOn ? m_.Link + m_.Gap : 0)) / 2;
+      if (goesOn) {
+        AddLink(0, row);
+        AddLine({{0, row - 1}, {0, row}});
+      }
+      for (const auto& [heir, centre] :
+           {std::pair(descents[g].Male, -side), std::pair(descents[g].Female, side)}) {
+        if (!alive_.Has(heir)) continue;
+        AddHeir(heir, centre, row);
+        AddLine({{0, row - 1}, {0, row, End::Edge::Above}, {centre, row, End::Edge::Above}, {centre, row}});
+      }
+    }
+  }
+
+  // One row for each kind of kinship; the whole hangs from a line that leaves above the deceased.
+  void AddSiblings() {
+    const int edge = -m_.DeceasedWidth / 2 - m_.Gap;
+    const int spine = edge - m_.Gap / 2;
+    const int nearest = spine - m_.Gap - m_.NodeWidth / 2;
+    int count = 0;
+    for (const Descent& pair : siblings) count += alive_.HasAny(pair.Male | pair.Female) ? 1 : 0;
+    int line = 0;
+    for (const Descent& pair : siblings) {
+      std::vector<Kind> heirs;
+      for (const Kind heir : {pair.Female, pair.Male}) {
+        if (alive_.Has(heir)) heirs.push_back(heir);
+      }
+      if (heirs.empty()) continue;
+      const int middle = MiddleOf(line++, count);
+      int x = nearest;
+      for (const Kind heir : heirs) {
+        AddHeir(heir, x, deceasedRow, middle);
+        x -= Step();
+      }
+      Hang(spine, x + Step(), middle);
+    }
+  }
+
+  int MiddleOf(int line, int count) const { return (2 * line - count + 1) * GridStep() / 2; }
+
+  void Hang(int spine, int end, int middle) {
+    AddLine({{0, deceasedRow},
+             {0, deceasedRow, End::Edge::Above},
+             {spine, deceasedRow, End::Edge::Above},
+             {spine, deceasedRow, End::Edge::Middle, middle},
+             {end, deceasedRow, End::Edge::Middle, middle}});
+  }
+
+  void AddSpouse() {
+    right_ = m_.DeceasedWidth / 2 + m_.Gap;
+    for (const Kind spouse : faraid::Spouses& alive_) {
+      const int centre = right_ + m_.Gap + m_.NodeWidth / 2;
+      AddHeir(spouse, centre, deceasedRow);
+      AddLine({{0, deceasedRow}, {centre, deceasedRow}});
+      right_ = centre + m_.NodeWidth / 2 + m_.Gap;
+    }
+  }
+
+  void AddClassII() {
+    std::vector<Kind> heirs;
+    for (const Kind heir : faraid::ClassII& alive_) heirs.push_back(heir);
+    if (heirs.empty()) return;
+    const int count = static_cast<int>(heirs.size());
+    const int columns = (count + mostClassIIRows - 1) / mostClassIIRows;
+    const int rows = (count + columns - 1) / columns;
+    const int spine = right_ + m_.Gap / 2;
+    const int nearest = spine + m_.Gap + m_.NodeWidth / 2;
+    for (int i = 0; i < count; ++i) {
+      const int middle = MiddleOf(i / columns, rows);
+      const int x = nearest + i % columns * Step();
+      AddHeir(heirs[static_cast<std::size_t>(i)], x, deceasedRow, middle);
+      if (i % columns == columns - 1 || i == count - 1) Hang(spine, x, middle);
+    }
+  }
+
+  bool IsUsed(int row) const { return halfHeights_[static_cast<std::size_t>(row)] > 0; }
+
+  FamilyTree Finish() {
+    int left = 0;
+    int right = 0;
+    for (const Placed& placed : placed_) {
+      left = std::min(left, placed.Node.X);
+      right = std::max(right, placed.Node.X + placed.Node.Width);
+    }
+    // What hangs from the line above the deceased needs its space though there are no parents.
+    const bool hangs = alive_.HasAny(faraid::Siblings | faraid::ClassII);
+    const bool parents = IsUsed(deceasedRow - 1);
+    std::array<int, rowCount> middles{};
+    int y = hangs && !parents ? m_.RowGap / 2 : 0;
+    for (int row = 0; row < rowCount; ++row) {
+      const auto r = static_cast<std::size_t>(row);
+      if (!IsUsed(row)) continue;
+      middles[r] = y + halfHeights_[r];
+      y += 2 * halfHeights_[r] + m_.RowGap;
+    }
+    FamilyTree tree;
+    tree.Width = right - left;
+    tree.Height = y - m_.RowGap;
+    for (Placed& placed : placed_) {
+      placed.Node.X -= left;
+      placed.Node.Y += middles[static_cast<std::size_t>(placed.Row)];
+      tree.Nodes.push_back(placed.Node);
+    }
+    for (const auto& ends : lines_) {
+      TreeLine line;
+      for (const End& end : ends) line.push_back({end.X - left, Height(end, middles)});
+      tree.Lines.push_back(std::move(line));
+    }
+    // The deceased stays the first.
+    std::ranges::sort(tree.Nodes.begin() + 1, tree.Nodes.end(), [](const TreeNode& a, const TreeNode& b) {
+      return std::pair(a.Y, a.X) < std::pair(b.Y, b.X);
+    });
+    AddYields(tree);
+    return tree;
+  }
+
+  int Height(const End& end, const std::array<int, rowCount>& middles) const {
+    const auto row = static_cast<std::size_t>(end.Row);
+    const int top = middles[row] - halfHeights_[row];
+    switch (end.Where) {
+      case End::Edge::Middle:
+        return middles[row] + end.Offset;
+      case End::Edge::Above:
+        return top - m_.RowGap / 3;
+      case End::Edge::FarAbove:
+        return top - 2 * m_.RowGap / 3;
+    }
+    return 0;
+  }
+
+  void AddYields(FamilyTree& tree) const {
+    const auto find = [&](Kind heir) {
+      return static_cast<std::size_t>(std::ranges::find(tree.Nodes, heir, &TreeNode::Heir) -
+                                      tree.Nodes.begin());
+    };
+    for (const DivisionLine& line : view_.Others) {
+      if (line.Law.As != faraid::Standing::Excluded || line.Law.Excluder == Kind::Remainder) continue;
+      tree.Yields.push_back({find(line.Heir()), find(line.Law.Excluder)});
+    }
+  }
+
+  const DivisionView& view_;
+  TreeMetrics m_;
+  KindSet alive_;
+  std::vector<Placed> placed_;
+  std::vector<std::vector<End>> lines_;
+  std::array<int, rowCount> halfHeights_{};
+  int right_ = 0;
+};
+
+}  // namespace
+
+FamilyTree LayOutFamily(const DivisionView& view, const TreeMetrics& metrics) {
+  return Layout(view, metrics).Make();
+}
+
+}  // namespace qismora

@@ -1,0 +1,68 @@
+#pragma once
+
+#include <vector>
+
+#include "screens/DivisionView.h"
+
+namespace qismora {
+
+/// How large the nodes are and how far apart, in pixels.
+struct TreeMetrics {
+  int NodeWidth = 150;
+  int NodeHeight = 44;
+  int DeceasedWidth = 110;
+  int Gap = 16;
+  int RowGap = 34;
+  /// The side of a link.
+  int Link = 8;
+};
+
+struct TreePoint {
+  int X = 0;
+  int Y = 0;
+};
+
+/// A rectangle of the picture.
+struct TreeNode {
+  enum class Role {
+    Deceased,
+    /// A kind of heir who is alive, all heads in one node.
+    Heir,
+    /// A relative who is dead and through whom another one is related.
+    Link,
+  };
+  Role What = Role::Heir;
+  faraid::Kind Heir = faraid::Kind::Remainder;
+  int X = 0;
+  int Y = 0;
+  int Width = 0;
+  int Height = 0;
+
+  TreePoint Centre() const { return {X + Width / 2, Y + Height / 2}; }
+};
+
+/// A line between relatives: a chain of points.
+using TreeLine = std::vector<TreePoint>;
+
+/// An heir who is excluded, and the node of the heir to whom he or she yields.
+struct TreeYield {
+  std::size_t From = 0;
+  std::size_t To = 0;
+};
+
+/// The family as a picture from 0, 0 to its width and height: ascendants above the deceased, those of the
+/// father on the left, the spouse beside, descendants below, brothers and sisters on the left, class II on
+/// the right.
+struct FamilyTree {
+  /// The deceased is the first; then in the order in which a reader goes through them, from the top left.
+  std::vector<TreeNode> Nodes;
+  std::vector<TreeLine> Lines;
+  std::vector<TreeYield> Yields;
+  int Width = 0;
+  int Height = 0;
+};
+
+/// Lays out all who are alive. No two nodes overlap, whatever the family.
+FamilyTree LayOutFamily(const DivisionView& view, const TreeMetrics& metrics);
+
+}  // namespace qismora

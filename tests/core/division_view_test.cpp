@@ -1,0 +1,151 @@
+#include <gtest/gtest.h>
+
+#include <algorithm>
+#include <random>
+
+#include "screens/DivisionView.h"
+#include "screens/FamilyTree.h"
+#include "screens/HeirFields.h"
+
+namespace qismora {
+namespace {
+
+using faraid::Kind;
+using faraid::School;
+
+struct Heads {
+  Kind Heir;
+  int Count;
+};
+
+CaseTexts Case(std::initializer_list<Heads> heirs, const char* gross = "2400") {
+  CaseTexts texts;
+  texts.Fields[GrossEstateBox] = gross;
+  for (const auto& [heir, count] : heirs) {
+    if (heir == Kind::Husband) texts.Gender = Female;
+    texts = WithHeads(texts, heir, count);
+  }
+  return texts;
+}
+
+DivisionOutcome Outcome(const CaseTexts& texts) { return ViewDivision(texts, School::Hanafi).Outcome; }
+
+TEST(DivisionView, NamesWhatBecameOfTheEstate) {
+  CaseTexts unreadable = Case({{Kind::Sons, 1}});
+  unreadable.Fields[3] = "two";
+  EXPECT_EQ(Outcome(unreadable), DivisionOutcome::Unreadable);
+  CaseTexts indebted = Case({{Kind::Sons, 1}});
+  indebted.Fields[DebtsBox] = "2400.01";
+  EXPECT_EQ(Outcome(indebted), DivisionOutcome::Short);
+  EXPECT_EQ(Outcome(Case({})), DivisionOutcome::NoHeirs);
+  EXPECT_EQ(Outcome(Case({{Kind::Husband, 1}, {Kind::FullSisters, 2}})), DivisionOutcome::Awl);
+  EXPECT_EQ(Outcome(Case({{Kind::Wives, 1}, {Kind::Daughters, 1}})), DivisionOutcome::Radd);
+  EXPECT_EQ(Outcome(Case({{Kind::Wives, 1}})), DivisionOutcome::Remainder);
+  EXPECT_EQ(Outcome(Case({{Kind::Wives, 1}, {Kind::Sons, 2}})), DivisionOutcome::Residue);
+  EXPECT_EQ(Outcome(Case({{Kind::Husband, 1}, {Kind::FullSisters, 1}})), DivisionOutcome::FitsExactly);
+}
+
+TEST(DivisionView, TakersSumToTheNetEstateAndOthersStandApart) {
+  const DivisionView view = ViewDivision(Case({{Kind::Wives, 1},
+                                               {Kind::Daughters, 2},
+                                               {Kind::Grandfather, 1},
+                                               {Kind::Mother, 1},
+                                               {Kind::ConsanguineBrothers, 1}},
+                                              "15,00,000"),
+                                         School::Hanafi);
+  EXPECT_EQ(view.Takers.size(), 4U);
+  EXPECT_EQ(view.Sum, (DivisionSum{5, 27, 1'500'000'00}));
+  ASSERT_EQ(view.Others.size(), 1U);
+  EXPECT_EQ(view.Others[0].Law.Excluder, Kind::Grandfather);
+  EXPECT_EQ(view.Find(Kind::Daughters)->Parts, 16);
+}
+
+TEST(DivisionView, MarksTheExampleFiguresThatAreUntouched) {
+  CaseTexts texts = Case({{Kind::Sons, 1}}, "18600");
+  texts.Fields[DebtsBox] = "5000";
+  texts.Fields[FuneralBox] = "999";
+  EXPECT_EQ(ViewDivision(texts, School::Hanafi).Examples, (std::vector<int>{GrossEstateBox, DebtsBox}));
+}
+
+TEST(DivisionView, AsksForTheConsentWhereMoreThanAThirdIsBequeathed) {
+  CaseTexts texts = Case({{Kind::Sons, 1}}, "300");
+  texts.Fields[WillsBox] = "100";
+  EXPECT_FALSE(ViewDivision(texts, School::Hanafi).ConsentMatters());
+  texts.Fields[WillsBox] = "100.01";
+  EXPECT_TRUE(ViewDivision(texts, School::Hanafi).BequestsAreCut());
+  texts.HeirsConsent = true;
+  EXPECT_TRUE(ViewDivision(texts, School::Hanafi).ConsentMatters());
+  EXPECT_FALSE(ViewDivision(texts, School::Hanafi).BequestsAreCut());
+}
+
+TEST(DivisionView, FindsWhereTheSchoolsDiffer) {
+  const SchoolViews views =
+      ViewFourSchools(Case({{Kind::Grandfather, 1}, {Kind::FullBrothers, 1}, {Kind::Mother, 1}}));
+  EXPECT_TRUE(SchoolsDiffer(views, Kind::Grandfather));
+  EXPECT_TRUE(SchoolsDiffer(views, Kind::FullBrothers));
+  EXPECT_FALSE(SchoolsDiffer(views, Kind::Mother));
+}
+
+TEST(DivisionView, ComparesWithTheCaseInWhichAnHeirHasDied) {
+  const CaseTexts texts = Case({{Kind::Wives, 1}, {Kind::Sons, 1}, {Kind::FullUncle, 1}});
+  const DivisionView before = ViewDivision(texts, School::Hanafi);
+  const DivisionView now = ViewDivision(WithHeads(texts, Kind::Sons, 0), School::Hanafi);
+  const std::vector<HeirChange> changes = ChangesBetween(before, now);
+  ASSERT_EQ(changes.size(), 3U);
+  EXPECT_EQ(changes[0].Difference(), 300'00);
+  EXPECT_EQ(changes[1].Difference(), -2100'00);
+  EXPECT_FALSE(changes[1].Now.has_value());
+  EXPECT_EQ(changes[2].Before, 0);
+  EXPECT_EQ(changes[2].Difference(), 1800'00);
+}
+
+void ExpectApart(const FamilyTree& tree, const TreeMetrics& metrics) {
+  for (std::size_t i = 0; i < tree.Nodes.size(); ++i) {
+    const TreeNode& a = tree.Nodes[i];
+    ASSERT_TRUE(a.X >= 0 && a.Y >= 0 && a.X + a.Width <= tree.Width && a.Y + a.Height <= tree.Height);
+    for (std::size_t j = 0; j < i; ++j) {
+      const TreeNode& b = tree.Nodes[j];
+      // Half a gap is between any two, in one direction at least.
+      const int gap = metrics.Gap / 2;
+      const bool apart = a.X + a.Width + gap <= b.X || b.X + b.Width + gap <= a.X ||
+                         a.Y + a.Height + gap <= b.Y || b.Y + b.Height + gap <= a.Y;
+      ASSERT_TRUE(apart) << static_cast<int>(a.Heir) << " and " << static_cast<int>(b.Heir);
+    }
+  }
+  for (const TreeLine& line : tree.Lines) {
+    for (const TreePoint& point : line) {
+      ASSERT_TRUE(point.X >= 0 && point.Y >= 0 && point.X <= tree.Width && point.Y <= tree.Height);
+    }
+  }
+}
+
+// Every kind that is alive has one node of its own, and those who are excluded a line to whom they yield.
+TEST(FamilyTree, NodesNeverOverlapWhateverTheFamily) {
+  std::mt19937 random(7);
+  const TreeMetrics sizes[] = {{}, {300, 90, 20, 8, 12, 6}, {40, 20, 300, 16, 34, 8}};
+  for (int run = 0; run < 3000; ++run) {
+    CaseTexts texts;
+    const auto density = 1 + random() % 6;
+    std::size_t alive = 0;
+    const Kind spouse = run % 2 == 0 ? Kind::Wives : Kind::Husband;
+    texts.Gender = run % 2 == 0 ? Male : Female;
+    for (std::size_t i = 0; i < faraid::KindCount; ++i) {
+      const auto kind = static_cast<Kind>(i);
+      if (faraid::Spouses.Has(kind) && kind != spouse) continue;
+      if (random() % density != 0) continue;
+      texts = WithHeads(texts, kind, 1);
+      ++alive;
+    }
+    const DivisionView view = ViewDivision(texts, static_cast<School>(run % 4));
+    const TreeMetrics& metrics = sizes[run % 3];
+    const FamilyTree tree = LayOutFamily(view, metrics);
+    ASSERT_NO_FATAL_FAILURE(ExpectApart(tree, metrics));
+    const auto heirs = std::ranges::count(tree.Nodes, TreeNode::Role::Heir, &TreeNode::What);
+    ASSERT_EQ(static_cast<std::size_t>(heirs), alive);
+    ASSERT_EQ(tree.Nodes[0].What, TreeNode::Role::Deceased);
+    for (const TreeYield& yield : tree.Yields) ASSERT_LT(yield.To, tree.Nodes.size());
+  }
+}
+
+}  // namespace
+}  // namespace qismora
