@@ -1,0 +1,96 @@
+#pragma once
+
+#include <QString>
+#include <QStringList>
+#include <vector>
+
+#include "faraid/Amounts.h"
+#include "faraid/Division.h"
+#include "screens/DivisionInput.h"
+#include "windows/division/Languages.h"
+
+/// All words of a division, in the current language (Languages.h). Each function takes data and decides
+/// nothing about the law. A window asks again after QEvent::LanguageChange.
+namespace qismora::words {
+
+// Heirs
+
+/// "Wife" or "Wives"; "Remainder" for what no heir takes.
+QString Heir(faraid::Kind kind, int heads);
+/// The heir as a reason or a line of a family tree names one: "full brother".
+QString OneHeir(faraid::Kind kind);
+/// The field of Case Study in the current language, after the caption of it that an UnreadableField has.
+QString Field(const std::string& caption);
+
+// Figures
+
+/// 5 or ٥.
+QString Number(std::int64_t number);
+/// 18,40,000.50, as the locale groups it.
+QString Amount(faraid::Hundredths amount);
+/// 3/8; a whole one is 1.
+QString Share(const faraid::Fraction& share);
+QString Ratio(const faraid::Ratio& ratio);
+/// Parts of a base; a share that is no whole number of parts stays a fraction.
+QString Parts(const faraid::Fraction& share, std::int64_t base);
+/// What each receives: "33.33 or 33.34" where heads differ by a hundredth, else the amount.
+QString Each(const faraid::Amount& amount, int heads);
+
+// Decisions
+
+/// "1/8 because there are children (Quran 4:12); after Awl 3/27".
+QString Why(const faraid::Reason& reason);
+/// The sentence without its source.
+QString WhyWithoutSource(const faraid::Reason& reason);
+/// "Quran 4:12"; empty where there is none.
+QString SourceOf(faraid::Source source);
+/// "sharer and residuary".
+QString StandingOf(faraid::Standing standing);
+/// "Hanafi".
+QString SchoolName(faraid::School school);
+/// "Hanafi law".
+QString SchoolLaw(faraid::School school);
+/// "yields to the grandfather": for the tree; empty where nobody excludes the heir.
+QString YieldsTo(const faraid::Row& row);
+
+// Sentences
+
+/// What is divided between whom, and what happened: "15,00,000.00 is divided among 5 heirs. The fixed shares
+/// exceed the estate: Awl raises the base from 24 to 27."
+QString Headline(const faraid::Division& division, faraid::Hundredths net);
+/// "Nothing is left to divide: expenses and debts exceed the estate by 500.00."
+QString ShortfallSentence(faraid::Hundredths shortfall);
+/// "Nothing is divided while these fields cannot be read:" before the list of them.
+QString UnreadableHeading();
+/// Sons: "abc" is not a whole number.
+QString Unreadable(const UnreadableField& field);
+/// "base 24, raised to 27, corrected base 27"; empty where no heir takes anything.
+QString Bases(const faraid::Division& division);
+
+/// One line of the estate: "Debts" and what is taken off.
+struct EstateLine {
+  QString Caption;
+  QString Amount;
+};
+/// Gross estate, what is paid before the heirs as far as it is not 0, and the net estate.
+std::vector<EstateLine> EstateLines(const faraid::Estate& estate, const faraid::Settlement& settlement);
+/// The same in one line: "Gross 18,40,000.00 − debts 2,40,000.00 − bequests 1,00,000.00 (the limit is ...)".
+QString EstateSummary(const faraid::Estate& estate, const faraid::Settlement& settlement);
+/// "Bequests of 8,000.00 are limited to 4,000.00, a third ..."; empty where nothing is cut.
+QString BequestNotice(const faraid::Estate& estate, const faraid::Settlement& settlement);
+
+// The table
+
+enum class Column { Heir, Heads, Share, Parts, Together, Each, Why, Source, CaseStudy };
+/// The heading; of Parts with its base: "of 27".
+QString Heading(Column column, std::int64_t correctedBase);
+QString Sum();
+
+// The commands of Case Study
+
+/// "The commands of Case Study answer otherwise."
+QString NoticeHeading();
+/// "The commands of Case Study show no figures for this case."
+QString NoFigures();
+
+}  // namespace qismora::words

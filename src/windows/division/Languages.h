@@ -1,0 +1,43 @@
+#pragma once
+
+#include <QLocale>
+#include <QString>
+#include <Qt>
+#include <array>
+#include <optional>
+
+#include "base/Outside.h"
+
+namespace qismora {
+
+// The language of the division, its paper and the help. The screens of the program itself are English.
+
+enum class Language { English, Urdu, Arabic };
+
+inline constexpr std::array<Language, 3> AllLanguages = {Language::English, Language::Urdu, Language::Arabic};
+
+/// The language's name in the language itself, for a choice.
+QString NameOf(Language language);
+
+/// The language of the desktop, English where it is none of the three.
+Language DesktopLanguage();
+
+/// The language that the user has chosen; nothing where it follows the desktop.
+std::optional<Language> ChosenLanguage(Settings& store);
+/// Remembers the choice and speaks the language from now on; nothing follows the desktop again.
+void ChooseLanguage(Settings& store, std::optional<Language> choice);
+
+/// Speaks the chosen language from now on. To be called before the first text that may be translated is
+/// shown; it loads a translation only where there is something to load, and does nothing when called again.
+void StartLanguage(Settings& store);
+
+/// Speaks a language from now on. Every window receives QEvent::LanguageChange.
+void SetLanguage(Language language);
+Language CurrentLanguage();
+
+/// How the current language writes numbers and dates, as the user's region has it: 18,40,000.50 in India.
+QLocale CurrentLocale();
+/// The direction of a window or a text in the current language.
+Qt::LayoutDirection CurrentDirection();
+
+}  // namespace qismora
