@@ -92,6 +92,16 @@ DivisionView ViewDivision(const CaseTexts& texts, faraid::School school) {
   return view;
 }
 
+DivisionView ViewDivision(const CaseScreen& screen, bool heirsConsent, faraid::School school) {
+  const CaseTexts texts = ReadScreen(screen, heirsConsent);
+  DivisionView view = ViewDivision(texts, school);
+  if (view.IsDivided()) {
+    view.Own = OwnAnswerOf(texts);
+    view.Differs = Compare(ReadDivisionInput(texts), *view.Own, school);
+  }
+  return view;
+}
+
 SchoolViews ViewFourSchools(const CaseTexts& texts) {
   const DivisionInput input = ReadDivisionInput(texts);
   SchoolViews views;

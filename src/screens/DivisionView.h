@@ -8,6 +8,7 @@
 #include "faraid/Amounts.h"
 #include "faraid/Division.h"
 #include "screens/CaseTexts.h"
+#include "screens/Differences.h"
 #include "screens/DivisionInput.h"
 
 namespace qismora {
@@ -76,6 +77,11 @@ struct DivisionView {
   /// The heirs who are alive and receive nothing.
   std::vector<DivisionLine> Others;
 
+  /// The answer of the commands of Case Study, and where it differs. Nothing where nothing is divided, nor for
+  /// a case that is not on the screen.
+  std::optional<OwnAnswer> Own;
+  Differences Differs;
+
   /// There is a table: the family is read, and something or nothing is divided among it.
   bool IsDivided() const {
     return Outcome != DivisionOutcome::Unreadable && Outcome != DivisionOutcome::Short;
@@ -90,6 +96,10 @@ struct DivisionView {
 
 /// Divides what the texts of a case hold.
 DivisionView ViewDivision(const CaseTexts& texts, faraid::School school);
+
+/// Divides what the fields of the screen hold, and compares with what its commands would answer. Nothing on
+/// the screen changes.
+DivisionView ViewDivision(const CaseScreen& screen, bool heirsConsent, faraid::School school);
 
 /// The same case in the four schools, in their order.
 using SchoolViews = std::array<DivisionView, 4>;
