@@ -75,10 +75,10 @@ void CaseBox::contextMenuEvent(QContextMenuEvent* event) {
   menu->setAttribute(Qt::WA_DeleteOnClose);
   menu->addSeparator();
   if (Explain) {
-    QAction* explain = menu->addAction(tr("Explain this share"), this, [this] { Explain(); });
+    QAction* explain = menu->addAction(QStringLiteral("Explain this share"), this, [this] { Explain(); });
     explain->setShortcut(Qt::CTRL | Qt::Key_Return);
   }
-  QAction* toggle = menu->addAction(tr("Toggle between 0 and 1"), this, [this] {
+  QAction* toggle = menu->addAction(QStringLiteral("Toggle between 0 and 1"), this, [this] {
     if (Toggle) Toggle();
   });
   toggle->setShortcut(Qt::Key_F2);

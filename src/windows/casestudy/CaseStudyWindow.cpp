@@ -33,8 +33,8 @@ constexpr int largestText = 12;
 
 CaseStudyWindow::CaseStudyWindow(CaseRecord& record, Outside& outside, int savedLanguage)
     : FormHolder(record, outside, savedLanguage),
-      FormWindow(form_, "CaseStudy", tr("Case Study"), largestText) {
-  setWindowTitle(tr("Case Study - Finding shares of Quranic Sharers"));
+      FormWindow(form_, "CaseStudy", QStringLiteral("Case Study"), largestText) {
+  setWindowTitle(QStringLiteral("Case Study - Finding shares of Quranic Sharers"));
   setAttribute(Qt::WA_DeleteOnClose);
   form_.Hide = [this] { hide(); };
   FillCaseMenu(menuBar(), form_, binder_);
@@ -48,7 +48,7 @@ CaseStudyWindow::CaseStudyWindow(CaseRecord& record, Outside& outside, int saved
 
 void CaseStudyWindow::BuildFrame() {
   QWidget* frame = Frame111();
-  frame->setAccessibleName(tr("Case"));
+  frame->setAccessibleName(QStringLiteral("Case"));
   // Created in the order of the Tab key.
   auto* top = new TopStrip(form_, binder_, frame);
   auto* heirs = new HeirsPanel(form_, binder_, frame);
@@ -82,7 +82,7 @@ void CaseStudyWindow::BuildFrame() {
 }
 
 void CaseStudyWindow::BuildStatusBar(Outside& outside) {
-  Binder::Result(form_.StatusBar1, AddPanel("StatusBar1.Panel1", tr("What was last computed")));
+  Binder::Result(form_.StatusBar1, AddPanel("StatusBar1.Panel1", QStringLiteral("What was last computed")));
 
   auto* saves = new SavePanel(ToQt(outside.Places.Reports()), this);
   statusBar()->addPermanentWidget(saves, 1);

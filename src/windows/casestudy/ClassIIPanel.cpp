@@ -26,12 +26,12 @@ constexpr int focusMargin = 4;
 class ClassIIPanel::ColumnCaptions : public PictureButton {
  public:
   ColumnCaptions(const QString& name, const QString& file, const Checks& checks, int column, QWidget* parent)
-      : PictureButton(name, file, Colours::OfText, Gesture::DoubleClick, tr("Explain class II residuaries"),
-                      parent),
+      : PictureButton(name, file, Colours::OfText, Gesture::DoubleClick,
+                      QStringLiteral("Explain class II residuaries"), parent),
         checks_(checks),
         column_(column) {
     SetAlignment(Qt::AlignLeft | Qt::AlignVCenter);
-    setAccessibleName(tr("Who inherits among class II"));
+    setAccessibleName(QStringLiteral("Who inherits among class II"));
   }
 
  protected:
@@ -61,13 +61,14 @@ class ClassIIPanel::ColumnCaptions : public PictureButton {
 };
 
 ClassIIPanel::ClassIIPanel(CaseStudy& form, Binder& binder, QWidget* parent)
-    : QGroupBox(tr("Class II residuaries, in order of succession from left to right and from top to bottom"),
+    : QGroupBox(QStringLiteral(
+                    "Class II residuaries, in order of succession from left to right and from top to bottom"),
                 parent),
       form_(form),
       binder_(binder),
       grid_(new QGridLayout(this)) {
   setObjectName(QStringLiteral("Frame3"));
-  setAccessibleName(tr("Class II residuaries"));
+  setAccessibleName(QStringLiteral("Class II residuaries"));
   grid_->setContentsMargins(8, 1, 8, 2);
   grid_->setHorizontalSpacing(12);
   grid_->setVerticalSpacing(0);
@@ -97,7 +98,7 @@ void ClassIIPanel::AddCover(int column, const QString& frameName, Property<bool>
                             const QString& file) {
   auto* frame = new QFrame(this);
   frame->setObjectName(frameName);
-  frame->setAccessibleName(tr("Captions of class II, column %1").arg(column + 1));
+  frame->setAccessibleName(QStringLiteral("Captions of class II, column %1").arg(column + 1));
   frame->setAutoFillBackground(true);
   auto* picture = new ColumnCaptions(Indexed("Image37", image), file, checks_, column, frame);
   connect(picture, &QAbstractButton::clicked, this, [this, image] { form_.Image37_DblClick(image); });

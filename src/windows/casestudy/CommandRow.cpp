@@ -58,19 +58,19 @@ CommandRow::CommandRow(CaseStudy& form, Binder& binder, QWidget* parent)
 }
 
 QWidget* CommandRow::Clear() {
-  auto* clear = new ClearButton(form_, tr("Clear"), this);
+  auto* clear = new ClearButton(form_, QStringLiteral("Clear"), this);
   clear->setFixedSize(buttonWidth, rowHeight);
-  clear->setAccessibleName(tr("Clear the case"));
-  clear->setToolTip(tr("Clear all heirs and the results"));
+  clear->setAccessibleName(QStringLiteral("Clear the case"));
+  clear->setToolTip(QStringLiteral("Clear all heirs and the results"));
   binder_.Visible(form_.Image2.Visible, clear);
   return clear;
 }
 
 QWidget* CommandRow::Aul() {
-  auto* aul = new QPushButton(tr("Aul/ Radd"), this);
+  auto* aul = new QPushButton(QStringLiteral("Aul/ Radd"), this);
   aul->setObjectName(QStringLiteral("AulRadd"));
-  aul->setAccessibleName(tr("Aul and Radd"));
-  aul->setToolTip(tr("Adjust the shares to the estate (F6)"));
+  aul->setAccessibleName(QStringLiteral("Aul and Radd"));
+  aul->setToolTip(QStringLiteral("Adjust the shares to the estate (F6)"));
   aul->setFixedSize(buttonWidth, rowHeight);
   const auto adjust = [this] {
     const PointerShape busy(Qt::WaitCursor);
@@ -90,10 +90,10 @@ QWidget* CommandRow::Aul() {
 }
 
 QWidget* CommandRow::FullReport() {
-  auto* report =
-      new IconButton(QStringLiteral("FullReportxx"), QStringLiteral("image40"), tr("Full report"), this);
-  report->setAccessibleName(tr("Full report"));
-  report->setToolTip(tr("Make the full report and save it under the name of the deceased"));
+  auto* report = new IconButton(QStringLiteral("FullReportxx"), QStringLiteral("image40"),
+                                QStringLiteral("Full report"), this);
+  report->setAccessibleName(QStringLiteral("Full report"));
+  report->setToolTip(QStringLiteral("Make the full report and save it under the name of the deceased"));
   report->setFixedSize(wideButton, rowHeight);
   connect(report, &QPushButton::clicked, this, [this] {
     const PointerShape busy(Qt::WaitCursor);
@@ -105,10 +105,10 @@ QWidget* CommandRow::FullReport() {
 }
 
 void CommandRow::AddHidden() {
-  auto* selected = new QPushButton(tr("Execute Sel."), this);
+  auto* selected = new QPushButton(QStringLiteral("Execute Sel."), this);
   selected->setObjectName(QStringLiteral("SelectedReport"));
   connect(selected, &QPushButton::clicked, this, [this] { form_.SelectedReport_Click(); });
-  auto* residuaries = new QPushButton(tr("Residuaries"), this);
+  auto* residuaries = new QPushButton(QStringLiteral("Residuaries"), this);
   residuaries->setObjectName(QStringLiteral("Residuaries"));
   connect(residuaries, &QPushButton::clicked, this, [this] { form_.Residuaries_Click(); });
   for (QPushButton* button : {selected, residuaries}) {

@@ -14,10 +14,11 @@ constexpr int nameSize = 28;
 constexpr const char* whichProgram = "Which program is this?";
 
 CaptionButton* Name(CaseStudy& form, Binder& binder, QWidget* parent) {
-  auto* name = new CaptionButton(QStringLiteral("Label6"), Gesture::Click, QObject::tr(whichProgram), parent);
+  auto* name =
+      new CaptionButton(QStringLiteral("Label6"), Gesture::Click, QString::fromUtf8(whichProgram), parent);
   name->setFont(HeadingFont(name->font(), nameSize));
   name->SetAlignment(Qt::AlignCenter);
-  name->setAccessibleName(QObject::tr("Name of this program"));
+  name->setAccessibleName(QStringLiteral("Name of this program"));
   Binder::Caption(form.Label6, name);
   binder.TextColour(form.Label6, name);
   QObject::connect(name, &QAbstractButton::clicked, name, [&form] { form.Label6_Click(); });
@@ -25,7 +26,7 @@ CaptionButton* Name(CaseStudy& form, Binder& binder, QWidget* parent) {
 }
 
 CaptionButton* Link(CaseStudy& form, QWidget* parent) {
-  const QString words = QObject::tr("About this program");
+  const QString words = QStringLiteral("About this program");
   auto* link = new CaptionButton(QStringLiteral("AboutLink"), Gesture::Click, words, parent);
   QFont underlined = link->font();
   underlined.setUnderline(true);
@@ -43,20 +44,20 @@ CaptionButton* Link(CaseStudy& form, QWidget* parent) {
 
 Frame5Panel::Frame5Panel(CaseStudy& form, Binder& binder, QWidget* parent) : QGroupBox(parent) {
   setObjectName(QStringLiteral("Frame5"));
-  setAccessibleName(tr("About the program"));
+  setAccessibleName(QStringLiteral("About the program"));
   setAutoFillBackground(true);
 
   auto* picture = new PictureButton(QStringLiteral("Image38"), QStringLiteral("image38"), Colours::OfPicture,
-                                    Gesture::Click, tr(whichProgram), this);
-  picture->setAccessibleName(tr("Picture of this program"));
+                                    Gesture::Click, QString::fromUtf8(whichProgram), this);
+  picture->setAccessibleName(QStringLiteral("Picture of this program"));
   picture->setFixedHeight(pictureHeight);
   connect(picture, &QAbstractButton::clicked, this, [&form] { form.Image38_Click(); });
-  auto* howTo = new QLabel(tr("Type how many heirs of each kind\nare alive, and the estate.\n\n"
-                              "Then choose Case Analysis >\nResiduaries for the distribution,\n"
-                              "or double-click an heir's caption\nfor the share of that heir."),
+  auto* howTo = new QLabel(QStringLiteral("Type how many heirs of each kind\nare alive, and the estate.\n\n"
+                                          "Then choose Case Analysis >\nResiduaries for the distribution,\n"
+                                          "or double-click an heir's caption\nfor the share of that heir."),
                            this);
   howTo->setObjectName(QStringLiteral("HowTo"));
-  howTo->setAccessibleName(tr("How to begin"));
+  howTo->setAccessibleName(QStringLiteral("How to begin"));
   howTo->setTextFormat(Qt::PlainText);
   howTo->setAlignment(Qt::AlignCenter);
 

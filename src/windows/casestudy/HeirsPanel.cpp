@@ -95,7 +95,7 @@ QLabel* Title(const char* words, QWidget* parent) {
 HeirsPanel::HeirsPanel(CaseStudy& form, Binder& binder, QWidget* parent)
     : QGroupBox(parent), form_(form), binder_(binder), grid_(new QGridLayout(this)) {
   setObjectName(QStringLiteral("Frame1"));
-  setAccessibleName(tr("Heirs and estate of the deceased"));
+  setAccessibleName(QStringLiteral("Heirs and estate of the deceased"));
   binder.Box(form.Frame1, this);
   grid_->setContentsMargins(8, 1, 8, 2);
   grid_->setHorizontalSpacing(4);
@@ -137,7 +137,7 @@ HeirsPanel::HeirsPanel(CaseStudy& form, Binder& binder, QWidget* parent)
 CaseBox* HeirsPanel::AddBox(int box, const QString& spoken) {
   auto* widget = new CaseBox(Indexed("Text1", box), Content::Figure, this);
   widget->setAccessibleName(spoken);
-  widget->SetTip(tr(boxTip).arg(spoken));
+  widget->SetTip(QString::fromUtf8(boxTip).arg(spoken));
   widget->setAlignment(Qt::AlignRight);
   widget->Toggle = [this, box] { form_.Text1_DblClick(box); };
   binder_.Box(form_.Text1(box), widget);
@@ -149,11 +149,12 @@ CaseBox* HeirsPanel::AddBox(int box, const QString& spoken) {
 }
 
 CaptionButton* HeirsPanel::AddCaption(int box, const QString& accessibleName) {
-  auto* caption = new CaptionButton(Indexed("Label1", box), Gesture::DoubleClick, tr(computeShare), this);
+  auto* caption =
+      new CaptionButton(Indexed("Label1", box), Gesture::DoubleClick, QString::fromUtf8(computeShare), this);
   Binder::Caption(form_.Label1(box), caption);
   connect(caption, &QAbstractButton::clicked, this, [this, box] { form_.Label1_DblClick(box); });
   caption->setAccessibleName(accessibleName);
-  caption->setToolTip(tr(captionTip).arg(accessibleName));
+  caption->setToolTip(QString::fromUtf8(captionTip).arg(accessibleName));
   return caption;
 }
 
@@ -161,7 +162,7 @@ CaptionButton* HeirsPanel::AddCaption(int box, const QString& accessibleName) {
 void HeirsPanel::AddPicture(int row, int column, int box, const QString& accessibleName, const QString& name,
                             const QString& file, Picture& control) {
   auto* picture = new PictureButton(name, QStringLiteral("captions/") + file, Colours::OfText,
-                                    Gesture::DoubleClick, tr(computeShare), this);
+                                    Gesture::DoubleClick, QString::fromUtf8(computeShare), this);
   connect(picture, &QAbstractButton::clicked, this, [this, box] { form_.Label1_DblClick(box); });
   picture->setFixedSize(pictureSize);
   picture->SetAlignment(Qt::AlignRight | Qt::AlignVCenter);
@@ -177,9 +178,9 @@ void HeirsPanel::AddHeir(int row, int column, int box, const QString& heir) {
   input->setFixedWidth(boxWidth);
   input->Explain = [this, box] { form_.Label1_DblClick(box); };
   grid_->addWidget(AddCaption(box, heir), row, column);
-  AddPicture(row, column, box, tr(inUrdu).arg(heir), QStringLiteral("Image%1").arg(number + 9),
+  AddPicture(row, column, box, QString::fromUtf8(inUrdu).arg(heir), QStringLiteral("Image%1").arg(number + 9),
              QStringLiteral("urdu-%1").arg(box), form_.Image(number + 9));
-  AddPicture(row, column, box, tr(inArabic).arg(heir), Indexed("Image41", number + 2),
+  AddPicture(row, column, box, QString::fromUtf8(inArabic).arg(heir), Indexed("Image41", number + 2),
              QStringLiteral("arabic-%1").arg(box), form_.Image41(number + 2));
   grid_->addWidget(input, row, column + 2, Qt::AlignVCenter);
 }
@@ -193,19 +194,19 @@ void HeirsPanel::AddSpouse(int row) {
   Binder::Follow(form_.Label1(1).Caption, [this, input, caption] {
     const QString words = ToQt(form_.Label1(1).Caption.Get());
     input->setAccessibleName(words);
-    input->SetTip(tr(boxTip).arg(words));
+    input->SetTip(QString::fromUtf8(boxTip).arg(words));
     caption->setAccessibleName(words);
-    caption->setToolTip(tr(captionTip).arg(words));
+    caption->setToolTip(QString::fromUtf8(captionTip).arg(words));
   });
   grid_->addWidget(caption, row, 0);
-  const QString spouses[] = {tr("Wives"), tr("Husband")};
+  const QString spouses[] = {QStringLiteral("Wives"), QStringLiteral("Husband")};
   const QString files[] = {QStringLiteral("wives"), QStringLiteral("husband")};
   for (const int i : {0, 1}) {
-    AddPicture(row, 0, 1, tr(inUrdu).arg(spouses[i]), Indexed("Image30", i),
+    AddPicture(row, 0, 1, QString::fromUtf8(inUrdu).arg(spouses[i]), Indexed("Image30", i),
                QStringLiteral("urdu-") + files[i], form_.Image30(i));
   }
   for (const int i : {0, 1}) {
-    AddPicture(row, 0, 1, tr(inArabic).arg(spouses[i]), Indexed("Image41", i),
+    AddPicture(row, 0, 1, QString::fromUtf8(inArabic).arg(spouses[i]), Indexed("Image41", i),
                QStringLiteral("arabic-") + files[i], form_.Image41(i));
   }
   grid_->addWidget(input, row, 2, Qt::AlignVCenter);
@@ -222,7 +223,7 @@ void HeirsPanel::AddEstate(int row, int box, const QString& figure) {
 // A caption without text or field: it loads the case and computes nothing. Its name is shown while it has the
 // focus.
 void HeirsPanel::AddBlankCaption(int row) {
-  CaptionButton* caption = AddCaption(12, tr("Load the case only"));
+  CaptionButton* caption = AddCaption(12, QStringLiteral("Load the case only"));
   caption->setToolTip({});
   grid_->addWidget(caption, row, 0, 1, 3);
 }

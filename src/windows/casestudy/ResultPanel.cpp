@@ -79,17 +79,17 @@ void CopyResults(const CaseStudy& form) {
 ResultPanel::ResultPanel(CaseStudy& form, Binder& binder, QWidget* parent) : QWidget(parent), form_(form) {
   auto* grid = new QGridLayout(this);
   setObjectName(QStringLiteral("ResultPanel"));
-  setAccessibleName(tr("Results"));
+  setAccessibleName(QStringLiteral("Results"));
   grid->setContentsMargins(0, 0, 0, 0);
   grid->setVerticalSpacing(2);
   grid->setRowStretch(TextLine, 1);
   grid->setRowMinimumHeight(LongTextLine, longTextMore);
 
   grid->addWidget(new CommandRow(form, binder, this), CommandLine, 0);
-  QLabel* heading = Line("Label2", tr("Heading of the result"), form.Label2, binder, this);
-  QLabel* amount = Line("Label3", tr("Amount and fraction"), form.Label3, binder, this);
-  narrative_ = LongText("Text2", tr("Narrative of the share"), form.Text2, binder, this);
-  report_ = LongText("Text3", tr("Report"), form.Text3, binder, this);
+  QLabel* heading = Line("Label2", QStringLiteral("Heading of the result"), form.Label2, binder, this);
+  QLabel* amount = Line("Label3", QStringLiteral("Amount and fraction"), form.Label3, binder, this);
+  narrative_ = LongText("Text2", QStringLiteral("Narrative of the share"), form.Text2, binder, this);
+  report_ = LongText("Text3", QStringLiteral("Report"), form.Text3, binder, this);
   grid->addWidget(heading, HeadingLine, 0);
   grid->addWidget(amount, AmountLine, 0);
   grid->addWidget(narrative_, TextLine, 0);
@@ -98,7 +98,7 @@ ResultPanel::ResultPanel(CaseStudy& form, Binder& binder, QWidget* parent) : QWi
   grid->addWidget(cover, AmountLine, 0, 3, 1);
   cover->raise();
 
-  auto* copy = new QAction(tr("Copy results"), this);
+  auto* copy = new QAction(QStringLiteral("Copy results"), this);
   copy->setObjectName(QStringLiteral("CopyResults"));
   copy->setShortcut(Qt::CTRL | Qt::SHIFT | Qt::Key_C);
   connect(copy, &QAction::triggered, this, [&form] { CopyResults(form); });

@@ -23,7 +23,7 @@ SavePanel::SavePanel(const QString& folder, QWidget* parent) : QLabel(parent) {
   QAccessible::installFactory(NotificationInterface);  // a second time changes nothing
   setObjectName(QStringLiteral("StatusBar1.Panel2"));
   setTextFormat(Qt::PlainText);
-  Say(tr("Full reports are saved in "), folder);
+  Say(QStringLiteral("Full reports are saved in "), folder);
 }
 
 void SavePanel::Say(const QString& words, const QString& path) {
@@ -36,7 +36,9 @@ void SavePanel::Say(const QString& words, const QString& path) {
 
 // A screen reader announces a notification when it appears.
 void SavePanel::ShowOutcome(const SaveOutcome& outcome) {
-  Say(outcome.Saved() ? tr("Saved: ") : tr("Not saved (%1): ").arg(ToQt(outcome.Reason)), ToQt(outcome.Path));
+  Say(outcome.Saved() ? QStringLiteral("Saved: ")
+                      : QStringLiteral("Not saved (%1): ").arg(ToQt(outcome.Reason)),
+      ToQt(outcome.Path));
   QAccessibleEvent appeared(this, QAccessible::ObjectShow);
   QAccessible::updateAccessibility(&appeared);
 }

@@ -56,7 +56,7 @@ void TopStrip::AddGender() {
   auto* gender = new GenderList(this);
   gender->setFocusPolicy(Qt::StrongFocus);
   gender->setObjectName(QStringLiteral("Combo1"));
-  gender->setAccessibleName(tr("Gender of the deceased"));
+  gender->setAccessibleName(QStringLiteral("Gender of the deceased"));
   binder_.Choice(form_.Combo1, gender);
   layout()->addWidget(Binder::FieldCaption(form_.Label1(0), Indexed("Label1", 0), gender));
   layout()->addWidget(gender);
@@ -64,7 +64,7 @@ void TopStrip::AddGender() {
 
 void TopStrip::AddName() {
   auto* name = new CaseBox(Indexed("Text1", NameBox), Content::Name, this);
-  name->setAccessibleName(tr("Name of the deceased"));
+  name->setAccessibleName(QStringLiteral("Name of the deceased"));
   name->Toggle = [this] { form_.Text1_DblClick(NameBox); };
   binder_.Box(form_.Text1(NameBox), name);
   layout()->addWidget(Binder::FieldCaption(form_.Label1(NameBox), Indexed("Label1", NameBox), name));
@@ -74,15 +74,16 @@ void TopStrip::AddName() {
 QWidget* TopStrip::Views() {
   auto* frame = new QFrame(this);
   frame->setObjectName(QStringLiteral("Frame7"));
-  frame->setAccessibleName(tr("Choice of view"));
+  frame->setAccessibleName(QStringLiteral("Choice of view"));
   auto* row = new QHBoxLayout(frame);
   row->setContentsMargins(0, 0, 0, 0);
   row->setSpacing(2);
   for (int i = 0; i < 3; ++i) {
     Label& control = form_.Label4(i);
-    auto* view = new CaptionButton(Indexed("Label4", i), Gesture::Click, tr(viewNames[i]), frame);
-    view->setAccessibleName(tr(viewNames[i]));
-    view->setToolTip(tr(viewNames[i]));
+    auto* view =
+        new CaptionButton(Indexed("Label4", i), Gesture::Click, QString::fromUtf8(viewNames[i]), frame);
+    view->setAccessibleName(QString::fromUtf8(viewNames[i]));
+    view->setToolTip(QString::fromUtf8(viewNames[i]));
     view->setContentsMargins(viewMargins);
     view->SetAlignment(Qt::AlignCenter);
     connect(view, &QAbstractButton::clicked, this, [this, i] { form_.Label4_Click(i); });
@@ -98,14 +99,14 @@ QWidget* TopStrip::Views() {
 
 // One picture is shown at a time, so the button is the parent of all three.
 QWidget* TopStrip::Animation() {
-  auto* place =
-      new CaptionButton(QStringLiteral("Image42"), Gesture::Click, tr("Stop or start the animation"), this);
+  auto* place = new CaptionButton(QStringLiteral("Image42"), Gesture::Click,
+                                  QStringLiteral("Stop or start the animation"), this);
   place->setFixedSize(animationSize);
-  place->setAccessibleName(tr("Animation"));
+  place->setAccessibleName(QStringLiteral("Animation"));
   connect(place, &QAbstractButton::clicked, this, [this] { form_.Image42_Click(); });
   for (int i = 0; i < 3; ++i) {
     auto* picture = new PictureLabel(Indexed("Image42", i), QStringLiteral("image42-%1").arg(i),
-                                     tr("Animation, picture %1").arg(i), place);
+                                     QStringLiteral("Animation, picture %1").arg(i), place);
     picture->setGeometry(QRect(QPoint(), animationSize).marginsRemoved(focusMargins));
     binder_.Visible(form_.Image42(i).Visible, picture);
   }
@@ -113,10 +114,10 @@ QWidget* TopStrip::Animation() {
 }
 
 QWidget* TopStrip::Executions() {
-  auto* count =
-      new CaptionButton(QStringLiteral("Label13"), Gesture::DoubleClick, tr("Number of executions"), this);
-  count->setAccessibleName(tr("Number of executions"));
-  count->setToolTip(tr("No. of Executions"));
+  auto* count = new CaptionButton(QStringLiteral("Label13"), Gesture::DoubleClick,
+                                  QStringLiteral("Number of executions"), this);
+  count->setAccessibleName(QStringLiteral("Number of executions"));
+  count->setToolTip(QStringLiteral("No. of Executions"));
   count->SetAlignment(Qt::AlignCenter);
   count->SetBorder(QFrame::StyledPanel);
   count->setContentsMargins(countMargins);
@@ -134,7 +135,7 @@ QWidget* TopStrip::Ornament(const char* name, int upper, Array<Picture, 1>& pict
   place->setFixedSize(ornamentSize);
   for (const int i : {1 - upper, upper}) {
     const QString file = QStringLiteral("%1-%2").arg(QString::fromLatin1(name).toLower()).arg(i);
-    auto* picture = new PictureLabel(Indexed(name, i), file, tr("Ornament"), place);
+    auto* picture = new PictureLabel(Indexed(name, i), file, QStringLiteral("Ornament"), place);
     picture->setFixedSize(ornamentSize);
     binder_.Visible(pictures(i).Visible, picture);
     WhenMouseMoves(picture, moved);

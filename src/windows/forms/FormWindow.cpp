@@ -39,7 +39,7 @@ FormWindow::FormWindow(CentredFrame& form, const char* name, const QString& acce
   scroll_->setWidget(background_);
   setCentralWidget(scroll_);
   statusBar()->setObjectName(QStringLiteral("StatusBar1"));
-  statusBar()->setAccessibleName(tr("Status bar"));
+  statusBar()->setAccessibleName(QStringLiteral("Status bar"));
 }
 
 QLabel* FormWindow::AddPanel(const char* name, const QString& accessibleName) {

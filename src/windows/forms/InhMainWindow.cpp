@@ -54,8 +54,8 @@ constexpr Entry entries[] = {
 class DisclaimerText : public ReadingText {
  public:
   DisclaimerText(InhMain& form, QWidget* parent)
-      : ReadingText(QStringLiteral("Text1"), tr("Disclaimer"), parent), form_(form) {
-    setToolTip(tr("Double Click to Hide"));
+      : ReadingText(QStringLiteral("Text1"), QStringLiteral("Disclaimer"), parent), form_(form) {
+    setToolTip(QStringLiteral("Double Click to Hide"));
   }
 
  protected:
@@ -76,8 +76,9 @@ class DisclaimerText : public ReadingText {
 
 InhMainWindow::InhMainWindow(CaseRecord& record, ShellRecord& shell, ShellOutside& outside,
                              QtVideoPlayer& player)
-    : FormHolder(record, shell, outside), FormWindow(form_, "InhMain", tr("Main menu"), largestText) {
-  setWindowTitle(tr("Islamic Laws of Inheritance"));
+    : FormHolder(record, shell, outside),
+      FormWindow(form_, "InhMain", QStringLiteral("Main menu"), largestText) {
+  setWindowTitle(QStringLiteral("Islamic Laws of Inheritance"));
   form_.Hide = [this] {
     // A desktop gives a window that its program never placed a new place each time it is shown.
     windowHandle()->setFramePosition(windowHandle()->framePosition());
@@ -90,7 +91,7 @@ InhMainWindow::InhMainWindow(CaseRecord& record, ShellRecord& shell, ShellOutsid
   rows->addWidget(Middle(player), 1);
   rows->addWidget(Foot());
 
-  QLabel* panel = AddPanel("StatusBar1.Panel3", tr("Entry under the mouse"));
+  QLabel* panel = AddPanel("StatusBar1.Panel3", QStringLiteral("Entry under the mouse"));
   Binder::Follow(form_.StatusBar1.Caption, [this, panel, name = panel->accessibleName()] {
     panel->setText(WithoutMnemonics(form_.StatusBar1.Caption));
     panel->setAccessibleName(name + QStringLiteral(": ") + panel->text());
@@ -101,7 +102,7 @@ InhMainWindow::InhMainWindow(CaseRecord& record, ShellRecord& shell, ShellOutsid
 
 void InhMainWindow::BuildMenuBar() {
   for (const Entry& entry : entries) {
-    QAction* action = menuBar()->addAction(tr(entry.Caption));
+    QAction* action = menuBar()->addAction(QString::fromUtf8(entry.Caption));
     action->setObjectName(QString::fromLatin1(entry.Name));
     connect(action, &QAction::triggered, this, [this, run = entry.Run] { (form_.*run)(); });
     if (entry.Run == &InhMain::Exitz_Click) action->setShortcut(QKeySequence::Quit);
@@ -116,7 +117,7 @@ QWidget* InhMainWindow::Head() {
   auto* place = new QWidget(head);
   place->setFixedSize(bannerSize);
   for (int i = 0; i < 2; ++i) {
-    const QString words = tr("In the name of Merciful & Benevolent Allah");
+    const QString words = QStringLiteral("In the name of Merciful & Benevolent Allah");
     auto* banner = new PictureLabel(Indexed("Image5", i), QStringLiteral("image5-%1").arg(i), words, place);
     banner->setFixedSize(bannerSize);
     banner->setToolTip(words);
@@ -143,7 +144,7 @@ void InhMainWindow::ShowBanner() {
 QWidget* InhMainWindow::Menu() {
   auto* menu = new QGroupBox(Frame111());
   menu->setObjectName(QStringLiteral("Frame1"));
-  menu->setAccessibleName(tr("Menu"));
+  menu->setAccessibleName(QStringLiteral("Menu"));
   binder_.Box(form_.Frame1, menu);
   auto* rows = new QVBoxLayout(menu);
   rows->setSpacing(0);
@@ -169,17 +170,17 @@ QWidget* InhMainWindow::Side(QtVideoPlayer& player) {
   video->DoubleClicked = [this] { form_.Frame5_DblClick(); };
   player.PlayIn(video);
   auto* resources = new CaptionButton(QStringLiteral("Frame2"), Gesture::DoubleClick,
-                                      tr("Open the documents and resources"), side);
-  resources->setText(tr("Documents (double click)"));
-  resources->setAccessibleName(tr("Documents and resources"));
-  resources->setToolTip(tr("Double click, or press Return, to open"));
+                                      QStringLiteral("Open the documents and resources"), side);
+  resources->setText(QStringLiteral("Documents (double click)"));
+  resources->setAccessibleName(QStringLiteral("Documents and resources"));
+  resources->setToolTip(QStringLiteral("Double click, or press Return, to open"));
   resources->SetBorder(QFrame::StyledPanel);
   resources->setContentsMargins(panelMargins);
   connect(resources, &QAbstractButton::clicked, this, [this] { form_.Frame2_DblClick(); });
   auto* last = new QHBoxLayout;
   last->setSpacing(gap);
   last->addWidget(resources, 1);
-  last->addWidget(new QLabel(tr("Session"), side));
+  last->addWidget(new QLabel(QStringLiteral("Session"), side));
   last->addWidget(SessionNumber());
   rows->addLayout(last);
   return side;
@@ -187,14 +188,14 @@ QWidget* InhMainWindow::Side(QtVideoPlayer& player) {
 
 // One picture is shown at a time, so the button is the parent of all six.
 QWidget* InhMainWindow::Pictures() {
-  auto* place =
-      new CaptionButton(QStringLiteral("Image3"), Gesture::Click, tr("Show the next picture"), Frame111());
+  auto* place = new CaptionButton(QStringLiteral("Image3"), Gesture::Click,
+                                  QStringLiteral("Show the next picture"), Frame111());
   place->setFixedSize(pictureSize);
-  place->setAccessibleName(tr("Picture"));
-  place->setToolTip(tr("Click for the next picture"));
+  place->setAccessibleName(QStringLiteral("Picture"));
+  place->setToolTip(QStringLiteral("Click for the next picture"));
   for (int i = 0; i < form_.Image3.Size; ++i) {
     auto* picture = new PictureLabel(Indexed("Image3", i), QStringLiteral("image3-%1").arg(i),
-                                     tr("Picture %1").arg(i + 1), place);
+                                     QStringLiteral("Picture %1").arg(i + 1), place);
     picture->setGeometry(QRect(QPoint(), pictureSize).marginsRemoved(focusMargins));
     binder_.Visible(form_.Image3(i).Visible, picture);
   }
@@ -207,15 +208,15 @@ QWidget* InhMainWindow::Pictures() {
 }
 
 QWidget* InhMainWindow::SessionNumber() {
-  auto* number =
-      new CaptionButton(QStringLiteral("Label22"), Gesture::Click, tr("Show the sessions"), Frame111());
+  auto* number = new CaptionButton(QStringLiteral("Label22"), Gesture::Click,
+                                   QStringLiteral("Show the sessions"), Frame111());
   number->setFont(HeadingFont(font(), headingSize));
-  number->setToolTip(tr("Popularity details"));
+  number->setToolTip(QStringLiteral("Popularity details"));
   number->SetBorder(QFrame::StyledPanel);
   number->setContentsMargins(panelMargins);
   number->SetAlignment(Qt::AlignCenter);
   number->setMinimumWidth(number->fontMetrics().horizontalAdvance(QStringLiteral("000000")));
-  number->setAccessibleName(tr("Number of this session"));
+  number->setAccessibleName(QStringLiteral("Number of this session"));
   connect(number, &QAbstractButton::clicked, this, [this] { form_.Label22_Click(); });
   Binder::Result(form_.Label22, number);
   return number;
@@ -225,8 +226,8 @@ QWidget* InhMainWindow::Foot() {
   auto* foot = new QWidget(Frame111());
   auto* row = new QHBoxLayout(foot);
   row->setContentsMargins(0, 0, 0, 0);
-  auto* agree =
-      new CaptionButton(QStringLiteral("Label5"), Gesture::Click, tr("Show or hide the disclaimer"), foot);
+  auto* agree = new CaptionButton(QStringLiteral("Label5"), Gesture::Click,
+                                  QStringLiteral("Show or hide the disclaimer"), foot);
   agree->setForegroundRole(QPalette::Link);
   agree->setCursor(Qt::PointingHandCursor);
   connect(agree, &QAbstractButton::clicked, this, [this] { form_.Label5_Click(); });

@@ -38,11 +38,11 @@ void AddRow(QFormLayout* rows, const QString& heading, const QString& text) {
 ProgramInfoWindow::ProgramInfoWindow(const ProgramFacts& facts, MemoryMeter& memory, QWidget* parent)
     : QDialog(parent), form_(facts, memory) {
   setObjectName(QStringLiteral("prginfo"));
-  setAccessibleName(tr("About this program"));
-  setWindowTitle(tr("About Qismora"));
+  setAccessibleName(QStringLiteral("About this program"));
+  setWindowTitle(QStringLiteral("About Qismora"));
   setAttribute(Qt::WA_DeleteOnClose);
-  auto* icon =
-      new PictureLabel(QStringLiteral("Icon"), QStringLiteral("icon"), tr("Icon of the program"), this);
+  auto* icon = new PictureLabel(QStringLiteral("Icon"), QStringLiteral("icon"),
+                                QStringLiteral("Icon of the program"), this);
   icon->setFixedSize(iconSize);
 
   auto* table = new QWidget(this);
@@ -51,12 +51,12 @@ ProgramInfoWindow::ProgramInfoWindow(const ProgramFacts& facts, MemoryMeter& mem
   rows->setVerticalSpacing(gap / 2);
   rows->setHorizontalSpacing(gap);
   for (const InfoRow& row : form_.Rows) AddRow(rows, ToQt(row.Heading), ToQt(row.Text));
-  AddRow(rows, tr("Memory of the machine"), ToQt(form_.TotalMemory.Get()));
-  AddRow(rows, tr("Free memory"), ToQt(form_.FreeMemory.Get()));
-  AddRow(rows, tr("Used by this program"), ToQt(form_.UsedMemory.Get()));
+  AddRow(rows, QStringLiteral("Memory of the machine"), ToQt(form_.TotalMemory.Get()));
+  AddRow(rows, QStringLiteral("Free memory"), ToQt(form_.FreeMemory.Get()));
+  AddRow(rows, QStringLiteral("Used by this program"), ToQt(form_.UsedMemory.Get()));
 
   auto* buttons = new QDialogButtonBox(QDialogButtonBox::Close, this);
-  buttons->button(QDialogButtonBox::Close)->setAccessibleName(tr("Close"));
+  buttons->button(QDialogButtonBox::Close)->setAccessibleName(QStringLiteral("Close"));
   connect(buttons, &QDialogButtonBox::rejected, this, &QWidget::close);
   auto* middle = new QHBoxLayout;
   middle->setSpacing(2 * gap);

@@ -41,14 +41,14 @@ class Heading : public QLabel {
 }  // namespace
 
 QurLawsWindow::QurLawsWindow(const ShellRecord& shell, MessageBoxes& boxes)
-    : FormHolder(shell, boxes), FormWindow(form_, "QurLaws", tr("Law page"), largestText) {
+    : FormHolder(shell, boxes), FormWindow(form_, "QurLaws", QStringLiteral("Law page"), largestText) {
   setAttribute(Qt::WA_DeleteOnClose);
   form_.Unload = [this] {
     unloading_ = true;
     close();
   };
   Binder::Follow(form_.Caption, [this] { setWindowTitle(ToQt(form_.Caption.Get())); });
-  QAction* leave = menuBar()->addAction(tr("&Close"));
+  QAction* leave = menuBar()->addAction(QStringLiteral("&Close"));
   leave->setObjectName(QStringLiteral("Close"));
   leave->setShortcuts({QKeySequence(Qt::Key_Escape), QKeySequence(QKeySequence::Close)});
   connect(leave, &QAction::triggered, this, [this] { form_.Close_Click(); });
@@ -57,7 +57,7 @@ QurLawsWindow::QurLawsWindow(const ShellRecord& shell, MessageBoxes& boxes)
   rows->addWidget(MakeHeading());
   rows->addWidget(Title());
   rows->addWidget(Page(), 1);
-  QLabel* panel = AddPanel("StatusBar1.Panel1", tr("Title of the page"));
+  QLabel* panel = AddPanel("StatusBar1.Panel1", QStringLiteral("Title of the page"));
   Binder::Result(form_.StatusBar1, panel);
   for (QWidget* widget : {static_cast<QWidget*>(statusBar()), static_cast<QWidget*>(panel)}) {
     WhenMouseMoves(widget, [this] { form_.StatusBar1_MouseMove(); });
@@ -82,7 +82,7 @@ QWidget* QurLawsWindow::MakeHeading() {
 QWidget* QurLawsWindow::Title() {
   auto* title = new QLineEdit(Frame111());
   title->setObjectName(QStringLiteral("Text1"));
-  title->setAccessibleName(tr("Title of the page"));
+  title->setAccessibleName(QStringLiteral("Title of the page"));
   title->setReadOnly(true);
   title->setFont(HeadingFont(font(), titleSize));
   title->setAlignment(Qt::AlignCenter);
@@ -93,7 +93,7 @@ QWidget* QurLawsWindow::Title() {
 // There is no panel of other products beside the page. The focus that is meant for it goes to the page, where
 // the keys scroll.
 QWidget* QurLawsWindow::Page() {
-  auto* page = new ReadingText(QStringLiteral("Text2"), tr("Page"), Frame111());
+  auto* page = new ReadingText(QStringLiteral("Text2"), QStringLiteral("Page"), Frame111());
   page->document()->setDocumentMargin(pageMargin);
   binder_.Text(form_.Text2, page);
   WhenMouseMoves(page->viewport(), [this] { form_.Text2_MouseMove(); });

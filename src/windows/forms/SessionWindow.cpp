@@ -30,8 +30,8 @@ constexpr int shownRows = 14;
 
 SessionWindow::SessionWindow(ShellOutside& outside) : FormHolder(outside) {
   setObjectName(QStringLiteral("Session"));
-  setAccessibleName(tr("Session log"));
-  setWindowTitle(tr("Logged Sessions of Qismora"));
+  setAccessibleName(QStringLiteral("Session log"));
+  setWindowTitle(QStringLiteral("Logged Sessions of Qismora"));
   auto* leave = new QAction(this);
   leave->setShortcuts({QKeySequence(Qt::Key_Escape), QKeySequence(QKeySequence::Close)});
   connect(leave, &QAction::triggered, this, &QWidget::close);
@@ -64,7 +64,7 @@ QWidget* SessionWindow::Head() {
   place->setFixedSize(pictureSize);
   for (int i = 0; i < 2; ++i) {
     const QString file = QStringLiteral("session-%1").arg(i);
-    auto* picture = new PictureLabel(Indexed("Image1", i), file, tr("Ornament"), place);
+    auto* picture = new PictureLabel(Indexed("Image1", i), file, QStringLiteral("Ornament"), place);
     picture->setFixedSize(pictureSize);
     WhenMouseMoves(picture, [this] { form_.Image1_MouseMove(); });
     binder_.Visible(form_.Image1(i).Visible, picture);
@@ -81,7 +81,7 @@ QWidget* SessionWindow::Head() {
 QTableWidget* SessionWindow::MakeGrid() {
   auto* grid = new QTableWidget(0, static_cast<int>(SessionColumns.size()), this);
   grid->setObjectName(QStringLiteral("MSFlexGrid1"));
-  grid->setAccessibleName(tr("Sessions, the newest first"));
+  grid->setAccessibleName(QStringLiteral("Sessions, the newest first"));
   grid->setEditTriggers(QAbstractItemView::NoEditTriggers);
   grid->setSelectionMode(QAbstractItemView::SingleSelection);
   grid->setTabKeyNavigation(false);
@@ -134,7 +134,7 @@ QWidget* SessionWindow::Selected() {
   Binder::Caption(form_.Label4, caption);
   auto* line = new QLabel(place);
   line->setObjectName(QStringLiteral("Label2"));
-  line->setAccessibleName(tr("The selected session"));
+  line->setAccessibleName(QStringLiteral("The selected session"));
   line->setTextFormat(Qt::PlainText);
   line->setTextInteractionFlags(Qt::TextSelectableByMouse);
   Binder::Result(form_.Label2, line);

@@ -16,8 +16,8 @@ constexpr int focusMargin = 2;
 
 VideoPanel::VideoPanel(QWidget* parent) : QAbstractButton(parent) {
   setObjectName(QStringLiteral("Frame5"));
-  setAccessibleName(tr("Animation"));
-  setAccessibleDescription(tr("Return: the other one. Space: once more."));
+  setAccessibleName(QStringLiteral("Animation"));
+  setAccessibleDescription(QStringLiteral("Return: the other one. Space: once more."));
   setContentsMargins(focusMargin, focusMargin, focusMargin, focusMargin);
   setFocusPolicy(Qt::NoFocus);
   setSizePolicy(QSizePolicy::Preferred, QSizePolicy::Preferred);

@@ -24,10 +24,10 @@ constexpr QSize leastButton{170, 34};
 ZummyWindow::ZummyWindow(CaseRecord& record, ShellRecord& shell, ShellOutside& outside)
     : FormHolder(record, shell, outside) {
   setObjectName(QStringLiteral("Zummy"));
-  setAccessibleName(tr("Documents"));
+  setAccessibleName(QStringLiteral("Documents"));
   setWindowTitle(ToQt(ZummyTitle));
   form_.Hide = [this] { hide(); };
-  QAction* back = menuBar()->addAction(tr("&Back"));
+  QAction* back = menuBar()->addAction(QStringLiteral("&Back"));
   back->setObjectName(QStringLiteral("Back"));
   back->setShortcut(Qt::Key_Escape);
   connect(back, &QAction::triggered, this, [this] { form_.Back_Click(); });
@@ -57,8 +57,8 @@ QWidget* ZummyWindow::Buttons() {
 }
 
 QWidget* ZummyWindow::Holders() {
-  auto* place = new QGroupBox(tr("Documents"), this);
-  place->setAccessibleName(tr("Documents"));
+  auto* place = new QGroupBox(QStringLiteral("Documents"), this);
+  place->setAccessibleName(QStringLiteral("Documents"));
   auto* rows = new QVBoxLayout(place);
   for (const Document& document : Documents) {
     auto* holder = new QLabel(ToQt(document.FileName), place);

@@ -22,7 +22,7 @@ class MultimediaScreen : public QWidget, public VideoScreen {
  public:
   explicit MultimediaScreen(QWidget* panel) : QWidget(panel), player_(new QMediaPlayer(this)) {
     setObjectName(QStringLiteral("MediaPlayer1"));
-    setAccessibleName(tr("Animation"));
+    setAccessibleName(QStringLiteral("Animation"));
     setAttribute(Qt::WA_TransparentForMouseEvents);
     setGeometry(panel->contentsRect());
     auto* sink = new QVideoSink(this);

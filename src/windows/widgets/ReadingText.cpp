@@ -19,7 +19,7 @@ ReadingText::ReadingText(const QString& name, const QString& accessibleName, QWi
     : QPlainTextEdit(parent) {
   setObjectName(name);
   setAccessibleName(accessibleName);
-  verticalScrollBar()->setAccessibleName(tr("Scroll: %1").arg(accessibleName));
+  verticalScrollBar()->setAccessibleName(QStringLiteral("Scroll: %1").arg(accessibleName));
   setReadOnly(true);
   setTextInteractionFlags(Qt::TextSelectableByMouse | Qt::TextSelectableByKeyboard);
   setTabChangesFocus(true);
