@@ -4,9 +4,8 @@
 #include <QStringList>
 #include <vector>
 
-#include "faraid/Amounts.h"
-#include "faraid/Division.h"
-#include "screens/DivisionInput.h"
+#include "screens/Differences.h"
+#include "screens/DivisionView.h"
 #include "windows/division/Languages.h"
 
 /// All words of a division, in the current language (Languages.h). Each function takes data and decides
@@ -31,8 +30,6 @@ QString Amount(faraid::Hundredths amount);
 /// 3/8; a whole one is 1.
 QString Share(const faraid::Fraction& share);
 QString Ratio(const faraid::Ratio& ratio);
-/// Parts of a base; a share that is no whole number of parts stays a fraction.
-QString Parts(const faraid::Fraction& share, std::int64_t base);
 /// What each receives: "33.33 or 33.34" where heads differ by a hundredth, else the amount.
 QString Each(const faraid::Amount& amount, int heads);
 
@@ -55,16 +52,12 @@ QString YieldsTo(const faraid::Row& row);
 
 // Sentences
 
-/// What is divided between whom, and what happened: "15,00,000.00 is divided among 5 heirs. The fixed shares
-/// exceed the estate: Awl raises the base from 24 to 27."
-QString Headline(const faraid::Division& division, faraid::Hundredths net);
-/// "Nothing is left to divide: expenses and debts exceed the estate by 500.00."
-QString ShortfallSentence(faraid::Hundredths shortfall);
-/// "Nothing is divided while these fields cannot be read:" before the list of them.
-QString UnreadableHeading();
+/// What is divided among whom, and what happened: "15,00,000.00 is divided among 5 heirs. The fixed shares
+/// exceed the estate: Awl raises the base from 24 to 27." Or why nothing is divided.
+QString Headline(const DivisionView& view);
 /// Sons: "abc" is not a whole number.
 QString Unreadable(const UnreadableField& field);
-/// "base 24, raised to 27, corrected base 27"; empty where no heir takes anything.
+/// "Base 24, raised to 27, corrected base 27"; empty where no heir takes anything.
 QString Bases(const faraid::Division& division);
 
 /// One line of the estate: "Debts" and what is taken off.
@@ -73,11 +66,13 @@ struct EstateLine {
   QString Amount;
 };
 /// Gross estate, what is paid before the heirs as far as it is not 0, and the net estate.
-std::vector<EstateLine> EstateLines(const faraid::Estate& estate, const faraid::Settlement& settlement);
-/// The same in one line: "Gross 18,40,000.00 − debts 2,40,000.00 − bequests 1,00,000.00 (the limit is ...)".
-QString EstateSummary(const faraid::Estate& estate, const faraid::Settlement& settlement);
-/// "Bequests of 8,000.00 are limited to 4,000.00, a third ..."; empty where nothing is cut.
-QString BequestNotice(const faraid::Estate& estate, const faraid::Settlement& settlement);
+std::vector<EstateLine> EstateLines(const DivisionView& view);
+/// The same in one line: "Gross estate 18,40,000.00 − debts 2,40,000.00 − bequests 1,00,000.00".
+QString EstateSummary(const DivisionView& view);
+/// "Bequests of 8,000.00 are limited to 4,000.00, ..."; empty where nothing is cut.
+QString BequestNotice(const DivisionView& view);
+/// Names the figures of the estate that are still the examples with which the screen opens; empty without.
+QString ExampleNotice(const DivisionView& view);
 
 // The table
 
@@ -90,7 +85,9 @@ QString Sum();
 
 /// "The commands of Case Study answer otherwise."
 QString NoticeHeading();
-/// "The commands of Case Study show no figures for this case."
-QString NoFigures();
+/// What happens, in a sentence.
+QString DifferenceSentence(const DifferenceKind& kind);
+/// "Where Qismora differs": the name of the page that a difference leads to.
+QString PageOfDifferences();
 
 }  // namespace qismora::words

@@ -1,0 +1,415 @@
+#include "windows/division/DivisionWords.h"
+
+#include <QCoreApplication>
+#include <algorithm>
+
+#include "screens/HeirFields.h"
+#include "windows/platform/Utf8.h"
+
+namespace qismora::words {
+
+namespace {
+
+using faraid::Kind;
+
+/// The context of the translations.
+class Words {
+  Q_DECLARE_TR_FUNCTIONS(Words)
+};
+
+/// What a kind of heir is called: one head, several, and one in the middle of a sentence, where other
+/// languages inflect the name. The translations of the first column that counts are those of
+/// pictures/terms.tsv.
+struct HeirNames {
+  const char* One;
+  const char* Several;
+  const char* InSentence;
+};
+
+// Class II counts as one, so that its kinds have no plural.
+constexpr HeirNames heirNames[] = {
+    {QT_TRANSLATE_NOOP("Heirs", "Wife"), QT_TRANSLATE_NOOP("Heirs", "Wives"),
+     QT_TRANSLATE_NOOP("HeirsInSentences", "wife")},
+    {QT_TRANSLATE_NOOP("Heirs", "Husband"), nullptr, QT_TRANSLATE_NOOP("HeirsInSentences", "husband")},
+    {QT_TRANSLATE_NOOP("Heirs", "Son"), QT_TRANSLATE_NOOP("Heirs", "Sons"),
+     QT_TRANSLATE_NOOP("HeirsInSentences", "son")},
+    {QT_TRANSLATE_NOOP("Heirs", "Daughter"), QT_TRANSLATE_NOOP("Heirs", "Daughters"),
+     QT_TRANSLATE_NOOP("HeirsInSentences", "daughter")},
+    {QT_TRANSLATE_NOOP("Heirs", "Son's son"), QT_TRANSLATE_NOOP("Heirs", "Sons' sons"),
+     QT_TRANSLATE_NOOP("HeirsInSentences", "son's son")},
+    {QT_TRANSLATE_NOOP("Heirs", "Son's daughter"), QT_TRANSLATE_NOOP("Heirs", "Sons' daughters"),
+     QT_TRANSLATE_NOOP("HeirsInSentences", "son's daughter")},
+    {QT_TRANSLATE_NOOP("Heirs", "Son's son's son"), QT_TRANSLATE_NOOP("Heirs", "Sons' sons' sons"),
+     QT_TRANSLATE_NOOP("HeirsInSentences", "son's son's son")},
+    {QT_TRANSLATE_NOOP("Heirs", "Son's son's daughter"), QT_TRANSLATE_NOOP("Heirs", "Sons' sons' daughters"),
+     QT_TRANSLATE_NOOP("HeirsInSentences", "son's son's daughter")},
+    {QT_TRANSLATE_NOOP("Heirs", "Father"), nullptr, QT_TRANSLATE_NOOP("HeirsInSentences", "father")},
+    {QT_TRANSLATE_NOOP("Heirs", "Grandfather"), nullptr,
+     QT_TRANSLATE_NOOP("HeirsInSentences", "grandfather")},
+    {QT_TRANSLATE_NOOP("Heirs", "Great-grandfather"), nullptr,
+     QT_TRANSLATE_NOOP("HeirsInSentences", "great-grandfather")},
+    {QT_TRANSLATE_NOOP("Heirs", "Mother"), nullptr, QT_TRANSLATE_NOOP("HeirsInSentences", "mother")},
+    {QT_TRANSLATE_NOOP("Heirs", "Mother's mother"), nullptr,
+     QT_TRANSLATE_NOOP("HeirsInSentences", "mother's mother")},
+    {QT_TRANSLATE_NOOP("Heirs", "Mother's mother's mother"), nullptr,
+     QT_TRANSLATE_NOOP("HeirsInSentences", "mother's mother's mother")},
+    {QT_TRANSLATE_NOOP("Heirs", "Father's mother"), nullptr,
+     QT_TRANSLATE_NOOP("HeirsInSentences", "father's mother")},
+    {QT_TRANSLATE_NOOP("Heirs", "Grandfather's mother"), nullptr,
+     QT_TRANSLATE_NOOP("HeirsInSentences", "grandfather's mother")},
+    {QT_TRANSLATE_NOOP("Heirs", "Father's mother's mother"), nullptr,
+     QT_TRANSLATE_NOOP("HeirsInSentences", "father's mother's mother")},
+    {QT_TRANSLATE_NOOP("Heirs", "Full brother"), QT_TRANSLATE_NOOP("Heirs", "Full brothers"),
+     QT_TRANSLATE_NOOP("HeirsInSentences", "full brother")},
+    {QT_TRANSLATE_NOOP("Heirs", "Full sister"), QT_TRANSLATE_NOOP("Heirs", "Full sisters"),
+     QT_TRANSLATE_NOOP("HeirsInSentences", "full sister")},
+    {QT_TRANSLATE_NOOP("Heirs", "Consanguine sister"), QT_TRANSLATE_NOOP("Heirs", "Consanguine sisters"),
+     QT_TRANSLATE_NOOP("HeirsInSentences", "consanguine sister")},
+    {QT_TRANSLATE_NOOP("Heirs", "Consanguine brother"), QT_TRANSLATE_NOOP("Heirs", "Consanguine brothers"),
+     QT_TRANSLATE_NOOP("HeirsInSentences", "consanguine brother")},
+    {QT_TRANSLATE_NOOP("Heirs", "Uterine sister"), QT_TRANSLATE_NOOP("Heirs", "Uterine sisters"),
+     QT_TRANSLATE_NOOP("HeirsInSentences", "uterine sister")},
+    {QT_TRANSLATE_NOOP("Heirs", "Uterine brother"), QT_TRANSLATE_NOOP("Heirs", "Uterine brothers"),
+     QT_TRANSLATE_NOOP("HeirsInSentences", "uterine brother")},
+    {QT_TRANSLATE_NOOP("Heirs", "Full brother's son"), nullptr,
+     QT_TRANSLATE_NOOP("HeirsInSentences", "full brother's son")},
+    {QT_TRANSLATE_NOOP("Heirs", "Consanguine brother's son"), nullptr,
+     QT_TRANSLATE_NOOP("HeirsInSentences", "consanguine brother's son")},
+    {QT_TRANSLATE_NOOP("Heirs", "Full brother's son's son"), nullptr,
+     QT_TRANSLATE_NOOP("HeirsInSentences", "full brother's son's son")},
+    {QT_TRANSLATE_NOOP("Heirs", "Consanguine brother's son's son"), nullptr,
+     QT_TRANSLATE_NOOP("HeirsInSentences", "consanguine brother's son's son")},
+    {QT_TRANSLATE_NOOP("Heirs", "Full uncle"), nullptr, QT_TRANSLATE_NOOP("HeirsInSentences", "full uncle")},
+    {QT_TRANSLATE_NOOP("Heirs", "Consanguine uncle"), nullptr,
+     QT_TRANSLATE_NOOP("HeirsInSentences", "consanguine uncle")},
+    {QT_TRANSLATE_NOOP("Heirs", "Full uncle's son"), nullptr,
+     QT_TRANSLATE_NOOP("HeirsInSentences", "full uncle's son")},
+    {QT_TRANSLATE_NOOP("Heirs", "Consanguine uncle's son"), nullptr,
+     QT_TRANSLATE_NOOP("HeirsInSentences", "consanguine uncle's son")},
+    {QT_TRANSLATE_NOOP("Heirs", "Full uncle's son's son"), nullptr,
+     QT_TRANSLATE_NOOP("HeirsInSentences", "full uncle's son's son")},
+    {QT_TRANSLATE_NOOP("Heirs", "Consanguine uncle's son's son"), nullptr,
+     QT_TRANSLATE_NOOP("HeirsInSentences", "consanguine uncle's son's son")},
+    {QT_TRANSLATE_NOOP("Heirs", "Full uncle's son's son's son"), nullptr,
+     QT_TRANSLATE_NOOP("HeirsInSentences", "full uncle's son's son's son")},
+    {QT_TRANSLATE_NOOP("Heirs", "Consanguine uncle's son's son's son"), nullptr,
+     QT_TRANSLATE_NOOP("HeirsInSentences", "consanguine uncle's son's son's son")},
+    {QT_TRANSLATE_NOOP("Heirs", "Remainder"), nullptr, QT_TRANSLATE_NOOP("HeirsInSentences", "remainder")},
+};
+static_assert(std::size(heirNames) == faraid::KindCount + 1);
+
+const HeirNames& NamesOf(Kind kind) { return heirNames[static_cast<std::size_t>(kind)]; }
+
+/// The texts of the core are string literals, so that a terminating zero follows them.
+QString Translated(const char* context, std::string_view literal) {
+  return QCoreApplication::translate(context, literal.data());
+}
+
+QString WithArticle(Kind kind) {
+  const bool isTheOnlyOne = faraid::MostOf(kind) == 1 && !faraid::ClassII.Has(kind);
+  return (isTheOnlyOne ? Words::tr("the %1") : Words::tr("a %1")).arg(OneHeir(kind));
+}
+
+QString FieldOf(const QString& field, const faraid::Reason& reason) {
+  if (field == QLatin1String("share")) return Share(reason.Share);
+  if (field == QLatin1String("heir")) return OneHeir(reason.Named);
+  if (field == QLatin1String("a heir")) return WithArticle(reason.Named);
+  if (field == QLatin1String("left"))
+    return reason.Share == 1 ? Words::tr("the whole") : Words::tr("what is left");
+  return (Kind::Sons | Kind::Daughters).Has(reason.Named) ? Words::tr("children")
+                                                           : Words::tr("children of sons");
+}
+
+QString Filled(const QString& pattern, const faraid::Reason& reason) {
+  QString text;
+  qsizetype from = 0;
+  for (qsizetype open; (open = pattern.indexOf(QLatin1Char('{'), from)) >= 0;) {
+    const qsizetype close = pattern.indexOf(QLatin1Char('}'), open);
+    text += pattern.mid(from, open - from) + FieldOf(pattern.mid(open + 1, close - open - 1), reason);
+    from = close + 1;
+  }
+  return text + pattern.mid(from);
+}
+
+QString Sentence(const faraid::Reason& reason, const QString& source) {
+  QString text = Filled(Translated("Reasons", faraid::Pattern(reason.Code)), reason);
+  if (!source.isEmpty()) text = Words::tr("%1 (%2)", "a reason and its source").arg(text, source);
+  switch (reason.Sixth) {
+    case faraid::Beyond::NoResiduary:
+      break;
+    case faraid::Beyond::TheResidue:
+      text = Words::tr("%1, and what is left beyond it").arg(text);
+      break;
+    case faraid::Beyond::Nothing:
+      text = Words::tr("%1; nothing is left beyond it").arg(text);
+      break;
+  }
+  switch (reason.Changed) {
+    case faraid::Change::None:
+      return text;
+    case faraid::Change::Awl:
+      return Words::tr("%1; after Awl %2").arg(text, Ratio(reason.After));
+    case faraid::Change::Radd:
+      return Words::tr("%1; after Radd %2").arg(text, Ratio(reason.After));
+  }
+  return text;
+}
+
+/// Keeps what the user has typed in its own direction within a sentence of the other.
+QString Isolated(const QString& text) {
+  constexpr QChar firstStrong(0x2068);
+  constexpr QChar popIsolate(0x2069);
+  return CurrentDirection() == Qt::LeftToRight ? text : firstStrong + text + popIsolate;
+}
+
+/// The fields of the estate as Case Study captions them and what they are called here, in the order of
+/// ExampleFigures.
+constexpr struct {
+  const char* Caption;
+  const char* Name;
+} estateFields[] = {
+    {"Gross Estate", QT_TRANSLATE_NOOP("Words", "Gross estate")},
+    {"Funeral exp.", QT_TRANSLATE_NOOP("Words", "Funeral expenses")},
+    {"Debts", QT_TRANSLATE_NOOP("Words", "Debts")},
+    {"Will(s)", QT_TRANSLATE_NOOP("Words", "Bequests")},
+};
+
+QString WhatHappened(const DivisionView& view) {
+  switch (view.Outcome) {
+    case DivisionOutcome::Awl:
+      return Words::tr("The fixed shares exceed the estate: Awl raises the base from %1 to %2.")
+          .arg(Number(view.Division.Base), Number(view.Division.RaisedTo));
+    case DivisionOutcome::Radd:
+      return Words::tr("The fixed shares leave something and there is no residuary: Radd returns it to the "
+                       "sharers other than the spouse.");
+    case DivisionOutcome::Remainder:
+      return Words::tr("Beside the spouse there is no other heir: %1 is left over.")
+          .arg(Amount(view.Takers.back().Amount.Together));
+    case DivisionOutcome::FitsExactly:
+      return Words::tr("The fixed shares fit the estate exactly.");
+    default:
+      return Words::tr("The residuaries take what the fixed shares leave.");
+  }
+}
+
+QString OffFor(const QString& summary, const QString& what, faraid::Hundredths amount) {
+  if (amount == 0) return summary;
+  return Words::tr("%1 − %2 %3", "an estate, what is paid from it, the amount").arg(summary, what, Amount(amount));
+}
+
+}  // namespace
+
+QString Heir(Kind kind, int heads) {
+  const HeirNames& names = NamesOf(kind);
+  return Translated("Heirs", heads > 1 && names.Several != nullptr ? names.Several : names.One);
+}
+
+QString OneHeir(Kind kind) { return Translated("HeirsInSentences", NamesOf(kind).InSentence); }
+
+QString Field(const std::string& caption) {
+  const auto heir = std::ranges::find(HeirFields, caption, &HeirField::Caption);
+  if (heir != HeirFields.end()) return Heir(heir->Heir, faraid::MostOf(heir->Heir));
+  for (const auto& field : estateFields) {
+    if (caption == field.Caption) return Words::tr(field.Name);
+  }
+  return ToQt(caption);
+}
+
+QString Number(std::int64_t number) { return CurrentLocale().toString(qlonglong{number}); }
+
+QString Amount(faraid::Hundredths amount) {
+  const QLocale locale = CurrentLocale();
+  const auto digit = [&](faraid::Hundredths value) { return locale.toString(static_cast<int>(value)); };
+  const QString sign = amount < 0 ? locale.negativeSign() : QString();
+  const faraid::Hundredths size = std::abs(amount);
+  return sign + locale.toString(qlonglong{size / 100}) + locale.decimalPoint() + digit(size / 10 % 10) +
+         digit(size % 10);
+}
+
+QString Ratio(const faraid::Ratio& ratio) {
+  // A fraction is one number: it is never grouped, and never broken over two lines.
+  QLocale locale = CurrentLocale();
+  locale.setNumberOptions(QLocale::OmitGroupSeparator);
+  if (ratio.Den == 1) return locale.toString(qlonglong{ratio.Num});
+  return locale.toString(qlonglong{ratio.Num}) + QLatin1Char('/') + locale.toString(qlonglong{ratio.Den});
+}
+
+QString Share(const faraid::Fraction& share) { return Ratio({share.Num(), share.Den()}); }
+
+QString Each(const faraid::Amount& amount, int heads) {
+  if (amount.HeadsWithOneMore == 0) return Amount(amount.Each);
+  if (amount.HeadsWithOneMore == heads) return Amount(amount.Each + 1);
+  return Words::tr("%1 or %2", "amounts").arg(Amount(amount.Each), Amount(amount.Each + 1));
+}
+
+QString Why(const faraid::Reason& reason) { return Sentence(reason, SourceOf(reason.Ground)); }
+
+QString WhyWithoutSource(const faraid::Reason& reason) { return Sentence(reason, {}); }
+
+QString SourceOf(faraid::Source source) {
+  if (source == faraid::Source::None) return {};
+  return Translated("Sources", faraid::Words(source));
+}
+
+QString StandingOf(faraid::Standing standing) {
+  switch (standing) {
+    case faraid::Standing::Sharer:
+      return Words::tr("sharer");
+    case faraid::Standing::Residuary:
+      return Words::tr("residuary");
+    case faraid::Standing::SharerAndResiduary:
+      return Words::tr("sharer and residuary");
+    case faraid::Standing::Excluded:
+      return Words::tr("excluded");
+    case faraid::Standing::TwoThirdsTaken:
+      return Words::tr("two thirds are taken");
+    case faraid::Standing::NotAnHeir:
+      return Words::tr("not an heir in this school");
+    case faraid::Standing::NothingLeft:
+      return Words::tr("nothing is left");
+  }
+  return {};
+}
+
+QString SchoolName(faraid::School school) {
+  switch (school) {
+    case faraid::School::Hanafi:
+      return Words::tr("Hanafi");
+    case faraid::School::Maliki:
+      return Words::tr("Maliki");
+    case faraid::School::Shafii:
+      return Words::tr("Shafi'i");
+    case faraid::School::Hanbali:
+      return Words::tr("Hanbali");
+  }
+  return {};
+}
+
+QString SchoolLaw(faraid::School school) { return Words::tr("%1 law", "of a school").arg(SchoolName(school)); }
+
+QString YieldsTo(const faraid::Row& row) {
+  if (row.Excluder == Kind::Remainder) return {};
+  return Words::tr("yields to %1").arg(WithArticle(row.Excluder));
+}
+
+QString Headline(const DivisionView& view) {
+  const QString net = Amount(view.Settlement.Net);
+  switch (view.Outcome) {
+    case DivisionOutcome::Unreadable:
+      return Words::tr("Nothing is divided while a field cannot be read.");
+    case DivisionOutcome::Short:
+      return Words::tr("Nothing is left to divide: funeral expenses and debts exceed the estate by %1.")
+          .arg(Amount(view.Settlement.Shortfall));
+    case DivisionOutcome::NoHeirs:
+      return Words::tr("%1 is left, and no heir is alive who takes it.").arg(net);
+    default:
+      break;
+  }
+  if (view.Takers.size() == 1 && view.Sum.Heads == 1) return Words::tr("%1 goes to one heir.").arg(net);
+  if (view.Sum.Heads == 1)
+    return Words::tr("%1 is left. One heir takes a share. %2").arg(net, WhatHappened(view));
+  return Words::tr("%1 is divided among %2 heirs. %3").arg(net, Number(view.Sum.Heads), WhatHappened(view));
+}
+
+QString Unreadable(const UnreadableField& field) {
+  const QString name = Field(field.Caption);
+  const QString text = Isolated(ToQt(field.Text));
+  switch (field.Fault) {
+    case FieldFault::None:
+      return {};
+    case FieldFault::NotWhole:
+      return Words::tr("%1: \"%2\" is not a whole number").arg(name, text);
+    case FieldFault::TooMany:
+      return Words::tr("%1: \"%2\" is more than %3").arg(name, text, Number(field.Most));
+    case FieldFault::NotAnAmount:
+      return Words::tr("%1: \"%2\" is not an amount").arg(name, text);
+    case FieldFault::TooManyDecimals:
+      return Words::tr("%1: \"%2\" has more than two decimals").arg(name, text);
+    case FieldFault::TooMuch:
+      return Words::tr("%1: \"%2\" is more than %3").arg(name, text, Amount(faraid::MostHundredths));
+  }
+  return {};
+}
+
+QString Bases(const faraid::Division& division) {
+  if (division.Base == 0) return {};
+  const QString base = Number(division.Base);
+  const QString corrected = Number(division.CorrectedBase);
+  if (division.RaisedTo == 0) return Words::tr("Base %1, corrected base %2").arg(base, corrected);
+  return Words::tr("Base %1, raised to %2, corrected base %3").arg(base, Number(division.RaisedTo), corrected);
+}
+
+std::vector<EstateLine> EstateLines(const DivisionView& view) {
+  std::vector<EstateLine> lines = {{Words::tr("Gross estate"), Amount(view.Estate.Gross)}};
+  const auto take = [&](const QString& caption, faraid::Hundredths amount) {
+    if (amount > 0) lines.push_back({Words::tr("less %1").arg(caption), Amount(amount)});
+  };
+  take(Words::tr("funeral expenses"), view.Estate.Funeral);
+  take(Words::tr("debts"), view.Estate.Debts);
+  take(Words::tr("bequests"), view.Settlement.Bequests);
+  lines.push_back({Words::tr("Net estate"), Amount(view.Settlement.Net)});
+  return lines;
+}
+
+QString EstateSummary(const DivisionView& view) {
+  QString summary = Words::tr("Gross estate %1").arg(Amount(view.Estate.Gross));
+  summary = OffFor(summary, Words::tr("funeral expenses"), view.Estate.Funeral);
+  summary = OffFor(summary, Words::tr("debts"), view.Estate.Debts);
+  return OffFor(summary, Words::tr("bequests"), view.Settlement.Bequests);
+}
+
+QString BequestNotice(const DivisionView& view) {
+  if (!view.IsDivided() || !view.BequestsAreCut()) return {};
+  const QString asked = Amount(view.Estate.Bequests);
+  const QString limit = Amount(view.Settlement.Bequests);
+  if (view.Estate.HeirsConsent)
+    return Words::tr("Bequests of %1 are limited to %2, all that funeral expenses and debts leave.").arg(asked, limit);
+  return Words::tr("Bequests of %1 are limited to %2, a third of what funeral expenses and debts leave. More "
+                   "needs the consent of the heirs.")
+      .arg(asked, limit);
+}
+
+QString ExampleNotice(const DivisionView& view) {
+  QStringList names;
+  for (std::size_t i = 0; i < std::size(estateFields); ++i) {
+    const int index = ExampleFigures[i].Index;
+    if (std::ranges::count(view.Examples, index) > 0) names.append(Words::tr(estateFields[i].Name));
+  }
+  if (names.isEmpty()) return {};
+  return Words::tr("Still the example with which Case Study opens: %1.")
+      .arg(names.join(Words::tr(", ", "between the items of a list")));
+}
+
+QString Heading(Column column, std::int64_t correctedBase) {
+  switch (column) {
+    case Column::Heir:
+      return Words::tr("Heir");
+    case Column::Heads:
+      return Words::tr("Heads");
+    case Column::Share:
+      return Words::tr("Share");
+    case Column::Parts:
+      return Words::tr("of %1", "parts of a base").arg(Number(correctedBase));
+    case Column::Together:
+      return Words::tr("Together");
+    case Column::Each:
+      return Words::tr("Each");
+    case Column::Why:
+      return Words::tr("Why");
+    case Column::Source:
+      return Words::tr("Source");
+    case Column::CaseStudy:
+      return Words::tr("Case Study");
+  }
+  return {};
+}
+
+QString Sum() { return Words::tr("Sum"); }
+
+QString NoticeHeading() { return Words::tr("The commands of Case Study answer otherwise."); }
+
+QString DifferenceSentence(const DifferenceKind& kind) { return Translated("Differences", kind.Sentence); }
+
+QString PageOfDifferences() { return Words::tr("Where Qismora differs"); }
+
+}  // namespace qismora::words
