@@ -5,916 +5,1092 @@
     <name>Differences</name>
     <message>
         <source>The commands read an amount only up to its first comma.</source>
-        <translation type="unfinished"></translation>
+        <translation>الأوامر تقرأ المبلغ إلى أول فاصلة فيه فقط.</translation>
     </message>
     <message>
         <source>The commands round funeral expenses, debts and wills to whole numbers.</source>
-        <translation type="unfinished"></translation>
+        <translation>الأوامر تقرّب نفقات التجهيز والديون والوصايا إلى أعداد صحيحة.</translation>
     </message>
     <message>
         <source>The commands refuse funeral expenses, debts and wills above 2,147,483,647.</source>
-        <translation type="unfinished"></translation>
+        <translation>الأوامر ترفض ما زاد على 2,147,483,647 من نفقات التجهيز والديون والوصايا.</translation>
     </message>
     <message>
         <source>Funeral expenses and debts exceed the estate. The commands refuse it, or divide a negative estate.</source>
-        <translation type="unfinished"></translation>
+        <translation>نفقات التجهيز والديون تزيد على التركة. الأوامر ترفضها أو تقسم تركة سالبة.</translation>
     </message>
     <message>
         <source>The commands limit the wills to a third of the gross estate, as a whole number, and not to a third of what funeral expenses and debts leave.</source>
-        <translation type="unfinished"></translation>
+        <translation>الأوامر تحدّ الوصايا بثلث التركة كلها، عددًا صحيحًا، لا بثلث ما يبقى بعد نفقات التجهيز والديون.</translation>
     </message>
     <message>
         <source>No other heir is alive beside husband or wife. The commands show no figures.</source>
-        <translation type="unfinished"></translation>
+        <translation>لا وارث مع أحد الزوجين. الأوامر لا تعرض أي مبالغ.</translation>
     </message>
     <message>
         <source>The fixed shares use up the estate exactly. The commands show no figures.</source>
-        <translation type="unfinished"></translation>
+        <translation>الفروض تستغرق التركة تمامًا. الأوامر لا تعرض أي مبالغ.</translation>
     </message>
     <message>
         <source>The estate is too large for the commands: they cannot round the spouse&apos;s amount and show no figures.</source>
-        <translation type="unfinished"></translation>
+        <translation>التركة أكبر مما تحتمله الأوامر: لا تستطيع تقريب مبلغ أحد الزوجين ولا تعرض أي مبالغ.</translation>
     </message>
     <message>
         <source>The family is too large for the fractions of the commands: they show no final figures.</source>
-        <translation type="unfinished"></translation>
+        <translation>الأسرة أكبر مما تحتمله كسور الأوامر: لا تعرض مبالغ نهائية.</translation>
     </message>
     <message>
         <source>The commands give a consanguine brother beside daughters nothing, unless a consanguine sister is alive.</source>
-        <translation type="unfinished"></translation>
+        <translation>الأوامر لا تعطي الأخ لأب مع البنات شيئًا ما لم تكن معه أخت لأب.</translation>
     </message>
     <message>
         <source>The commands let son&apos;s daughters share with the son&apos;s son&apos;s son instead of taking their fixed share.</source>
-        <translation type="unfinished"></translation>
+        <translation>الأوامر تُشرك بنات الابن مع ابن ابن الابن بدل أن يأخذن فرضهن.</translation>
     </message>
     <message>
         <source>The commands let son&apos;s daughters share with the son&apos;s son&apos;s son instead of taking their sixth. A son&apos;s son&apos;s daughter then takes nothing.</source>
-        <translation type="unfinished"></translation>
+        <translation>الأوامر تُشرك بنات الابن مع ابن ابن الابن بدل أن يأخذن السدس. فلا تأخذ بنت ابن الابن شيئًا.</translation>
     </message>
     <message>
         <source>The commands leave the son&apos;s son&apos;s daughter out of the residue that she shares with her brother.</source>
-        <translation type="unfinished"></translation>
+        <translation>الأوامر تُخرج بنت ابن الابن من الباقي الذي تشارك فيه أخاها.</translation>
     </message>
     <message>
         <source>The commands give a son&apos;s son&apos;s daughter a sixth, though two daughters have taken the two thirds.</source>
-        <translation type="unfinished"></translation>
+        <translation>الأوامر تعطي بنت ابن الابن السدس مع أن البنتين استكملتا الثلثين.</translation>
     </message>
     <message>
         <source>The commands give a consanguine sister beside her brother and one full sister a sixth, and then her part of the residue.</source>
-        <translation type="unfinished"></translation>
+        <translation>الأوامر تعطي الأخت لأب مع أخيها وأخت شقيقة واحدة السدس، ثم نصيبها من الباقي.</translation>
     </message>
     <message>
         <source>Beside a grandfather the commands give the sixth of the great grandmothers to nobody, or also to the grandfather&apos;s mother.</source>
-        <translation type="unfinished"></translation>
+        <translation>مع الجد لا تعطي الأوامر سدس الجدات البعيدات أحدًا، أو تعطيه أم الجد أيضًا.</translation>
     </message>
     <message>
         <source>The text of Aul has no line for a grandfather.</source>
-        <translation type="unfinished"></translation>
+        <translation>ليس في نص العول سطر للجد.</translation>
     </message>
     <message>
         <source>The commands follow Hanafi law, from which this school differs here.</source>
-        <translation type="unfinished"></translation>
+        <translation>الأوامر تتبع المذهب الحنفي، وهذا المذهب يخالفه هنا.</translation>
     </message>
 </context>
 <context>
     <name>Heirs</name>
     <message>
         <source>Wife</source>
-        <translation type="unfinished"></translation>
+        <translation>الزوجة</translation>
     </message>
     <message>
         <source>Wives</source>
-        <translation type="unfinished"></translation>
+        <translation>الزوجات</translation>
     </message>
     <message>
         <source>Husband</source>
-        <translation type="unfinished"></translation>
+        <translation>الزوج</translation>
     </message>
     <message>
         <source>Son</source>
-        <translation type="unfinished"></translation>
+        <translation>الابن</translation>
     </message>
     <message>
         <source>Sons</source>
-        <translation type="unfinished"></translation>
+        <translation>الأبناء</translation>
     </message>
     <message>
         <source>Daughter</source>
-        <translation type="unfinished"></translation>
+        <translation>البنت</translation>
     </message>
     <message>
         <source>Daughters</source>
-        <translation type="unfinished"></translation>
+        <translation>البنات</translation>
     </message>
     <message>
         <source>Son&apos;s son</source>
-        <translation type="unfinished"></translation>
+        <translation>ابن الابن</translation>
     </message>
     <message>
         <source>Sons&apos; sons</source>
-        <translation type="unfinished"></translation>
+        <translation>أبناء الابن</translation>
     </message>
     <message>
         <source>Son&apos;s daughter</source>
-        <translation type="unfinished"></translation>
+        <translation>بنت الابن</translation>
     </message>
     <message>
         <source>Sons&apos; daughters</source>
-        <translation type="unfinished"></translation>
+        <translation>بنات الابن</translation>
     </message>
     <message>
         <source>Son&apos;s son&apos;s son</source>
-        <translation type="unfinished"></translation>
+        <translation>ابن ابن الابن</translation>
     </message>
     <message>
         <source>Sons&apos; sons&apos; sons</source>
-        <translation type="unfinished"></translation>
+        <translation>أبناء ابن الابن</translation>
     </message>
     <message>
         <source>Son&apos;s son&apos;s daughter</source>
-        <translation type="unfinished"></translation>
+        <translation>بنت ابن الابن</translation>
     </message>
     <message>
         <source>Sons&apos; sons&apos; daughters</source>
-        <translation type="unfinished"></translation>
+        <translation>بنات ابن الابن</translation>
     </message>
     <message>
         <source>Father</source>
-        <translation type="unfinished"></translation>
+        <translation>الأب</translation>
     </message>
     <message>
         <source>Grandfather</source>
-        <translation type="unfinished"></translation>
+        <translation>الجد أبو الأب</translation>
     </message>
     <message>
         <source>Great-grandfather</source>
-        <translation type="unfinished"></translation>
+        <translation>أبو أبي الأب</translation>
     </message>
     <message>
         <source>Mother</source>
-        <translation type="unfinished"></translation>
+        <translation>الأم</translation>
     </message>
     <message>
         <source>Mother&apos;s mother</source>
-        <translation type="unfinished"></translation>
+        <translation>أم الأم</translation>
     </message>
     <message>
         <source>Mother&apos;s mother&apos;s mother</source>
-        <translation type="unfinished"></translation>
+        <translation>أم أم الأم</translation>
     </message>
     <message>
         <source>Father&apos;s mother</source>
-        <translation type="unfinished"></translation>
+        <translation>أم الأب</translation>
     </message>
     <message>
         <source>Grandfather&apos;s mother</source>
-        <translation type="unfinished"></translation>
+        <translation>أم أبي الأب</translation>
     </message>
     <message>
         <source>Father&apos;s mother&apos;s mother</source>
-        <translation type="unfinished"></translation>
+        <translation>أم أم الأب</translation>
     </message>
     <message>
         <source>Full brother</source>
-        <translation type="unfinished"></translation>
+        <translation>الأخ الشقيق</translation>
     </message>
     <message>
         <source>Full brothers</source>
-        <translation type="unfinished"></translation>
+        <translation>الإخوة الأشقاء</translation>
     </message>
     <message>
         <source>Full sister</source>
-        <translation type="unfinished"></translation>
+        <translation>الأخت الشقيقة</translation>
     </message>
     <message>
         <source>Full sisters</source>
-        <translation type="unfinished"></translation>
+        <translation>الأخوات الشقيقات</translation>
     </message>
     <message>
         <source>Consanguine sister</source>
-        <translation type="unfinished"></translation>
+        <translation>الأخت لأب</translation>
     </message>
     <message>
         <source>Consanguine sisters</source>
-        <translation type="unfinished"></translation>
+        <translation>الأخوات لأب</translation>
     </message>
     <message>
         <source>Consanguine brother</source>
-        <translation type="unfinished"></translation>
+        <translation>الأخ لأب</translation>
     </message>
     <message>
         <source>Consanguine brothers</source>
-        <translation type="unfinished"></translation>
+        <translation>الإخوة لأب</translation>
     </message>
     <message>
         <source>Uterine sister</source>
-        <translation type="unfinished"></translation>
+        <translation>الأخت لأم</translation>
     </message>
     <message>
         <source>Uterine sisters</source>
-        <translation type="unfinished"></translation>
+        <translation>الأخوات لأم</translation>
     </message>
     <message>
         <source>Uterine brother</source>
-        <translation type="unfinished"></translation>
+        <translation>الأخ لأم</translation>
     </message>
     <message>
         <source>Uterine brothers</source>
-        <translation type="unfinished"></translation>
+        <translation>الإخوة لأم</translation>
     </message>
     <message>
         <source>Full brother&apos;s son</source>
-        <translation type="unfinished"></translation>
+        <translation>ابن الأخ الشقيق</translation>
     </message>
     <message>
         <source>Consanguine brother&apos;s son</source>
-        <translation type="unfinished"></translation>
+        <translation>ابن الأخ لأب</translation>
     </message>
     <message>
         <source>Full brother&apos;s son&apos;s son</source>
-        <translation type="unfinished"></translation>
+        <translation>ابن ابن الأخ الشقيق</translation>
     </message>
     <message>
         <source>Consanguine brother&apos;s son&apos;s son</source>
-        <translation type="unfinished"></translation>
+        <translation>ابن ابن الأخ لأب</translation>
     </message>
     <message>
         <source>Full uncle</source>
-        <translation type="unfinished"></translation>
+        <translation>العم الشقيق</translation>
     </message>
     <message>
         <source>Consanguine uncle</source>
-        <translation type="unfinished"></translation>
+        <translation>العم لأب</translation>
     </message>
     <message>
         <source>Full uncle&apos;s son</source>
-        <translation type="unfinished"></translation>
+        <translation>ابن العم الشقيق</translation>
     </message>
     <message>
         <source>Consanguine uncle&apos;s son</source>
-        <translation type="unfinished"></translation>
+        <translation>ابن العم لأب</translation>
     </message>
     <message>
         <source>Full uncle&apos;s son&apos;s son</source>
-        <translation type="unfinished"></translation>
+        <translation>ابن ابن العم الشقيق</translation>
     </message>
     <message>
         <source>Consanguine uncle&apos;s son&apos;s son</source>
-        <translation type="unfinished"></translation>
+        <translation>ابن ابن العم لأب</translation>
     </message>
     <message>
         <source>Full uncle&apos;s son&apos;s son&apos;s son</source>
-        <translation type="unfinished"></translation>
+        <translation>ابن ابن ابن العم الشقيق</translation>
     </message>
     <message>
         <source>Consanguine uncle&apos;s son&apos;s son&apos;s son</source>
-        <translation type="unfinished"></translation>
+        <translation>ابن ابن ابن العم لأب</translation>
     </message>
     <message>
         <source>Remainder</source>
-        <translation type="unfinished"></translation>
+        <translation>الباقي</translation>
     </message>
 </context>
 <context>
     <name>HeirsInSentences</name>
     <message>
         <source>wife</source>
-        <translation type="unfinished"></translation>
+        <translation>الزوجة</translation>
     </message>
     <message>
         <source>husband</source>
-        <translation type="unfinished"></translation>
+        <translation>الزوج</translation>
     </message>
     <message>
         <source>son</source>
-        <translation type="unfinished"></translation>
+        <translation>الابن</translation>
     </message>
     <message>
         <source>daughter</source>
-        <translation type="unfinished"></translation>
+        <translation>البنت</translation>
     </message>
     <message>
         <source>son&apos;s son</source>
-        <translation type="unfinished"></translation>
+        <translation>ابن الابن</translation>
     </message>
     <message>
         <source>son&apos;s daughter</source>
-        <translation type="unfinished"></translation>
+        <translation>بنت الابن</translation>
     </message>
     <message>
         <source>son&apos;s son&apos;s son</source>
-        <translation type="unfinished"></translation>
+        <translation>ابن ابن الابن</translation>
     </message>
     <message>
         <source>son&apos;s son&apos;s daughter</source>
-        <translation type="unfinished"></translation>
+        <translation>بنت ابن الابن</translation>
     </message>
     <message>
         <source>father</source>
-        <translation type="unfinished"></translation>
+        <translation>الأب</translation>
     </message>
     <message>
         <source>grandfather</source>
-        <translation type="unfinished"></translation>
+        <translation>الجد أبي الأب</translation>
     </message>
     <message>
         <source>great-grandfather</source>
-        <translation type="unfinished"></translation>
+        <translation>أبي أبي الأب</translation>
     </message>
     <message>
         <source>mother</source>
-        <translation type="unfinished"></translation>
+        <translation>الأم</translation>
     </message>
     <message>
         <source>mother&apos;s mother</source>
-        <translation type="unfinished"></translation>
+        <translation>أم الأم</translation>
     </message>
     <message>
         <source>mother&apos;s mother&apos;s mother</source>
-        <translation type="unfinished"></translation>
+        <translation>أم أم الأم</translation>
     </message>
     <message>
         <source>father&apos;s mother</source>
-        <translation type="unfinished"></translation>
+        <translation>أم الأب</translation>
     </message>
     <message>
         <source>grandfather&apos;s mother</source>
-        <translation type="unfinished"></translation>
+        <translation>أم أبي الأب</translation>
     </message>
     <message>
         <source>father&apos;s mother&apos;s mother</source>
-        <translation type="unfinished"></translation>
+        <translation>أم أم الأب</translation>
     </message>
     <message>
         <source>full brother</source>
-        <translation type="unfinished"></translation>
+        <translation>الأخ الشقيق</translation>
     </message>
     <message>
         <source>full sister</source>
-        <translation type="unfinished"></translation>
+        <translation>الأخت الشقيقة</translation>
     </message>
     <message>
         <source>consanguine sister</source>
-        <translation type="unfinished"></translation>
+        <translation>الأخت لأب</translation>
     </message>
     <message>
         <source>consanguine brother</source>
-        <translation type="unfinished"></translation>
+        <translation>الأخ لأب</translation>
     </message>
     <message>
         <source>uterine sister</source>
-        <translation type="unfinished"></translation>
+        <translation>الأخت لأم</translation>
     </message>
     <message>
         <source>uterine brother</source>
-        <translation type="unfinished"></translation>
+        <translation>الأخ لأم</translation>
     </message>
     <message>
         <source>full brother&apos;s son</source>
-        <translation type="unfinished"></translation>
+        <translation>ابن الأخ الشقيق</translation>
     </message>
     <message>
         <source>consanguine brother&apos;s son</source>
-        <translation type="unfinished"></translation>
+        <translation>ابن الأخ لأب</translation>
     </message>
     <message>
         <source>full brother&apos;s son&apos;s son</source>
-        <translation type="unfinished"></translation>
+        <translation>ابن ابن الأخ الشقيق</translation>
     </message>
     <message>
         <source>consanguine brother&apos;s son&apos;s son</source>
-        <translation type="unfinished"></translation>
+        <translation>ابن ابن الأخ لأب</translation>
     </message>
     <message>
         <source>full uncle</source>
-        <translation type="unfinished"></translation>
+        <translation>العم الشقيق</translation>
     </message>
     <message>
         <source>consanguine uncle</source>
-        <translation type="unfinished"></translation>
+        <translation>العم لأب</translation>
     </message>
     <message>
         <source>full uncle&apos;s son</source>
-        <translation type="unfinished"></translation>
+        <translation>ابن العم الشقيق</translation>
     </message>
     <message>
         <source>consanguine uncle&apos;s son</source>
-        <translation type="unfinished"></translation>
+        <translation>ابن العم لأب</translation>
     </message>
     <message>
         <source>full uncle&apos;s son&apos;s son</source>
-        <translation type="unfinished"></translation>
+        <translation>ابن ابن العم الشقيق</translation>
     </message>
     <message>
         <source>consanguine uncle&apos;s son&apos;s son</source>
-        <translation type="unfinished"></translation>
+        <translation>ابن ابن العم لأب</translation>
     </message>
     <message>
         <source>full uncle&apos;s son&apos;s son&apos;s son</source>
-        <translation type="unfinished"></translation>
+        <translation>ابن ابن ابن العم الشقيق</translation>
     </message>
     <message>
         <source>consanguine uncle&apos;s son&apos;s son&apos;s son</source>
-        <translation type="unfinished"></translation>
+        <translation>ابن ابن ابن العم لأب</translation>
     </message>
     <message>
         <source>remainder</source>
-        <translation type="unfinished"></translation>
+        <translation>الباقي</translation>
+    </message>
+</context>
+<context>
+    <name>Help</name>
+    <message>
+        <source>User&apos;s &amp;guide</source>
+        <translation>&amp;دليل المستخدم</translation>
+    </message>
+    <message>
+        <source>Where Qismora &amp;differs</source>
+        <translation>أين &amp;يختلف Qismora</translation>
+    </message>
+    <message>
+        <source>The division and its &amp;law</source>
+        <translation>القسمة و&amp;فقهها</translation>
+    </message>
+    <message>
+        <source>All &amp;keys</source>
+        <translation>كل &amp;المفاتيح</translation>
+    </message>
+    <message>
+        <source>Help - Qismora</source>
+        <translation>مساعدة - Qismora</translation>
+    </message>
+    <message>
+        <source>Help</source>
+        <translation>مساعدة</translation>
+    </message>
+    <message>
+        <source>Page</source>
+        <translation>الصفحة</translation>
+    </message>
+    <message>
+        <source>Headings of the page</source>
+        <translation>عناوين الصفحة</translation>
+    </message>
+    <message>
+        <source>Contents</source>
+        <translation>المحتويات</translation>
+    </message>
+    <message>
+        <source>Back</source>
+        <translation>رجوع</translation>
+    </message>
+    <message>
+        <source>Forward</source>
+        <translation>تقدم</translation>
+    </message>
+    <message>
+        <source>Find in the page (Ctrl+F)</source>
+        <translation>البحث في الصفحة (Ctrl+F)</translation>
+    </message>
+    <message>
+        <source>Find in the page</source>
+        <translation>البحث في الصفحة</translation>
+    </message>
+    <message>
+        <source>Next</source>
+        <translation>التالي</translation>
+    </message>
+    <message>
+        <source>Previous</source>
+        <translation>السابق</translation>
+    </message>
+    <message>
+        <source>%1 is not installed.</source>
+        <translation>%1 غير مثبّت.</translation>
+    </message>
+    <message>
+        <source>Continued from the other end of the page.</source>
+        <translation>استُؤنف من الطرف الآخر للصفحة.</translation>
+    </message>
+    <message>
+        <source>The page does not contain &quot;%1&quot;.</source>
+        <translation>لا تحتوي الصفحة على &quot;%1&quot;.</translation>
+    </message>
+</context>
+<context>
+    <name>Paper</name>
+    <message>
+        <source>Division</source>
+        <translation>قسمة التركة</translation>
+    </message>
+    <message>
+        <source>Division - %1</source>
+        <comment>name of a file</comment>
+        <translation>قسمة تركة - %1</translation>
+    </message>
+    <message>
+        <source>a man</source>
+        <translation>رجل</translation>
+    </message>
+    <message>
+        <source>a woman</source>
+        <translation>امرأة</translation>
+    </message>
+    <message>
+        <source>%1, %2</source>
+        <comment>a name, a man or a woman</comment>
+        <translation>%1، %2</translation>
+    </message>
+    <message>
+        <source>Date</source>
+        <translation>التاريخ</translation>
+    </message>
+    <message>
+        <source>School</source>
+        <translation>المذهب</translation>
+    </message>
+    <message>
+        <source>The estate</source>
+        <translation>التركة</translation>
+    </message>
+    <message>
+        <source>The table below is the division by the books.</source>
+        <translation>الجدول أدناه هو القسمة على ما في كتب الفقه.</translation>
+    </message>
+    <message>
+        <source>Alive, and receive nothing</source>
+        <translation>أحياء لا يأخذون شيئًا</translation>
+    </message>
+    <message>
+        <source>Name</source>
+        <translation>الاسم</translation>
+    </message>
+    <message>
+        <source>Signature</source>
+        <translation>التوقيع</translation>
+    </message>
+    <message>
+        <source>Place and date</source>
+        <translation>المكان والتاريخ</translation>
+    </message>
+    <message>
+        <source>The family</source>
+        <translation>الأسرة</translation>
+    </message>
+    <message>
+        <source>Division of an estate</source>
+        <translation>قسمة تركة</translation>
+    </message>
+    <message>
+        <source>The division</source>
+        <translation>القسمة</translation>
+    </message>
+    <message>
+        <source>Computed by %1 from the figures above. This paper is no judgment of a court and no fatwa: ask a scholar before the estate is divided.</source>
+        <translation>حُسبت وفق %1 من الأرقام أعلاه. وليست هذه الورقة حكم محكمة ولا فتوى، فاسأل عالمًا قبل قسمة التركة.</translation>
+    </message>
+    <message>
+        <source>Qismora - page %1 of %2</source>
+        <translation>Qismora - صفحة %1 من %2</translation>
+    </message>
+    <message>
+        <source>%1 is not saved: %2.</source>
+        <translation>لم يُحفظ %1: %2.</translation>
+    </message>
+    <message>
+        <source>Printing is not installed with this program. A PDF file can be saved and printed elsewhere.</source>
+        <translation>الطباعة غير مثبّتة مع هذا البرنامج. يمكن حفظ ملف PDF وطباعته في مكان آخر.</translation>
+    </message>
+    <message>
+        <source>Save as PDF</source>
+        <translation>حفظ بصيغة PDF</translation>
+    </message>
+    <message>
+        <source>PDF files (*.pdf)</source>
+        <translation>ملفات PDF (*.pdf)</translation>
+    </message>
+    <message>
+        <source>Saved: %1</source>
+        <translation>حُفظ: %1</translation>
     </message>
 </context>
 <context>
     <name>Reasons</name>
     <message>
         <source>{share} because there are {descendants}</source>
-        <translation type="unfinished"></translation>
+        <translation>{share} لوجود {descendants}</translation>
     </message>
     <message>
         <source>{share} because there are no descendants</source>
-        <translation type="unfinished"></translation>
+        <translation>{share} لعدم الفرع الوارث</translation>
     </message>
     <message>
         <source>{share}, one without a son</source>
-        <translation type="unfinished"></translation>
+        <translation>{share} للواحدة عند عدم الابن</translation>
     </message>
     <message>
         <source>{share}, two or more without a son</source>
-        <translation type="unfinished"></translation>
+        <translation>{share} للاثنتين فأكثر عند عدم الابن</translation>
     </message>
     <message>
         <source>{share}, one in {a heir}&apos;s place</source>
-        <translation type="unfinished"></translation>
+        <translation>{share} للواحدة بمنزلة {a heir}</translation>
     </message>
     <message>
         <source>{share}, two or more in {a heir}&apos;s place</source>
-        <translation type="unfinished"></translation>
+        <translation>{share} للاثنتين فأكثر بمنزلة {a heir}</translation>
     </message>
     <message>
         <source>{share} completes two thirds beside one {heir}</source>
-        <translation type="unfinished"></translation>
+        <translation>{share} تكملة للثلثين مع {heir} الواحدة</translation>
     </message>
     <message>
         <source>{share} in the father&apos;s place</source>
-        <translation type="unfinished"></translation>
+        <translation>{share} بمنزلة الأب</translation>
     </message>
     <message>
         <source>{share} because there are two or more siblings</source>
-        <translation type="unfinished"></translation>
+        <translation>{share} لوجود اثنين فأكثر من الإخوة</translation>
     </message>
     <message>
         <source>{share}, neither descendants nor two siblings</source>
-        <translation type="unfinished"></translation>
+        <translation>{share} لعدم الفرع الوارث وعدم العدد من الإخوة</translation>
     </message>
     <message>
         <source>{share}, al-Umariyyatan: a third of what {a heir} leaves</source>
-        <translation type="unfinished"></translation>
+        <translation>{share}، العمريتان: ثلث الباقي بعد نصيب {a heir}</translation>
     </message>
     <message>
         <source>{share} as grandmother</source>
-        <translation type="unfinished"></translation>
+        <translation>{share} فرض الجدة</translation>
     </message>
     <message>
         <source>{share} together with the other grandmothers</source>
-        <translation type="unfinished"></translation>
+        <translation>{share} مشتركًا بين الجدات</translation>
     </message>
     <message>
         <source>{share}, one without a brother</source>
-        <translation type="unfinished"></translation>
+        <translation>{share} للواحدة عند عدم الأخ</translation>
     </message>
     <message>
         <source>{share}, two or more without a brother</source>
-        <translation type="unfinished"></translation>
+        <translation>{share} للاثنتين فأكثر عند عدم الأخ</translation>
     </message>
     <message>
         <source>{share}, one uterine sibling alone</source>
-        <translation type="unfinished"></translation>
+        <translation>{share} للمنفرد من الإخوة لأم</translation>
     </message>
     <message>
         <source>{share} together, men and women alike</source>
-        <translation type="unfinished"></translation>
+        <translation>{share} مشتركًا، الذكر والأنثى سواء</translation>
     </message>
     <message>
         <source>{share}, al-Mushtaraka: full and uterine siblings alike</source>
-        <translation type="unfinished"></translation>
+        <translation>{share}، المشتركة: الأشقاء والإخوة لأم سواء</translation>
     </message>
     <message>
         <source>takes {left}, nearest male</source>
-        <translation type="unfinished"></translation>
+        <translation>{left} تعصيبًا، أقرب ذكر</translation>
     </message>
     <message>
         <source>takes {left}, two parts to {a heir}&apos;s one</source>
-        <translation type="unfinished"></translation>
+        <translation>{left} تعصيبًا، له سهمان مع سهم {a heir}</translation>
     </message>
     <message>
         <source>takes {left}, one part to {a heir}&apos;s two</source>
-        <translation type="unfinished"></translation>
+        <translation>{left} عصبة بالغير، لها سهم مع سهمي {a heir}</translation>
     </message>
     <message>
         <source>takes {left} beside {a heir}</source>
-        <translation type="unfinished"></translation>
+        <translation>{left} عصبة مع الغير، مع {a heir}</translation>
     </message>
     <message>
         <source>al-Akdariyya: his 1/6 and her 1/2 joined, two parts to one</source>
-        <translation type="unfinished"></translation>
+        <translation>الأكدرية: يُجمع سدس الجد 1/6 ونصف الأخت 1/2 ثم للذكر سهمان وللأنثى سهم</translation>
     </message>
     <message>
         <source>al-Malikiyya: takes {left}, siblings would have nothing</source>
-        <translation type="unfinished"></translation>
+        <translation>المالكية: {left}، إذ لا شيء للإخوة ولو لم يكن الجد</translation>
     </message>
     <message>
         <source>{share}, his least beside siblings</source>
-        <translation type="unfinished"></translation>
+        <translation>{share}، أقل ما للجد مع الإخوة</translation>
     </message>
     <message>
         <source>shares as a brother with the siblings</source>
-        <translation type="unfinished"></translation>
+        <translation>المقاسمة مع الإخوة كأخ</translation>
     </message>
     <message>
         <source>{share} of the whole, more than a brother&apos;s part</source>
-        <translation type="unfinished"></translation>
+        <translation>{share} من جميع المال، خير له من المقاسمة</translation>
     </message>
     <message>
         <source>1/3 of the remainder, more than a brother&apos;s part</source>
-        <translation type="unfinished"></translation>
+        <translation>1/3 من الباقي، خير له من المقاسمة</translation>
     </message>
     <message>
         <source>takes what the grandfather leaves</source>
-        <translation type="unfinished"></translation>
+        <translation>ما يبقى بعد الجد</translation>
     </message>
     <message>
         <source>takes up to {share} of what the grandfather leaves</source>
-        <translation type="unfinished"></translation>
+        <translation>ما يبقى بعد الجد إلى تمام {share}</translation>
     </message>
     <message>
         <source>mu&apos;adda: takes what the full sisters leave</source>
-        <translation type="unfinished"></translation>
+        <translation>المعادّة: ما يبقى بعد الشقيقات</translation>
     </message>
     <message>
         <source>excluded by {a heir}</source>
-        <translation type="unfinished"></translation>
+        <translation>الحجب لوجود {a heir}</translation>
     </message>
     <message>
         <source>two thirds are taken</source>
-        <translation type="unfinished"></translation>
+        <translation>استُكمل الثلثان</translation>
     </message>
     <message>
         <source>not an heir in this school</source>
-        <translation type="unfinished"></translation>
+        <translation>غير وارثة في هذا المذهب</translation>
     </message>
     <message>
         <source>nothing is left</source>
-        <translation type="unfinished"></translation>
+        <translation>لم يبق شيء</translation>
     </message>
     <message>
         <source>to distant kindred; if there is none, later Hanafi jurists return it to the spouse</source>
-        <translation type="unfinished"></translation>
+        <translation>لذوي الأرحام، فإن لم يوجدوا ردّه متأخرو الحنفية على أحد الزوجين</translation>
     </message>
     <message>
         <source>to distant kindred; if there is none, to the treasury</source>
-        <translation type="unfinished"></translation>
+        <translation>لذوي الأرحام، فإن لم يوجدوا فلبيت المال</translation>
     </message>
 </context>
 <context>
     <name>Sources</name>
     <message>
         <source>Quran 4:11</source>
-        <translation type="unfinished"></translation>
+        <translation>النساء: 11</translation>
     </message>
     <message>
         <source>Quran 4:12</source>
-        <translation type="unfinished"></translation>
+        <translation>النساء: 12</translation>
     </message>
     <message>
         <source>Quran 4:176</source>
-        <translation type="unfinished"></translation>
+        <translation>النساء: 176</translation>
     </message>
     <message>
         <source>Quran 8:75</source>
-        <translation type="unfinished"></translation>
+        <translation>الأنفال: 75</translation>
     </message>
     <message>
         <source>report of Ibn Abbas</source>
-        <translation type="unfinished"></translation>
+        <translation>حديث ابن عباس</translation>
     </message>
     <message>
         <source>report of Ibn Masud</source>
-        <translation type="unfinished"></translation>
+        <translation>حديث ابن مسعود</translation>
     </message>
     <message>
         <source>reports of al-Mughira and Ubada</source>
-        <translation type="unfinished"></translation>
+        <translation>حديث المغيرة وحديث عبادة</translation>
     </message>
     <message>
         <source>report of Ali</source>
-        <translation type="unfinished"></translation>
+        <translation>حديث علي</translation>
     </message>
     <message>
         <source>ruling of Abu Bakr</source>
-        <translation type="unfinished"></translation>
+        <translation>قضاء أبي بكر</translation>
     </message>
     <message>
         <source>ruling of Umar</source>
-        <translation type="unfinished"></translation>
+        <translation>قضاء عمر</translation>
     </message>
     <message>
         <source>ruling of Zayd</source>
-        <translation type="unfinished"></translation>
+        <translation>قول زيد</translation>
     </message>
     <message>
         <source>ruling of Malik</source>
-        <translation type="unfinished"></translation>
+        <translation>قول مالك</translation>
     </message>
     <message>
         <source>Companions</source>
-        <translation type="unfinished"></translation>
+        <translation>الصحابة</translation>
     </message>
     <message>
         <source>consensus</source>
-        <translation type="unfinished"></translation>
+        <translation>الإجماع</translation>
     </message>
 </context>
 <context>
     <name>Words</name>
     <message>
         <source>the %1</source>
-        <translation type="unfinished"></translation>
+        <translation>%1</translation>
     </message>
     <message>
         <source>a %1</source>
-        <translation type="unfinished"></translation>
+        <translation>%1</translation>
     </message>
     <message>
         <source>the whole</source>
-        <translation type="unfinished"></translation>
+        <translation>المال كله</translation>
     </message>
     <message>
         <source>what is left</source>
-        <translation type="unfinished"></translation>
+        <translation>الباقي</translation>
     </message>
     <message>
         <source>children</source>
-        <translation type="unfinished"></translation>
+        <translation>الأولاد</translation>
     </message>
     <message>
         <source>children of sons</source>
-        <translation type="unfinished"></translation>
+        <translation>أولاد الأبناء</translation>
     </message>
     <message>
         <source>%1 (%2)</source>
         <comment>a reason and its source</comment>
-        <translation type="unfinished"></translation>
+        <translation>%1 (%2)</translation>
     </message>
     <message>
         <source>%1, and what is left beyond it</source>
-        <translation type="unfinished"></translation>
+        <translation>%1، وما يبقى بعده</translation>
     </message>
     <message>
         <source>%1; nothing is left beyond it</source>
-        <translation type="unfinished"></translation>
+        <translation>%1؛ ولا يبقى بعده شيء</translation>
     </message>
     <message>
         <source>%1; after Awl %2</source>
-        <translation type="unfinished"></translation>
+        <translation>%1؛ وبعد العول %2</translation>
     </message>
     <message>
         <source>%1; after Radd %2</source>
-        <translation type="unfinished"></translation>
+        <translation>%1؛ وبعد الرد %2</translation>
     </message>
     <message>
         <source>Gross estate</source>
-        <translation type="unfinished"></translation>
+        <translation>التركة</translation>
     </message>
     <message>
         <source>Funeral expenses</source>
-        <translation type="unfinished"></translation>
+        <translation>نفقات التجهيز</translation>
     </message>
     <message>
         <source>Debts</source>
-        <translation type="unfinished"></translation>
+        <translation>الديون</translation>
     </message>
     <message>
         <source>Bequests</source>
-        <translation type="unfinished"></translation>
+        <translation>الوصايا</translation>
     </message>
     <message>
         <source>The fixed shares exceed the estate: Awl raises the base from %1 to %2.</source>
-        <translation type="unfinished"></translation>
+        <translation>زادت الفروض على التركة، فعالت المسألة من %1 إلى %2.</translation>
     </message>
     <message>
         <source>The fixed shares leave something and there is no residuary: Radd returns it to the sharers other than the spouse.</source>
-        <translation type="unfinished"></translation>
+        <translation>بقي شيء بعد الفروض ولا عاصب، فيُرد على أصحاب الفروض غير الزوجين.</translation>
     </message>
     <message>
         <source>Beside the spouse there is no other heir: %1 is left over.</source>
-        <translation type="unfinished"></translation>
+        <translation>لا وارث مع أحد الزوجين، فيبقى %1.</translation>
     </message>
     <message>
         <source>The fixed shares fit the estate exactly.</source>
-        <translation type="unfinished"></translation>
+        <translation>الفروض تساوي التركة تمامًا.</translation>
     </message>
     <message>
         <source>The residuaries take what the fixed shares leave.</source>
-        <translation type="unfinished"></translation>
+        <translation>يأخذ العصبة ما يبقى بعد الفروض.</translation>
     </message>
     <message>
         <source>%1 − %2 %3</source>
         <comment>an estate, what is paid from it, the amount</comment>
-        <translation type="unfinished"></translation>
+        <translation>%1 − %2 %3</translation>
     </message>
     <message>
         <source>%1 or %2</source>
         <comment>amounts</comment>
-        <translation type="unfinished"></translation>
+        <translation>%1 أو %2</translation>
     </message>
     <message>
         <source>sharer</source>
-        <translation type="unfinished"></translation>
+        <translation>فرض</translation>
     </message>
     <message>
         <source>residuary</source>
-        <translation type="unfinished"></translation>
+        <translation>تعصيب</translation>
     </message>
     <message>
         <source>sharer and residuary</source>
-        <translation type="unfinished"></translation>
+        <translation>فرض وتعصيب</translation>
     </message>
     <message>
         <source>excluded</source>
-        <translation type="unfinished"></translation>
+        <translation>حجب</translation>
     </message>
     <message>
         <source>two thirds are taken</source>
-        <translation type="unfinished"></translation>
+        <translation>استُكمل الثلثان</translation>
     </message>
     <message>
         <source>not an heir in this school</source>
-        <translation type="unfinished"></translation>
+        <translation>غير وارثة في هذا المذهب</translation>
     </message>
     <message>
         <source>nothing is left</source>
-        <translation type="unfinished"></translation>
+        <translation>لم يبق شيء</translation>
     </message>
     <message>
         <source>Hanafi</source>
-        <translation type="unfinished"></translation>
+        <translation>الحنفي</translation>
     </message>
     <message>
         <source>Maliki</source>
-        <translation type="unfinished"></translation>
+        <translation>المالكي</translation>
     </message>
     <message>
         <source>Shafi&apos;i</source>
-        <translation type="unfinished"></translation>
+        <translation>الشافعي</translation>
     </message>
     <message>
         <source>Hanbali</source>
-        <translation type="unfinished"></translation>
+        <translation>الحنبلي</translation>
     </message>
     <message>
         <source>%1 law</source>
         <comment>of a school</comment>
-        <translation type="unfinished"></translation>
+        <translation>المذهب %1</translation>
     </message>
     <message>
         <source>yields to %1</source>
-        <translation type="unfinished"></translation>
+        <translation>الحجب لوجود %1</translation>
     </message>
     <message>
         <source>Nothing is divided while a field cannot be read.</source>
-        <translation type="unfinished"></translation>
+        <translation>لا يُقسم شيء ما دام حقل لا يُقرأ.</translation>
     </message>
     <message>
         <source>Nothing is left to divide: funeral expenses and debts exceed the estate by %1.</source>
-        <translation type="unfinished"></translation>
+        <translation>لم يبق ما يُقسم: نفقات التجهيز والديون تزيد على التركة بمقدار %1.</translation>
     </message>
     <message>
         <source>%1 is left, and no heir is alive who takes it.</source>
-        <translation type="unfinished"></translation>
+        <translation>يبقى %1 ولا وارث حيّ يأخذه.</translation>
     </message>
     <message>
         <source>%1 goes to one heir.</source>
-        <translation type="unfinished"></translation>
+        <translation>%1 لوارث واحد.</translation>
     </message>
     <message>
         <source>%1 is left. One heir takes a share. %2</source>
-        <translation type="unfinished"></translation>
+        <translation>يبقى %1. يأخذ وارث واحد نصيبًا. %2</translation>
     </message>
     <message>
         <source>%1 is divided among %2 heirs. %3</source>
-        <translation type="unfinished"></translation>
+        <translation>يُقسم %1 على الورثة وعددهم %2. %3</translation>
     </message>
     <message>
         <source>%1: &quot;%2&quot; is not a whole number</source>
-        <translation type="unfinished"></translation>
+        <translation>%1: &quot;%2&quot; ليس عددًا صحيحًا</translation>
     </message>
     <message>
         <source>%1: &quot;%2&quot; is more than %3</source>
-        <translation type="unfinished"></translation>
+        <translation>%1: &quot;%2&quot; أكثر من %3</translation>
     </message>
     <message>
         <source>%1: &quot;%2&quot; is not an amount</source>
-        <translation type="unfinished"></translation>
+        <translation>%1: &quot;%2&quot; ليس مبلغًا</translation>
     </message>
     <message>
         <source>%1: &quot;%2&quot; has more than two decimals</source>
-        <translation type="unfinished"></translation>
+        <translation>%1: &quot;%2&quot; فيه أكثر من منزلتين عشريتين</translation>
     </message>
     <message>
         <source>Base %1, corrected base %2</source>
-        <translation type="unfinished"></translation>
+        <translation>أصل المسألة %1، وتصحيحها %2</translation>
     </message>
     <message>
         <source>Base %1, raised to %2, corrected base %3</source>
-        <translation type="unfinished"></translation>
+        <translation>أصل المسألة %1، وتعول إلى %2، وتصحيحها %3</translation>
     </message>
     <message>
         <source>less %1</source>
-        <translation type="unfinished"></translation>
+        <translation>يُطرح: %1</translation>
     </message>
     <message>
         <source>funeral expenses</source>
-        <translation type="unfinished"></translation>
+        <translation>نفقات التجهيز</translation>
     </message>
     <message>
         <source>debts</source>
-        <translation type="unfinished"></translation>
+        <translation>الديون</translation>
     </message>
     <message>
         <source>bequests</source>
-        <translation type="unfinished"></translation>
+        <translation>الوصايا</translation>
     </message>
     <message>
         <source>Net estate</source>
-        <translation type="unfinished"></translation>
+        <translation>صافي التركة</translation>
     </message>
     <message>
         <source>Gross estate %1</source>
-        <translation type="unfinished"></translation>
+        <translation>التركة %1</translation>
     </message>
     <message>
         <source>Bequests of %1 are limited to %2, all that funeral expenses and debts leave.</source>
-        <translation type="unfinished"></translation>
+        <translation>وصايا بمقدار %1 تُحدّ بمقدار %2، وهو كل ما يبقى بعد نفقات التجهيز والديون.</translation>
     </message>
     <message>
         <source>Bequests of %1 are limited to %2, a third of what funeral expenses and debts leave. More needs the consent of the heirs.</source>
-        <translation type="unfinished"></translation>
+        <translation>وصايا بمقدار %1 تُحدّ بمقدار %2، وهو ثلث ما يبقى بعد نفقات التجهيز والديون. وما زاد فبإجازة الورثة.</translation>
     </message>
     <message>
         <source>Still the example with which Case Study opens: %1.</source>
-        <translation type="unfinished"></translation>
+        <translation>لا يزال هو المثال الذي تُفتح به شاشة Case Study: %1.</translation>
     </message>
     <message>
         <source>, </source>
         <comment>between the items of a list</comment>
-        <translation type="unfinished"></translation>
+        <translation>، </translation>
     </message>
     <message>
         <source>Heir</source>
-        <translation type="unfinished"></translation>
+        <translation>الوارث</translation>
     </message>
     <message>
         <source>Heads</source>
-        <translation type="unfinished"></translation>
+        <translation>العدد</translation>
     </message>
     <message>
         <source>Share</source>
-        <translation type="unfinished"></translation>
+        <translation>النصيب</translation>
     </message>
     <message>
         <source>of %1</source>
         <comment>parts of a base</comment>
-        <translation type="unfinished"></translation>
+        <translation>من %1</translation>
     </message>
     <message>
         <source>Together</source>
-        <translation type="unfinished"></translation>
+        <translation>المجموع</translation>
     </message>
     <message>
         <source>Each</source>
-        <translation type="unfinished"></translation>
+        <translation>لكل واحد</translation>
     </message>
     <message>
         <source>Why</source>
-        <translation type="unfinished"></translation>
+        <translation>السبب</translation>
     </message>
     <message>
         <source>Source</source>
-        <translation type="unfinished"></translation>
+        <translation>الدليل</translation>
     </message>
     <message>
         <source>Case Study</source>
-        <translation type="unfinished"></translation>
+        <translation>Case Study</translation>
     </message>
     <message>
         <source>Sum</source>
-        <translation type="unfinished"></translation>
+        <translation>الجملة</translation>
     </message>
     <message>
         <source>The commands of Case Study answer otherwise.</source>
-        <translation type="unfinished"></translation>
+        <translation>أوامر Case Study تجيب بغير ذلك.</translation>
     </message>
     <message>
         <source>Where Qismora differs</source>
-        <translation type="unfinished"></translation>
+        <translation>أين يختلف Qismora</translation>
+    </message>
+    <message>
+        <source>The deceased</source>
+        <translation>المتوفى</translation>
     </message>
 </context>
 </TS>

@@ -5,916 +5,1092 @@
     <name>Differences</name>
     <message>
         <source>The commands read an amount only up to its first comma.</source>
-        <translation type="unfinished"></translation>
+        <translation>احکامات رقم کو صرف پہلے کوما تک پڑھتے ہیں۔</translation>
     </message>
     <message>
         <source>The commands round funeral expenses, debts and wills to whole numbers.</source>
-        <translation type="unfinished"></translation>
+        <translation>احکامات تجہیز و تکفین، قرض اور وصیت کو پورے اعداد میں بدل دیتے ہیں۔</translation>
     </message>
     <message>
         <source>The commands refuse funeral expenses, debts and wills above 2,147,483,647.</source>
-        <translation type="unfinished"></translation>
+        <translation>احکامات 2,147,483,647 سے زیادہ تجہیز و تکفین، قرض اور وصیت قبول نہیں کرتے۔</translation>
     </message>
     <message>
         <source>Funeral expenses and debts exceed the estate. The commands refuse it, or divide a negative estate.</source>
-        <translation type="unfinished"></translation>
+        <translation>تجہیز و تکفین اور قرض ترکے سے زیادہ ہیں۔ احکامات اسے رد کرتے ہیں یا منفی ترکہ تقسیم کرتے ہیں۔</translation>
     </message>
     <message>
         <source>The commands limit the wills to a third of the gross estate, as a whole number, and not to a third of what funeral expenses and debts leave.</source>
-        <translation type="unfinished"></translation>
+        <translation>احکامات وصیت کو کل ترکے کے تہائی تک، پورے عدد میں، محدود کرتے ہیں، نہ کہ تجہیز و تکفین اور قرض کے بعد بچنے والے مال کے تہائی تک۔</translation>
     </message>
     <message>
         <source>No other heir is alive beside husband or wife. The commands show no figures.</source>
-        <translation type="unfinished"></translation>
+        <translation>شوہر یا بیوی کے سوا کوئی وارث نہیں۔ احکامات کوئی رقم نہیں دکھاتے۔</translation>
     </message>
     <message>
         <source>The fixed shares use up the estate exactly. The commands show no figures.</source>
-        <translation type="unfinished"></translation>
+        <translation>مقررہ حصے ترکے کو ٹھیک پورا کر دیتے ہیں۔ احکامات کوئی رقم نہیں دکھاتے۔</translation>
     </message>
     <message>
         <source>The estate is too large for the commands: they cannot round the spouse&apos;s amount and show no figures.</source>
-        <translation type="unfinished"></translation>
+        <translation>ترکہ احکامات کے لیے بہت بڑا ہے: وہ شوہر یا بیوی کی رقم کو پورے عدد میں نہیں بدل سکتے اور کوئی رقم نہیں دکھاتے۔</translation>
     </message>
     <message>
         <source>The family is too large for the fractions of the commands: they show no final figures.</source>
-        <translation type="unfinished"></translation>
+        <translation>خاندان احکامات کی کسور کے لیے بہت بڑا ہے: وہ آخری رقوم نہیں دکھاتے۔</translation>
     </message>
     <message>
         <source>The commands give a consanguine brother beside daughters nothing, unless a consanguine sister is alive.</source>
-        <translation type="unfinished"></translation>
+        <translation>احکامات بیٹیوں کے ساتھ علاتی بھائی کو کچھ نہیں دیتے، سوائے اس کے کہ علاتی بہن زندہ ہو۔</translation>
     </message>
     <message>
         <source>The commands let son&apos;s daughters share with the son&apos;s son&apos;s son instead of taking their fixed share.</source>
-        <translation type="unfinished"></translation>
+        <translation>احکامات پوتیوں کو مقررہ حصہ دینے کے بجائے پڑپوتے کے ساتھ شریک کرتے ہیں۔</translation>
     </message>
     <message>
         <source>The commands let son&apos;s daughters share with the son&apos;s son&apos;s son instead of taking their sixth. A son&apos;s son&apos;s daughter then takes nothing.</source>
-        <translation type="unfinished"></translation>
+        <translation>احکامات پوتیوں کو چھٹا حصہ دینے کے بجائے پڑپوتے کے ساتھ شریک کرتے ہیں۔ پھر پڑپوتی کو کچھ نہیں ملتا۔</translation>
     </message>
     <message>
         <source>The commands leave the son&apos;s son&apos;s daughter out of the residue that she shares with her brother.</source>
-        <translation type="unfinished"></translation>
+        <translation>احکامات پڑپوتی کو اس باقی سے خارج رکھتے ہیں جس میں وہ اپنے بھائی کے ساتھ شریک ہے۔</translation>
     </message>
     <message>
         <source>The commands give a son&apos;s son&apos;s daughter a sixth, though two daughters have taken the two thirds.</source>
-        <translation type="unfinished"></translation>
+        <translation>احکامات پڑپوتی کو چھٹا حصہ دیتے ہیں حالانکہ دو بیٹیاں دو تہائی لے چکی ہیں۔</translation>
     </message>
     <message>
         <source>The commands give a consanguine sister beside her brother and one full sister a sixth, and then her part of the residue.</source>
-        <translation type="unfinished"></translation>
+        <translation>احکامات علاتی بہن کو، جب اس کا بھائی اور ایک حقیقی بہن ساتھ ہوں، چھٹا حصہ دیتے ہیں اور پھر باقی میں سے اس کا حصہ بھی۔</translation>
     </message>
     <message>
         <source>Beside a grandfather the commands give the sixth of the great grandmothers to nobody, or also to the grandfather&apos;s mother.</source>
-        <translation type="unfinished"></translation>
+        <translation>دادا کے ساتھ احکامات پردادیوں اور پرنانیوں کا چھٹا حصہ کسی کو نہیں دیتے، یا دادا کی ماں کو بھی دیتے ہیں۔</translation>
     </message>
     <message>
         <source>The text of Aul has no line for a grandfather.</source>
-        <translation type="unfinished"></translation>
+        <translation>عول کی عبارت میں دادا کی سطر نہیں۔</translation>
     </message>
     <message>
         <source>The commands follow Hanafi law, from which this school differs here.</source>
-        <translation type="unfinished"></translation>
+        <translation>احکامات حنفی فقہ پر چلتے ہیں، جس سے یہ مذہب یہاں مختلف ہے۔</translation>
     </message>
 </context>
 <context>
     <name>Heirs</name>
     <message>
         <source>Wife</source>
-        <translation type="unfinished"></translation>
+        <translation>بیوی</translation>
     </message>
     <message>
         <source>Wives</source>
-        <translation type="unfinished"></translation>
+        <translation>بیویاں</translation>
     </message>
     <message>
         <source>Husband</source>
-        <translation type="unfinished"></translation>
+        <translation>شوہر</translation>
     </message>
     <message>
         <source>Son</source>
-        <translation type="unfinished"></translation>
+        <translation>بیٹا</translation>
     </message>
     <message>
         <source>Sons</source>
-        <translation type="unfinished"></translation>
+        <translation>بیٹے</translation>
     </message>
     <message>
         <source>Daughter</source>
-        <translation type="unfinished"></translation>
+        <translation>بیٹی</translation>
     </message>
     <message>
         <source>Daughters</source>
-        <translation type="unfinished"></translation>
+        <translation>بیٹیاں</translation>
     </message>
     <message>
         <source>Son&apos;s son</source>
-        <translation type="unfinished"></translation>
+        <translation>پوتا</translation>
     </message>
     <message>
         <source>Sons&apos; sons</source>
-        <translation type="unfinished"></translation>
+        <translation>پوتے</translation>
     </message>
     <message>
         <source>Son&apos;s daughter</source>
-        <translation type="unfinished"></translation>
+        <translation>پوتی</translation>
     </message>
     <message>
         <source>Sons&apos; daughters</source>
-        <translation type="unfinished"></translation>
+        <translation>پوتیاں</translation>
     </message>
     <message>
         <source>Son&apos;s son&apos;s son</source>
-        <translation type="unfinished"></translation>
+        <translation>پڑپوتا</translation>
     </message>
     <message>
         <source>Sons&apos; sons&apos; sons</source>
-        <translation type="unfinished"></translation>
+        <translation>پڑپوتے</translation>
     </message>
     <message>
         <source>Son&apos;s son&apos;s daughter</source>
-        <translation type="unfinished"></translation>
+        <translation>پڑپوتی</translation>
     </message>
     <message>
         <source>Sons&apos; sons&apos; daughters</source>
-        <translation type="unfinished"></translation>
+        <translation>پڑپوتیاں</translation>
     </message>
     <message>
         <source>Father</source>
-        <translation type="unfinished"></translation>
+        <translation>باپ</translation>
     </message>
     <message>
         <source>Grandfather</source>
-        <translation type="unfinished"></translation>
+        <translation>دادا</translation>
     </message>
     <message>
         <source>Great-grandfather</source>
-        <translation type="unfinished"></translation>
+        <translation>پردادا</translation>
     </message>
     <message>
         <source>Mother</source>
-        <translation type="unfinished"></translation>
+        <translation>ماں</translation>
     </message>
     <message>
         <source>Mother&apos;s mother</source>
-        <translation type="unfinished"></translation>
+        <translation>نانی</translation>
     </message>
     <message>
         <source>Mother&apos;s mother&apos;s mother</source>
-        <translation type="unfinished"></translation>
+        <translation>نانی کی ماں</translation>
     </message>
     <message>
         <source>Father&apos;s mother</source>
-        <translation type="unfinished"></translation>
+        <translation>دادی</translation>
     </message>
     <message>
         <source>Grandfather&apos;s mother</source>
-        <translation type="unfinished"></translation>
+        <translation>دادا کی ماں</translation>
     </message>
     <message>
         <source>Father&apos;s mother&apos;s mother</source>
-        <translation type="unfinished"></translation>
+        <translation>دادی کی ماں</translation>
     </message>
     <message>
         <source>Full brother</source>
-        <translation type="unfinished"></translation>
+        <translation>حقیقی بھائی</translation>
     </message>
     <message>
         <source>Full brothers</source>
-        <translation type="unfinished"></translation>
+        <translation>حقیقی بھائی</translation>
     </message>
     <message>
         <source>Full sister</source>
-        <translation type="unfinished"></translation>
+        <translation>حقیقی بہن</translation>
     </message>
     <message>
         <source>Full sisters</source>
-        <translation type="unfinished"></translation>
+        <translation>حقیقی بہنیں</translation>
     </message>
     <message>
         <source>Consanguine sister</source>
-        <translation type="unfinished"></translation>
+        <translation>علاتی بہن</translation>
     </message>
     <message>
         <source>Consanguine sisters</source>
-        <translation type="unfinished"></translation>
+        <translation>علاتی بہنیں</translation>
     </message>
     <message>
         <source>Consanguine brother</source>
-        <translation type="unfinished"></translation>
+        <translation>علاتی بھائی</translation>
     </message>
     <message>
         <source>Consanguine brothers</source>
-        <translation type="unfinished"></translation>
+        <translation>علاتی بھائی</translation>
     </message>
     <message>
         <source>Uterine sister</source>
-        <translation type="unfinished"></translation>
+        <translation>اخیافی بہن</translation>
     </message>
     <message>
         <source>Uterine sisters</source>
-        <translation type="unfinished"></translation>
+        <translation>اخیافی بہنیں</translation>
     </message>
     <message>
         <source>Uterine brother</source>
-        <translation type="unfinished"></translation>
+        <translation>اخیافی بھائی</translation>
     </message>
     <message>
         <source>Uterine brothers</source>
-        <translation type="unfinished"></translation>
+        <translation>اخیافی بھائی</translation>
     </message>
     <message>
         <source>Full brother&apos;s son</source>
-        <translation type="unfinished"></translation>
+        <translation>حقیقی بھائی کا بیٹا</translation>
     </message>
     <message>
         <source>Consanguine brother&apos;s son</source>
-        <translation type="unfinished"></translation>
+        <translation>علاتی بھائی کا بیٹا</translation>
     </message>
     <message>
         <source>Full brother&apos;s son&apos;s son</source>
-        <translation type="unfinished"></translation>
+        <translation>حقیقی بھائی کا پوتا</translation>
     </message>
     <message>
         <source>Consanguine brother&apos;s son&apos;s son</source>
-        <translation type="unfinished"></translation>
+        <translation>علاتی بھائی کا پوتا</translation>
     </message>
     <message>
         <source>Full uncle</source>
-        <translation type="unfinished"></translation>
+        <translation>حقیقی چچا</translation>
     </message>
     <message>
         <source>Consanguine uncle</source>
-        <translation type="unfinished"></translation>
+        <translation>علاتی چچا</translation>
     </message>
     <message>
         <source>Full uncle&apos;s son</source>
-        <translation type="unfinished"></translation>
+        <translation>حقیقی چچا کا بیٹا</translation>
     </message>
     <message>
         <source>Consanguine uncle&apos;s son</source>
-        <translation type="unfinished"></translation>
+        <translation>علاتی چچا کا بیٹا</translation>
     </message>
     <message>
         <source>Full uncle&apos;s son&apos;s son</source>
-        <translation type="unfinished"></translation>
+        <translation>حقیقی چچا کا پوتا</translation>
     </message>
     <message>
         <source>Consanguine uncle&apos;s son&apos;s son</source>
-        <translation type="unfinished"></translation>
+        <translation>علاتی چچا کا پوتا</translation>
     </message>
     <message>
         <source>Full uncle&apos;s son&apos;s son&apos;s son</source>
-        <translation type="unfinished"></translation>
+        <translation>حقیقی چچا کا پڑپوتا</translation>
     </message>
     <message>
         <source>Consanguine uncle&apos;s son&apos;s son&apos;s son</source>
-        <translation type="unfinished"></translation>
+        <translation>علاتی چچا کا پڑپوتا</translation>
     </message>
     <message>
         <source>Remainder</source>
-        <translation type="unfinished"></translation>
+        <translation>باقی</translation>
     </message>
 </context>
 <context>
     <name>HeirsInSentences</name>
     <message>
         <source>wife</source>
-        <translation type="unfinished"></translation>
+        <translation>بیوی</translation>
     </message>
     <message>
         <source>husband</source>
-        <translation type="unfinished"></translation>
+        <translation>شوہر</translation>
     </message>
     <message>
         <source>son</source>
-        <translation type="unfinished"></translation>
+        <translation>بیٹے</translation>
     </message>
     <message>
         <source>daughter</source>
-        <translation type="unfinished"></translation>
+        <translation>بیٹی</translation>
     </message>
     <message>
         <source>son&apos;s son</source>
-        <translation type="unfinished"></translation>
+        <translation>پوتے</translation>
     </message>
     <message>
         <source>son&apos;s daughter</source>
-        <translation type="unfinished"></translation>
+        <translation>پوتی</translation>
     </message>
     <message>
         <source>son&apos;s son&apos;s son</source>
-        <translation type="unfinished"></translation>
+        <translation>پڑپوتے</translation>
     </message>
     <message>
         <source>son&apos;s son&apos;s daughter</source>
-        <translation type="unfinished"></translation>
+        <translation>پڑپوتی</translation>
     </message>
     <message>
         <source>father</source>
-        <translation type="unfinished"></translation>
+        <translation>باپ</translation>
     </message>
     <message>
         <source>grandfather</source>
-        <translation type="unfinished"></translation>
+        <translation>دادا</translation>
     </message>
     <message>
         <source>great-grandfather</source>
-        <translation type="unfinished"></translation>
+        <translation>پردادا</translation>
     </message>
     <message>
         <source>mother</source>
-        <translation type="unfinished"></translation>
+        <translation>ماں</translation>
     </message>
     <message>
         <source>mother&apos;s mother</source>
-        <translation type="unfinished"></translation>
+        <translation>نانی</translation>
     </message>
     <message>
         <source>mother&apos;s mother&apos;s mother</source>
-        <translation type="unfinished"></translation>
+        <translation>نانی کی ماں</translation>
     </message>
     <message>
         <source>father&apos;s mother</source>
-        <translation type="unfinished"></translation>
+        <translation>دادی</translation>
     </message>
     <message>
         <source>grandfather&apos;s mother</source>
-        <translation type="unfinished"></translation>
+        <translation>دادا کی ماں</translation>
     </message>
     <message>
         <source>father&apos;s mother&apos;s mother</source>
-        <translation type="unfinished"></translation>
+        <translation>دادی کی ماں</translation>
     </message>
     <message>
         <source>full brother</source>
-        <translation type="unfinished"></translation>
+        <translation>حقیقی بھائی</translation>
     </message>
     <message>
         <source>full sister</source>
-        <translation type="unfinished"></translation>
+        <translation>حقیقی بہن</translation>
     </message>
     <message>
         <source>consanguine sister</source>
-        <translation type="unfinished"></translation>
+        <translation>علاتی بہن</translation>
     </message>
     <message>
         <source>consanguine brother</source>
-        <translation type="unfinished"></translation>
+        <translation>علاتی بھائی</translation>
     </message>
     <message>
         <source>uterine sister</source>
-        <translation type="unfinished"></translation>
+        <translation>اخیافی بہن</translation>
     </message>
     <message>
         <source>uterine brother</source>
-        <translation type="unfinished"></translation>
+        <translation>اخیافی بھائی</translation>
     </message>
     <message>
         <source>full brother&apos;s son</source>
-        <translation type="unfinished"></translation>
+        <translation>حقیقی بھائی کے بیٹے</translation>
     </message>
     <message>
         <source>consanguine brother&apos;s son</source>
-        <translation type="unfinished"></translation>
+        <translation>علاتی بھائی کے بیٹے</translation>
     </message>
     <message>
         <source>full brother&apos;s son&apos;s son</source>
-        <translation type="unfinished"></translation>
+        <translation>حقیقی بھائی کے پوتے</translation>
     </message>
     <message>
         <source>consanguine brother&apos;s son&apos;s son</source>
-        <translation type="unfinished"></translation>
+        <translation>علاتی بھائی کے پوتے</translation>
     </message>
     <message>
         <source>full uncle</source>
-        <translation type="unfinished"></translation>
+        <translation>حقیقی چچا</translation>
     </message>
     <message>
         <source>consanguine uncle</source>
-        <translation type="unfinished"></translation>
+        <translation>علاتی چچا</translation>
     </message>
     <message>
         <source>full uncle&apos;s son</source>
-        <translation type="unfinished"></translation>
+        <translation>حقیقی چچا کے بیٹے</translation>
     </message>
     <message>
         <source>consanguine uncle&apos;s son</source>
-        <translation type="unfinished"></translation>
+        <translation>علاتی چچا کے بیٹے</translation>
     </message>
     <message>
         <source>full uncle&apos;s son&apos;s son</source>
-        <translation type="unfinished"></translation>
+        <translation>حقیقی چچا کے پوتے</translation>
     </message>
     <message>
         <source>consanguine uncle&apos;s son&apos;s son</source>
-        <translation type="unfinished"></translation>
+        <translation>علاتی چچا کے پوتے</translation>
     </message>
     <message>
         <source>full uncle&apos;s son&apos;s son&apos;s son</source>
-        <translation type="unfinished"></translation>
+        <translation>حقیقی چچا کے پڑپوتے</translation>
     </message>
     <message>
         <source>consanguine uncle&apos;s son&apos;s son&apos;s son</source>
-        <translation type="unfinished"></translation>
+        <translation>علاتی چچا کے پڑپوتے</translation>
     </message>
     <message>
         <source>remainder</source>
-        <translation type="unfinished"></translation>
+        <translation>باقی</translation>
+    </message>
+</context>
+<context>
+    <name>Help</name>
+    <message>
+        <source>User&apos;s &amp;guide</source>
+        <translation>رہنمائے &amp;استعمال</translation>
+    </message>
+    <message>
+        <source>Where Qismora &amp;differs</source>
+        <translation>Qismora کہاں &amp;مختلف ہے</translation>
+    </message>
+    <message>
+        <source>The division and its &amp;law</source>
+        <translation>تقسیم اور اس کی &amp;فقہ</translation>
+    </message>
+    <message>
+        <source>All &amp;keys</source>
+        <translation>تمام &amp;کنجیاں</translation>
+    </message>
+    <message>
+        <source>Help - Qismora</source>
+        <translation>مدد - Qismora</translation>
+    </message>
+    <message>
+        <source>Help</source>
+        <translation>مدد</translation>
+    </message>
+    <message>
+        <source>Page</source>
+        <translation>صفحہ</translation>
+    </message>
+    <message>
+        <source>Headings of the page</source>
+        <translation>صفحے کی سرخیاں</translation>
+    </message>
+    <message>
+        <source>Contents</source>
+        <translation>فہرست</translation>
+    </message>
+    <message>
+        <source>Back</source>
+        <translation>پیچھے</translation>
+    </message>
+    <message>
+        <source>Forward</source>
+        <translation>آگے</translation>
+    </message>
+    <message>
+        <source>Find in the page (Ctrl+F)</source>
+        <translation>صفحے میں تلاش (Ctrl+F)</translation>
+    </message>
+    <message>
+        <source>Find in the page</source>
+        <translation>صفحے میں تلاش</translation>
+    </message>
+    <message>
+        <source>Next</source>
+        <translation>اگلا</translation>
+    </message>
+    <message>
+        <source>Previous</source>
+        <translation>پچھلا</translation>
+    </message>
+    <message>
+        <source>%1 is not installed.</source>
+        <translation>%1 نصب نہیں ہے۔</translation>
+    </message>
+    <message>
+        <source>Continued from the other end of the page.</source>
+        <translation>صفحے کے دوسرے سرے سے جاری۔</translation>
+    </message>
+    <message>
+        <source>The page does not contain &quot;%1&quot;.</source>
+        <translation>صفحے میں &quot;%1&quot; نہیں ملا۔</translation>
+    </message>
+</context>
+<context>
+    <name>Paper</name>
+    <message>
+        <source>Division</source>
+        <translation>تقسیمِ ترکہ</translation>
+    </message>
+    <message>
+        <source>Division - %1</source>
+        <comment>name of a file</comment>
+        <translation>تقسیمِ ترکہ - %1</translation>
+    </message>
+    <message>
+        <source>a man</source>
+        <translation>مرد</translation>
+    </message>
+    <message>
+        <source>a woman</source>
+        <translation>عورت</translation>
+    </message>
+    <message>
+        <source>%1, %2</source>
+        <comment>a name, a man or a woman</comment>
+        <translation>%1، %2</translation>
+    </message>
+    <message>
+        <source>Date</source>
+        <translation>تاریخ</translation>
+    </message>
+    <message>
+        <source>School</source>
+        <translation>مذہب</translation>
+    </message>
+    <message>
+        <source>The estate</source>
+        <translation>ترکہ</translation>
+    </message>
+    <message>
+        <source>The table below is the division by the books.</source>
+        <translation>نیچے کا جدول کتبِ فقہ کے مطابق تقسیم ہے۔</translation>
+    </message>
+    <message>
+        <source>Alive, and receive nothing</source>
+        <translation>زندہ ہیں مگر حصہ نہیں پاتے</translation>
+    </message>
+    <message>
+        <source>Name</source>
+        <translation>نام</translation>
+    </message>
+    <message>
+        <source>Signature</source>
+        <translation>دستخط</translation>
+    </message>
+    <message>
+        <source>Place and date</source>
+        <translation>مقام اور تاریخ</translation>
+    </message>
+    <message>
+        <source>The family</source>
+        <translation>خاندان</translation>
+    </message>
+    <message>
+        <source>Division of an estate</source>
+        <translation>ترکے کی تقسیم</translation>
+    </message>
+    <message>
+        <source>The division</source>
+        <translation>تقسیم</translation>
+    </message>
+    <message>
+        <source>Computed by %1 from the figures above. This paper is no judgment of a court and no fatwa: ask a scholar before the estate is divided.</source>
+        <translation>اوپر کے اعداد سے %1 کے مطابق حساب کیا گیا۔ یہ کاغذ نہ عدالت کا فیصلہ ہے نہ فتویٰ: ترکہ تقسیم کرنے سے پہلے کسی عالم سے پوچھیے۔</translation>
+    </message>
+    <message>
+        <source>Qismora - page %1 of %2</source>
+        <translation>Qismora - صفحہ %1 از %2</translation>
+    </message>
+    <message>
+        <source>%1 is not saved: %2.</source>
+        <translation>%1 محفوظ نہیں ہوئی: %2۔</translation>
+    </message>
+    <message>
+        <source>Printing is not installed with this program. A PDF file can be saved and printed elsewhere.</source>
+        <translation>اس پروگرام کے ساتھ چھپائی نصب نہیں۔ PDF فائل محفوظ کر کے کہیں اور چھاپی جا سکتی ہے۔</translation>
+    </message>
+    <message>
+        <source>Save as PDF</source>
+        <translation>PDF میں محفوظ کریں</translation>
+    </message>
+    <message>
+        <source>PDF files (*.pdf)</source>
+        <translation>PDF فائلیں (*.pdf)</translation>
+    </message>
+    <message>
+        <source>Saved: %1</source>
+        <translation>محفوظ ہوا: %1</translation>
     </message>
 </context>
 <context>
     <name>Reasons</name>
     <message>
         <source>{share} because there are {descendants}</source>
-        <translation type="unfinished"></translation>
+        <translation>{share} کیونکہ {descendants} موجود ہے</translation>
     </message>
     <message>
         <source>{share} because there are no descendants</source>
-        <translation type="unfinished"></translation>
+        <translation>{share} کیونکہ اولاد موجود نہیں</translation>
     </message>
     <message>
         <source>{share}, one without a son</source>
-        <translation type="unfinished"></translation>
+        <translation>{share}، ایک ہے اور بیٹا نہیں</translation>
     </message>
     <message>
         <source>{share}, two or more without a son</source>
-        <translation type="unfinished"></translation>
+        <translation>{share}، دو یا زیادہ ہیں اور بیٹا نہیں</translation>
     </message>
     <message>
         <source>{share}, one in {a heir}&apos;s place</source>
-        <translation type="unfinished"></translation>
+        <translation>{share}، ایک ہے، {a heir} کی جگہ</translation>
     </message>
     <message>
         <source>{share}, two or more in {a heir}&apos;s place</source>
-        <translation type="unfinished"></translation>
+        <translation>{share}، دو یا زیادہ ہیں، {a heir} کی جگہ</translation>
     </message>
     <message>
         <source>{share} completes two thirds beside one {heir}</source>
-        <translation type="unfinished"></translation>
+        <translation>{share}، ایک {heir} کے ساتھ دو تہائی پورا کرنے کو</translation>
     </message>
     <message>
         <source>{share} in the father&apos;s place</source>
-        <translation type="unfinished"></translation>
+        <translation>{share}، باپ کی جگہ</translation>
     </message>
     <message>
         <source>{share} because there are two or more siblings</source>
-        <translation type="unfinished"></translation>
+        <translation>{share} کیونکہ دو یا زیادہ بھائی بہن ہیں</translation>
     </message>
     <message>
         <source>{share}, neither descendants nor two siblings</source>
-        <translation type="unfinished"></translation>
+        <translation>{share}، نہ اولاد ہے نہ دو بھائی بہن</translation>
     </message>
     <message>
         <source>{share}, al-Umariyyatan: a third of what {a heir} leaves</source>
-        <translation type="unfinished"></translation>
+        <translation>{share}، عمریتان: {a heir} کے حصے کے بعد باقی کا تہائی</translation>
     </message>
     <message>
         <source>{share} as grandmother</source>
-        <translation type="unfinished"></translation>
+        <translation>{share} بطور جدہ</translation>
     </message>
     <message>
         <source>{share} together with the other grandmothers</source>
-        <translation type="unfinished"></translation>
+        <translation>{share}، دوسری جدات کے ساتھ مشترک</translation>
     </message>
     <message>
         <source>{share}, one without a brother</source>
-        <translation type="unfinished"></translation>
+        <translation>{share}، ایک ہے اور بھائی نہیں</translation>
     </message>
     <message>
         <source>{share}, two or more without a brother</source>
-        <translation type="unfinished"></translation>
+        <translation>{share}، دو یا زیادہ ہیں اور بھائی نہیں</translation>
     </message>
     <message>
         <source>{share}, one uterine sibling alone</source>
-        <translation type="unfinished"></translation>
+        <translation>{share}، اکیلا اخیافی بھائی یا بہن</translation>
     </message>
     <message>
         <source>{share} together, men and women alike</source>
-        <translation type="unfinished"></translation>
+        <translation>{share} مشترک، مرد اور عورت برابر</translation>
     </message>
     <message>
         <source>{share}, al-Mushtaraka: full and uterine siblings alike</source>
-        <translation type="unfinished"></translation>
+        <translation>{share}، مسئلہ مشترکہ: حقیقی اور اخیافی برابر</translation>
     </message>
     <message>
         <source>takes {left}, nearest male</source>
-        <translation type="unfinished"></translation>
+        <translation>عصبہ، قریب ترین مرد: {left}</translation>
     </message>
     <message>
         <source>takes {left}, two parts to {a heir}&apos;s one</source>
-        <translation type="unfinished"></translation>
+        <translation>عصبہ: {left}، {a heir} کے ایک حصے کے مقابل دو حصے</translation>
     </message>
     <message>
         <source>takes {left}, one part to {a heir}&apos;s two</source>
-        <translation type="unfinished"></translation>
+        <translation>عصبہ بالغیر: {left}، {a heir} کے دو حصوں کے مقابل ایک حصہ</translation>
     </message>
     <message>
         <source>takes {left} beside {a heir}</source>
-        <translation type="unfinished"></translation>
+        <translation>عصبہ مع الغیر، {a heir} کے ساتھ: {left}</translation>
     </message>
     <message>
         <source>al-Akdariyya: his 1/6 and her 1/2 joined, two parts to one</source>
-        <translation type="unfinished"></translation>
+        <translation>مسئلہ اکدریہ: دادا کا 1/6 اور بہن کا 1/2 ملا کر، مرد کے دو حصے اور عورت کا ایک</translation>
     </message>
     <message>
         <source>al-Malikiyya: takes {left}, siblings would have nothing</source>
-        <translation type="unfinished"></translation>
+        <translation>مسئلہ مالکیہ: {left}، کیونکہ دادا نہ ہوتا تب بھی ان بھائی بہنوں کو کچھ نہ ملتا</translation>
     </message>
     <message>
         <source>{share}, his least beside siblings</source>
-        <translation type="unfinished"></translation>
+        <translation>{share}، بھائی بہنوں کے ساتھ دادا کا کم سے کم حصہ</translation>
     </message>
     <message>
         <source>shares as a brother with the siblings</source>
-        <translation type="unfinished"></translation>
+        <translation>بھائی بہنوں کے ساتھ بھائی کی طرح مقاسمہ</translation>
     </message>
     <message>
         <source>{share} of the whole, more than a brother&apos;s part</source>
-        <translation type="unfinished"></translation>
+        <translation>کل مال کا {share}، بھائی کے حصے سے زیادہ</translation>
     </message>
     <message>
         <source>1/3 of the remainder, more than a brother&apos;s part</source>
-        <translation type="unfinished"></translation>
+        <translation>باقی کا 1/3، بھائی کے حصے سے زیادہ</translation>
     </message>
     <message>
         <source>takes what the grandfather leaves</source>
-        <translation type="unfinished"></translation>
+        <translation>دادا کے بعد جو بچے</translation>
     </message>
     <message>
         <source>takes up to {share} of what the grandfather leaves</source>
-        <translation type="unfinished"></translation>
+        <translation>دادا کے بعد جو بچے اس میں سے {share} تک</translation>
     </message>
     <message>
         <source>mu&apos;adda: takes what the full sisters leave</source>
-        <translation type="unfinished"></translation>
+        <translation>معادہ: حقیقی بہنوں کے بعد جو بچے</translation>
     </message>
     <message>
         <source>excluded by {a heir}</source>
-        <translation type="unfinished"></translation>
+        <translation>{a heir} کی وجہ سے محجوب</translation>
     </message>
     <message>
         <source>two thirds are taken</source>
-        <translation type="unfinished"></translation>
+        <translation>دو تہائی پورے ہو چکے</translation>
     </message>
     <message>
         <source>not an heir in this school</source>
-        <translation type="unfinished"></translation>
+        <translation>اس مذہب میں وارث نہیں</translation>
     </message>
     <message>
         <source>nothing is left</source>
-        <translation type="unfinished"></translation>
+        <translation>کچھ باقی نہیں</translation>
     </message>
     <message>
         <source>to distant kindred; if there is none, later Hanafi jurists return it to the spouse</source>
-        <translation type="unfinished"></translation>
+        <translation>ذوی الارحام کو؛ وہ نہ ہوں تو متاخرین احناف کے نزدیک شوہر یا بیوی پر رد</translation>
     </message>
     <message>
         <source>to distant kindred; if there is none, to the treasury</source>
-        <translation type="unfinished"></translation>
+        <translation>ذوی الارحام کو؛ وہ نہ ہوں تو بیت المال کو</translation>
     </message>
 </context>
 <context>
     <name>Sources</name>
     <message>
         <source>Quran 4:11</source>
-        <translation type="unfinished"></translation>
+        <translation>النساء: 11</translation>
     </message>
     <message>
         <source>Quran 4:12</source>
-        <translation type="unfinished"></translation>
+        <translation>النساء: 12</translation>
     </message>
     <message>
         <source>Quran 4:176</source>
-        <translation type="unfinished"></translation>
+        <translation>النساء: 176</translation>
     </message>
     <message>
         <source>Quran 8:75</source>
-        <translation type="unfinished"></translation>
+        <translation>الانفال: 75</translation>
     </message>
     <message>
         <source>report of Ibn Abbas</source>
-        <translation type="unfinished"></translation>
+        <translation>حدیثِ ابن عباس</translation>
     </message>
     <message>
         <source>report of Ibn Masud</source>
-        <translation type="unfinished"></translation>
+        <translation>حدیثِ ابن مسعود</translation>
     </message>
     <message>
         <source>reports of al-Mughira and Ubada</source>
-        <translation type="unfinished"></translation>
+        <translation>احادیثِ مغیرہ و عبادہ</translation>
     </message>
     <message>
         <source>report of Ali</source>
-        <translation type="unfinished"></translation>
+        <translation>حدیثِ علی</translation>
     </message>
     <message>
         <source>ruling of Abu Bakr</source>
-        <translation type="unfinished"></translation>
+        <translation>فیصلۂ ابوبکر</translation>
     </message>
     <message>
         <source>ruling of Umar</source>
-        <translation type="unfinished"></translation>
+        <translation>فیصلۂ عمر</translation>
     </message>
     <message>
         <source>ruling of Zayd</source>
-        <translation type="unfinished"></translation>
+        <translation>قولِ زید</translation>
     </message>
     <message>
         <source>ruling of Malik</source>
-        <translation type="unfinished"></translation>
+        <translation>قولِ مالک</translation>
     </message>
     <message>
         <source>Companions</source>
-        <translation type="unfinished"></translation>
+        <translation>صحابہ</translation>
     </message>
     <message>
         <source>consensus</source>
-        <translation type="unfinished"></translation>
+        <translation>اجماع</translation>
     </message>
 </context>
 <context>
     <name>Words</name>
     <message>
         <source>the %1</source>
-        <translation type="unfinished"></translation>
+        <translation>%1</translation>
     </message>
     <message>
         <source>a %1</source>
-        <translation type="unfinished"></translation>
+        <translation>%1</translation>
     </message>
     <message>
         <source>the whole</source>
-        <translation type="unfinished"></translation>
+        <translation>سارا مال</translation>
     </message>
     <message>
         <source>what is left</source>
-        <translation type="unfinished"></translation>
+        <translation>باقی مال</translation>
     </message>
     <message>
         <source>children</source>
-        <translation type="unfinished"></translation>
+        <translation>اولاد</translation>
     </message>
     <message>
         <source>children of sons</source>
-        <translation type="unfinished"></translation>
+        <translation>بیٹوں کی اولاد</translation>
     </message>
     <message>
         <source>%1 (%2)</source>
         <comment>a reason and its source</comment>
-        <translation type="unfinished"></translation>
+        <translation>%1 (%2)</translation>
     </message>
     <message>
         <source>%1, and what is left beyond it</source>
-        <translation type="unfinished"></translation>
+        <translation>%1، اور اس کے بعد جو بچے</translation>
     </message>
     <message>
         <source>%1; nothing is left beyond it</source>
-        <translation type="unfinished"></translation>
+        <translation>%1؛ اس کے بعد کچھ نہیں بچتا</translation>
     </message>
     <message>
         <source>%1; after Awl %2</source>
-        <translation type="unfinished"></translation>
+        <translation>%1؛ عول کے بعد %2</translation>
     </message>
     <message>
         <source>%1; after Radd %2</source>
-        <translation type="unfinished"></translation>
+        <translation>%1؛ رد کے بعد %2</translation>
     </message>
     <message>
         <source>Gross estate</source>
-        <translation type="unfinished"></translation>
+        <translation>کل ترکہ</translation>
     </message>
     <message>
         <source>Funeral expenses</source>
-        <translation type="unfinished"></translation>
+        <translation>تجہیز و تکفین</translation>
     </message>
     <message>
         <source>Debts</source>
-        <translation type="unfinished"></translation>
+        <translation>قرض</translation>
     </message>
     <message>
         <source>Bequests</source>
-        <translation type="unfinished"></translation>
+        <translation>وصیت</translation>
     </message>
     <message>
         <source>The fixed shares exceed the estate: Awl raises the base from %1 to %2.</source>
-        <translation type="unfinished"></translation>
+        <translation>مقررہ حصے ترکے سے بڑھ گئے: عول سے اصل مسئلہ %1 سے %2 ہوا۔</translation>
     </message>
     <message>
         <source>The fixed shares leave something and there is no residuary: Radd returns it to the sharers other than the spouse.</source>
-        <translation type="unfinished"></translation>
+        <translation>مقررہ حصوں کے بعد کچھ بچا اور کوئی عصبہ نہیں: رد کے ذریعے وہ شوہر یا بیوی کے سوا ذوی الفروض کو لوٹا۔</translation>
     </message>
     <message>
         <source>Beside the spouse there is no other heir: %1 is left over.</source>
-        <translation type="unfinished"></translation>
+        <translation>شوہر یا بیوی کے سوا کوئی وارث نہیں: %1 باقی رہا۔</translation>
     </message>
     <message>
         <source>The fixed shares fit the estate exactly.</source>
-        <translation type="unfinished"></translation>
+        <translation>مقررہ حصے ترکے پر ٹھیک پورے آئے۔</translation>
     </message>
     <message>
         <source>The residuaries take what the fixed shares leave.</source>
-        <translation type="unfinished"></translation>
+        <translation>مقررہ حصوں کے بعد جو بچے وہ عصبہ لیتے ہیں۔</translation>
     </message>
     <message>
         <source>%1 − %2 %3</source>
         <comment>an estate, what is paid from it, the amount</comment>
-        <translation type="unfinished"></translation>
+        <translation>%1 − %2 %3</translation>
     </message>
     <message>
         <source>%1 or %2</source>
         <comment>amounts</comment>
-        <translation type="unfinished"></translation>
+        <translation>%1 یا %2</translation>
     </message>
     <message>
         <source>sharer</source>
-        <translation type="unfinished"></translation>
+        <translation>صاحبِ فرض</translation>
     </message>
     <message>
         <source>residuary</source>
-        <translation type="unfinished"></translation>
+        <translation>عصبہ</translation>
     </message>
     <message>
         <source>sharer and residuary</source>
-        <translation type="unfinished"></translation>
+        <translation>صاحبِ فرض اور عصبہ</translation>
     </message>
     <message>
         <source>excluded</source>
-        <translation type="unfinished"></translation>
+        <translation>محجوب</translation>
     </message>
     <message>
         <source>two thirds are taken</source>
-        <translation type="unfinished"></translation>
+        <translation>دو تہائی پورے ہو چکے</translation>
     </message>
     <message>
         <source>not an heir in this school</source>
-        <translation type="unfinished"></translation>
+        <translation>اس مذہب میں وارث نہیں</translation>
     </message>
     <message>
         <source>nothing is left</source>
-        <translation type="unfinished"></translation>
+        <translation>کچھ باقی نہیں</translation>
     </message>
     <message>
         <source>Hanafi</source>
-        <translation type="unfinished"></translation>
+        <translation>حنفی</translation>
     </message>
     <message>
         <source>Maliki</source>
-        <translation type="unfinished"></translation>
+        <translation>مالکی</translation>
     </message>
     <message>
         <source>Shafi&apos;i</source>
-        <translation type="unfinished"></translation>
+        <translation>شافعی</translation>
     </message>
     <message>
         <source>Hanbali</source>
-        <translation type="unfinished"></translation>
+        <translation>حنبلی</translation>
     </message>
     <message>
         <source>%1 law</source>
         <comment>of a school</comment>
-        <translation type="unfinished"></translation>
+        <translation>فقہ %1</translation>
     </message>
     <message>
         <source>yields to %1</source>
-        <translation type="unfinished"></translation>
+        <translation>%1 کی وجہ سے محجوب</translation>
     </message>
     <message>
         <source>Nothing is divided while a field cannot be read.</source>
-        <translation type="unfinished"></translation>
+        <translation>جب تک کوئی خانہ پڑھا نہ جا سکے، کچھ تقسیم نہیں ہوتا۔</translation>
     </message>
     <message>
         <source>Nothing is left to divide: funeral expenses and debts exceed the estate by %1.</source>
-        <translation type="unfinished"></translation>
+        <translation>تقسیم کے لیے کچھ نہیں بچا: تجہیز و تکفین اور قرض ترکے سے %1 زیادہ ہیں۔</translation>
     </message>
     <message>
         <source>%1 is left, and no heir is alive who takes it.</source>
-        <translation type="unfinished"></translation>
+        <translation>%1 باقی ہے اور اسے لینے والا کوئی وارث زندہ نہیں۔</translation>
     </message>
     <message>
         <source>%1 goes to one heir.</source>
-        <translation type="unfinished"></translation>
+        <translation>%1 ایک وارث کو ملتا ہے۔</translation>
     </message>
     <message>
         <source>%1 is left. One heir takes a share. %2</source>
-        <translation type="unfinished"></translation>
+        <translation>%1 باقی ہے۔ ایک وارث حصہ لیتا ہے۔ %2</translation>
     </message>
     <message>
         <source>%1 is divided among %2 heirs. %3</source>
-        <translation type="unfinished"></translation>
+        <translation>%1 کی تقسیم %2 وارثوں میں۔ %3</translation>
     </message>
     <message>
         <source>%1: &quot;%2&quot; is not a whole number</source>
-        <translation type="unfinished"></translation>
+        <translation>%1: &quot;%2&quot; پورا عدد نہیں</translation>
     </message>
     <message>
         <source>%1: &quot;%2&quot; is more than %3</source>
-        <translation type="unfinished"></translation>
+        <translation>%1: &quot;%2&quot; زیادہ سے زیادہ %3 ہو سکتا ہے</translation>
     </message>
     <message>
         <source>%1: &quot;%2&quot; is not an amount</source>
-        <translation type="unfinished"></translation>
+        <translation>%1: &quot;%2&quot; رقم نہیں</translation>
     </message>
     <message>
         <source>%1: &quot;%2&quot; has more than two decimals</source>
-        <translation type="unfinished"></translation>
+        <translation>%1: &quot;%2&quot; میں دو سے زیادہ اعشاری ہندسے ہیں</translation>
     </message>
     <message>
         <source>Base %1, corrected base %2</source>
-        <translation type="unfinished"></translation>
+        <translation>اصل مسئلہ %1، تصحیح %2</translation>
     </message>
     <message>
         <source>Base %1, raised to %2, corrected base %3</source>
-        <translation type="unfinished"></translation>
+        <translation>اصل مسئلہ %1، عول %2، تصحیح %3</translation>
     </message>
     <message>
         <source>less %1</source>
-        <translation type="unfinished"></translation>
+        <translation>منہا: %1</translation>
     </message>
     <message>
         <source>funeral expenses</source>
-        <translation type="unfinished"></translation>
+        <translation>تجہیز و تکفین</translation>
     </message>
     <message>
         <source>debts</source>
-        <translation type="unfinished"></translation>
+        <translation>قرض</translation>
     </message>
     <message>
         <source>bequests</source>
-        <translation type="unfinished"></translation>
+        <translation>وصیت</translation>
     </message>
     <message>
         <source>Net estate</source>
-        <translation type="unfinished"></translation>
+        <translation>خالص ترکہ</translation>
     </message>
     <message>
         <source>Gross estate %1</source>
-        <translation type="unfinished"></translation>
+        <translation>کل ترکہ %1</translation>
     </message>
     <message>
         <source>Bequests of %1 are limited to %2, all that funeral expenses and debts leave.</source>
-        <translation type="unfinished"></translation>
+        <translation>%1 کی وصیت %2 تک محدود ہے، یعنی تجہیز و تکفین اور قرض کے بعد جو کچھ بچا۔</translation>
     </message>
     <message>
         <source>Bequests of %1 are limited to %2, a third of what funeral expenses and debts leave. More needs the consent of the heirs.</source>
-        <translation type="unfinished"></translation>
+        <translation>%1 کی وصیت %2 تک محدود ہے، یعنی تجہیز و تکفین اور قرض کے بعد بچے مال کا تہائی۔ اس سے زیادہ کے لیے وارثوں کی رضامندی چاہیے۔</translation>
     </message>
     <message>
         <source>Still the example with which Case Study opens: %1.</source>
-        <translation type="unfinished"></translation>
+        <translation>ابھی وہی مثال ہے جس کے ساتھ Case Study کھلتی ہے: %1۔</translation>
     </message>
     <message>
         <source>, </source>
         <comment>between the items of a list</comment>
-        <translation type="unfinished"></translation>
+        <translation>، </translation>
     </message>
     <message>
         <source>Heir</source>
-        <translation type="unfinished"></translation>
+        <translation>وارث</translation>
     </message>
     <message>
         <source>Heads</source>
-        <translation type="unfinished"></translation>
+        <translation>تعداد</translation>
     </message>
     <message>
         <source>Share</source>
-        <translation type="unfinished"></translation>
+        <translation>حصہ</translation>
     </message>
     <message>
         <source>of %1</source>
         <comment>parts of a base</comment>
-        <translation type="unfinished"></translation>
+        <translation>%1 میں سے</translation>
     </message>
     <message>
         <source>Together</source>
-        <translation type="unfinished"></translation>
+        <translation>کل رقم</translation>
     </message>
     <message>
         <source>Each</source>
-        <translation type="unfinished"></translation>
+        <translation>فی کس</translation>
     </message>
     <message>
         <source>Why</source>
-        <translation type="unfinished"></translation>
+        <translation>وجہ</translation>
     </message>
     <message>
         <source>Source</source>
-        <translation type="unfinished"></translation>
+        <translation>دلیل</translation>
     </message>
     <message>
         <source>Case Study</source>
-        <translation type="unfinished"></translation>
+        <translation>Case Study</translation>
     </message>
     <message>
         <source>Sum</source>
-        <translation type="unfinished"></translation>
+        <translation>میزان</translation>
     </message>
     <message>
         <source>The commands of Case Study answer otherwise.</source>
-        <translation type="unfinished"></translation>
+        <translation>Case Study کے احکامات کا جواب مختلف ہے۔</translation>
     </message>
     <message>
         <source>Where Qismora differs</source>
-        <translation type="unfinished"></translation>
+        <translation>Qismora کہاں مختلف ہے</translation>
+    </message>
+    <message>
+        <source>The deceased</source>
+        <translation>متوفی</translation>
     </message>
 </context>
 </TS>

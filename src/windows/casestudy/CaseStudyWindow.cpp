@@ -16,6 +16,7 @@
 #include "windows/casestudy/ResultPanel.h"
 #include "windows/casestudy/SavePanel.h"
 #include "windows/casestudy/TopStrip.h"
+#include "windows/help/HelpWindow.h"
 #include "windows/platform/Utf8.h"
 #include "windows/widgets/CaptionButton.h"
 #include "windows/widgets/HoverFilter.h"
@@ -38,6 +39,7 @@ CaseStudyWindow::CaseStudyWindow(CaseRecord& record, Outside& outside, int saved
   setAttribute(Qt::WA_DeleteOnClose);
   form_.Hide = [this] { hide(); };
   FillCaseMenu(menuBar(), form_, binder_);
+  AddHelpMenu(menuBar());
   BuildStatusBar(outside);
   BuildFrame();
   BuildTimer();

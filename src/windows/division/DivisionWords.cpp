@@ -105,6 +105,15 @@ QString Translated(const char* context, std::string_view literal) {
   return QCoreApplication::translate(context, literal.data());
 }
 
+/// The translations have the digits of English.
+QString WithDigits(QString text) {
+  const ushort zero = CurrentLocale().zeroDigit().front().unicode();
+  for (QChar& sign : text) {
+    if (sign >= QLatin1Char('0') && sign <= QLatin1Char('9')) sign = QChar(zero + sign.unicode() - u'0');
+  }
+  return text;
+}
+
 QString WithArticle(Kind kind) {
   const bool isTheOnlyOne = faraid::MostOf(kind) == 1 && !faraid::ClassII.Has(kind);
   return (isTheOnlyOne ? Words::tr("the %1") : Words::tr("a %1")).arg(OneHeir(kind));
@@ -117,7 +126,7 @@ QString FieldOf(const QString& field, const faraid::Reason& reason) {
   if (field == QLatin1String("left"))
     return reason.Share == 1 ? Words::tr("the whole") : Words::tr("what is left");
   return (Kind::Sons | Kind::Daughters).Has(reason.Named) ? Words::tr("children")
-                                                           : Words::tr("children of sons");
+                                                          : Words::tr("children of sons");
 }
 
 QString Filled(const QString& pattern, const faraid::Reason& reason) {
@@ -132,7 +141,7 @@ QString Filled(const QString& pattern, const faraid::Reason& reason) {
 }
 
 QString Sentence(const faraid::Reason& reason, const QString& source) {
-  QString text = Filled(Translated("Reasons", faraid::Pattern(reason.Code)), reason);
+  QString text = Filled(WithDigits(Translated("Reasons", faraid::Pattern(reason.Code))), reason);
   if (!source.isEmpty()) text = Words::tr("%1 (%2)", "a reason and its source").arg(text, source);
   switch (reason.Sixth) {
     case faraid::Beyond::NoResiduary:
@@ -180,8 +189,9 @@ QString WhatHappened(const DivisionView& view) {
       return Words::tr("The fixed shares exceed the estate: Awl raises the base from %1 to %2.")
           .arg(Number(view.Division.Base), Number(view.Division.RaisedTo));
     case DivisionOutcome::Radd:
-      return Words::tr("The fixed shares leave something and there is no residuary: Radd returns it to the "
-                       "sharers other than the spouse.");
+      return Words::tr(
+          "The fixed shares leave something and there is no residuary: Radd returns it to the "
+          "sharers other than the spouse.");
     case DivisionOutcome::Remainder:
       return Words::tr("Beside the spouse there is no other heir: %1 is left over.")
           .arg(Amount(view.Takers.back().Amount.Together));
@@ -194,7 +204,8 @@ QString WhatHappened(const DivisionView& view) {
 
 QString OffFor(const QString& summary, const QString& what, faraid::Hundredths amount) {
   if (amount == 0) return summary;
-  return Words::tr("%1 − %2 %3", "an estate, what is paid from it, the amount").arg(summary, what, Amount(amount));
+  return Words::tr("%1 − %2 %3", "an estate, what is paid from it, the amount")
+      .arg(summary, what, Amount(amount));
 }
 
 }  // namespace
@@ -205,6 +216,8 @@ QString Heir(Kind kind, int heads) {
 }
 
 QString OneHeir(Kind kind) { return Translated("HeirsInSentences", NamesOf(kind).InSentence); }
+
+QString Deceased() { return Words::tr("The deceased"); }
 
 QString Field(const std::string& caption) {
   const auto heir = std::ranges::find(HeirFields, caption, &HeirField::Caption);
@@ -248,7 +261,7 @@ QString WhyWithoutSource(const faraid::Reason& reason) { return Sentence(reason,
 
 QString SourceOf(faraid::Source source) {
   if (source == faraid::Source::None) return {};
-  return Translated("Sources", faraid::Words(source));
+  return WithDigits(Translated("Sources", faraid::Words(source)));
 }
 
 QString StandingOf(faraid::Standing standing) {
@@ -285,7 +298,9 @@ QString SchoolName(faraid::School school) {
   return {};
 }
 
-QString SchoolLaw(faraid::School school) { return Words::tr("%1 law", "of a school").arg(SchoolName(school)); }
+QString SchoolLaw(faraid::School school) {
+  return Words::tr("%1 law", "of a school").arg(SchoolName(school));
+}
 
 QString YieldsTo(const faraid::Row& row) {
   if (row.Excluder == Kind::Remainder) return {};
@@ -336,7 +351,8 @@ QString Bases(const faraid::Division& division) {
   const QString base = Number(division.Base);
   const QString corrected = Number(division.CorrectedBase);
   if (division.RaisedTo == 0) return Words::tr("Base %1, corrected base %2").arg(base, corrected);
-  return Words::tr("Base %1, raised to %2, corrected base %3").arg(base, Number(division.RaisedTo), corrected);
+  return Words::tr("Base %1, raised to %2, corrected base %3")
+      .arg(base, Number(division.RaisedTo), corrected);
 }
 
 std::vector<EstateLine> EstateLines(const DivisionView& view) {
@@ -363,9 +379,11 @@ QString BequestNotice(const DivisionView& view) {
   const QString asked = Amount(view.Estate.Bequests);
   const QString limit = Amount(view.Settlement.Bequests);
   if (view.Estate.HeirsConsent)
-    return Words::tr("Bequests of %1 are limited to %2, all that funeral expenses and debts leave.").arg(asked, limit);
-  return Words::tr("Bequests of %1 are limited to %2, a third of what funeral expenses and debts leave. More "
-                   "needs the consent of the heirs.")
+    return Words::tr("Bequests of %1 are limited to %2, all that funeral expenses and debts leave.")
+        .arg(asked, limit);
+  return Words::tr(
+             "Bequests of %1 are limited to %2, a third of what funeral expenses and debts leave. More "
+             "needs the consent of the heirs.")
       .arg(asked, limit);
 }
 
@@ -408,7 +426,9 @@ QString Sum() { return Words::tr("Sum"); }
 
 QString NoticeHeading() { return Words::tr("The commands of Case Study answer otherwise."); }
 
-QString DifferenceSentence(const DifferenceKind& kind) { return Translated("Differences", kind.Sentence); }
+QString DifferenceSentence(const DifferenceKind& kind) {
+  return WithDigits(Translated("Differences", kind.Sentence));
+}
 
 QString PageOfDifferences() { return Words::tr("Where Qismora differs"); }
 

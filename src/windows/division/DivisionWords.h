@@ -21,6 +21,9 @@ QString OneHeir(faraid::Kind kind);
 /// The field of Case Study in the current language, after the caption of it that an UnreadableField has.
 QString Field(const std::string& caption);
 
+/// "The deceased", for a tree or a form where no name is given.
+QString Deceased();
+
 // Figures
 
 /// 5 or ٥.

@@ -78,7 +78,8 @@ void SetLanguage(Language language) {
     return;
   }
   auto* next = new QTranslator(QCoreApplication::instance());
-  const QString file = QStringLiteral(":/translations/qismora_%1.qm").arg(QLatin1String(RowOf(language).Code));
+  const QString file =
+      QStringLiteral(":/translations/qismora_%1.qm").arg(QLatin1String(RowOf(language).Code));
   if (!next->load(file)) qWarning("the translation %s cannot be read", qPrintable(file));
   QTranslator* before = std::exchange(translator, next);
   QCoreApplication::installTranslator(next);

@@ -17,6 +17,7 @@
 
 #include "windows/forms/MenuOption.h"
 #include "windows/forms/VideoPanel.h"
+#include "windows/help/HelpWindow.h"
 #include "windows/platform/Utf8.h"
 #include "windows/style/Fonts.h"
 #include "windows/style/Pictures.h"
@@ -107,6 +108,7 @@ void InhMainWindow::BuildMenuBar() {
     connect(action, &QAction::triggered, this, [this, run = entry.Run] { (form_.*run)(); });
     if (entry.Run == &InhMain::Exitz_Click) action->setShortcut(QKeySequence::Quit);
   }
+  AddHelpMenu(menuBar());
 }
 
 QWidget* InhMainWindow::Head() {

@@ -1,0 +1,372 @@
+#include "windows/division/DivisionDocument.h"
+
+#include <QAbstractTextDocumentLayout>
+#include <QBuffer>
+#include <QCoreApplication>
+#include <QFileInfo>
+#include <QGuiApplication>
+#include <QMimeData>
+#include <QPageSize>
+#include <QPainter>
+#include <QPdfWriter>
+#include <QSaveFile>
+#include <QTextCursor>
+#include <QTextDocument>
+
+#include "windows/division/DivisionWords.h"
+#include "windows/division/PaperTree.h"
+#include "windows/platform/Utf8.h"
+
+namespace qismora {
+
+namespace {
+
+using words::Column;
+
+/// The context of the translations.
+class Paper {
+  Q_DECLARE_TR_FUNCTIONS(Paper)
+};
+
+constexpr double pointsOfFooter = 8;
+
+QFont PaperFont(double points) {
+  QFont font = QGuiApplication::font();
+  QStringList families = font.families();
+  if (CurrentLanguage() == Language::Urdu) families.prepend(QStringLiteral("Noto Nastaliq Urdu"));
+  if (CurrentLanguage() == Language::Arabic) {
+    families = QStringList{QStringLiteral("Amiri"), QStringLiteral("Noto Naskh Arabic")} + families;
+  }
+  font.setFamilies(families);
+  font.setPointSizeF(points);
+  return font;
+}
+
+QString Escaped(const QString& words) { return words.toHtmlEscaped(); }
+
+QString Tag(const char* tag, const QString& words) {
+  return QStringLiteral("<%1>%2</%1>").arg(QLatin1String(tag), Escaped(words));
+}
+
+QString Paragraph(const QString& words) { return words.isEmpty() ? QString() : Tag("p", words); }
+
+enum class Side { Start, End };
+
+/// A cell. Figures stand at the end of the line; the fractions among them are no dates for a spreadsheet.
+QString Cell(const QString& words, Side side = Side::Start, const char* tag = "td", int percent = 0) {
+  const bool left = (side == Side::Start) == (CurrentDirection() == Qt::LeftToRight);
+  const QString width = percent == 0 ? QString() : QStringLiteral("width=\"%1%\"").arg(percent);
+  return QStringLiteral("<%1 %4 align=\"%2\" style=\"mso-number-format:'\\@'\">%3</%1>")
+      .arg(QLatin1String(tag), left ? QStringLiteral("left") : QStringLiteral("right"), Escaped(words),
+           width);
+}
+
+QString Row(const QString& cells) { return QStringLiteral("<tr>%1</tr>").arg(cells); }
+
+QString TableOf(const QString& rows, bool ruled) {
+  const QString direction =
+      CurrentDirection() == Qt::LeftToRight ? QStringLiteral("ltr") : QStringLiteral("rtl");
+  return QStringLiteral(
+             "<table dir=\"%1\" width=\"100%\" border=\"%2\" cellspacing=\"0\" cellpadding=\"%3\" "
+             "style=\"border-collapse: collapse; border-color: black\">%4</table>")
+      .arg(direction, ruled ? QStringLiteral("1") : QStringLiteral("0"),
+           ruled ? QStringLiteral("3") : QStringLiteral("1"), rows);
+}
+
+constexpr struct {
+  Column Which;
+  Side Where;
+  int Percent;
+} columns[] = {
+    {Column::Heir, Side::Start, 15}, {Column::Heads, Side::End, 7},     {Column::Share, Side::End, 8},
+    {Column::Parts, Side::End, 8},   {Column::Together, Side::End, 14}, {Column::Each, Side::End, 14},
+    {Column::Why, Side::Start, 22},  {Column::Source, Side::Start, 12},
+};
+
+QString CellText(Column column, const DivisionLine& line) {
+  switch (column) {
+    case Column::Heir:
+      return words::Heir(line.Heir(), line.Law.Heads);
+    case Column::Heads:
+      return line.Heir() == faraid::Kind::Remainder ? QString() : words::Number(line.Law.Heads);
+    case Column::Share:
+      return words::Share(line.Law.Share);
+    case Column::Parts:
+      return words::Number(line.Parts);
+    case Column::Together:
+      return words::Amount(line.Amount.Together);
+    case Column::Each:
+      return words::Each(line.Amount, line.Law.Heads);
+    case Column::Why:
+      return words::WhyWithoutSource(line.Law.Why);
+    case Column::Source:
+      return words::SourceOf(line.Law.Why.Ground);
+    case Column::CaseStudy:
+      break;
+  }
+  return {};
+}
+
+QString SumText(Column column, const DivisionView& view) {
+  switch (column) {
+    case Column::Heir:
+      return words::Sum();
+    case Column::Heads:
+      return words::Number(view.Sum.Heads);
+    case Column::Share:
+      return words::Share(1);
+    case Column::Parts:
+      return words::Number(view.Sum.Parts);
+    case Column::Together:
+      return words::Amount(view.Sum.Together);
+    default:
+      return {};
+  }
+}
+
+/// A spreadsheet computes with this: a fraction is a formula, an amount has a point and no groups.
+QString SpreadsheetText(Column column, const DivisionLine& line) {
+  const faraid::Fraction& share = line.Law.Share;
+  const auto hundredths = [](faraid::Hundredths amount) {
+    return QStringLiteral("%1.%2").arg(amount / 100).arg(amount % 100, 2, 10, QLatin1Char('0'));
+  };
+  switch (column) {
+    case Column::Heads:
+      return QString::number(line.Law.Heads);
+    case Column::Share:
+      return share.Den() == 1 ? QString::number(share.Num())
+                              : QStringLiteral("=%1/%2").arg(share.Num()).arg(share.Den());
+    case Column::Parts:
+      return QString::number(line.Parts);
+    case Column::Together:
+      return hundredths(line.Amount.Together);
+    case Column::Each:
+      if (line.Amount.HeadsWithOneMore == line.Law.Heads) return hundredths(line.Amount.Each + 1);
+      return line.Amount.HeadsWithOneMore == 0 ? hundredths(line.Amount.Each) : CellText(column, line);
+    default:
+      return CellText(column, line);
+  }
+}
+
+void DrawPage(QPainter& painter, const QTextDocument& document, int page, const QSizeF& size) {
+  painter.save();
+  painter.translate(0, -page * size.height());
+  QAbstractTextDocumentLayout::PaintContext context;
+  context.palette.setColor(QPalette::Text, Qt::black);
+  context.clip = QRectF(QPointF(0, page * size.height()), size);
+  painter.setClipRect(context.clip);
+  document.documentLayout()->draw(&painter, context);
+  painter.restore();
+}
+
+}  // namespace
+
+DivisionDocument::DivisionDocument(DivisionView view, const QDate& date)
+    : view_(std::move(view)), date_(date) {}
+
+QString DivisionDocument::FileName() const {
+  QString name = ToQt(view_.Name).simplified();
+  for (QChar& sign : name) {
+    if (!sign.isLetterOrNumber() && !sign.isMark() && sign != QLatin1Char('-')) sign = QLatin1Char(' ');
+  }
+  name = name.simplified().left(80);
+  return name.isEmpty() ? Paper::tr("Division") : Paper::tr("Division - %1", "name of a file").arg(name);
+}
+
+QString DivisionDocument::Facts() const {
+  const QString name = ToQt(view_.Name).simplified();
+  const QString gender = view_.Gender == Male ? Paper::tr("a man") : Paper::tr("a woman");
+  const auto fact = [](const QString& caption, const QString& value) {
+    return Row(QStringLiteral("<td width=\"25%\"><b>%1</b></td><td width=\"75%\">%2</td>")
+                   .arg(Escaped(caption), Escaped(value)));
+  };
+  return TableOf(
+      fact(words::Deceased(),
+           name.isEmpty() ? gender : Paper::tr("%1, %2", "a name, a man or a woman").arg(name, gender)) +
+          fact(Paper::tr("Date"), CurrentLocale().toString(date_, QLocale::LongFormat)) +
+          fact(Paper::tr("School"), words::SchoolLaw(view_.School)),
+      false);
+}
+
+QString DivisionDocument::Estate() const {
+  QString rows;
+  for (const words::EstateLine& line : words::EstateLines(view_)) {
+    rows += Row(
+        QStringLiteral("<td width=\"60%\">%1</td><td width=\"40%\" align=\"%3\">%2</td>")
+            .arg(Escaped(line.Caption), Escaped(line.Amount),
+                 CurrentDirection() == Qt::LeftToRight ? QStringLiteral("right") : QStringLiteral("left")));
+  }
+  return Tag("h3", Paper::tr("The estate")) + TableOf(rows, true) + Paragraph(words::BequestNotice(view_)) +
+         Paragraph(words::ExampleNotice(view_));
+}
+
+QString DivisionDocument::Notice() const {
+  if (view_.Differs.None()) return {};
+  QString items;
+  for (const DifferenceKind* kind : view_.Differs.Kinds) items += Tag("li", words::DifferenceSentence(*kind));
+  const QString frame = QStringLiteral("<td><b>%1</b> %2<ul>%3</ul></td>")
+                            .arg(Escaped(words::NoticeHeading()),
+                                 Escaped(Paper::tr("The table below is the division by the books.")), items);
+  return TableOf(Row(frame), true);
+}
+
+QString DivisionDocument::Table() const {
+  QString rows;
+  QString heading;
+  for (const auto& column : columns)
+    heading +=
+        Cell(words::Heading(column.Which, view_.Division.CorrectedBase), column.Where, "th", column.Percent);
+  rows += Row(heading);
+  for (const DivisionLine& line : view_.Takers) {
+    QString cells;
+    for (const auto& column : columns) cells += Cell(CellText(column.Which, line), column.Where);
+    rows += Row(cells);
+  }
+  QString sum;
+  for (const auto& column : columns) sum += Cell(SumText(column.Which, view_), column.Where, "th");
+  return TableOf(rows + Row(sum), true);
+}
+
+QString DivisionDocument::OthersTable() const {
+  if (view_.Others.empty()) return {};
+  constexpr Column shown[] = {Column::Heir, Column::Heads, Column::Why, Column::Source};
+  QString rows;
+  QString heading;
+  for (const Column column : shown) heading += Cell(words::Heading(column, 0), Side::Start, "th");
+  rows += Row(heading);
+  for (const DivisionLine& line : view_.Others) {
+    QString cells;
+    for (const Column column : shown) cells += Cell(CellText(column, line));
+    rows += Row(cells);
+  }
+  return Tag("h3", Paper::tr("Alive, and receive nothing")) + TableOf(rows, true);
+}
+
+QString DivisionDocument::Signatures() const {
+  const QString line =
+      QStringLiteral("<td width=\"33%\"><br>..............................................<br>%1</td>");
+  QString rows;
+  for (int i = 0; i < 2; ++i) {
+    rows += Row(line.arg(Escaped(Paper::tr("Name"))) + line.arg(Escaped(Paper::tr("Signature"))) +
+                line.arg(Escaped(Paper::tr("Place and date"))));
+  }
+  return TableOf(rows, false);
+}
+
+QString DivisionDocument::Html() const {
+  const QString tree =
+      Tag("h3", Paper::tr("The family")) +
+      QStringLiteral("<p align=\"center\" id=\"tree\">%1</p>").arg(QChar(QChar::ObjectReplacementCharacter));
+  return Tag("h2", Paper::tr("Division of an estate")) + Facts() + Estate() +
+         Tag("h3", Paper::tr("The division")) + Tag("p", words::Headline(view_)) + Notice() + Table() +
+         Paragraph(words::Bases(view_.Division)) + OthersTable() + tree +
+         Paragraph(
+             Paper::tr("Computed by %1 from the figures above. This paper is no judgment of a court and no "
+                       "fatwa: ask a scholar before the estate is divided.")
+                 .arg(words::SchoolLaw(view_.School))) +
+         Signatures();
+}
+
+std::unique_ptr<QTextDocument> DivisionDocument::SetIn(QPagedPaintDevice& device, double points) const {
+  auto document = std::make_unique<QTextDocument>();
+  const QFont font = PaperFont(points);
+  document->setDefaultFont(font);
+  document->setDocumentMargin(0);
+  QTextOption direction;
+  direction.setTextDirection(CurrentDirection());
+  document->setDefaultTextOption(direction);
+  document->setDefaultStyleSheet(
+      QStringLiteral("h2 { font-size: %1pt; margin: 0 0 4px 0 } h3 { font-size: %2pt; margin: 6px 0 2px 0 } "
+                     "p { margin: 3px 0 3px 0 } ul { margin: 2px 0 2px 0 }")
+          .arg(points * 1.6)
+          .arg(points * 1.15));
+  document->documentLayout()->setPaintDevice(&device);
+  auto* tree = new PaperTree(view_, font, document.get());
+  document->documentLayout()->registerHandler(PaperTree::Type, tree);
+  document->setHtml(Html());
+  QSizeF page = device.pageLayout().paintRectPixels(device.logicalDpiX()).size();
+  page.rheight() -= 2 * pointsOfFooter * device.logicalDpiY() / 72;
+  tree->SetWidest(page.width());
+  document->setPageSize(page);
+
+  QTextCursor cursor = document->find(QString(QChar(QChar::ObjectReplacementCharacter)));
+  QTextCharFormat object;
+  object.setObjectType(PaperTree::Type);
+  cursor.insertText(QString(QChar(QChar::ObjectReplacementCharacter)), object);
+  return document;
+}
+
+void DivisionDocument::Print(QPagedPaintDevice& device) const {
+  // Rather one page in smaller text than two, but never too small to be read with ease.
+  constexpr struct {
+    double Points;
+    int Pages;
+  } attempts[] = {{10, 1}, {9, 1}, {8.5, 1}, {10, 2}, {9, 2}, {8, 2}, {7, 2}, {6, 2}};
+  std::unique_ptr<QTextDocument> document;
+  for (const auto& attempt : attempts) {
+    document = SetIn(device, attempt.Points);
+    if (document->pageCount() <= attempt.Pages) break;
+  }
+  QPainter painter(&device);
+  const int pages = document->pageCount();
+  const QSizeF size = document->pageSize();
+  for (int page = 0; page < pages; ++page) {
+    if (page > 0) device.newPage();
+    DrawPage(painter, *document, page, size);
+    painter.setFont(PaperFont(pointsOfFooter));
+    painter.setPen(Qt::black);
+    painter.setLayoutDirection(CurrentDirection());
+    const QRectF foot(0, size.height(), size.width(), 2 * pointsOfFooter * device.logicalDpiY() / 72);
+    painter.drawText(foot, Qt::AlignHCenter | Qt::AlignBottom,
+                     Paper::tr("Qismora - page %1 of %2").arg(words::Number(page + 1), words::Number(pages)));
+  }
+}
+
+std::optional<QString> DivisionDocument::SavePdf(const QString& path) const {
+  QByteArray content;
+  {
+    QBuffer buffer(&content);
+    buffer.open(QIODevice::WriteOnly);
+    QPdfWriter writer(&buffer);
+    writer.setTitle(FileName());
+    writer.setCreator(QStringLiteral("Qismora"));
+    writer.setPageSize(UsualPaper());
+    writer.setPageMargins(QMarginsF(PaperMargin, PaperMargin, PaperMargin, PaperMargin),
+                          QPageLayout::Millimeter);
+    Print(writer);
+  }
+  QSaveFile file(path);
+  if (file.open(QIODevice::WriteOnly) && file.write(content) == content.size() && file.commit())
+    return std::nullopt;
+  return Paper::tr("%1 is not saved: %2.").arg(QFileInfo(path).fileName(), file.errorString());
+}
+
+QString DivisionDocument::TableAsHtml() const { return Table() + OthersTable(); }
+
+QString DivisionDocument::TableAsText() const {
+  QStringList lines;
+  const auto add = [&](auto textOf) {
+    QStringList cells;
+    for (const auto& column : columns) cells.append(textOf(column.Which));
+    lines.append(cells.join(QLatin1Char('\t')));
+  };
+  add([&](Column column) { return words::Heading(column, view_.Division.CorrectedBase); });
+  for (const auto* group : {&view_.Takers, &view_.Others}) {
+    for (const DivisionLine& line : *group) add([&](Column column) { return SpreadsheetText(column, line); });
+  }
+  return lines.join(QLatin1Char('\n')) + QLatin1Char('\n');
+}
+
+std::unique_ptr<QMimeData> DivisionDocument::ForClipboard() const {
+  auto data = std::make_unique<QMimeData>();
+  data->setHtml(TableAsHtml());
+  data->setText(TableAsText());
+  return data;
+}
+
+QPageSize UsualPaper() {
+  const bool letter = QLocale::system().measurementSystem() == QLocale::ImperialUSSystem;
+  return QPageSize(letter ? QPageSize::Letter : QPageSize::A4);
+}
+
+}  // namespace qismora

@@ -1,0 +1,57 @@
+#pragma once
+
+#include <QDate>
+#include <QString>
+#include <memory>
+#include <optional>
+
+#include "screens/DivisionView.h"
+
+class QMimeData;
+class QPageSize;
+class QPagedPaintDevice;
+class QTextDocument;
+
+namespace qismora {
+
+/// A division on paper, in the current language: one or two pages in black and white.
+class DivisionDocument {
+ public:
+  /// A division that has a table (DivisionView::IsDivided).
+  DivisionDocument(DivisionView view, const QDate& date);
+
+  /// The suggested name of a file, without an ending: the name of the deceased as far as a file can have it.
+  QString FileName() const;
+
+  /// Fills the pages of a printer, a preview or a file. Margins are those of the device's layout.
+  void Print(QPagedPaintDevice& device) const;
+  /// Writes a PDF file, whole or not at all. What went wrong, in words; nothing if all went well.
+  std::optional<QString> SavePdf(const QString& path) const;
+
+  /// The table alone: HTML for letters, tab-separated text for spreadsheets.
+  QString TableAsHtml() const;
+  QString TableAsText() const;
+  std::unique_ptr<QMimeData> ForClipboard() const;
+
+ private:
+  /// The text in a font of so many points, laid out for the device.
+  std::unique_ptr<QTextDocument> SetIn(QPagedPaintDevice& device, double points) const;
+  QString Html() const;
+  QString Facts() const;
+  QString Estate() const;
+  QString Notice() const;
+  QString Table() const;
+  QString OthersTable() const;
+  QString Signatures() const;
+
+  DivisionView view_;
+  QDate date_;
+};
+
+/// On every side of a page.
+inline constexpr double PaperMargin = 16;  // millimetres
+
+/// The paper of the user's region: A4, or Letter where that is usual.
+QPageSize UsualPaper();
+
+}  // namespace qismora

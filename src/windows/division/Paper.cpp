@@ -1,0 +1,83 @@
+#include "windows/division/Paper.h"
+
+#include <QClipboard>
+#include <QCoreApplication>
+#include <QFileDialog>
+#include <QGuiApplication>
+#include <QLibrary>
+#include <QMessageBox>
+#include <QMimeData>
+#include <QPageSize>
+#include <QStandardPaths>
+
+#include "windows/division/Languages.h"
+#include "windows/platform/BuiltFiles.h"
+#include "windows/platform/ShellPorts.h"
+#include "windows/print/PrintDialogs.h"
+
+namespace qismora {
+
+namespace {
+
+/// The context of the translations.
+class Paper {
+  Q_DECLARE_TR_FUNCTIONS(Paper)
+};
+
+void Warn(QWidget* window, const QString& words) {
+  QMessageBox box(QMessageBox::Warning, Paper::tr("Division"), words, QMessageBox::Ok, window);
+  box.setTextFormat(Qt::PlainText);
+  box.setLayoutDirection(CurrentDirection());
+  box.exec();
+}
+
+/// Printing is loaded when it is first used. Null where the plugin is missing or damaged.
+ShowPrintDialog LoadPrinting() {
+  static ShowPrintDialog show = nullptr;
+  if (show != nullptr) return show;
+  for (const QString& folder : ProgramFolders(QCoreApplication::applicationDirPath()).Plugins()) {
+    const QString file = folder + QLatin1Char('/') + QLatin1String(PrintPluginName);
+    if (!IsAsBuilt(file)) continue;
+    QLibrary plugin(file);
+    plugin.setLoadHints(QLibrary::PreventUnloadHint);
+    show = reinterpret_cast<ShowPrintDialog>(plugin.resolve(ShowPrintDialogName));
+    if (show != nullptr) break;
+  }
+  return show;
+}
+
+void ShowDialog(const DivisionDocument& document, QWidget* window, bool preview) {
+  const ShowPrintDialog show = LoadPrinting();
+  if (show == nullptr) {
+    return Warn(window, Paper::tr("Printing is not installed with this program. A PDF file can be saved and "
+                                  "printed elsewhere."));
+  }
+  const auto paint = [&document](QPagedPaintDevice& device) { document.Print(device); };
+  show(window, {document.FileName(), UsualPaper(), PaperMargin, paint}, preview);
+}
+
+}  // namespace
+
+void PreviewPaper(const DivisionDocument& document, QWidget* window) { ShowDialog(document, window, true); }
+
+void PrintPaper(const DivisionDocument& document, QWidget* window) { ShowDialog(document, window, false); }
+
+std::optional<QString> SavePaperAsPdf(const DivisionDocument& document, QWidget* window) {
+  const QString folder = QStandardPaths::writableLocation(QStandardPaths::DocumentsLocation);
+  QFileDialog dialog(window, Paper::tr("Save as PDF"), folder, Paper::tr("PDF files (*.pdf)"));
+  dialog.setObjectName(QStringLiteral("SavePdf"));
+  dialog.setAcceptMode(QFileDialog::AcceptSave);
+  dialog.setDefaultSuffix(QStringLiteral("pdf"));
+  dialog.selectFile(document.FileName());
+  if (dialog.exec() != QDialog::Accepted || dialog.selectedFiles().isEmpty()) return std::nullopt;
+  const QString path = dialog.selectedFiles().constFirst();
+  const std::optional<QString> fault = document.SavePdf(path);
+  if (fault) Warn(window, *fault);
+  return fault.value_or(Paper::tr("Saved: %1").arg(path));
+}
+
+void CopyPaper(const DivisionDocument& document) {
+  QGuiApplication::clipboard()->setMimeData(document.ForClipboard().release());
+}
+
+}  // namespace qismora

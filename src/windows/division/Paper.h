@@ -1,0 +1,21 @@
+#pragma once
+
+#include "windows/division/DivisionDocument.h"
+
+class QWidget;
+
+namespace qismora {
+
+// What the user does with the paper of a division. The window is the one over which dialogs appear.
+
+/// Shows the pages as they will be printed, and prints from there.
+void PreviewPaper(const DivisionDocument& document, QWidget* window);
+/// Lets the user choose a printer, and prints.
+void PrintPaper(const DivisionDocument& document, QWidget* window);
+/// Asks where to, writes a PDF file and reports what came of it: the sentence is also shown where something
+/// went wrong. Nothing if the user has changed his mind.
+std::optional<QString> SavePaperAsPdf(const DivisionDocument& document, QWidget* window);
+/// Puts the table on the clipboard.
+void CopyPaper(const DivisionDocument& document);
+
+}  // namespace qismora

@@ -1,0 +1,133 @@
+#include <QClipboard>
+#include <QMimeData>
+#include <QPdfWriter>
+#include <QTemporaryDir>
+#include <QTest>
+
+#include "screens/HeirFields.h"
+#include "support/MemoryOutside.h"
+#include "windows/division/DivisionWords.h"
+#include "windows/division/Paper.h"
+#include "windows/platform/Utf8.h"
+
+using namespace qismora;
+using faraid::Kind;
+using faraid::School;
+
+namespace {
+
+CaseTexts CaseOf(std::initializer_list<std::pair<std::size_t, const char*>> fields) {
+  CaseTexts texts;
+  for (const auto& [field, text] : fields) texts.Fields[field] = std::string(text);
+  return texts;
+}
+
+/// A wife, two daughters, a grandfather, the mother and a consanguine brother.
+CaseTexts Abdullah() {
+  CaseTexts texts = CaseOf(
+      {{1, "1"}, {3, "2"}, {14, "1"}, {16, "1"}, {31, "1"}, {25, "1840000"}, {27, "240000"}, {28, "100000"}});
+  texts.Fields[NameBox] = std::string("Abdullah");
+  return texts;
+}
+
+/// Whoever can be alive at once.
+CaseTexts Everybody() {
+  CaseTexts texts;
+  for (const HeirField& heir : HeirFields) {
+    texts.Fields[static_cast<std::size_t>(heir.Index)] = std::to_string(faraid::MostOf(heir.Heir));
+  }
+  texts.Fields[25] = std::string("999999999999999.99");
+  texts.ClassII.fill(true);
+  texts.Fields[NameBox] = std::string("Zaynab bint Abd al-Rahman ibn Muhammad ibn Abdullah of the old town");
+  return texts;
+}
+
+DivisionDocument DocumentOf(const CaseTexts& texts, School school = School::Hanafi) {
+  testing::MemoryWorld world;
+  CaseScreen screen(world.Ports);
+  TypeIntoScreen(texts, screen);
+  return {ViewDivision(screen, false, school), QDate(2026, 11, 21)};
+}
+
+/// Where pictures of the pages are wanted, the directory for the PDF files.
+QString KeptPath(const QString& name, const QTemporaryDir& folder) {
+  const QString kept = qEnvironmentVariable("QISMORA_KEEP_PAPER");
+  return kept.isEmpty() ? folder.filePath(name) : kept + QLatin1Char('/') + name;
+}
+
+}  // namespace
+
+class DivisionPaperTest : public QObject {
+  Q_OBJECT
+
+ private slots:
+  void cleanup() { SetLanguage(Language::English); }
+
+  // One or two pages in every language, from one heir to all.
+  void fitsTwoPages_data() {
+    QTest::addColumn<int>("language");
+    QTest::addColumn<bool>("everybody");
+    for (const Language language : AllLanguages) {
+      for (const bool everybody : {false, true}) {
+        QTest::addRow("%d %s", static_cast<int>(language), everybody ? "everybody" : "a family")
+            << static_cast<int>(language) << everybody;
+      }
+    }
+  }
+  void fitsTwoPages() {
+    QFETCH(int, language);
+    QFETCH(bool, everybody);
+    SetLanguage(static_cast<Language>(language));
+    const QTemporaryDir folder;
+    const QString path =
+        KeptPath(QStringLiteral("%1-%2.pdf").arg(language).arg(everybody ? "everybody" : "family"), folder);
+    QCOMPARE(DocumentOf(everybody ? Everybody() : Abdullah()).SavePdf(path), std::optional<QString>());
+    QFile file(path);
+    QVERIFY(file.open(QIODevice::ReadOnly));
+    const QByteArray content = file.readAll();
+    QVERIFY(content.startsWith("%PDF-"));
+    QVERIFY(content.trimmed().endsWith("%%EOF"));
+    const auto pages = content.count("/Type /Page\n");
+    QVERIFY2(pages >= 1 && pages <= 2, qPrintable(QString::number(pages)));
+  }
+
+  // A file that cannot be written is reported, and what stood there stays.
+  void reportsWhatIsNotSaved() {
+    const QTemporaryDir folder;
+    const QString path = folder.filePath(QStringLiteral("missing/division.pdf"));
+    const auto fault = DocumentOf(Abdullah()).SavePdf(path);
+    QVERIFY(fault.has_value());
+    QVERIFY(fault->contains(QStringLiteral("division.pdf")));
+    QVERIFY(!QFile::exists(path));
+  }
+
+  // The spreadsheet computes with what it is given: fractions are no dates, amounts no texts, and the amounts
+  // come to the net estate.
+  void copiesTheTable() {
+    CopyPaper(DocumentOf(Abdullah()));
+    const QMimeData* data = QGuiApplication::clipboard()->mimeData();
+    const QStringList lines = data->text().split(QLatin1Char('\n'), Qt::SkipEmptyParts);
+    QCOMPARE(lines.size(), 6);
+    QCOMPARE(lines.front(), QStringLiteral("Heir\tHeads\tShare\tof 27\tTogether\tEach\tWhy\tSource"));
+    QVERIFY(lines[1].startsWith(QStringLiteral("Wife\t1\t=1/9\t3\t166666.67\t166666.67\t1/8 because")));
+    QVERIFY(lines.back().startsWith(QStringLiteral("Consanguine brother\t1\t0\t0\t0.00")));
+    double sum = 0;
+    for (const QString& line : lines) sum += line.section(QLatin1Char('\t'), 4, 4).toDouble();
+    QCOMPARE(sum, 1500000.0);
+    QVERIFY(data->html().contains(QStringLiteral("<table")));
+    QVERIFY(data->html().contains(QStringLiteral("excluded by the grandfather")));
+  }
+
+  // What the user typed as a name is text, and no part of a path.
+  void namesAreText() {
+    CaseTexts texts = Abdullah();
+    texts.Fields[NameBox] = std::string("../<b>A&B</b>\"");
+    const DivisionDocument document = DocumentOf(texts);
+    QCOMPARE(document.FileName(), QStringLiteral("Division - b A B b"));
+    const QTemporaryDir folder;
+    QCOMPARE(document.SavePdf(KeptPath(QStringLiteral("name.pdf"), folder)), std::optional<QString>());
+  }
+};
+
+QTEST_MAIN(DivisionPaperTest)
+#include "division_paper_test.moc"

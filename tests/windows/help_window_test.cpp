@@ -1,0 +1,141 @@
+#include <QAction>
+#include <QDir>
+#include <QLabel>
+#include <QLineEdit>
+#include <QListWidget>
+#include <QMenuBar>
+#include <QScrollBar>
+#include <QSet>
+#include <QTest>
+#include <QTextBlock>
+#include <QTextFragment>
+
+#include "screens/Differences.h"
+#include "windows/division/Languages.h"
+#include "windows/help/HelpWindow.h"
+#include "windows/platform/Utf8.h"
+
+using namespace qismora;
+
+namespace {
+
+const QString docs = QStringLiteral(PROJECT_DIRECTORY "/docs");
+
+HelpPage* PageOf(HelpWindow& window) { return window.findChild<HelpPage*>(QStringLiteral("HelpPage")); }
+
+QSet<QString> AnchorsOf(HelpWindow& window, const QString& page) {
+  window.Show(page, {});
+  QSet<QString> anchors;
+  for (const HelpPage::Heading& heading : PageOf(window)->Headings()) anchors.insert(heading.Anchor);
+  return anchors;
+}
+
+/// The text at the top of what is in sight.
+QString TopOf(const HelpPage& page) { return page.cursorForPosition({4, 12}).block().text(); }
+
+}  // namespace
+
+class HelpWindowTest : public QObject {
+  Q_OBJECT
+
+ private slots:
+  void cleanup() { SetLanguage(Language::English); }
+
+  // Each kind of difference, and each link within and between the pages, leads to a heading that is there.
+  void linksLeadSomewhere() {
+    HelpWindow window(docs);
+    QHash<QString, QSet<QString>> anchors;
+    for (const QString& page : QDir(docs).entryList({QStringLiteral("*.md")}))
+      anchors[page] = AnchorsOf(window, page);
+    for (const DifferenceKind& kind : DifferenceKinds()) {
+      QVERIFY2(anchors[DifferencesPage].contains(ToQt(kind.Section)), qPrintable(ToQt(kind.Section)));
+    }
+    QVERIFY(anchors[GuidePage].contains(KeysAnchor));
+    int links = 0;
+    for (const char* page : {GuidePage, DifferencesPage, DivisionPage}) {
+      window.Show(QString::fromLatin1(page), {});
+      const QTextDocument& text = *PageOf(window)->document();
+      for (QTextBlock block = text.begin(); block.isValid(); block = block.next()) {
+        for (auto part = block.begin(); !part.atEnd(); ++part) {
+          const QUrl link(part.fragment().charFormat().anchorHref());
+          if (link.isEmpty() || !link.isRelative() || !link.hasFragment()) continue;
+          const QString target = link.path().isEmpty() ? QString::fromLatin1(page) : link.path();
+          QVERIFY2(anchors.value(target).contains(link.fragment()), qPrintable(link.toString()));
+          ++links;
+        }
+      }
+    }
+    QVERIFY(links > 20);
+  }
+
+  void showsAHeadingAndGoesBack() {
+    HelpWindow window(docs);
+    window.show();
+    window.Show(GuidePage, KeysAnchor);
+    HelpPage* page = PageOf(window);
+    QTRY_COMPARE(TopOf(*page), QStringLiteral("Keys"));
+    window.Show(DifferencesPage, QStringLiteral("10-a-third-of-the-gross-estate"));
+    QTRY_COMPARE(TopOf(*page), QStringLiteral("10. A third of the gross estate"));
+    page->backward();
+    QTRY_COMPARE(TopOf(*page), QStringLiteral("Keys"));
+    QCOMPARE(page->source().fileName(), QString::fromLatin1(GuidePage));
+    page->forward();
+    QTRY_COMPARE(TopOf(*page), QStringLiteral("10. A third of the gross estate"));
+  }
+
+  // The pictures of the guide are found beside it and fit the page.
+  void showsPictures() {
+    HelpWindow window(docs);
+    window.show();
+    window.Show(GuidePage, {});
+    const QImage picture =
+        PageOf(window)
+            ->document()
+            ->resource(QTextDocument::ImageResource, QUrl(QStringLiteral("pictures/residuaries.png")))
+            .value<QImage>();
+    QVERIFY(!picture.isNull());
+    QVERIFY(picture.width() <= PageOf(window)->viewport()->width());
+  }
+
+  void finds() {
+    HelpWindow window(docs);
+    window.show();
+    window.Show(GuidePage, {});
+    auto* words = window.findChild<QLineEdit*>(QStringLiteral("HelpFind"));
+    QTest::keyClicks(words, QStringLiteral("Residuaries"));
+    QTest::keyClick(words, Qt::Key_Return);
+    const int first = PageOf(window)->textCursor().position();
+    QCOMPARE(PageOf(window)->textCursor().selectedText().toLower(), QStringLiteral("residuaries"));
+    QTest::keyClick(words, Qt::Key_Return);
+    QVERIFY(PageOf(window)->textCursor().position() > first);
+    words->setText(QStringLiteral("no such words"));
+    QTest::keyClick(words, Qt::Key_Return);
+    QVERIFY(window.findChild<QLabel*>(QStringLiteral("HelpFound"))
+                ->text()
+                .contains(QStringLiteral("no such words")));
+  }
+
+  // A page that is not there is named, and what is shown stays.
+  void namesAMissingPage() {
+    HelpWindow window(docs);
+    window.Show(GuidePage, {});
+    window.Show(QStringLiteral("missing.md"), {});
+    QCOMPARE(PageOf(window)->source().fileName(), QString::fromLatin1(GuidePage));
+    QVERIFY(window.findChild<QLabel*>(QStringLiteral("HelpFound"))
+                ->text()
+                .contains(QStringLiteral("missing.md")));
+  }
+
+  void turnsAroundWithTheLanguage() {
+    HelpWindow window(docs);
+    SetLanguage(Language::Arabic);
+    QTRY_COMPARE(window.layoutDirection(), Qt::RightToLeft);
+    QCOMPARE(PageOf(window)->layoutDirection(), Qt::LeftToRight);
+    QVERIFY(window.windowTitle().contains(QStringLiteral("مساعدة")));
+    SetLanguage(Language::English);
+    QTRY_COMPARE(window.windowTitle(), QStringLiteral("Help - Qismora"));
+  }
+};
+
+QTEST_MAIN(HelpWindowTest)
+#include "help_window_test.moc"
