@@ -12,6 +12,7 @@
 #include <QSaveFile>
 #include <QTextCursor>
 #include <QTextDocument>
+#include <algorithm>
 
 #include "windows/division/DivisionWords.h"
 #include "windows/division/PaperTree.h"
@@ -21,6 +22,7 @@ namespace qismora {
 
 namespace {
 
+using Order = DivisionDocument::Order;
 using words::Column;
 
 /// The context of the translations.
@@ -31,13 +33,7 @@ class Paper {
 constexpr double pointsOfFooter = 8;
 
 QFont PaperFont(double points) {
-  QFont font = QGuiApplication::font();
-  QStringList families = font.families();
-  if (CurrentLanguage() == Language::Urdu) families.prepend(QStringLiteral("Noto Nastaliq Urdu"));
-  if (CurrentLanguage() == Language::Arabic) {
-    families = QStringList{QStringLiteral("Amiri"), QStringLiteral("Noto Naskh Arabic")} + families;
-  }
-  font.setFamilies(families);
+  QFont font = FontOfLanguage(QGuiApplication::font());
   font.setPointSizeF(points);
   return font;
 }
@@ -61,7 +57,11 @@ QString Cell(const QString& words, Side side = Side::Start, const char* tag = "t
            width);
 }
 
-QString Row(const QString& cells) { return QStringLiteral("<tr>%1</tr>").arg(cells); }
+QString Row(QStringList cells, Order order = Order::FromTheLeft) {
+  if (order == Order::FromTheLeft && CurrentDirection() == Qt::RightToLeft)
+    std::reverse(cells.begin(), cells.end());
+  return QStringLiteral("<tr>%1</tr>").arg(cells.join(QString()));
+}
 
 QString TableOf(const QString& rows, bool ruled) {
   const QString direction =
@@ -177,8 +177,8 @@ QString DivisionDocument::Facts() const {
   const QString name = ToQt(view_.Name).simplified();
   const QString gender = view_.Gender == Male ? Paper::tr("a man") : Paper::tr("a woman");
   const auto fact = [](const QString& caption, const QString& value) {
-    return Row(QStringLiteral("<td width=\"25%\"><b>%1</b></td><td width=\"75%\">%2</td>")
-                   .arg(Escaped(caption), Escaped(value)));
+    return Row({QStringLiteral("<td width=\"25%\"><b>%1</b></td>").arg(Escaped(caption)),
+                QStringLiteral("<td width=\"75%\">%1</td>").arg(Escaped(value))});
   };
   return TableOf(
       fact(words::Deceased(),
@@ -191,10 +191,7 @@ QString DivisionDocument::Facts() const {
 QString DivisionDocument::Estate() const {
   QString rows;
   for (const words::EstateLine& line : words::EstateLines(view_)) {
-    rows += Row(
-        QStringLiteral("<td width=\"60%\">%1</td><td width=\"40%\" align=\"%3\">%2</td>")
-            .arg(Escaped(line.Caption), Escaped(line.Amount),
-                 CurrentDirection() == Qt::LeftToRight ? QStringLiteral("right") : QStringLiteral("left")));
+    rows += Row({Cell(line.Caption, Side::Start, "td", 60), Cell(line.Amount, Side::End, "td", 40)});
   }
   return Tag("h3", Paper::tr("The estate")) + TableOf(rows, true) + Paragraph(words::BequestNotice(view_)) +
          Paragraph(words::ExampleNotice(view_));
@@ -207,37 +204,37 @@ QString DivisionDocument::Notice() const {
   const QString frame = QStringLiteral("<td><b>%1</b> %2<ul>%3</ul></td>")
                             .arg(Escaped(words::NoticeHeading()),
                                  Escaped(Paper::tr("The table below is the division by the books.")), items);
-  return TableOf(Row(frame), true);
+  return TableOf(Row({frame}), true);
 }
 
-QString DivisionDocument::Table() const {
-  QString rows;
-  QString heading;
-  for (const auto& column : columns)
-    heading +=
-        Cell(words::Heading(column.Which, view_.Division.CorrectedBase), column.Where, "th", column.Percent);
-  rows += Row(heading);
+QString DivisionDocument::Table(Order order) const {
+  const auto row = [&](auto cellOf) {
+    QStringList cells;
+    for (const auto& column : columns) cells.append(cellOf(column));
+    return Row(cells, order);
+  };
+  QString rows = row([&](const auto& column) {
+    return Cell(words::Heading(column.Which, view_.Division.CorrectedBase), column.Where, "th",
+                column.Percent);
+  });
   for (const DivisionLine& line : view_.Takers) {
-    QString cells;
-    for (const auto& column : columns) cells += Cell(CellText(column.Which, line), column.Where);
-    rows += Row(cells);
+    rows += row([&](const auto& column) { return Cell(CellText(column.Which, line), column.Where); });
   }
-  QString sum;
-  for (const auto& column : columns) sum += Cell(SumText(column.Which, view_), column.Where, "th");
-  return TableOf(rows + Row(sum), true);
+  rows += row([&](const auto& column) { return Cell(SumText(column.Which, view_), column.Where, "th"); });
+  return TableOf(rows, true);
 }
 
-QString DivisionDocument::OthersTable() const {
+QString DivisionDocument::OthersTable(Order order) const {
   if (view_.Others.empty()) return {};
-  constexpr Column shown[] = {Column::Heir, Column::Heads, Column::Why, Column::Source};
-  QString rows;
-  QString heading;
-  for (const Column column : shown) heading += Cell(words::Heading(column, 0), Side::Start, "th");
-  rows += Row(heading);
+  const auto row = [&](auto cellOf) {
+    QStringList cells;
+    for (const Column column : {Column::Heir, Column::Heads, Column::Why, Column::Source})
+      cells.append(cellOf(column));
+    return Row(cells, order);
+  };
+  QString rows = row([](Column column) { return Cell(words::Heading(column, 0), Side::Start, "th"); });
   for (const DivisionLine& line : view_.Others) {
-    QString cells;
-    for (const Column column : shown) cells += Cell(CellText(column, line));
-    rows += Row(cells);
+    rows += row([&](Column column) { return Cell(CellText(column, line)); });
   }
   return Tag("h3", Paper::tr("Alive, and receive nothing")) + TableOf(rows, true);
 }
@@ -247,19 +244,19 @@ QString DivisionDocument::Signatures() const {
       QStringLiteral("<td width=\"33%\"><br>..............................................<br>%1</td>");
   QString rows;
   for (int i = 0; i < 2; ++i) {
-    rows += Row(line.arg(Escaped(Paper::tr("Name"))) + line.arg(Escaped(Paper::tr("Signature"))) +
-                line.arg(Escaped(Paper::tr("Place and date"))));
+    rows += Row({line.arg(Escaped(Paper::tr("Name"))), line.arg(Escaped(Paper::tr("Signature"))),
+                 line.arg(Escaped(Paper::tr("Place and date")))});
   }
   return TableOf(rows, false);
 }
 
 QString DivisionDocument::Html() const {
   const QString tree =
-      Tag("h3", Paper::tr("The family")) +
-      QStringLiteral("<p align=\"center\" id=\"tree\">%1</p>").arg(QChar(QChar::ObjectReplacementCharacter));
+      QStringLiteral("<p align=\"center\">%1</p>").arg(QChar(QChar::ObjectReplacementCharacter));
   return Tag("h2", Paper::tr("Division of an estate")) + Facts() + Estate() +
-         Tag("h3", Paper::tr("The division")) + Tag("p", words::Headline(view_)) + Notice() + Table() +
-         Paragraph(words::Bases(view_.Division)) + OthersTable() + tree +
+         Tag("h3", Paper::tr("The division")) + Tag("p", words::Headline(view_)) + Notice() +
+         Table(Order::FromTheLeft) + Paragraph(words::Bases(view_.Division)) +
+         OthersTable(Order::FromTheLeft) + tree +
          Paragraph(
              Paper::tr("Computed by %1 from the figures above. This paper is no judgment of a court and no "
                        "fatwa: ask a scholar before the estate is divided.")
@@ -281,9 +278,15 @@ std::unique_ptr<QTextDocument> DivisionDocument::SetIn(QPagedPaintDevice& device
           .arg(points * 1.6)
           .arg(points * 1.15));
   document->documentLayout()->setPaintDevice(&device);
-  auto* tree = new PaperTree(view_, font, document.get());
+  auto* tree = new PaperTree(view_, Paper::tr("The family"), font, document.get());
   document->documentLayout()->registerHandler(PaperTree::Type, tree);
   document->setHtml(Html());
+  // Else each paragraph would have the direction of its first letter.
+  QTextCursor all(document.get());
+  all.select(QTextCursor::Document);
+  QTextBlockFormat turned;
+  turned.setLayoutDirection(CurrentDirection());
+  all.mergeBlockFormat(turned);
   QSizeF page = device.pageLayout().paintRectPixels(device.logicalDpiX()).size();
   page.rheight() -= 2 * pointsOfFooter * device.logicalDpiY() / 72;
   tree->SetWidest(page.width());
@@ -341,7 +344,7 @@ std::optional<QString> DivisionDocument::SavePdf(const QString& path) const {
   return Paper::tr("%1 is not saved: %2.").arg(QFileInfo(path).fileName(), file.errorString());
 }
 
-QString DivisionDocument::TableAsHtml() const { return Table() + OthersTable(); }
+QString DivisionDocument::TableAsHtml() const { return Table(Order::AsRead) + OthersTable(Order::AsRead); }
 
 QString DivisionDocument::TableAsText() const {
   QStringList lines;

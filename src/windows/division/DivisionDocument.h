@@ -33,6 +33,10 @@ class DivisionDocument {
   QString TableAsText() const;
   std::unique_ptr<QMimeData> ForClipboard() const;
 
+  /// In which order the columns of a table are written. Qt's text documents run them from the left, whatever
+  /// the direction of the table; letters and spreadsheets turn them around.
+  enum class Order { FromTheLeft, AsRead };
+
  private:
   /// The text in a font of so many points, laid out for the device.
   std::unique_ptr<QTextDocument> SetIn(QPagedPaintDevice& device, double points) const;
@@ -40,8 +44,8 @@ class DivisionDocument {
   QString Facts() const;
   QString Estate() const;
   QString Notice() const;
-  QString Table() const;
-  QString OthersTable() const;
+  QString Table(Order order) const;
+  QString OthersTable(Order order) const;
   QString Signatures() const;
 
   DivisionView view_;

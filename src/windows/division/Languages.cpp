@@ -90,6 +90,14 @@ Language CurrentLanguage() { return current; }
 
 QLocale CurrentLocale() { return {RowOf(current).InQt, QLocale::system().territory()}; }
 
+QFont FontOfLanguage(QFont font) {
+  QStringList families;
+  if (current == Language::Arabic) families.append(QStringLiteral("Amiri"));
+  if (current != Language::English) families.append(QStringLiteral("Noto Naskh Arabic"));
+  font.setFamilies(families + font.families());
+  return font;
+}
+
 Qt::LayoutDirection CurrentDirection() {
   return current == Language::English ? Qt::LeftToRight : Qt::RightToLeft;
 }

@@ -1,5 +1,6 @@
 #pragma once
 
+#include <QFont>
 #include <QLocale>
 #include <QString>
 #include <Qt>
@@ -37,6 +38,9 @@ Language CurrentLanguage();
 
 /// How the current language writes numbers and dates, as the user's region has it: 18,40,000.50 in India.
 QLocale CurrentLocale();
+/// A font with the families before it that set the current language well. For Urdu that is Naskh, since
+/// Qt 6.4 misplaces the joined letters of Nastaliq.
+QFont FontOfLanguage(QFont font);
 /// The direction of a window or a text in the current language.
 Qt::LayoutDirection CurrentDirection();
 

@@ -62,18 +62,21 @@ TreeMetrics MetricsFor(const DivisionView& view, const QFont& font) {
 
 }  // namespace
 
-PaperTree::PaperTree(const DivisionView& view, const QFont& font, QObject* parent)
-    : QObject(parent), view_(view), font_(font) {
+PaperTree::PaperTree(const DivisionView& view, const QString& title, const QFont& font, QObject* parent)
+    : QObject(parent), view_(view), title_(title), font_(font) {
   font_.setPixelSize(static_cast<int>(pointsOfText + 0.5));
   tree_ = LayOutFamily(view, MetricsFor(view, font_));
+  titleHeight_ = 2 * QFontMetricsF(font_).lineSpacing();
 }
+
+/// Of the picture in points, its title included.
+QSizeF PaperTree::Size() const { return {tree_.Width + 2.0, tree_.Height + 2.0 + titleHeight_}; }
 
 QSizeF PaperTree::intrinsicSize(QTextDocument* document, int, const QTextFormat&) {
   const QPaintDevice* device = document->documentLayout()->paintDevice();
   const double unit = device == nullptr ? 1 : double(device->logicalDpiX()) / pointsPerInch;
-  const double width = (tree_.Width + 2) * unit;
-  const double scale = widest_ > 0 && width > widest_ ? widest_ / width : 1;
-  return QSizeF(tree_.Width + 2, tree_.Height + 2) * unit * scale;
+  const QSizeF size = Size() * unit;
+  return widest_ > 0 && size.width() > widest_ ? size * (widest_ / size.width()) : size;
 }
 
 QRectF PaperTree::PlaceOf(const TreeNode& node) const {
@@ -109,12 +112,13 @@ void PaperTree::DrawNode(QPainter& painter, const TreeNode& node) const {
 void PaperTree::drawObject(QPainter* painter, const QRectF& place, QTextDocument*, int, const QTextFormat&) {
   painter->save();
   painter->translate(place.topLeft());
-  painter->scale(place.width() / (tree_.Width + 2), place.height() / (tree_.Height + 2));
-  painter->translate(1, 1);
+  painter->scale(place.width() / Size().width(), place.height() / Size().height());
   painter->setRenderHint(QPainter::Antialiasing);
   painter->setFont(font_);
   painter->setLayoutDirection(CurrentDirection());
   painter->setPen(QPen(Qt::black, 0.6));
+  painter->drawText(QRectF(0, 0, Size().width(), titleHeight_), Qt::AlignHCenter | Qt::AlignTop, title_);
+  painter->translate(1, titleHeight_ + 1);
   for (const TreeLine& line : tree_.Lines) {
     QPolygonF points;
     for (const TreePoint& point : line) points.append(PlaceOf(point));

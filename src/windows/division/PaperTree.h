@@ -18,7 +18,7 @@ class PaperTree : public QObject, public QTextObjectInterface {
   /// The number of the object's type in the document.
   static constexpr int Type = QTextFormat::UserObject + 1;
 
-  PaperTree(const DivisionView& view, const QFont& font, QObject* parent);
+  PaperTree(const DivisionView& view, const QString& title, const QFont& font, QObject* parent);
 
   /// The tree is scaled down where it is wider than this, in the units of the layout.
   void SetWidest(double width) { widest_ = width; }
@@ -28,12 +28,15 @@ class PaperTree : public QObject, public QTextObjectInterface {
                   const QTextFormat& format) override;
 
  private:
+  QSizeF Size() const;
   void DrawNode(QPainter& painter, const TreeNode& node) const;
   QRectF PlaceOf(const TreeNode& node) const;
   QPointF PlaceOf(const TreePoint& point) const;
 
   const DivisionView& view_;
+  QString title_;
   QFont font_;
+  double titleHeight_ = 0;
   FamilyTree tree_;
   double widest_ = 0;
 };
