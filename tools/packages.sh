@@ -5,9 +5,11 @@ packages_to_run=(
   build-essential    # compiler and linker
   cmake              # build
   ninja-build        # build
-  qt6-base-dev       # windows, with the plugins for X11 and offscreen
+  qt6-base-dev       # windows and printing, with the plugins for X11 and offscreen
   libqt6svg6         # pictures: the plugin that loads them
   qt6-multimedia-dev # videos
+  qt6-tools-dev      # translations: the CMake files of Qt Linguist
+  qt6-l10n-tools     # translations: lrelease, and lupdate for the test that none is missing
   qt6-wayland        # windows on a Wayland desktop
   fonts-dejavu-core  # a font for the windows, where no other is installed
 )

@@ -5,7 +5,7 @@
 #include <QTest>
 
 #include "screens/HeirFields.h"
-#include "support/MemoryOutside.h"
+#include "support/FakePorts.h"
 #include "windows/division/DivisionWords.h"
 #include "windows/division/Paper.h"
 #include "windows/platform/Utf8.h"
@@ -43,8 +43,8 @@ CaseTexts Everybody() {
 }
 
 DivisionDocument DocumentOf(const CaseTexts& texts, School school = School::Hanafi) {
-  testing::MemoryWorld world;
-  CaseScreen screen(world.Ports);
+  testing::FakePorts outside;
+  CaseScreen screen(outside.Ports);
   TypeIntoScreen(texts, screen);
   return {ViewDivision(screen, false, school), QDate(2026, 11, 21)};
 }
