@@ -1,14 +1,19 @@
+#include <QApplication>
 #include <QClipboard>
+#include <QLibrary>
+#include <QMessageBox>
 #include <QMimeData>
-#include <QPdfWriter>
+#include <QPageSize>
 #include <QTemporaryDir>
 #include <QTest>
+#include <QTimer>
 
 #include "screens/HeirFields.h"
 #include "support/FakePorts.h"
 #include "windows/division/DivisionWords.h"
 #include "windows/division/Paper.h"
 #include "windows/platform/Utf8.h"
+#include "windows/print/PrintDialogs.h"
 
 using namespace qismora;
 using faraid::Kind;
@@ -116,6 +121,44 @@ class DivisionPaperTest : public QObject {
     QCOMPARE(sum, 1500000.0);
     QVERIFY(data->html().contains(QStringLiteral("<table")));
     QVERIFY(data->html().contains(QStringLiteral("excluded by the grandfather")));
+  }
+
+  // The preview lays out the same pages as the file, for the paper that the user sets.
+  void previews() {
+    QLibrary plugin(QStringLiteral(PRINT_PLUGIN));
+    const auto show = reinterpret_cast<ShowPrintDialog>(plugin.resolve(ShowPrintDialogName));
+    QVERIFY2(show != nullptr, qPrintable(plugin.errorString()));
+    const DivisionDocument document = DocumentOf(Abdullah());
+    int paints = 0;
+    QTimer closer;
+    connect(&closer, &QTimer::timeout, this, [&] {
+      QWidget* dialog = QApplication::activeModalWidget();
+      if (dialog != nullptr && paints > 0) dialog->close();
+    });
+    closer.start(20);
+    show(nullptr,
+         {document.FileName(), UsualPaper(), PaperMargin,
+          [&](QPagedPaintDevice& device) {
+            document.Print(device);
+            ++paints;
+          }},
+         true);
+    QVERIFY(paints > 0);
+  }
+
+  // Without the plugin, as here beside the test, the user is told what to do instead.
+  void saysThatPrintingIsMissing() {
+    QString words;
+    QTimer closer;
+    connect(&closer, &QTimer::timeout, this, [&] {
+      auto* box = qobject_cast<QMessageBox*>(QApplication::activeModalWidget());
+      if (box == nullptr) return;
+      words = box->text();
+      box->close();
+    });
+    closer.start(20);
+    PreviewPaper(DocumentOf(Abdullah()), nullptr);
+    QVERIFY(words.contains(QStringLiteral("PDF")));
   }
 
   // What the user typed as a name is text, and no part of a path.

@@ -156,7 +156,8 @@ QVariant HelpPage::loadResource(int type, const QUrl& name) {
   QImage picture = content.canConvert<QImage>() && !content.value<QImage>().isNull()
                        ? content.value<QImage>()
                        : QImage::fromData(content.toByteArray());
-  const int widest = std::max(200, viewport()->width() - 4 * margin);
+  // In a list it stands indented.
+  const int widest = std::max(200, viewport()->width() - 7 * margin);
   if (picture.width() > widest) picture = picture.scaledToWidth(widest, Qt::SmoothTransformation);
   return picture;
 }
