@@ -132,12 +132,13 @@ QString FieldOf(const QString& field, const faraid::Reason& reason) {
 QString Filled(const QString& pattern, const faraid::Reason& reason) {
   QString text;
   qsizetype from = 0;
-  for (qsizetype open; (open = pattern.indexOf(QLatin1Char('{'), from)) >= 0;) {
+  while (true) {
+    const qsizetype open = pattern.indexOf(QLatin1Char('{'), from);
+    if (open < 0) return text + pattern.mid(from);
     const qsizetype close = pattern.indexOf(QLatin1Char('}'), open);
     text += pattern.mid(from, open - from) + FieldOf(pattern.mid(open + 1, close - open - 1), reason);
     from = close + 1;
   }
-  return text + pattern.mid(from);
 }
 
 QString Sentence(const faraid::Reason& reason, const QString& source) {
@@ -378,9 +379,10 @@ QString BequestNotice(const DivisionView& view) {
   if (!view.IsDivided() || !view.BequestsAreCut()) return {};
   const QString asked = Amount(view.Estate.Bequests);
   const QString limit = Amount(view.Settlement.Bequests);
-  if (view.Estate.HeirsConsent)
+  if (view.Estate.HeirsConsent) {
     return Words::tr("Bequests of %1 are limited to %2, all that funeral expenses and debts leave.")
         .arg(asked, limit);
+  }
   return Words::tr(
              "Bequests of %1 are limited to %2, a third of what funeral expenses and debts leave. More "
              "needs the consent of the heirs.")

@@ -14,7 +14,7 @@ namespace qismora {
 namespace {
 
 /// The tree is laid out in points and its text is so high, however the paper is divided.
-constexpr double pointsOfText = 7.5;
+constexpr int pointsOfText = 8;
 constexpr int pointsPerInch = 72;
 
 QStringList LinesOf(const DivisionView& view, const TreeNode& node) {
@@ -27,9 +27,10 @@ QStringList LinesOf(const DivisionView& view, const TreeNode& node) {
   const bool counted = faraid::MostOf(node.Heir) > 1;
   const QString name = words::Heir(node.Heir, line->Law.Heads);
   const QString heads = counted ? name + QLatin1Char(' ') + words::Number(line->Law.Heads) : name;
-  if (line->Takes())
+  if (line->Takes()) {
     return {heads,
             words::Share(line->Law.Share) + QStringLiteral(" · ") + words::Amount(line->Amount.Together)};
+  }
   const QString yields = words::YieldsTo(line->Law);
   return {heads, yields.isEmpty() ? words::StandingOf(line->Law.As) : yields};
 }
@@ -64,7 +65,7 @@ TreeMetrics MetricsFor(const DivisionView& view, const QFont& font) {
 
 PaperTree::PaperTree(const DivisionView& view, const QString& title, const QFont& font, QObject* parent)
     : QObject(parent), view_(view), title_(title), font_(font) {
-  font_.setPixelSize(static_cast<int>(pointsOfText + 0.5));
+  font_.setPixelSize(pointsOfText);
   tree_ = LayOutFamily(view, MetricsFor(view, font_));
   titleHeight_ = 2 * QFontMetricsF(font_).lineSpacing();
 }

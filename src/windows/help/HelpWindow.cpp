@@ -70,9 +70,9 @@ QString AnchorOf(const QString& heading) {
 }
 
 QString HelpFolder() {
-  const QString binaries = QCoreApplication::applicationDirPath();
+  QString binaries = QCoreApplication::applicationDirPath();
   for (const char* folder : {"/../share/doc/qismora", "/../docs", "/../../docs", "/../../../docs"}) {
-    const QString path = QDir::cleanPath(binaries + QLatin1String(folder));
+    QString path = QDir::cleanPath(binaries + QLatin1String(folder));
     if (QFileInfo::exists(path + QLatin1Char('/') + QLatin1String(GuidePage))) return path;
   }
   return binaries;
@@ -151,7 +151,7 @@ void HelpPage::NameHeadings() {
 
 // A picture that is wider than the page is scaled down to it.
 QVariant HelpPage::loadResource(int type, const QUrl& name) {
-  const QVariant content = QTextBrowser::loadResource(type, name);
+  QVariant content = QTextBrowser::loadResource(type, name);
   if (type != QTextDocument::ImageResource) return content;
   QImage picture = content.canConvert<QImage>() && !content.value<QImage>().isNull()
                        ? content.value<QImage>()
@@ -274,8 +274,8 @@ void HelpWindow::Follow(const QUrl& link) {
 void HelpWindow::ListHeadings() {
   list_->clear();
   for (const HelpPage::Heading& heading : page_->Headings()) {
-    auto* item =
-        new QListWidgetItem(QString((heading.Level - 1) * 3, QChar(QChar::Nbsp)) + heading.Title, list_);
+    auto* item = new QListWidgetItem(
+        QString(qsizetype{3} * (heading.Level - 1), QChar(QChar::Nbsp)) + heading.Title, list_);
     item->setData(Qt::UserRole, heading.Anchor);
     item->setToolTip(heading.Title);
   }
