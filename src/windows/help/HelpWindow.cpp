@@ -85,8 +85,12 @@ void ShowHelp(const QString& page, const QString& anchor, QWidget* from) {
     help->setAttribute(Qt::WA_DeleteOnClose);
     QObject::connect(QCoreApplication::instance(), &QCoreApplication::aboutToQuit, help, &QWidget::close);
   }
-  // Above the window that it explains, one that stays on top among them.
+  // Above the window that it explains, also where that one stays above all others.
   if (from != nullptr && from->window()->windowHandle() != nullptr) {
+    // Only a dialog is kept above its parent by the window manager.
+    const Qt::WindowFlags flags = Qt::Dialog | Qt::WindowMinMaxButtonsHint | Qt::WindowCloseButtonHint |
+                                  (from->window()->windowFlags() & Qt::WindowStaysOnTopHint);
+    if (help->windowFlags() != flags) help->setWindowFlags(flags);
     help->winId();
     help->windowHandle()->setTransientParent(from->window()->windowHandle());
   }
