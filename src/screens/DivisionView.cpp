@@ -23,9 +23,9 @@ bool HasResiduary(const faraid::Division& division) {
 DivisionOutcome OutcomeOf(const faraid::Division& division) {
   const auto has = [&](auto condition) { return std::ranges::any_of(division.Rows, condition); };
   if (division.Base == 0) return DivisionOutcome::NoHeirs;
-  if (division.RaisedTo > 0) return DivisionOutcome::Awl;
+  if (division.RaisedTo > 0) return DivisionOutcome::AwlApplied;
   if (has([](const faraid::Row& row) { return row.Why.Changed == Change::Radd; }))
-    return DivisionOutcome::Radd;
+    return DivisionOutcome::RaddApplied;
   if (has([](const faraid::Row& row) { return row.Heir == Kind::Remainder; }))
     return DivisionOutcome::Remainder;
   return HasResiduary(division) ? DivisionOutcome::Residue : DivisionOutcome::FitsExactly;

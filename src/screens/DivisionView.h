@@ -22,9 +22,9 @@ enum class DivisionOutcome {
   /// No heir inherits; the whole is the remainder.
   NoHeirs,
   /// The fixed shares exceed the estate, so that all are reduced.
-  Awl,
+  AwlApplied,
   /// The fixed shares leave something, which returns to the sharers other than the spouse.
-  Radd,
+  RaddApplied,
   /// A spouse alone: what the fixed share leaves is the remainder.
   Remainder,
   /// Residuaries take what the fixed shares leave, or the whole.
@@ -77,8 +77,8 @@ struct DivisionView {
   /// The heirs who are alive and receive nothing.
   std::vector<DivisionLine> Others;
 
-  /// The answer of the commands of Case Study, and where it differs. Nothing where nothing is divided, nor for
-  /// a case that is not on the screen.
+  /// The answer of the commands of Case Study, and where it differs. Nothing where nothing is divided, nor
+  /// for a case that is not on the screen.
   std::optional<OwnAnswer> Own;
   Differences Differs;
 

@@ -38,8 +38,8 @@ TEST(DivisionView, NamesWhatBecameOfTheEstate) {
   indebted.Fields[DebtsBox] = "2400.01";
   EXPECT_EQ(Outcome(indebted), DivisionOutcome::Short);
   EXPECT_EQ(Outcome(Case({})), DivisionOutcome::NoHeirs);
-  EXPECT_EQ(Outcome(Case({{Kind::Husband, 1}, {Kind::FullSisters, 2}})), DivisionOutcome::Awl);
-  EXPECT_EQ(Outcome(Case({{Kind::Wives, 1}, {Kind::Daughters, 1}})), DivisionOutcome::Radd);
+  EXPECT_EQ(Outcome(Case({{Kind::Husband, 1}, {Kind::FullSisters, 2}})), DivisionOutcome::AwlApplied);
+  EXPECT_EQ(Outcome(Case({{Kind::Wives, 1}, {Kind::Daughters, 1}})), DivisionOutcome::RaddApplied);
   EXPECT_EQ(Outcome(Case({{Kind::Wives, 1}})), DivisionOutcome::Remainder);
   EXPECT_EQ(Outcome(Case({{Kind::Wives, 1}, {Kind::Sons, 2}})), DivisionOutcome::Residue);
   EXPECT_EQ(Outcome(Case({{Kind::Husband, 1}, {Kind::FullSisters, 1}})), DivisionOutcome::FitsExactly);

@@ -186,10 +186,10 @@ constexpr struct {
 
 QString WhatHappened(const DivisionView& view) {
   switch (view.Outcome) {
-    case DivisionOutcome::Awl:
+    case DivisionOutcome::AwlApplied:
       return Words::tr("The fixed shares exceed the estate: Awl raises the base from %1 to %2.")
           .arg(Number(view.Division.Base), Number(view.Division.RaisedTo));
-    case DivisionOutcome::Radd:
+    case DivisionOutcome::RaddApplied:
       return Words::tr(
           "The fixed shares leave something and there is no residuary: Radd returns it to the "
           "sharers other than the spouse.");
