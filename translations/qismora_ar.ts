@@ -77,6 +77,175 @@
     </message>
 </context>
 <context>
+    <name>DivisionTable</name>
+    <message>
+        <source>Difference</source>
+        <translation>الفرق</translation>
+    </message>
+    <message>
+        <source>not alive in this case</source>
+        <translation>ليس حيًّا في هذه الحالة</translation>
+    </message>
+    <message>
+        <source>has no line</source>
+        <translation>لا سطر له</translation>
+    </message>
+    <message>
+        <source>Where they differ, and why</source>
+        <translation>موضع الخلاف وسببه</translation>
+    </message>
+    <message>
+        <source>all four alike</source>
+        <translation>الأربعة متفقة</translation>
+    </message>
+</context>
+<context>
+    <name>DivisionWindow</name>
+    <message>
+        <source>Division</source>
+        <translation>القسمة</translation>
+    </message>
+    <message>
+        <source>&amp;School</source>
+        <translation>ال&amp;مذهب</translation>
+    </message>
+    <message>
+        <source>&amp;Four schools</source>
+        <translation>المذاهب الأر&amp;بعة</translation>
+    </message>
+    <message>
+        <source>The four schools side by side, and why they differ (Ctrl+4)</source>
+        <translation>المذاهب الأربعة جنبًا إلى جنب وسبب اختلافها (Ctrl+4)</translation>
+    </message>
+    <message>
+        <source>&amp;Keep</source>
+        <translation>ا&amp;حتفاظ</translation>
+    </message>
+    <message>
+        <source>Keep this division and compare the next ones with it (Ctrl+K)</source>
+        <translation>الاحتفاظ بهذه القسمة ومقارنة ما بعدها بها (Ctrl+K)</translation>
+    </message>
+    <message>
+        <source>&amp;Copy</source>
+        <translation>&amp;نسخ</translation>
+    </message>
+    <message>
+        <source>Copy the table for a letter or a spreadsheet (Ctrl+Shift+C)</source>
+        <translation>نسخ الجدول لرسالة أو جدول بيانات (Ctrl+Shift+C)</translation>
+    </message>
+    <message>
+        <source>&amp;Print...</source>
+        <translation>&amp;طباعة...</translation>
+    </message>
+    <message>
+        <source>Pre&amp;view...</source>
+        <translation>&amp;معاينة الطباعة...</translation>
+    </message>
+    <message>
+        <source>Save as P&amp;DF...</source>
+        <translation>حفظ بصيغة &amp;PDF...</translation>
+    </message>
+    <message>
+        <source>&amp;Language</source>
+        <translation>ال&amp;لغة</translation>
+    </message>
+    <message>
+        <source>As the desktop</source>
+        <translation>كلغة سطح المكتب</translation>
+    </message>
+    <message>
+        <source>The &amp;heirs consent to more than a third</source>
+        <translation>أجاز ال&amp;ورثة ما زاد على الثلث</translation>
+    </message>
+    <message>
+        <source>Who receives what</source>
+        <translation>ما يأخذه كل وارث</translation>
+    </message>
+    <message>
+        <source>The estate as a bar</source>
+        <translation>التركة في شريط</translation>
+    </message>
+    <message>
+        <source>Family tree</source>
+        <translation>شجرة العائلة</translation>
+    </message>
+    <message>
+        <source>Division - %1</source>
+        <translation>القسمة - %1</translation>
+    </message>
+    <message>
+        <source>Type the estate</source>
+        <translation>أدخل التركة</translation>
+    </message>
+    <message>
+        <source>What if these had died before: %1.</source>
+        <translation>لو مات هؤلاء قبله: %1.</translation>
+    </message>
+    <message>
+        <source>The fields of Case Study are as they were.</source>
+        <translation>حقول Case Study كما كانت.</translation>
+    </message>
+    <message>
+        <source>Back to the case (Esc)</source>
+        <translation>العودة إلى الحالة (Esc)</translation>
+    </message>
+    <message>
+        <source>the fields of Case Study as they stand now</source>
+        <translation>حقول Case Study كما هي الآن</translation>
+    </message>
+    <message>
+        <source>a supposition, not the case of the fields</source>
+        <translation>افتراض وليس الحالة المُدخلة</translation>
+    </message>
+    <message>
+        <source>Kept</source>
+        <translation>المحفوظ</translation>
+    </message>
+    <message>
+        <source>As it is</source>
+        <translation>الأصل</translation>
+    </message>
+    <message>
+        <source>What if one of them had died before: %1</source>
+        <translation>لو مات واحد منهم قبله: %1</translation>
+    </message>
+    <message>
+        <source>What if all of them had died before: %1</source>
+        <translation>لو ماتوا جميعًا قبله: %1</translation>
+    </message>
+    <message>
+        <source>What if this heir had died before: %1</source>
+        <translation>لو مات هذا الوارث قبله: %1</translation>
+    </message>
+    <message>
+        <source>Go to the field of Case Study</source>
+        <translation>الانتقال إلى حقل Case Study</translation>
+    </message>
+    <message>
+        <source>Back to the case</source>
+        <translation>العودة إلى الحالة</translation>
+    </message>
+</context>
+<context>
+    <name>FamilyTreeView</name>
+    <message>
+        <source>Family tree</source>
+        <translation>شجرة العائلة</translation>
+    </message>
+    <message>
+        <source>Deceased</source>
+        <translation>الميت</translation>
+    </message>
+    <message>
+        <source>%1 %2</source>
+        <translation>%1 %2</translation>
+    </message>
+    <message>
+        <source>%1, and in the picture from the top: %2</source>
+        <translation>%1، وفي الصورة من الأعلى: %2</translation>
+    </message>
+</context>
+<context>
     <name>Heirs</name>
     <message>
         <source>Wife</source>

@@ -77,6 +77,175 @@
     </message>
 </context>
 <context>
+    <name>DivisionTable</name>
+    <message>
+        <source>Difference</source>
+        <translation>فرق</translation>
+    </message>
+    <message>
+        <source>not alive in this case</source>
+        <translation>اس صورت میں زندہ نہیں</translation>
+    </message>
+    <message>
+        <source>has no line</source>
+        <translation>کوئی سطر نہیں</translation>
+    </message>
+    <message>
+        <source>Where they differ, and why</source>
+        <translation>اختلاف کہاں ہے اور کیوں</translation>
+    </message>
+    <message>
+        <source>all four alike</source>
+        <translation>چاروں متفق</translation>
+    </message>
+</context>
+<context>
+    <name>DivisionWindow</name>
+    <message>
+        <source>Division</source>
+        <translation>تقسیم</translation>
+    </message>
+    <message>
+        <source>&amp;School</source>
+        <translation>&amp;فقہی مسلک</translation>
+    </message>
+    <message>
+        <source>&amp;Four schools</source>
+        <translation>&amp;چاروں مسالک</translation>
+    </message>
+    <message>
+        <source>The four schools side by side, and why they differ (Ctrl+4)</source>
+        <translation>چاروں مسالک ایک ساتھ، اور ان کے اختلاف کی وجہ (Ctrl+4)</translation>
+    </message>
+    <message>
+        <source>&amp;Keep</source>
+        <translation>&amp;محفوظ رکھیں</translation>
+    </message>
+    <message>
+        <source>Keep this division and compare the next ones with it (Ctrl+K)</source>
+        <translation>یہ تقسیم رکھیں اور بعد کی تقسیموں کا اس سے موازنہ کریں (Ctrl+K)</translation>
+    </message>
+    <message>
+        <source>&amp;Copy</source>
+        <translation>&amp;نقل</translation>
+    </message>
+    <message>
+        <source>Copy the table for a letter or a spreadsheet (Ctrl+Shift+C)</source>
+        <translation>خط یا اسپریڈ شیٹ کے لیے جدول نقل کریں (Ctrl+Shift+C)</translation>
+    </message>
+    <message>
+        <source>&amp;Print...</source>
+        <translation>&amp;طباعت...</translation>
+    </message>
+    <message>
+        <source>Pre&amp;view...</source>
+        <translation>طباعت کا &amp;پیش منظر...</translation>
+    </message>
+    <message>
+        <source>Save as P&amp;DF...</source>
+        <translation>&amp;PDF میں محفوظ کریں...</translation>
+    </message>
+    <message>
+        <source>&amp;Language</source>
+        <translation>&amp;زبان</translation>
+    </message>
+    <message>
+        <source>As the desktop</source>
+        <translation>ڈیسک ٹاپ کے مطابق</translation>
+    </message>
+    <message>
+        <source>The &amp;heirs consent to more than a third</source>
+        <translation>&amp;ورثاء تہائی سے زیادہ پر راضی ہیں</translation>
+    </message>
+    <message>
+        <source>Who receives what</source>
+        <translation>کس کو کیا ملتا ہے</translation>
+    </message>
+    <message>
+        <source>The estate as a bar</source>
+        <translation>ترکہ پٹی کی صورت میں</translation>
+    </message>
+    <message>
+        <source>Family tree</source>
+        <translation>شجرہ نسب</translation>
+    </message>
+    <message>
+        <source>Division - %1</source>
+        <translation>تقسیم - %1</translation>
+    </message>
+    <message>
+        <source>Type the estate</source>
+        <translation>ترکہ درج کریں</translation>
+    </message>
+    <message>
+        <source>What if these had died before: %1.</source>
+        <translation>اگر یہ پہلے وفات پا چکے ہوتے: %1۔</translation>
+    </message>
+    <message>
+        <source>The fields of Case Study are as they were.</source>
+        <translation>Case Study کے خانے جوں کے توں ہیں۔</translation>
+    </message>
+    <message>
+        <source>Back to the case (Esc)</source>
+        <translation>اصل مسئلے پر واپس (Esc)</translation>
+    </message>
+    <message>
+        <source>the fields of Case Study as they stand now</source>
+        <translation>Case Study کے خانے جیسے اس وقت ہیں</translation>
+    </message>
+    <message>
+        <source>a supposition, not the case of the fields</source>
+        <translation>فرضی صورت، خانوں کا مسئلہ نہیں</translation>
+    </message>
+    <message>
+        <source>Kept</source>
+        <translation>محفوظ</translation>
+    </message>
+    <message>
+        <source>As it is</source>
+        <translation>اصل</translation>
+    </message>
+    <message>
+        <source>What if one of them had died before: %1</source>
+        <translation>اگر ان میں سے ایک پہلے وفات پا چکا ہوتا: %1</translation>
+    </message>
+    <message>
+        <source>What if all of them had died before: %1</source>
+        <translation>اگر یہ سب پہلے وفات پا چکے ہوتے: %1</translation>
+    </message>
+    <message>
+        <source>What if this heir had died before: %1</source>
+        <translation>اگر یہ وارث پہلے وفات پا چکا ہوتا: %1</translation>
+    </message>
+    <message>
+        <source>Go to the field of Case Study</source>
+        <translation>Case Study کے خانے پر جائیں</translation>
+    </message>
+    <message>
+        <source>Back to the case</source>
+        <translation>اصل مسئلے پر واپس</translation>
+    </message>
+</context>
+<context>
+    <name>FamilyTreeView</name>
+    <message>
+        <source>Family tree</source>
+        <translation>شجرہ نسب</translation>
+    </message>
+    <message>
+        <source>Deceased</source>
+        <translation>متوفی</translation>
+    </message>
+    <message>
+        <source>%1 %2</source>
+        <translation>%1 %2</translation>
+    </message>
+    <message>
+        <source>%1, and in the picture from the top: %2</source>
+        <translation>%1، اور تصویر میں اوپر سے: %2</translation>
+    </message>
+</context>
+<context>
     <name>Heirs</name>
     <message>
         <source>Wife</source>

@@ -1,5 +1,6 @@
 #include "windows/casestudy/CaseStudyWindow.h"
 
+#include <QAction>
 #include <QBoxLayout>
 #include <QCloseEvent>
 #include <QLabel>
@@ -9,6 +10,7 @@
 #include <QShortcut>
 #include <QStatusBar>
 #include <QTimer>
+#include <QToolButton>
 
 #include "windows/casestudy/CaseMenu.h"
 #include "windows/casestudy/ClassIIPanel.h"
@@ -16,6 +18,7 @@
 #include "windows/casestudy/ResultPanel.h"
 #include "windows/casestudy/SavePanel.h"
 #include "windows/casestudy/TopStrip.h"
+#include "windows/division/DivisionOpener.h"
 #include "windows/help/HelpWindow.h"
 #include "windows/platform/Utf8.h"
 #include "windows/widgets/CaptionButton.h"
@@ -39,6 +42,7 @@ CaseStudyWindow::CaseStudyWindow(CaseRecord& record, Outside& outside, int saved
   setAttribute(Qt::WA_DeleteOnClose);
   form_.Hide = [this] { hide(); };
   FillCaseMenu(menuBar(), form_, binder_);
+  BuildDivision(outside.Store);
   AddHelpMenu(menuBar());
   BuildStatusBar(outside);
   BuildFrame();
@@ -81,6 +85,27 @@ void CaseStudyWindow::BuildFrame() {
   for (QWidget* widget : {frame, Background(), static_cast<QWidget*>(this)}) {
     WhenMouseMoves(widget, [this] { form_.Frame111_MouseMove(); });
   }
+}
+
+// The menu entry has the key; the line at the end of the menu bar is always in sight.
+void CaseStudyWindow::BuildDivision(Settings& store) {
+  division_ = new DivisionOpener(form_, store, this);
+  auto* open = new QAction(QStringLiteral("&Division"), menuBar());
+  open->setObjectName(QStringLiteral("Division"));
+  open->setShortcut(Qt::Key_F8);
+  connect(open, &QAction::triggered, division_, &DivisionOpener::Open);
+  menuBar()->addAction(open);
+
+  auto* line = new QToolButton(menuBar());
+  line->setObjectName(QStringLiteral("DivisionLine"));
+  line->setText(QStringLiteral("Who receives what: F8"));
+  line->setAccessibleName(QStringLiteral("Who receives what: opens the division"));
+  line->setToolTip(QStringLiteral("The final division in one table, with its reasons (F8)"));
+  line->setAutoRaise(true);
+  line->setFocusPolicy(Qt::NoFocus);
+  line->setMaximumHeight(line->fontMetrics().height() + 4);
+  connect(line, &QToolButton::clicked, division_, &DivisionOpener::Open);
+  menuBar()->setCornerWidget(line);
 }
 
 void CaseStudyWindow::BuildStatusBar(Outside& outside) {

@@ -6,11 +6,16 @@
 
 namespace qismora {
 
+class DivisionOpener;
+
 /// The window of the Case Study screen. Closing it destroys it with its form, so that the next opening starts
 /// with a new one.
 class CaseStudyWindow : public FormHolder<CaseStudy>, public FormWindow {
  public:
   CaseStudyWindow(CaseRecord& record, Outside& outside, int savedLanguage);
+
+  /// The Division window, which shows what the fields come to.
+  DivisionOpener& Division() { return *division_; }
 
  protected:
   bool FrameGrows() const override { return true; }
@@ -18,10 +23,13 @@ class CaseStudyWindow : public FormHolder<CaseStudy>, public FormWindow {
 
  private:
   void BuildFrame();
+  void BuildDivision(Settings& store);
   void BuildStatusBar(Outside& outside);
   void BuildTimer();
   void KeepOnTop();
   void OrderTabs();
+
+  DivisionOpener* division_ = nullptr;
 };
 
 }  // namespace qismora

@@ -1,9 +1,11 @@
 #include "windows/forms/ProgramWindows.h"
 
 #include <QGuiApplication>
+#include <QTimer>
 #include <QWindow>
 
 #include "base/Text.h"
+#include "windows/division/DivisionOpener.h"
 #include "windows/platform/Ports.h"
 #include "windows/platform/SessionEnd.h"
 #include "windows/platform/Utf8.h"
@@ -77,6 +79,8 @@ void ProgramWindows::ShowCaseStudy() {
     form.ShowMainMenu = [this] { ShowMainMenu(); };
     form.ShowCatalogue = [this] { ShowCatalogue(study_); };
     form.HideCatalogue = [this] { HideCatalogue(); };
+    // Once Case Study stands where it belongs and is painted.
+    QTimer::singleShot(0, study_, [study = study_.data()] { study->Division().OpenBeside(); });
   }
   BringUp(study_);
 }

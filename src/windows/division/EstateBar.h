@@ -1,0 +1,39 @@
+#pragma once
+
+#include <QWidget>
+#include <vector>
+
+#include "faraid/Fraction.h"
+#include "faraid/Kinds.h"
+
+namespace qismora {
+
+/// The net estate as one bar, divided by heir.
+class EstateBar : public QWidget {
+ public:
+  explicit EstateBar(QWidget* parent);
+
+  struct Part {
+    faraid::Kind Heir;
+    faraid::Fraction Share;
+    QString Name;
+    /// What the tool tip of the part says.
+    QString Words;
+  };
+  void Show(std::vector<Part> parts);
+
+  QSize sizeHint() const override;
+  QSize minimumSizeHint() const override { return sizeHint(); }
+
+ protected:
+  void paintEvent(QPaintEvent* event) override;
+  bool event(QEvent* event) override;
+
+ private:
+  /// From the side on which the language begins.
+  QRectF PlaceOf(std::size_t part) const;
+
+  std::vector<Part> parts_;
+};
+
+}  // namespace qismora

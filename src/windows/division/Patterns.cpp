@@ -1,0 +1,126 @@
+#include "windows/division/Patterns.h"
+
+#include <QPainter>
+#include <QPalette>
+#include <array>
+
+#include "windows/style/Colours.h"
+
+namespace qismora {
+
+namespace {
+
+constexpr std::array<QRgb, 7> hues = {0xFF205C67, 0xFFB8860B, 0xFFB0503A, 0xFF5B8A3C,
+                                      0xFF6A4C93, 0xFF2F6DB5, 0xFF8C6239};
+constexpr double leastContrast = 3;
+constexpr double paleness = 0.78;
+constexpr qreal spacing = 6;
+constexpr qreal stroke = 2.2;
+
+enum class Pattern { Full, Rising, Level, Upright, Falling, Dotted, Checked };
+
+// In the order of the kinds, so that heirs who often take together differ without colours; all of class II
+// are alike, since one of them takes alone. Hue and pattern together differ for any two others.
+constexpr std::array<Pattern, 23> patterns = {
+    Pattern::Full,     // wives
+    Pattern::Full,     // husband
+    Pattern::Rising,   // sons
+    Pattern::Falling,  // daughters
+    Pattern::Rising,   // sons' sons
+    Pattern::Rising,   // sons' daughters
+    Pattern::Rising,   // sons' sons' sons
+    Pattern::Upright,  // sons' sons' daughters
+    Pattern::Level,    // father
+    Pattern::Level,    // grandfather
+    Pattern::Level,    // great-grandfather
+    Pattern::Dotted,   // mother
+    Pattern::Dotted,   // mother's mother
+    Pattern::Dotted,   // mother's mother's mother
+    Pattern::Checked,  // father's mother
+    Pattern::Checked,  // grandfather's mother
+    Pattern::Checked,  // father's mother's mother
+    Pattern::Checked,  // full brothers
+    Pattern::Upright,  // full sisters
+    Pattern::Rising,   // consanguine sisters
+    Pattern::Checked,  // consanguine brothers
+    Pattern::Level,    // uterine sisters
+    Pattern::Falling,  // uterine brothers
+};
+
+Pattern PatternOf(faraid::Kind heir) {
+  const auto i = static_cast<std::size_t>(heir);
+  return i < patterns.size() ? patterns[i] : Pattern::Upright;
+}
+
+void DrawStripes(QPainter& painter, const QRectF& rect, Pattern pattern) {
+  const qreal width = rect.width();
+  const qreal height = rect.height();
+  if (pattern == Pattern::Rising || pattern == Pattern::Falling) {
+    const qreal step = spacing * 1.4;
+    for (qreal x = -height; x < width; x += step) {
+      const QPointF low(rect.left() + x, rect.bottom());
+      const QPointF high(rect.left() + x + height, rect.top());
+      if (pattern == Pattern::Rising) {
+        painter.drawLine(low, high);
+      } else {
+        painter.drawLine(QPointF(low.x(), rect.top()), QPointF(high.x(), rect.bottom()));
+      }
+    }
+  }
+  if (pattern == Pattern::Level || pattern == Pattern::Checked) {
+    for (qreal y = rect.top() + spacing / 2; y < rect.bottom(); y += spacing) {
+      painter.drawLine(QPointF(rect.left(), y), QPointF(rect.right(), y));
+    }
+  }
+  if (pattern == Pattern::Upright || pattern == Pattern::Checked) {
+    for (qreal x = rect.left() + spacing / 2; x < rect.right(); x += spacing) {
+      painter.drawLine(QPointF(x, rect.top()), QPointF(x, rect.bottom()));
+    }
+  }
+  if (pattern == Pattern::Dotted) {
+    for (qreal y = rect.top() + spacing / 2; y < rect.bottom(); y += spacing) {
+      for (qreal x = rect.left() + spacing / 2; x < rect.right(); x += spacing) {
+        painter.drawPoint(QPointF(x, y));
+      }
+    }
+  }
+}
+
+}  // namespace
+
+QColor ColourOf(faraid::Kind heir, const QPalette& palette) {
+  const QColor base = palette.color(QPalette::Base);
+  if (IsBlackAndWhite(palette)) return palette.color(QPalette::Active, QPalette::Text);
+  return Readable(QColor(hues[static_cast<std::size_t>(heir) % hues.size()]), base, leastContrast);
+}
+
+void FillPattern(QPainter& painter, const QRectF& rect, faraid::Kind heir, const QPalette& palette) {
+  const QColor colour = ColourOf(heir, palette);
+  const Pattern pattern = PatternOf(heir);
+  if (pattern == Pattern::Full) return painter.fillRect(rect, colour);
+  painter.save();
+  painter.setClipRect(rect, Qt::IntersectClip);
+  const QColor base = palette.color(QPalette::Base);
+  painter.fillRect(rect, IsBlackAndWhite(palette) ? base : Between(colour, base, paleness));
+  painter.setRenderHint(QPainter::Antialiasing, pattern == Pattern::Rising || pattern == Pattern::Falling ||
+                                                    pattern == Pattern::Dotted);
+  const bool thin = pattern == Pattern::Checked;
+  painter.setPen(QPen(colour, thin ? 1 : stroke, Qt::SolidLine,
+                      pattern == Pattern::Dotted ? Qt::RoundCap : Qt::FlatCap));
+  DrawStripes(painter, rect, pattern);
+  painter.restore();
+}
+
+QPixmap PatternSwatch(faraid::Kind heir, const QPalette& palette, int size, int top, qreal scale) {
+  QPixmap swatch(QSize(size, size + top) * scale);
+  swatch.fill(Qt::transparent);
+  swatch.setDevicePixelRatio(scale);
+  QPainter painter(&swatch);
+  const QRectF whole(0, top, size, size);
+  FillPattern(painter, whole, heir, palette);
+  painter.setPen(ColourOf(heir, palette));
+  painter.drawRect(whole.adjusted(0.5, 0.5, -0.5, -0.5));
+  return swatch;
+}
+
+}  // namespace qismora
