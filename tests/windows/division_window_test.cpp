@@ -1,0 +1,278 @@
+#include <QAccessible>
+#include <QAction>
+#include <QApplication>
+#include <QCheckBox>
+#include <QComboBox>
+#include <QLabel>
+#include <QLineEdit>
+#include <QMenu>
+#include <QScrollArea>
+#include <QTableView>
+#include <QTest>
+#include <QToolButton>
+
+#include "CaseStudyFixture.h"
+#include "windows/division/DivisionOpener.h"
+#include "windows/division/DivisionWindow.h"
+#include "windows/division/FamilyTreeView.h"
+#include "windows/help/HelpWindow.h"
+
+namespace qismora {
+
+using testing::CaseStudyFixture;
+
+class DivisionWindowTest : public QObject {
+  Q_OBJECT
+
+ private slots:
+  void init() {
+    study_ = std::make_unique<CaseStudyFixture>();
+    OpenWithKey();
+  }
+  void cleanup() { study_.reset(); }
+
+  void followsEveryKeystroke() {
+    study_->Type("Text1(2)", QStringLiteral("1"));
+    QTRY_COMPARE(Cell("Son", 4), QStringLiteral("10,000.00"));
+    study_->Type("Text1(16)", QStringLiteral("1"));
+    QTRY_COMPARE(Cell("Mother", 2), QStringLiteral("1/6"));
+    QCOMPARE(Cell("Sum", 4), QStringLiteral("10,000.00"));
+    study_->Type("Text1(22)", QStringLiteral("2"));
+    QTRY_VERIFY(Row("Full brothers") > Row("Sum"));
+    // Nothing of it presses a command, nor counts as an execution.
+    QCOMPARE(study_->TextOf("Label13"), QStringLiteral("0"));
+  }
+
+  // A command changes many fields, and the window reads them once.
+  void anEventMayChangeManyFieldsForOneUpdate() {
+    study_->Type("Text1(2)", QStringLiteral("1"));
+    QTRY_VERIFY(Row("Son") >= 0);
+    study_->Form().Text1(2).Text = "2";
+    study_->Form().Text1(3).Text = "1";
+    QVERIFY(Row("Daughter") < 0);
+    QTRY_VERIFY(Row("Daughter") >= 0);
+    QVERIFY(Row("Sons") >= 0);
+  }
+
+  void opensByMenuLineAndKeyAndLeadsBack() {
+    Division()->close();
+    QTest::mouseClick(study_->Find<QToolButton>("DivisionLine"), Qt::LeftButton);
+    QTRY_VERIFY(Division()->isVisible());
+    QTRY_VERIFY(Division()->isActiveWindow());
+    QTest::keyClick(Division(), Qt::Key_F8);
+    QTRY_VERIFY(study_->Window().isActiveWindow());
+    Division()->close();
+    study_->Find<QAction>("Division")->trigger();
+    QTRY_VERIFY(Division()->isVisible());
+    QVERIFY(Division()->windowFlags().testFlag(Qt::WindowStaysOnTopHint));
+  }
+
+  void namesUnreadableFieldsAndLeadsToThem() {
+    study_->Type("Text1(3)", QStringLiteral("two"));
+    auto* faults = Find<QLabel>("Unreadable");
+    QTRY_VERIFY(faults->isVisible());
+    QVERIFY(faults->text().contains(QStringLiteral("is not a whole number")));
+    QVERIFY(!Find<QTableView>("DivisionTable")->isVisible());
+    Activate();
+    faults->setFocus(Qt::TabFocusReason);
+    QTest::keyClick(faults, Qt::Key_Tab);  // the first link
+    emit faults->linkActivated(QStringLiteral("field:3"));
+    QTRY_COMPARE(QApplication::focusWidget(), study_->Find<QLineEdit>("Text1(3)"));
+    study_->Type("Text1(3)", QStringLiteral("2"));
+    QTRY_VERIFY(!faults->isVisible());
+    QTRY_VERIFY(Find<QTableView>("DivisionTable")->isVisible());
+  }
+
+  void marksTheExampleFiguresUntilTheyAreTyped() {
+    QVERIFY(Find<QLabel>("Examples")->isVisible());
+    study_->Type("Text1(25)", QStringLiteral("1200"));
+    study_->Type("Text1(26)", QStringLiteral("0"));
+    study_->Type("Text1(27)", QStringLiteral("0"));
+    study_->Type("Text1(28)", QStringLiteral("0"));
+    QTRY_VERIFY(!Find<QLabel>("Examples")->isVisible());
+  }
+
+  void asksForTheConsentOfTheHeirsWhereItMatters() {
+    auto* consent = Find<QCheckBox>("HeirsConsent");
+    study_->Type("Text1(2)", QStringLiteral("1"));
+    QVERIFY(!consent->isVisible());
+    study_->Type("Text1(28)", QStringLiteral("8000"));
+    QTRY_VERIFY(consent->isVisible());
+    QTRY_COMPARE(Cell("Son", 4), QStringLiteral("8,400.00"));
+    QTest::keyClick(consent, Qt::Key_Space);
+    QTRY_COMPARE(Cell("Son", 4), QStringLiteral("4,600.00"));
+    QVERIFY(consent->isVisible());
+  }
+
+  // The commands have no line for a grandfather in the text of Aul.
+  void cannotHideThatTheCommandsAnswerOtherwise() {
+    for (const auto& [field, heads] : {std::pair("Text1(1)", "1"), std::pair("Text1(3)", "2"),
+                                       std::pair("Text1(14)", "1"), std::pair("Text1(16)", "1")}) {
+      study_->Type(field, QString::fromLatin1(heads));
+    }
+    auto* notice = Find<QLabel>("Notice");
+    QTRY_VERIFY(notice->isVisible());
+    emit notice->linkActivated(QStringLiteral("differs:8. A grandfather in the Aul text"));
+    QTRY_VERIFY(HelpIsShown());
+    QVERIFY(!Cell("Grandfather", 6).isEmpty());
+    QVERIFY(Cell("Grandfather", 6).startsWith(QStringLiteral("≠")));
+  }
+
+  void showsTheFourSchoolsAndRemembersTheChosenOne() {
+    study_->Type("Text1(14)", QStringLiteral("1"));
+    study_->Type("Text1(22)", QStringLiteral("1"));
+    QTRY_VERIFY(Row("Full brother") > Row("Sum"));
+    auto* schools = Find<QComboBox>("School");
+    schools->setFocus();
+    QTest::keyClick(schools, Qt::Key_Down);
+    QTRY_COMPARE(Cell("Full brother", 2), QStringLiteral("1/2"));
+    Activate();
+    QTest::keyClick(Division(), Qt::Key_4, Qt::ControlModifier);
+    QTRY_COMPARE(Cell("Full brother", 1), QStringLiteral("–"));
+    QVERIFY(Cell("Full brother", 2).startsWith(QStringLiteral("1/2")));
+    QVERIFY(Cell("Full brother", 5).contains(QStringLiteral("Hanafi: excluded by the grandfather")));
+    study_->Open();
+    OpenWithKey();
+    QCOMPARE(Find<QComboBox>("School")->currentText(), QStringLiteral("Maliki"));
+  }
+
+  void comparesWithTheDivisionThatIsKept() {
+    study_->Type("Text1(2)", QStringLiteral("1"));
+    study_->Type("Text1(16)", QStringLiteral("1"));
+    QTRY_VERIFY(Row("Mother") >= 0);
+    Find<QAction>("Keep")->trigger();
+    study_->Type("Text1(2)", QStringLiteral("0"));
+    // Before, and the difference; who is no longer alive has a line as well.
+    QTRY_COMPARE(CellDifference("Son"), QStringLiteral("−8,333.33"));
+    QCOMPARE(CellBefore("Son"), QStringLiteral("8,333.33"));
+    QCOMPARE(CellDifference("Mother"), QStringLiteral("+8,333.33"));
+    Find<QAction>("Keep")->trigger();
+    QTRY_VERIFY(Row("Son") < 0);
+  }
+
+  void triesWhatWouldBeIfAnHeirHadDiedBefore() {
+    study_->Type("Text1(2)", QStringLiteral("1"));
+    study_->Type("Text1(22)", QStringLiteral("1"));
+    QTRY_VERIFY(Row("Full brother") > Row("Sum"));
+    auto* table = Find<QTableView>("DivisionTable");
+    table->selectRow(Row("Son"));
+    Activate();
+    table->setFocus();
+    QTest::keyClick(table, Qt::Key_Delete);
+    QTRY_COMPARE(Cell("Full brother", 4), QStringLiteral("10,000.00"));
+    QVERIFY(Find<QLabel>("Supposition")->isVisible());
+    QCOMPARE(study_->TextOf("Text1(2)"), QStringLiteral("1"));
+    QTest::keyClick(table, Qt::Key_Escape);
+    QTRY_COMPARE(Cell("Son", 4), QStringLiteral("10,000.00"));
+    QVERIFY(!Find<QLabel>("Supposition")->isVisible());
+  }
+
+  void speaksRowsAsSentencesAndTheTreeAsText() {
+    study_->Type("Text1(2)", QStringLiteral("1"));
+    study_->Type("Text1(22)", QStringLiteral("1"));
+    QTRY_VERIFY(Row("Full brother") >= 0);
+    auto* table = Find<QTableView>("DivisionTable");
+    QAccessibleInterface* spoken = QAccessible::queryAccessibleInterface(table);
+    QCOMPARE(spoken->role(), QAccessible::Table);
+    QAccessibleInterface* cell = spoken->tableInterface()->cellAt(Row("Son"), 0);
+    QVERIFY(cell->text(QAccessible::Name).startsWith(QStringLiteral("Son: ")));
+    QVERIFY(cell->text(QAccessible::Name).contains(QStringLiteral("10,000.00")));
+    QVERIFY(cell->text(QAccessible::Name).contains(QStringLiteral("Quran 4:11")));
+    const QString tree = Find("FamilyTree")->accessibleDescription();
+    QVERIFY(tree.contains(QStringLiteral("Full brother: yields to a son")));
+  }
+
+  // By the keyboard: the tree leads through the heirs, and the row goes along.
+  void treeAndTableChooseTheSameHeir() {
+    study_->Type("Text1(2)", QStringLiteral("1"));
+    study_->Type("Text1(13)", QStringLiteral("1"));
+    QTRY_VERIFY(Row("Father") >= 0);
+    auto* tree = Find("FamilyTree");
+    tree->setFocus();
+    QTest::keyClick(tree, Qt::Key_Right);
+    QCOMPARE(Find<QTableView>("DivisionTable")->currentIndex().row(), Row("Father"));
+    QTest::keyClick(tree, Qt::Key_Right);
+    QCOMPARE(Find<QTableView>("DivisionTable")->currentIndex().row(), Row("Son"));
+  }
+
+  void comesAndGoesWithCaseStudyAndKeepsItsPlace() {
+    Division()->resize(640, 500);
+    study_->Form().Hide();
+    QVERIFY(!Division()->isVisible());
+    study_->Window().show();
+    QVERIFY(QTest::qWaitForWindowExposed(&study_->Window()));
+    study_->Open();
+    OpenWithKey();
+    QCOMPARE(Division()->size(), QSize(640, 500));
+  }
+
+  // Nothing is cut on a small screen: what has no space scrolls.
+  void fitsASmallScreen() {
+    for (const char* field : {"Text1(2)", "Text1(3)", "Text1(13)", "Text1(16)", "Text1(22)", "Text1(23)"}) {
+      study_->Type(field, QStringLiteral("9"));
+    }
+    Division()->resize(620, 400);
+    QTRY_VERIFY(Division()->width() <= 660);
+    QVERIFY(Division()->minimumSizeHint().width() <= 800);
+    QVERIFY(Division()->minimumSizeHint().height() <= 560);
+  }
+
+ private:
+  static bool HelpIsShown() {
+    for (QWidget* window : QApplication::topLevelWidgets()) {
+      if (dynamic_cast<HelpWindow*>(window) != nullptr && window->isVisible()) return true;
+    }
+    return false;
+  }
+
+  DivisionOpener& Opener() { return study_->Window().Division(); }
+  DivisionWindow* Division() { return Opener().Window(); }
+
+  void OpenWithKey() {
+    study_->Window().activateWindow();
+    QTest::keyClick(&study_->Window(), Qt::Key_F8);
+    QTRY_VERIFY(Division() != nullptr && Division()->isVisible());
+  }
+
+  void Activate() {
+    Division()->activateWindow();
+    QTRY_VERIFY(Division()->isActiveWindow());
+  }
+
+  template <class Found = QWidget>
+  Found* Find(const char* name) {
+    auto* found = Division()->findChild<Found*>(QString::fromLatin1(name));
+    if (found == nullptr) qFatal("there is no %s", name);
+    return found;
+  }
+
+  /// The row of an heir; -1 without.
+  int Row(const char* heir) {
+    const QAbstractItemModel* model = Find<QTableView>("DivisionTable")->model();
+    for (int row = 0; row < model->rowCount(); ++row) {
+      if (model->index(row, 0).data().toString() == QLatin1String(heir)) return row;
+    }
+    return -1;
+  }
+  QString Cell(const char* heir, int column) {
+    const int row = Row(heir);
+    return row < 0 ? QString()
+                   : Find<QTableView>("DivisionTable")->model()->index(row, column).data().toString();
+  }
+  int Column(const char* heading) {
+    const QAbstractItemModel* model = Find<QTableView>("DivisionTable")->model();
+    for (int column = 0; column < model->columnCount(); ++column) {
+      if (model->headerData(column, Qt::Horizontal).toString() == QLatin1String(heading)) return column;
+    }
+    return 0;
+  }
+  QString CellBefore(const char* heir) { return Cell(heir, Column("Kept")); }
+  QString CellDifference(const char* heir) { return Cell(heir, Column("Difference")); }
+
+  std::unique_ptr<CaseStudyFixture> study_;
+};
+
+}  // namespace qismora
+
+QTEST_MAIN(qismora::DivisionWindowTest)
+#include "division_window_test.moc"
