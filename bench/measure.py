@@ -21,6 +21,7 @@ OPENINGS = 3
 REPETITIONS = 5
 MOST_TIMES = 1.3
 MOST_OPENING = 50
+MOST_KEYSTROKE = 16
 BUSY = 0.1
 LEAST_FAMILIES = 300_000
 
@@ -90,6 +91,16 @@ def measure_starts(programs, lines):
         runs = [(start(menu + [str(OPENINGS)], environment), start(bare, environment)) for _ in range(STARTS)]
     median = lambda program, column: statistics.median(run[program][column] for run in runs)
     return [(median(0, column), median(1, column)) for column in range(3)], widgets, (median(0, 4), median(0, 5))
+
+
+def measure_division(programs, scale):
+    """How the Division window opens, the first time and at best, and a keystroke: a usual and a crowded family."""
+    with tempfile.TemporaryDirectory() as home:
+        environment = dict(os.environ, QT_QPA_PLATFORM="offscreen", QT_SCALE_FACTOR=str(scale), XDG_CONFIG_HOME=home,
+                           XDG_DATA_HOME=home, XDG_RUNTIME_DIR=home)
+        command = [os.path.join(programs, "division_window"), home]
+        runs = [[float(word) for word in run(*command, environment=environment).split()] for _ in range(REPETITIONS)]
+    return [statistics.median(column) for column in zip(*runs)]
 
 
 def count_instructions(programs, name):
@@ -163,6 +174,7 @@ def write_page(path, programs, packages):
     (quick_log, cpu_log, memory_log), _, _ = measure_starts(programs, 10000)
     cases, growth, compiler = measure_cases(programs)
     families = families_per_second(programs)
+    small, large = measure_division(programs, 1), measure_division(programs, 2)
     qt = run("qtpaths6", "--query", "QT_VERSION").strip()
     limit = f"{MOST_TIMES}"
     rows = [
@@ -197,6 +209,17 @@ def write_page(path, programs, packages):
         "|---|---|---|",
         f"| Opens from the menu, the first time | {openings[0]:.1f} ms | {MOST_OPENING} ms |",
         f"| Opens from the menu, the best of {OPENINGS} times | {openings[1]:.1f} ms | |",
+        "",
+        "## The Division window",
+        "",
+        "A keystroke counts until table, bar and tree are painted.",
+        "",
+        "| | 100 % | 200 % | Limit |",
+        "|---|---|---|---|",
+        f"| Opens, the first time | {small[0]:.1f} ms | {large[0]:.1f} ms | {MOST_OPENING} ms |",
+        f"| Opens, the best time | {small[1]:.1f} ms | {large[1]:.1f} ms | |",
+        f"| A keystroke, five kinds of heir | {small[2]:.1f} ms | {large[2]:.1f} ms | {MOST_KEYSTROKE} ms |",
+        f"| A keystroke, every kind of heir | {small[3]:.1f} ms | {large[3]:.1f} ms | {MOST_KEYSTROKE} ms |",
         "",
         "## Cases, without windows",
         "",
