@@ -96,9 +96,10 @@ class SchoolTable {
                    words::Amount(line.Amount.Together),
                    takes && counted ? InTwoLines(words::Each(line.Amount, row.Heads)) : dash};
     cells.Differs = showsOwn_ && view_.Differs.Heirs.Has(row.Heir);
-    if (showsOwn_)
+    if (showsOwn_) {
       cells.Cells.append((cells.Differs ? QStringLiteral("≠ ") : QString()) +
                          OwnAmount(*view_.Own, row.Heir));
+    }
     if (before_) {
       const bool was = before_->Find(row.Heir) != nullptr;
       cells.Cells.append(was ? words::Amount(Before(row.Heir)) : dash);
