@@ -2,6 +2,7 @@
 
 #include <QPainter>
 #include <QPalette>
+#include <QtMath>
 #include <array>
 
 #include "windows/style/Colours.h"
@@ -14,7 +15,8 @@ constexpr std::array<QRgb, 7> hues = {0xFF205C67, 0xFFB8860B, 0xFFB0503A, 0xFF5B
                                       0xFF6A4C93, 0xFF2F6DB5, 0xFF8C6239};
 constexpr double leastContrast = 3;
 constexpr double paleness = 0.78;
-constexpr qreal spacing = 6;
+constexpr int spacing = 6;
+constexpr int slantedSpacing = 8;
 constexpr qreal stroke = 2.2;
 
 enum class Pattern { Full, Rising, Level, Upright, Falling, Dotted, Checked };
@@ -53,36 +55,24 @@ Pattern PatternOf(faraid::Kind heir) {
 }
 
 void DrawStripes(QPainter& painter, const QRectF& rect, Pattern pattern) {
-  const qreal width = rect.width();
-  const qreal height = rect.height();
+  const int width = qCeil(rect.width());
+  const int height = qCeil(rect.height());
+  const auto place = [&rect](int x, int y) { return rect.topLeft() + QPointF(x, y); };
   if (pattern == Pattern::Rising || pattern == Pattern::Falling) {
-    const qreal step = spacing * 1.4;
-    for (qreal x = -height; x < width; x += step) {
-      const QPointF low(rect.left() + x, rect.bottom());
-      const QPointF high(rect.left() + x + height, rect.top());
-      if (pattern == Pattern::Rising) {
-        painter.drawLine(low, high);
-      } else {
-        painter.drawLine(QPointF(low.x(), rect.top()), QPointF(high.x(), rect.bottom()));
-      }
+    const bool rises = pattern == Pattern::Rising;
+    for (int x = -height; x < width; x += slantedSpacing) {
+      painter.drawLine(place(x, rises ? height : 0), place(x + height, rises ? 0 : height));
     }
   }
   if (pattern == Pattern::Level || pattern == Pattern::Checked) {
-    for (qreal y = rect.top() + spacing / 2; y < rect.bottom(); y += spacing) {
-      painter.drawLine(QPointF(rect.left(), y), QPointF(rect.right(), y));
-    }
+    for (int y = spacing / 2; y < height; y += spacing) painter.drawLine(place(0, y), place(width, y));
   }
   if (pattern == Pattern::Upright || pattern == Pattern::Checked) {
-    for (qreal x = rect.left() + spacing / 2; x < rect.right(); x += spacing) {
-      painter.drawLine(QPointF(x, rect.top()), QPointF(x, rect.bottom()));
-    }
+    for (int x = spacing / 2; x < width; x += spacing) painter.drawLine(place(x, 0), place(x, height));
   }
-  if (pattern == Pattern::Dotted) {
-    for (qreal y = rect.top() + spacing / 2; y < rect.bottom(); y += spacing) {
-      for (qreal x = rect.left() + spacing / 2; x < rect.right(); x += spacing) {
-        painter.drawPoint(QPointF(x, y));
-      }
-    }
+  if (pattern != Pattern::Dotted) return;
+  for (int y = spacing / 2; y < height; y += spacing) {
+    for (int x = spacing / 2; x < width; x += spacing) painter.drawPoint(place(x, y));
   }
 }
 
