@@ -84,6 +84,7 @@ void ApplyDoctrine(CaseRecord& c, CaseScreen& screen) {
   screen.Text3.Text =
       Join(aul ? c.SummaryText : c.RaddText, CRLF, CRLF, GeneratedBy(screen.World.Time.Now()), CRLF, CRLF);
   screen.Label2.Caption = aul ? "AUL DOCTRINE APPLIED" : "RADD DOCTRINE APPLIED";
+  if (screen.Watch.DoctrineApplied) screen.Watch.DoctrineApplied();
 }
 
 }  // namespace

@@ -1,6 +1,8 @@
 #pragma once
 
 #include <array>
+#include <functional>
+#include <string>
 
 #include "base/Array.h"
 #include "base/Outside.h"
@@ -21,6 +23,18 @@ inline constexpr int NetEstateBox = 29;
 
 inline constexpr int Male = 0;
 inline constexpr int Female = 1;
+
+/// What the commands report on their way to whoever watches. Nothing of the law depends on it.
+struct CaseWatch {
+  /// A load has read the whole case.
+  std::function<void()> LoadCompleted;
+  /// A message has stopped a load, or a failure a command that takes it without one.
+  std::function<void(const std::string& reason)> Stopped;
+  /// The residue has been distributed.
+  std::function<void()> Distributed;
+  /// Aul or Radd has been applied to the shares.
+  std::function<void()> DoctrineApplied;
+};
 
 /// The part of the Case Study screen that the law knows: the fields that a case is read from and the
 /// panel that its results are written to.
@@ -49,6 +63,8 @@ struct CaseScreen {
   Label StatusBar1;
   Button AulRadd;
   MenuEntry AulRad;
+
+  CaseWatch Watch;
 };
 
 /// The two long texts are never both visible: showing one hides the other.

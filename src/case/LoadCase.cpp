@@ -72,13 +72,19 @@ void ReadBox(const CaseScreen& screen, int box, Number& field) {
   }
 }
 
+/// Shows the message that stops the load.
+void Refuse(const CaseScreen& screen, BoxStyle style, const std::string& message) {
+  screen.World.Boxes.Tell(style, message);
+  if (screen.Watch.Stopped) screen.Watch.Stopped(message);
+}
+
 /// Reads and checks one count; false when it is refused. The check looks at the stored count, so that a
 /// stale one is checked as well.
 bool ReadCount(CaseRecord& c, CaseScreen& screen, const CountRow& row, Grade grade = Grade::Soft) {
   Integer& count = c.*row.Count;
   ReadBox(screen, row.Box, count);
   if (count >= 0 && count <= row.Most) return true;
-  screen.World.Boxes.Tell(BoxStyle::Warning, row.Message);
+  Refuse(screen, BoxStyle::Warning, row.Message);
   if (row.TakesFocus) screen.Text1(row.Box).SetFocus();
   if (grade == Grade::Hard) c.InputFailed = true;
   return false;
@@ -140,12 +146,13 @@ void ReadCase(CaseRecord& c, CaseScreen& screen) {
   ReadClassIIChecks(c, screen);
   if (const char* refusal = ReadEstate(c, screen)) {
     c.GrossEstate = 0;
-    screen.World.Boxes.Tell(BoxStyle::Information, refusal);
+    Refuse(screen, BoxStyle::Information, refusal);
     return;
   }
 
   c.NetEstate = c.GrossEstate - (c.Debts + c.FuneralExp + c.Wills);
   screen.Text1(NetEstateBox).Text = F(c.NetEstate);
+  if (screen.Watch.LoadCompleted) screen.Watch.LoadCompleted();
 
   screen.Text3.ForeColor = Black;
   screen.Text2.ForeColor = Black;
@@ -164,10 +171,9 @@ void LoadCase(CaseRecord& c, CaseScreen& screen) {
     ReadCase(c, screen);
   } catch (const Failure& failure) {
     if (failure.Number == Overflow) {
-      screen.World.Boxes.Tell(BoxStyle::Warning,
-                              "Check for high values of Debts/ Wills (Legacies)/ Funeral expenses");
+      Refuse(screen, BoxStyle::Warning, "Check for high values of Debts/ Wills (Legacies)/ Funeral expenses");
     } else {
-      screen.World.Boxes.Tell(BoxStyle::Plain, Join(failure.Number, CRLF, failure.Description()));
+      Refuse(screen, BoxStyle::Plain, Join(failure.Number, CRLF, failure.Description()));
     }
     c.InputFailed = true;
   }

@@ -130,6 +130,7 @@ void CreateSaveFullReport(CaseRecord& c, CaseScreen& screen) {
   } catch (const FileFailure& failure) {
     EndSave(screen, WorkingFile(screen), failure.Reason);
   } catch (const Failure&) {
+    if (screen.Watch.Stopped) screen.Watch.Stopped("The case could not be worked out.");
     EndSave(screen, WorkingFile(screen), "the case could not be worked out");
   }
 }

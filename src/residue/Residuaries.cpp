@@ -44,6 +44,7 @@ void RunResiduaries(CaseRecord& c, CaseScreen& screen) {
   SufficiencyTest(c, screen);
   BuildSharerSummary(c, screen);
   ResiduaryDistribution(c, screen);
+  if (screen.Watch.Distributed) screen.Watch.Distributed();
   c.CaseLoaded = false;
 }
 

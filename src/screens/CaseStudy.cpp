@@ -53,6 +53,9 @@ constexpr Dispatch dispatchTable[] = {
     {33, RunUterineBrother},
 };
 
+/// The caption without words or field: it loads the case and computes nothing.
+constexpr int blankCaption = 12;
+
 constexpr int brightestColour = 0xFFFFFF;
 
 }  // namespace
@@ -72,6 +75,29 @@ void CaseStudy::Event(Body body) {
   EventsEnded = EventsEnded + 1;
 }
 
+// The answer is reviewed when the command is over: the load itself writes into fields.
+template <class Body>
+void CaseStudy::Command(AnswerOf what, const std::string& name, Body body) {
+  Event([&] {
+    answer_.Begin(what, name);
+    reviewing_ = false;
+    const auto end = [&] {
+      answer_.End(static_cast<int>(record_.AulRaddState.Value()), record_.NetEstate < 0,
+                  ReadScreen(*this, HeirsConsent));
+      reviewing_ = true;
+      ReviewAnswer();
+    };
+    try {
+      body();
+    } catch (const std::exception&) {
+      answer_.Stopped("The command was not finished.");
+      end();
+      throw;
+    }
+    end();
+  });
+}
+
 CaseStudy::CaseStudy(CaseRecord& record, Outside& outside, int savedLanguage)
     : CaseScreen(outside), record_(record) {
   static_cast<ScreenLayer&>(record) = ScreenLayer{};
@@ -88,10 +114,7 @@ CaseStudy::CaseStudy(CaseRecord& record, Outside& outside, int savedLanguage)
   }
   Combo1.ListIndex.WhenChanged([this] { Combo1_Click(); });
 
-  Label2.Caption = "PROGRAM EXECUTION RESULTS";
-  Label3.Caption = "SHARE";
-  Text3.Visible = false;
-  AulRad.Enabled = false;
+  ShowFirstResults();
   Frame5.Caption = "Some of our Softwares";
   Label6.Caption = "QISMORA";
   Label6.ForeColor = Green;
@@ -101,6 +124,54 @@ CaseStudy::CaseStudy(CaseRecord& record, Outside& outside, int savedLanguage)
   Timer1 = 1000;
   for (Picture* over : {&Image6(0), &Image4(0), &Image7(1)}) over->Visible = true;
   Form_Load(savedLanguage);
+  WatchCase();
+}
+
+void CaseStudy::ShowFirstResults() {
+  Label2.Caption = "PROGRAM EXECUTION RESULTS";
+  Label3.Caption = "SHARE";
+  ShowLongText(*this, false);
+  AulRadd.Visible = false;
+  AulRad.Enabled = false;
+}
+
+void CaseStudy::WatchCase() {
+  Watch.LoadCompleted = [this] { answer_.LoadCompleted(); };
+  Watch.Stopped = [this](const std::string& reason) { answer_.Stopped(reason); };
+  Watch.Distributed = [this] { answer_.Distributed(); };
+  Watch.DoctrineApplied = [this] { answer_.DoctrineApplied(); };
+  for (int i = 0; i < Check1.Size; ++i) Check1(i).Value.WhenChanged([this] { ReviewAnswer(); });
+  reviewing_ = true;
+  ReviewAnswer();
+}
+
+void CaseStudy::ReviewAnswer() {
+  if (!reviewing_) return;
+  answer_.FieldsHold(ReadScreen(*this, HeirsConsent));
+  AnswerWords = answer_.Words();
+}
+
+void CaseStudy::StartCase(const CaseTexts& texts) {
+  Event([&] {
+    reviewing_ = false;
+    const Long executions = record_.ExecCount;
+    static_cast<ApplicationLayer&>(record_) = ApplicationLayer{};
+    static_cast<ScreenLayer&>(record_) = ScreenLayer{};
+    record_.ExecCount = executions;
+    ShowFirstResults();
+    for (TextBox* text : {&Text2, &Text3}) {
+      text->Text = "";
+      text->ForeColor = Black;
+    }
+    StatusBar1.Caption = "";
+    Frame5.Visible = true;
+    TypeIntoScreen(texts, *this);
+    Text1(NetEstateBox).Text = "0";
+    HeirsConsent = texts.HeirsConsent;
+    answer_.Cleared();
+    reviewing_ = true;
+    ReviewAnswer();
+  });
 }
 
 // The links of Frame5 are drawn by the window, and the narrative tables are filled when the program is built.
@@ -133,6 +204,8 @@ void CaseStudy::Combo1_Click() {
     Image30(0).Visible = male;
     Image30(1).Visible = !male;
   }
+  answer_.GenderSwitched();
+  ReviewAnswer();
   EventsEnded = EventsEnded + 1;
 }
 
@@ -179,7 +252,8 @@ void CaseStudy::Label4_Click(int index) {
 // again, and the rule.
 void CaseStudy::Label1_DblClick(int index) {
   if (index == 0 || (index >= NameBox && index <= NetEstateBox)) return;
-  Event([&] {
+  const bool computes = index != blankCaption;
+  Command(computes ? AnswerOf::OneShare : AnswerOf::Nothing, Join("Share of ", Label1(index).Caption), [&] {
     ShowLongText(*this, false);
     Text2.Text = "";
     ClearResults(record_, *this);
@@ -205,7 +279,10 @@ void CaseStudy::RunHeir(int index) {
   }
 }
 
-void CaseStudy::Text1_Change(int) { Image2.BorderStyle = 0; }
+void CaseStudy::Text1_Change(int) {
+  Image2.BorderStyle = 0;
+  ReviewAnswer();
+}
 
 // A refused estate is 0 afterwards, and so is the spouse that a switch of gender takes away.
 std::string CaseStudy::MisreadingOf(int index) const {
@@ -229,22 +306,22 @@ void CaseStudy::Image37_DblClick(int) {
 }
 
 void CaseStudy::FullReport_Click() {
-  Event([&] { RunFullReport(record_, *this); });
+  Command(AnswerOf::AllShares, "All Individual", [&] { RunFullReport(record_, *this); });
 }
 void CaseStudy::Exec_Click() { SelectedReport_Click(); }
 void CaseStudy::SelectedReport_Click() {
-  Event([&] { RunSelectedReport(record_, *this); });
+  Command(AnswerOf::AllShares, "Execute Selected", [&] { RunSelectedReport(record_, *this); });
 }
 void CaseStudy::Resid_Click() { Residuaries_Click(); }
 void CaseStudy::Residuaries_Click() {
-  Event([&] { RunResiduaries(record_, *this); });
+  Command(AnswerOf::AllShares, "Residuaries", [&] { RunResiduaries(record_, *this); });
 }
 void CaseStudy::AulRad_Click() { AulRadd_Click(); }
 void CaseStudy::AulRadd_Click() {
-  Event([&] { RunAulRadd(record_, *this); });
+  Command(AnswerOf::AllShares, "Aul/ Radd", [&] { RunAulRadd(record_, *this); });
 }
 void CaseStudy::CreateSaveFullReport_Click() {
-  Event([&] { CreateSaveFullReport(record_, *this); });
+  Command(AnswerOf::AllShares, "Full Report", [&] { CreateSaveFullReport(record_, *this); });
 }
 void CaseStudy::FullReportxx_Click() { CreateSaveFullReport_Click(); }
 void CaseStudy::SaveResults_Click() {
@@ -264,6 +341,8 @@ void CaseStudy::Image2_Click() {
     for (int i = 0; i < Check1.Size; ++i) Check1(i).Value = 0;
     const int next = Label6.ForeColor + 500000;
     Label6.ForeColor = next <= brightestColour ? next : Green;
+    answer_.Cleared();
+    ReviewAnswer();
   });
 }
 

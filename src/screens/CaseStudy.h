@@ -4,6 +4,7 @@
 
 #include "case/CaseRecord.h"
 #include "case/CaseScreen.h"
+#include "screens/AnswerState.h"
 #include "screens/CentredFrame.h"
 
 namespace qismora {
@@ -26,6 +27,17 @@ class CaseStudy : public CaseScreen, public CentredFrame {
 
   /// What the load will make of the text of Text1(index), where that is not what stands there at first sight.
   std::string MisreadingOf(int index) const;
+  /// Starts with a case as if the screen and the record were new: nothing of the case before is left, and
+  /// nothing is run. How many executions there were, and the chosen view, stay.
+  void StartCase(const CaseTexts& texts);
+  /// The heirs consent to bequests above the third; it belongs to a case and to no field of the screen.
+  Property<bool> HeirsConsent;
+
+  /// How far the answer that is shown can be relied on.
+  AnswerStanding Standing() const { return answer_.Standing(); }
+  /// The same as a sentence.
+  Property<std::string> AnswerWords;
+
   /// Changes at the end of each event that may have changed what the case holds.
   Property<int> EventsEnded{0};
 
@@ -100,6 +112,8 @@ class CaseStudy : public CaseScreen, public CentredFrame {
  private:
   template <class Body>
   void Event(Body body);
+  template <class Body>
+  void Command(AnswerOf what, const std::string& name, Body body);
 
   void Form_Load(int savedLanguage);
   void Comb1_Data();
@@ -108,8 +122,13 @@ class CaseStudy : public CaseScreen, public CentredFrame {
   void ShowUrduCaptions();
   void ShowArabicCaptions();
   void RunHeir(int index);
+  void ShowFirstResults();
+  void WatchCase();
+  void ReviewAnswer();
 
   CaseRecord& record_;
+  AnswerState answer_;
+  bool reviewing_ = false;
   bool testValues_ = false;
 };
 

@@ -1,0 +1,138 @@
+#include "screens/AnswerState.h"
+
+#include <algorithm>
+#include <optional>
+#include <utility>
+
+#include "base/Text.h"
+#include "case/CaseRecord.h"
+
+namespace qismora {
+
+namespace {
+
+using enum AnswerStanding;
+
+/// What a command has done to the answer.
+enum class Outcome : std::uint8_t {
+  Stopped,
+  OnlyLoaded,
+  NetBelowZero,
+  OneShare,
+  SharesDoNotFit,
+  ReportsFit,
+  DistributionFits,
+  Adjusted,
+};
+
+struct Transition {
+  /// Nothing means any standing.
+  std::optional<AnswerStanding> Before;
+  Outcome What;
+  AnswerStanding After;
+};
+
+// The first row that fits holds. Aul and Radd read what the last test has left and the fractions that the
+// last command has left: they are right once, and only on the shares that this test was about. A second press
+// works on fractions that are adjusted already; a press after the share of one heir, on amounts that the test
+// has not seen.
+constexpr Transition transitions[] = {
+    {std::nullopt, Outcome::Stopped, Refused},         {std::nullopt, Outcome::OnlyLoaded, NoAnswer},
+    {std::nullopt, Outcome::NetBelowZero, BelowZero},  {std::nullopt, Outcome::OneShare, Partial},
+    {std::nullopt, Outcome::SharesDoNotFit, ToAdjust}, {std::nullopt, Outcome::ReportsFit, Partial},
+    {std::nullopt, Outcome::DistributionFits, Final},  {ToAdjust, Outcome::Adjusted, Final},
+    {std::nullopt, Outcome::Adjusted, Refused},
+};
+
+AnswerStanding After(AnswerStanding before, Outcome what) {
+  return std::ranges::find_if(
+             transitions,
+             [&](const Transition& row) { return row.What == what && row.Before.value_or(before) == before; })
+      ->After;
+}
+
+bool DoNotFit(int adjustment) {
+  return adjustment == AulBesideResiduary || adjustment == Aul || adjustment == Radd;
+}
+
+/// What a load and the commands behind it come to.
+Outcome OutcomeOf(AnswerOf what, int adjustment, bool netBelowZero, bool distributed) {
+  if (what == AnswerOf::Nothing) return Outcome::OnlyLoaded;
+  if (netBelowZero) return Outcome::NetBelowZero;
+  if (what == AnswerOf::OneShare) return Outcome::OneShare;
+  if (DoNotFit(adjustment)) return Outcome::SharesDoNotFit;
+  return distributed ? Outcome::DistributionFits : Outcome::ReportsFit;
+}
+
+}  // namespace
+
+void AnswerState::Begin(AnswerOf what, std::string command) {
+  running_ = what;
+  runningCommand_ = std::move(command);
+  loaded_ = distributed_ = adjusted_ = stopped_ = false;
+}
+
+void AnswerState::Stopped(const std::string& reason) {
+  if (stopped_) return;
+  stopped_ = true;
+  reason_ = reason.substr(0, reason.find('\r'));
+}
+
+void AnswerState::End(int adjustment, bool netBelowZero, const CaseTexts& texts) {
+  if (stopped_) {
+    standing_ = After(standing_, Outcome::Stopped);
+    return;
+  }
+  if (loaded_) {
+    standing_ = After(standing_, OutcomeOf(running_, adjustment, netBelowZero, distributed_));
+    command_ = runningCommand_;
+    radd_ = adjustment == Radd;
+    answered_ = texts;
+    differ_ = spouseLost_ = false;
+  }
+  if (!adjusted_) return;
+  const bool again = standing_ == Final;
+  standing_ = After(standing_, Outcome::Adjusted);
+  command_ = runningCommand_;
+  if (standing_ == Refused) {
+    reason_ = again ? "Aul/ Radd worked on figures that it had adjusted already. Choose Residuaries again."
+                    : "Aul/ Radd was applied to other shares. Choose Residuaries first.";
+  }
+}
+
+// The name of the deceased stands in the texts of the answer and in none of its figures.
+void AnswerState::FieldsHold(const CaseTexts& texts) {
+  CaseTexts named = texts;
+  named.Fields[NameBox] = answered_.Fields[NameBox];
+  differ_ = named != answered_;
+}
+
+void AnswerState::Cleared() { standing_ = NoAnswer; }
+
+AnswerStanding AnswerState::Standing() const {
+  if (standing_ == NoAnswer || standing_ == Refused) return standing_;
+  return differ_ || spouseLost_ ? Changed : standing_;
+}
+
+std::string AnswerState::Words() const {
+  switch (Standing()) {
+    case NoAnswer:
+      return "No answer yet.";
+    case Partial:
+      return Join("Answer of ", command_, ": not the whole distribution, which Residuaries (F5) gives.");
+    case ToAdjust:
+      return Join("Answer of ", command_, ", not final: ", radd_ ? "Radd" : "Aul",
+                  " is still to be applied (Aul/ Radd, F6).");
+    case Final:
+      return Join("Answer of ", command_, ": final.");
+    case BelowZero:
+      return Join("Answer of ", command_, ": the net estate is below 0, nothing is left to divide.");
+    case Refused:
+      return Join("Refused: these figures are not your case. ", reason_);
+    case Changed:
+      return Join("Fields have changed since the answer of ", command_, ".");
+  }
+  return {};
+}
+
+}  // namespace qismora
