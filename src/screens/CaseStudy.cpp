@@ -285,11 +285,38 @@ void CaseStudy::Text1_Change(int) {
 }
 
 // A refused estate is 0 afterwards, and so is the spouse that a switch of gender takes away.
+std::string CaseStudy::KeptFigure(int index) const {
+  if (index == 1) return Join(Combo1.ListIndex == Male ? record_.Wives : record_.Husband);
+  if (index == GrossEstateBox) return GeneralNumber(record_.GrossEstate);
+  return "the figure of the run before";
+}
+
 std::string CaseStudy::MisreadingOf(int index) const {
-  const std::string kept = index == 1 ? Join(Combo1.ListIndex == Male ? record_.Wives : record_.Husband)
-                           : index == GrossEstateBox ? GeneralNumber(record_.GrossEstate)
-                                                     : "the figure of the run before";
-  return Misreading(Text1(index).Text.Get(), index, kept);
+  return Misreading(Text1(index).Text.Get(), index, KeptFigure(index));
+}
+
+std::vector<std::string> CaseStudy::Misreadings(Grouping grouping) const {
+  std::vector<std::string> sentences;
+  for (const Caption& caption : Captions()) {
+    const int index = caption.Index;
+    if (index == 0 || index == NameBox || index == NetEstateBox) continue;
+    const std::string& text = Text1(index).Text;
+    const TypedReading reading = ReadTyped(text, index);
+    if (reading.How == Reading::AsItStands) continue;
+    const std::string shown = text.empty() ? "without a text" : text;
+    const std::string subject = Join(Label1(index).Caption, " ", shown);
+    switch (reading.How) {
+      case Reading::AsAnotherNumber:
+        sentences.push_back(Join(subject, " is read as ", Grouped(reading.Number, grouping)));
+        break;
+      case Reading::NotAtAll:
+        sentences.push_back(Join(subject, " is not read: ", KeptFigure(index), " stays"));
+        break;
+      default:
+        sentences.push_back(Join(subject, " is too large and will be refused"));
+    }
+  }
+  return sentences;
 }
 
 // A double click in a box marks an heir as alive or dead. What is no number stays as it is.

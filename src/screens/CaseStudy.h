@@ -1,11 +1,14 @@
 #pragma once
 
 #include <functional>
+#include <string>
+#include <vector>
 
 #include "case/CaseRecord.h"
 #include "case/CaseScreen.h"
 #include "screens/AnswerState.h"
 #include "screens/CentredFrame.h"
+#include "screens/Misreading.h"
 
 namespace qismora {
 
@@ -27,6 +30,10 @@ class CaseStudy : public CaseScreen, public CentredFrame {
 
   /// What the load will make of the text of Text1(index), where that is not what stands there at first sight.
   std::string MisreadingOf(int index) const;
+  /// The same for all fields that are read differently, a sentence each with caption and text: Gross Estate
+  /// 18,40,000 is read as 18.
+  std::vector<std::string> Misreadings(Grouping grouping) const;
+
   /// Starts with a case as if the screen and the record were new: nothing of the case before is left, and
   /// nothing is run. How many executions there were, and the chosen view, stay.
   void StartCase(const CaseTexts& texts);
@@ -122,6 +129,7 @@ class CaseStudy : public CaseScreen, public CentredFrame {
   void ShowUrduCaptions();
   void ShowArabicCaptions();
   void RunHeir(int index);
+  std::string KeptFigure(int index) const;
   void ShowFirstResults();
   void WatchCase();
   void ReviewAnswer();

@@ -33,14 +33,44 @@ std::string ReadAs(Double number, int index) {
 
 }  // namespace
 
-std::string Misreading(std::string_view text, int index, std::string_view kept) {
-  if (!IsNumber(text)) return Join("This is not a number and is not read: ", kept, " stays.");
+TypedReading ReadTyped(std::string_view text, int index) {
+  if (!IsNumber(text)) return {Reading::NotAtAll, ""};
   try {
     const std::string read = ReadAs(ParsePrefix(text), index);
-    return IsPlain(text, index != GrossEstateBox) ? "" : Join("Read as ", read);
+    const bool plain = IsPlain(text, index != GrossEstateBox);
+    return {plain ? Reading::AsItStands : Reading::AsAnotherNumber, read};
   } catch (const Failure&) {
-    return "This is too large and will be refused.";
+    return {Reading::TooLarge, ""};
   }
+}
+
+std::string Misreading(std::string_view text, int index, std::string_view kept) {
+  const TypedReading reading = ReadTyped(text, index);
+  switch (reading.How) {
+    case Reading::AsItStands:
+      return "";
+    case Reading::AsAnotherNumber:
+      return Join("Read as ", reading.Number);
+    case Reading::NotAtAll:
+      return Join("This is not a number and is not read: ", kept, " stays.");
+    case Reading::TooLarge:
+      return "This is too large and will be refused.";
+  }
+  return "";
+}
+
+std::string Grouped(std::string_view number, Grouping grouping) {
+  if (number.find('E') != std::string_view::npos) return std::string(number);
+  const std::size_t sign = number.starts_with('-') ? 1 : 0;
+  const std::size_t point = std::min(number.find('.'), number.size());
+  std::string grouped(number);
+  std::size_t size = 3;
+  for (std::size_t at = point; at > sign + size;) {
+    at -= size;
+    grouped.insert(at, 1, ',');
+    if (grouping == Grouping::Indian) size = 2;
+  }
+  return grouped;
 }
 
 }  // namespace qismora

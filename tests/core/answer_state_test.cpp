@@ -66,9 +66,10 @@ TEST_F(AnswerStateTest, AulAndRaddAreAppliedOnce) {
   const std::string right = Study().Text3.Text;
   Study().AulRadd_Click();
   EXPECT_NE(Study().Text3.Text.Get(), right);
-  EXPECT_EQ(Words(),
-            "Refused: these figures are not your case. Aul/ Radd worked on figures that it had adjusted already. "
-            "Choose Residuaries again.");
+  EXPECT_EQ(
+      Words(),
+      "Refused: these figures are not your case. Aul/ Radd worked on figures that it had adjusted already. "
+      "Choose Residuaries again.");
   Study().Resid_Click();
   EXPECT_EQ(Standing(), AnswerStanding::ToAdjust);
 }
@@ -87,9 +88,10 @@ TEST_F(AnswerStateTest, AulAndRaddOfOtherSharesAreRefused) {
   Study().Resid_Click();
   Study().Label1_DblClick(23);
   Study().AulRadd_Click();
-  EXPECT_EQ(Words(),
-            "Refused: these figures are not your case. Aul/ Radd was applied to other shares. Choose Residuaries "
-            "first.");
+  EXPECT_EQ(
+      Words(),
+      "Refused: these figures are not your case. Aul/ Radd was applied to other shares. Choose Residuaries "
+      "first.");
 }
 
 // Where nothing is applicable the command shows a message and no other figures.
@@ -152,7 +154,8 @@ TEST_F(AnswerStateTest, EachMessageThatStopsTheLoadRefusesTheFigures) {
        }) {
     const std::string before = Study().Text1(refusal.Index).Text;
     Study().Combo1.ListIndex = refusal.Gender;
-    for (const auto command : {&CaseStudy::Resid_Click, &CaseStudy::FullReport_Click, &CaseStudy::Exec_Click}) {
+    for (const auto command :
+         {&CaseStudy::Resid_Click, &CaseStudy::FullReport_Click, &CaseStudy::Exec_Click}) {
       case_.Type(refusal.Index, refusal.Text);
       (Study().*command)();
       EXPECT_EQ(Words(), std::string("Refused: these figures are not your case. ") + refusal.Reason);
@@ -226,6 +229,26 @@ TEST_F(AnswerStateTest, AStartedCaseHasNoPast) {
   EXPECT_EQ(case_.Record.FullSisters, 0);
   EXPECT_EQ(case_.Record.NetEstate, 900);
   EXPECT_EQ(case_.Record.ExecCount, 2);
+}
+
+TEST(Misreadings, NameTheFieldItsTextAndWhatIsRead) {
+  ScreenFixture played;
+  played.TypeEstate("18,40,000");
+  played.Type(FuneralBox, "1e6");
+  played.Type(DebtsBox, "-1234567.5");
+  played.Type(WillsBox, "99999999999");
+  played.Type(1, "one");
+  played.Type(2, "2.5");
+  played.Type(3, "");
+  EXPECT_EQ(
+      played.Study->Misreadings(Grouping::Indian),
+      (std::vector<std::string>{
+          "Wives one is not read: 0 stays", "Sons 2.5 is read as 2",
+          "Daughters without a text is not read: the figure of the run before stays",
+          "Gross Estate 18,40,000 is read as 18", "Funeral exp. 1e6 is read as 10,00,000",
+          "Debts -1234567.5 is read as -12,34,568", "Will(s) 99999999999 is too large and will be refused"}));
+  EXPECT_EQ(Grouped("1234567.25", Grouping::Thousands), "1,234,567.25");
+  EXPECT_EQ(Grouped("-123", Grouping::Thousands), "-123");
 }
 
 }  // namespace
