@@ -1,8 +1,11 @@
 #include <QApplication>
+#include <QFileInfo>
+#include <QTimer>
 #include <cstdio>
 #include <cstdlib>
 
 #include "windows/platform/RunningProgram.h"
+#include "windows/platform/Utf8.h"
 #include "windows/style/OutlinedStyle.h"
 
 using namespace qismora;
@@ -26,5 +29,9 @@ int main(int argc, char** argv) {
 
   RunningProgram program(QApplication::applicationDirPath());
   program.Windows.ShowMainMenu();
+  if (const QStringList arguments = QApplication::arguments(); arguments.size() > 1) {
+    const std::string file = FromQt(QFileInfo(arguments.at(1)).absoluteFilePath());
+    QTimer::singleShot(0, [&program, file] { program.Windows.OpenCase(file); });
+  }
   return QApplication::exec();
 }

@@ -29,8 +29,8 @@ class Clock {
 };
 
 enum class BoxStyle { Plain, Information, Warning, Critical };
-enum class BoxButtons { Ok, YesNo, YesNoCancel };
-enum class Answer { Ok, Yes, No, Cancel };
+enum class BoxButtons { Ok, YesNo, YesNoCancel, SaveDiscardCancel };
+enum class Answer { Ok, Yes, No, Cancel, Save, Discard };
 
 /// Thrown by a message box that ended without its user: with the program, the desktop session or the display.
 /// Nobody has agreed to anything, so the command that asked is abandoned. It is no Failure, so that no
@@ -50,11 +50,22 @@ class MessageBoxes {
   void Tell(BoxStyle style, const std::string& text) { Show(style, BoxButtons::Ok, text); }
 };
 
-/// The common dialog that asks for the name of a file to save. Nothing when the user cancels.
+/// The common dialogs that ask for the name of a file. Nothing when the user cancels.
 class SaveDialog {
  public:
   virtual ~SaveDialog() = default;
   virtual std::optional<std::string> AskPath(const std::string& suggestedName, const std::string& filter) = 0;
+
+  /// Which case file to open; the dialog begins in this folder.
+  virtual std::optional<std::string> AskCaseToOpen(const std::string& folder) {
+    static_cast<void>(folder);
+    return std::nullopt;
+  }
+  /// Under which path to save a case. The dialog asks about replacing a file.
+  virtual std::optional<std::string> AskCaseToSave(const std::string& suggestedPath) {
+    static_cast<void>(suggestedPath);
+    return std::nullopt;
+  }
 };
 
 /// The per-user settings: texts addressed by application, section and key. A missing one is empty.

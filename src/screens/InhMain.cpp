@@ -197,6 +197,7 @@ void InhMain::Exitz_Click() { RunExit(); }
 void InhMain::Form_QueryUnload() { RunExit(); }
 
 void InhMain::RunExit() {
+  if (MayEnd && !MayEnd()) return;
   Event([&] { Inhp(shell_, record_, outside_); });
 }
 

@@ -27,6 +27,8 @@ class InhMain : public CentredFrame {
   std::function<void()> ShowZummy;
   std::function<void()> ShowSession;
   std::function<void()> ShowCatalogue;
+  /// Whether the program may end; asks about a changed case. Nothing asks where it is not set.
+  std::function<bool()> MayEnd;
   /// Takes this form out of sight.
   std::function<void()> Hide;
 
@@ -47,6 +49,9 @@ class InhMain : public CentredFrame {
   void About_Click();
   void Exitz_Click();
   void Form_QueryUnload();
+
+  /// The exit routine has run.
+  bool Ended() const { return shell_.Ended; }
 
   // The animation
   void MediaPlayer1_EndOfPlay();

@@ -36,6 +36,7 @@ void Zummy::Back_Click() {
 }
 
 void Zummy::Form_QueryUnload() {
+  if (MayEnd && !MayEnd()) return;
   GuardedEvent(outside_.Boxes, [&] { Inhp(shell_, record_, outside_); });
 }
 

@@ -17,6 +17,8 @@ class Zummy {
 
   std::function<void()> ShowMainMenu;
   std::function<void()> Hide;
+  /// Whether the program may end; asks about a changed case. Nothing asks where it is not set.
+  std::function<bool()> MayEnd;
 
   void HistBack_Click();
   void Meeraas_Click();
@@ -28,6 +30,8 @@ class Zummy {
   void cmdLCM_Click();
   void Back_Click();
   void Form_QueryUnload();
+  /// The exit routine has run.
+  bool Ended() const { return shell_.Ended; }
 
  private:
   void Open(int document);

@@ -50,14 +50,27 @@ class FakeSaveDialog : public SaveDialog {
  public:
   std::optional<std::string> AskPath(const std::string& suggestedName, const std::string&) override {
     Suggested = suggestedName;
+    return Next();
+  }
+  std::optional<std::string> AskCaseToOpen(const std::string& folder) override {
+    Suggested = folder;
+    return Next();
+  }
+  std::optional<std::string> AskCaseToSave(const std::string& suggestedPath) override {
+    Suggested = suggestedPath;
+    return Next();
+  }
+
+  std::string Suggested;
+  std::deque<std::string> Paths;
+
+ private:
+  std::optional<std::string> Next() {
     if (Paths.empty()) return std::nullopt;
     std::string path = Paths.front();
     Paths.pop_front();
     return path;
   }
-
-  std::string Suggested;
-  std::deque<std::string> Paths;
 };
 
 /// Keeps the settings in a map.

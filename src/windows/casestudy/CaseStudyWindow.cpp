@@ -12,6 +12,8 @@
 #include <QTimer>
 #include <QToolButton>
 
+#include "windows/casestudy/AnswerStrip.h"
+#include "windows/casestudy/CaseFileMenu.h"
 #include "windows/casestudy/CaseMenu.h"
 #include "windows/casestudy/ClassIIPanel.h"
 #include "windows/casestudy/HeirsPanel.h"
@@ -37,16 +39,20 @@ constexpr int largestText = 12;
 
 CaseStudyWindow::CaseStudyWindow(CaseRecord& record, Outside& outside, int savedLanguage)
     : FormHolder(record, outside, savedLanguage),
-      FormWindow(form_, "CaseStudy", QStringLiteral("Case Study"), largestText) {
+      FormWindow(form_, "CaseStudy", QStringLiteral("Case Study"), largestText),
+      document_(form_, outside) {
   setWindowTitle(QStringLiteral("Case Study - Finding shares of Quranic Sharers"));
   setAttribute(Qt::WA_DeleteOnClose);
   form_.Hide = [this] { hide(); };
   FillCaseMenu(menuBar(), form_, binder_);
+  AddCaseFileMenu(menuBar(), document_);
   BuildDivision(outside.Store);
   AddHelpMenu(menuBar());
   BuildStatusBar(outside);
   BuildFrame();
   BuildTimer();
+  AddStrip(new AnswerStrip(form_, document_, this));
+  TakeDroppedCases(this, document_);
   SetSizes(windowSize, margin);
   OrderTabs();
   KeepOnTop();
@@ -156,6 +162,7 @@ void CaseStudyWindow::OrderTabs() {
 }
 
 void CaseStudyWindow::closeEvent(QCloseEvent* event) {
+  if (!document_.MayLeave()) return event->ignore();
   form_.Form_QueryUnload();
   event->accept();
 }

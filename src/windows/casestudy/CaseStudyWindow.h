@@ -1,6 +1,6 @@
 #pragma once
 
-#include "screens/CaseStudy.h"
+#include "screens/CaseDocument.h"
 #include "windows/forms/FormHolder.h"
 #include "windows/forms/FormWindow.h"
 
@@ -16,6 +16,7 @@ class CaseStudyWindow : public FormHolder<CaseStudy>, public FormWindow {
 
   /// The Division window, which shows what the fields come to.
   DivisionOpener& Division() { return *division_; }
+  CaseDocument& Document() { return document_; }
 
  protected:
   bool FrameGrows() const override { return true; }
@@ -30,6 +31,7 @@ class CaseStudyWindow : public FormHolder<CaseStudy>, public FormWindow {
   void OrderTabs();
 
   DivisionOpener* division_ = nullptr;
+  CaseDocument document_;
 };
 
 }  // namespace qismora

@@ -1,5 +1,6 @@
 #include "windows/forms/FormWindow.h"
 
+#include <QBoxLayout>
 #include <QEvent>
 #include <QLabel>
 #include <QLayout>
@@ -51,9 +52,21 @@ QLabel* FormWindow::AddPanel(const char* name, const QString& accessibleName) {
   return panel;
 }
 
+void FormWindow::AddStrip(QWidget* strip) {
+  strip_ = strip;
+  auto* place = new QWidget(this);
+  auto* rows = new QVBoxLayout(place);
+  rows->setContentsMargins(0, 0, 0, 0);
+  rows->setSpacing(0);
+  rows->addWidget(takeCentralWidget(), 1);
+  rows->addWidget(strip);
+  setCentralWidget(place);
+}
+
 // The frame reaches below the status bar: menu and status bar take their part of the form's height.
 void FormWindow::SetSizes(const QSize& window, int margin) {
   bars_ = menuBar()->sizeHint().height() + statusBar()->sizeHint().height();
+  if (strip_ != nullptr) bars_ += strip_->sizeHint().height();
   frame_->layout()->setContentsMargins(margin, margin, margin, margin + bars_);
   const QSize least = frame_->layout()->totalMinimumSize();
   background_->setMinimumSize(least - QSize(0, bars_));

@@ -24,6 +24,8 @@ class FormWindow : public QMainWindow {
   QWidget* Background() { return background_; }
   /// Adds a panel to the status bar.
   QLabel* AddPanel(const char* name, const QString& accessibleName);
+  /// Puts a widget of full width above the status bar.
+  void AddStrip(QWidget* strip);
   /// To be called when all controls stand. A window whose text is larger than usual grows rather than cut it.
   void SetSizes(const QSize& window, int margin);
   /// Whether the frame follows the size of a window that is not maximized.
@@ -42,6 +44,7 @@ class FormWindow : public QMainWindow {
 
   CentredFrame& placed_;
   QScrollArea* scroll_;
+  QWidget* strip_ = nullptr;
   QWidget* background_;
   QWidget* frame_;
   QSize frameSize_;

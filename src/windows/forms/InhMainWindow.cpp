@@ -307,7 +307,7 @@ void InhMainWindow::paintEvent(QPaintEvent* event) {
 
 void InhMainWindow::closeEvent(QCloseEvent* event) {
   form_.Form_QueryUnload();
-  event->accept();
+  event->setAccepted(form_.Ended());
 }
 
 }  // namespace qismora

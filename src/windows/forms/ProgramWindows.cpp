@@ -49,7 +49,11 @@ ProgramWindows::ProgramWindows(ShellOutside& outside, QtVideoPlayer& player)
   form.ShowSession = [this] { ShowSession(); };
   form.ShowCatalogue = [this] { ShowCatalogue(&menu_); };
   QGuiApplication::setQuitOnLastWindowClosed(false);  // only the exit routine ends the program
-  WhenSessionEnds(&menu_, [&form] { form.Exitz_Click(); });
+  form.MayEnd = [this] { return MayEnd(); };
+  WhenSessionEnds(&menu_, [this] {
+    sessionEnds_ = true;
+    menu_.Form().Exitz_Click();
+  });
 }
 
 ProgramWindows::~ProgramWindows() {
@@ -59,6 +63,15 @@ ProgramWindows::~ProgramWindows() {
 }
 
 void ProgramWindows::ShowMainMenu() { BringUp(&menu_); }
+
+void ProgramWindows::OpenCase(const std::string& path) {
+  ShowCaseStudy();
+  study_->Document().OpenFile(path);
+}
+
+// Case Study may be hidden behind the main menu with a case that has changed. When the desktop session ends
+// nobody is there to answer.
+bool ProgramWindows::MayEnd() { return sessionEnds_ || study_ == nullptr || study_->Document().MayLeave(); }
 
 // While a page is open, the menu loads the form with another one.
 void ProgramWindows::ShowQurLaws() {
@@ -89,6 +102,7 @@ void ProgramWindows::ShowZummy() {
   if (zummy_ == nullptr) {
     zummy_ = std::make_unique<ZummyWindow>(record_, shell_, outside_);
     zummy_->Form().ShowMainMenu = [this] { ShowMainMenu(); };
+    zummy_->Form().MayEnd = [this] { return MayEnd(); };
   }
   zummy_->move(menu_.pos());
   BringUp(zummy_.get());

@@ -23,6 +23,8 @@ class ProgramWindows {
   ProgramWindows& operator=(const ProgramWindows&) = delete;
 
   void ShowMainMenu();
+  /// Opens Case Study with a case file; one that cannot be opened is refused in a message there.
+  void OpenCase(const std::string& path);
 
   InhMainWindow& MainMenu() { return menu_; }
   /// The windows that exist at the moment; null if closed.
@@ -40,6 +42,7 @@ class ProgramWindows {
   void ShowSession();
   void ShowCatalogue(QWidget* from);
   void HideCatalogue();
+  bool MayEnd();
 
   ShellOutside& outside_;
   CaseRecord record_;
@@ -50,6 +53,7 @@ class ProgramWindows {
   std::unique_ptr<ZummyWindow> zummy_;
   std::unique_ptr<SessionWindow> session_;
   QPointer<ProgramInfoWindow> catalogue_;
+  bool sessionEnds_ = false;
 };
 
 }  // namespace qismora

@@ -74,7 +74,7 @@ QWidget* ZummyWindow::Holders() {
 
 void ZummyWindow::closeEvent(QCloseEvent* event) {
   form_.Form_QueryUnload();
-  event->accept();
+  event->setAccepted(form_.Ended());
 }
 
 }  // namespace qismora

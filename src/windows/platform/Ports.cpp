@@ -27,10 +27,9 @@ struct ButtonRow {
 };
 
 constexpr ButtonRow answers[] = {
-    {QMessageBox::Ok, Answer::Ok},
-    {QMessageBox::Yes, Answer::Yes},
-    {QMessageBox::No, Answer::No},
-    {QMessageBox::Cancel, Answer::Cancel},
+    {QMessageBox::Ok, Answer::Ok},     {QMessageBox::Yes, Answer::Yes},
+    {QMessageBox::No, Answer::No},     {QMessageBox::Cancel, Answer::Cancel},
+    {QMessageBox::Save, Answer::Save}, {QMessageBox::Discard, Answer::Discard},
 };
 
 QMessageBox::StandardButtons Offered(BoxButtons buttons) {
@@ -39,6 +38,8 @@ QMessageBox::StandardButtons Offered(BoxButtons buttons) {
       return QMessageBox::Yes | QMessageBox::No;
     case BoxButtons::YesNoCancel:
       return QMessageBox::Yes | QMessageBox::No | QMessageBox::Cancel;
+    case BoxButtons::SaveDiscardCancel:
+      return QMessageBox::Save | QMessageBox::Discard | QMessageBox::Cancel;
     default:
       return QMessageBox::Ok;
   }
@@ -166,8 +167,10 @@ Answer QtMessageBoxes::Show(BoxStyle style, BoxButtons buttons, const std::strin
   box.setTextFormat(Qt::PlainText);
   KeepLines(box);
   KeepInSight(box);
-  // A key pressed in haste consents to nothing.
-  if (buttons != BoxButtons::Ok) box.setDefaultButton(QMessageBox::No);
+  // A key pressed in haste consents to nothing and loses nothing.
+  if (buttons != BoxButtons::Ok) {
+    box.setDefaultButton(buttons == BoxButtons::SaveDiscardCancel ? QMessageBox::Save : QMessageBox::No);
+  }
   const PointerShape usersTurn(Qt::ArrowCursor);
   const int pressed = box.exec();
   // The end of a desktop session closes all windows, the box as if by its close button.
@@ -189,6 +192,36 @@ std::optional<std::string> QtSaveDialog::AskPath(const std::string& suggestedNam
   const PointerShape usersTurn(Qt::ArrowCursor);
   if (dialog.exec() != QDialog::Accepted || dialog.selectedFiles().isEmpty()) return std::nullopt;
   return FromQt(dialog.selectedFiles().constFirst());
+}
+
+namespace {
+
+constexpr const char* caseFilter = "Qismora cases (*.qismora);;All files (*)";
+
+std::optional<std::string> Asked(QFileDialog& dialog) {
+  KeepInSight(dialog);
+  const PointerShape usersTurn(Qt::ArrowCursor);
+  if (dialog.exec() != QDialog::Accepted || dialog.selectedFiles().isEmpty()) return std::nullopt;
+  return FromQt(dialog.selectedFiles().constFirst());
+}
+
+}  // namespace
+
+std::optional<std::string> QtSaveDialog::AskCaseToOpen(const std::string& folder) {
+  QFileDialog dialog(Owner(), QStringLiteral("Open case"), ToQt(folder), QString::fromLatin1(caseFilter));
+  dialog.setObjectName(QStringLiteral("OpenCaseDialog"));
+  dialog.setFileMode(QFileDialog::ExistingFile);
+  return Asked(dialog);
+}
+
+std::optional<std::string> QtSaveDialog::AskCaseToSave(const std::string& suggestedPath) {
+  const QFileInfo suggested(ToQt(suggestedPath));
+  QFileDialog dialog(Owner(), QStringLiteral("Save case"), suggested.path(), QString::fromLatin1(caseFilter));
+  dialog.setObjectName(QStringLiteral("SaveCaseDialog"));
+  dialog.setAcceptMode(QFileDialog::AcceptSave);
+  dialog.setDefaultSuffix(QStringLiteral("qismora"));
+  dialog.selectFile(suggested.fileName());
+  return Asked(dialog);
 }
 
 std::string QtSettings::Read(const std::string& application, const std::string& section,

@@ -47,6 +47,8 @@ class QtSaveDialog : public SaveDialog {
  public:
   explicit QtSaveDialog(Folders& places) : places_(places) {}
   std::optional<std::string> AskPath(const std::string& suggestedName, const std::string& filter) override;
+  std::optional<std::string> AskCaseToOpen(const std::string& folder) override;
+  std::optional<std::string> AskCaseToSave(const std::string& suggestedPath) override;
 
  private:
   Folders& places_;

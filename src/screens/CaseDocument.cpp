@@ -1,0 +1,192 @@
+#include "screens/CaseDocument.h"
+
+#include <algorithm>
+
+#include "base/Files.h"
+#include "base/Text.h"
+#include "screens/CaseFile.h"
+#include "screens/Event.h"
+
+namespace qismora {
+
+namespace {
+
+constexpr const char* section = "RecentCases";
+constexpr std::string_view suffix = ".qismora";
+
+std::string Key(int place) { return Join("File", place); }
+
+std::string FileName(const std::string& path) { return path.substr(path.rfind('/') + 1); }
+
+std::string ReasonOf(const Failure& failure) {
+  const auto* file = dynamic_cast<const FileFailure*>(&failure);
+  return file != nullptr ? file->Reason : std::string(failure.Description());
+}
+
+std::string SentenceOf(const CaseFileFault& fault) {
+  const std::string sentence = English(fault.Fault, fault.Line.Text);
+  return fault.Line.Number == 0 ? sentence : Join("Line ", fault.Line.Number, ": ", sentence);
+}
+
+std::string SentenceOf(const std::vector<CaseLine>& unknown) {
+  constexpr std::size_t most = 10;
+  std::string lines;
+  for (std::size_t i = 0; i < std::min(most, unknown.size()); ++i) {
+    Append(lines, CRLF, "Line ", unknown[i].Number, ": ", unknown[i].Text);
+  }
+  if (unknown.size() > most) Append(lines, CRLF, "and ", static_cast<int>(unknown.size() - most), " more");
+  return Join(
+      "A newer version of Qismora has written this file. These lines are not known here and were not read:",
+      lines, CRLF, CRLF, "Save asks for a name, so that the file keeps them.");
+}
+
+}  // namespace
+
+CaseDocument::CaseDocument(CaseStudy& form, Outside& outside)
+    : form_(form), outside_(outside), kept_(Texts()) {
+  const auto review = [this] { Review(); };
+  for (int i = 0; i < form.Text1.Size; ++i) form.Text1(i).Text.WhenChanged(review);
+  for (int i = 0; i < form.Check1.Size; ++i) form.Check1(i).Value.WhenChanged(review);
+  form.Combo1.ListIndex.WhenChanged(review);
+  form.HeirsConsent.WhenChanged(review);
+  Review();
+}
+
+CaseTexts CaseDocument::Texts() const { return ReadScreen(form_, form_.HeirsConsent); }
+
+bool CaseDocument::IsChanged() const { return Texts() != kept_; }
+
+void CaseDocument::Review() {
+  if (starting_) return;
+  const bool changed = IsChanged();
+  Title = path_.empty() ? Join("Case without a file", changed ? ", not saved" : "")
+                        : Join(FileName(path_), changed ? ", changed" : "");
+}
+
+void CaseDocument::Start(const CaseTexts& texts, const std::string& path) {
+  starting_ = true;
+  form_.StartCase(texts);
+  starting_ = false;
+  path_ = path;
+  kept_ = Texts();
+  Review();
+}
+
+void CaseDocument::New() {
+  if (!MayLeave()) return;
+  incomplete_ = false;
+  Start({}, "");
+}
+
+void CaseDocument::Open() {
+  GuardedEvent(outside_.Boxes, [&] {
+    if (const auto path = outside_.Dialog.AskCaseToOpen(Folder())) OpenFile(*path);
+  });
+}
+
+// The file is read before the question about the case on the screen: for a damaged one nothing is left.
+bool CaseDocument::OpenFile(const std::string& path) {
+  bool opened = false;
+  GuardedEvent(outside_.Boxes, [&] {
+    const auto refuse = [&](const std::string& reason) {
+      outside_.Boxes.Tell(BoxStyle::Warning, Join(FileName(path), " was not opened.", CRLF, CRLF, reason));
+    };
+    CaseFileReading reading;
+    try {
+      reading = OpenCaseFile(path);
+    } catch (const Failure& failure) {
+      Remember(path, false);
+      return refuse(ReasonOf(failure));
+    }
+    if (reading.Fault) return refuse(SentenceOf(*reading.Fault));
+    if (!MayLeave()) return;
+    incomplete_ = !reading.Unknown.empty();
+    Start(reading.Case, path);
+    Remember(path, true);
+    opened = true;
+    if (incomplete_) outside_.Boxes.Tell(BoxStyle::Information, SentenceOf(reading.Unknown));
+  });
+  return opened;
+}
+
+void CaseDocument::Save() {
+  GuardedEvent(outside_.Boxes, [&] { SaveOrAsk(); });
+}
+
+void CaseDocument::SaveAs() {
+  GuardedEvent(outside_.Boxes, [&] { AskAndSave(); });
+}
+
+bool CaseDocument::SaveOrAsk() { return path_.empty() || incomplete_ ? AskAndSave() : SaveTo(path_); }
+
+bool CaseDocument::AskAndSave() {
+  const auto path = outside_.Dialog.AskCaseToSave(SuggestedPath());
+  return path && SaveTo(*path);
+}
+
+bool CaseDocument::SaveTo(const std::string& path) {
+  const CaseTexts texts = Texts();
+  try {
+    SaveCaseFile(outside_.Places, path, texts);
+  } catch (const Failure& failure) {
+    outside_.Boxes.Tell(BoxStyle::Critical,
+                        Join(FileName(path), " could not be saved.", CRLF, CRLF, ReasonOf(failure)));
+    return false;
+  }
+  path_ = path;
+  kept_ = texts;
+  incomplete_ = false;
+  Remember(path, true);
+  Review();
+  return true;
+}
+
+bool CaseDocument::MayLeave() {
+  if (!IsChanged()) return true;
+  bool leave = false;
+  GuardedEvent(outside_.Boxes, [&] {
+    const std::string what = path_.empty() ? "This case has not been saved."
+                                           : Join(FileName(path_), " has changed since it was saved.");
+    const Answer answer = outside_.Boxes.Show(BoxStyle::Warning, BoxButtons::SaveDiscardCancel,
+                                              Join(what, CRLF, "Save it before it is closed?"));
+    leave = answer == Answer::Discard || (answer == Answer::Save && SaveOrAsk());
+  });
+  return leave;
+}
+
+std::vector<std::string> CaseDocument::Recent() const {
+  std::vector<std::string> paths;
+  for (int i = 1; i <= MostRecent; ++i) {
+    std::string path = outside_.Store.Read(ApplicationTitle, section, Key(i));
+    if (!path.empty()) paths.push_back(std::move(path));
+  }
+  return paths;
+}
+
+// A file that is not there any more is forgotten.
+void CaseDocument::Remember(const std::string& path, bool exists) {
+  std::vector<std::string> paths = Recent();
+  std::erase(paths, path);
+  if (exists) paths.insert(paths.begin(), path);
+  paths.resize(MostRecent);
+  for (int i = 1; i <= MostRecent; ++i) {
+    const std::string& value = paths[static_cast<std::size_t>(i - 1)];
+    if (outside_.Store.Read(ApplicationTitle, section, Key(i)) == value) continue;
+    outside_.Store.Write(ApplicationTitle, section, Key(i), value);
+  }
+}
+
+std::string CaseDocument::Folder() const {
+  const std::vector<std::string> recent = Recent();
+  const std::string& known = !path_.empty() || recent.empty() ? path_ : recent.front();
+  return known.empty() ? outside_.Places.Reports() : known.substr(0, known.rfind('/'));
+}
+
+std::string CaseDocument::SuggestedPath() const {
+  if (!path_.empty()) return path_;
+  const std::string name = form_.Text1(NameBox).Text.Get() + std::string(suffix);
+  const bool usable = name.size() > suffix.size() && IsFileName(name);
+  return Join(Folder(), "/", usable ? name : "case.qismora");
+}
+
+}  // namespace qismora

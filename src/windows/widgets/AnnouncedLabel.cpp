@@ -1,0 +1,45 @@
+#include "windows/widgets/AnnouncedLabel.h"
+
+#include <QAccessible>
+#include <QAccessibleWidget>
+#include <QPainter>
+#include <QStyle>
+
+namespace qismora {
+
+namespace {
+
+QAccessibleInterface* NotificationInterface(const QString&, QObject* object) {
+  auto* label = dynamic_cast<AnnouncedLabel*>(object);
+  return label == nullptr ? nullptr : new QAccessibleWidget(label, QAccessible::Notification);
+}
+
+}  // namespace
+
+AnnouncedLabel::AnnouncedLabel(const QString& name, QWidget* parent) : QLabel(parent) {
+  QAccessible::installFactory(NotificationInterface);  // a second time changes nothing
+  setObjectName(name);
+  setTextFormat(Qt::PlainText);
+}
+
+// A screen reader announces a notification when it appears.
+void AnnouncedLabel::Show(const QString& words, bool announce) {
+  if (words == text()) return;
+  setText(words);
+  setToolTip(words);
+  setAccessibleName(words);
+  if (!announce || words.isEmpty()) return;
+  QAccessibleEvent appeared(this, QAccessible::ObjectShow);
+  QAccessible::updateAccessibility(&appeared);
+}
+
+QSize AnnouncedLabel::minimumSizeHint() const { return {0, QLabel::minimumSizeHint().height()}; }
+
+void AnnouncedLabel::paintEvent(QPaintEvent*) {
+  QPainter painter(this);
+  style()->drawItemText(&painter, contentsRect(), int(alignment()), palette(), isEnabled(),
+                        fontMetrics().elidedText(text(), Qt::ElideRight, contentsRect().width()),
+                        foregroundRole());
+}
+
+}  // namespace qismora
