@@ -59,8 +59,7 @@ bool CaseDocument::IsChanged() const { return Texts() != kept_; }
 void CaseDocument::Review() {
   if (starting_) return;
   const bool changed = IsChanged();
-  Title = path_.empty() ? Join("Case without a file", changed ? ", not saved" : "")
-                        : Join(FileName(path_), changed ? ", changed" : "");
+  Title = path_.empty() ? (changed ? "Not saved" : "") : Join(FileName(path_), changed ? ", changed" : "");
 }
 
 void CaseDocument::Start(const CaseTexts& texts, const std::string& path) {

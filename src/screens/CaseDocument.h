@@ -32,7 +32,8 @@ class CaseDocument {
   bool IsChanged() const;
   /// The path of the file; empty before there is one.
   const std::string& Path() const { return path_; }
-  /// The name of the file, and whether the case has changed: estate.qismora, changed.
+  /// The name of the file, and whether the case has changed: estate.qismora, changed. Without a file: Not
+  /// saved, or nothing.
   Property<std::string> Title;
 
   /// The files that were opened or saved last, the latest first.

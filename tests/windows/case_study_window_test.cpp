@@ -425,6 +425,7 @@ class CaseStudyWindowTest : public QObject {
     QVERIFY(!fixture_->Window().isVisible());
     fixture_->Window().show();
     QCOMPARE(fixture_->Find<QLineEdit>("Text1(2)")->text(), QString("5"));
+    fixture_->Expect("This case has not been saved.", QMessageBox::Discard);
     fixture_->Window().close();
     QTRY_VERIFY(!fixture_->IsOpen());
     QCOMPARE(menus, 2);

@@ -1,7 +1,9 @@
 #include "windows/casestudy/AnswerStrip.h"
 
-#include <QGridLayout>
+#include <QBoxLayout>
+#include <QLabel>
 #include <QLocale>
+#include <memory>
 
 #include "windows/platform/Utf8.h"
 #include "windows/widgets/AnnouncedLabel.h"
@@ -11,7 +13,9 @@ namespace qismora {
 
 namespace {
 
-constexpr QMargins margins{8, 2, 8, 0};
+constexpr QMargins margins{8, 0, 8, 0};
+constexpr int gap = 16;
+constexpr int widestTitle = 170;
 
 // As the desktop groups a number of six digits.
 Grouping DesktopGrouping() {
@@ -27,33 +31,27 @@ bool IsWarning(AnswerStanding standing) {
 }  // namespace
 
 AnswerStrip::AnswerStrip(CaseStudy& form, CaseDocument& document, QWidget* parent)
-    : QFrame(parent),
-      form_(form),
-      answer_(new AnnouncedLabel(QStringLiteral("AnswerState"), this)),
-      readings_(new AnnouncedLabel(QStringLiteral("Readings"), this)) {
+    : QFrame(parent), form_(form), answer_(new AnnouncedLabel(QStringLiteral("AnswerState"), this)) {
   setObjectName(QStringLiteral("AnswerStrip"));
   setAccessibleName(QStringLiteral("State of the answer"));
   auto* file = new QLabel(this);
   file->setObjectName(QStringLiteral("CaseTitle"));
   file->setTextFormat(Qt::PlainText);
-  auto* grid = new QGridLayout(this);
-  grid->setContentsMargins(margins);
-  grid->setVerticalSpacing(0);
-  grid->setColumnStretch(0, 1);
-  grid->addWidget(answer_, 0, 0);
-  grid->addWidget(file, 0, 1);
-  grid->addWidget(readings_, 1, 0, 1, 2);
+  // The form leaves little more than the height of the text.
+  setFixedHeight(fontInfo().pixelSize() + 2);
+  auto* row = new QHBoxLayout(this);
+  row->setContentsMargins(margins);
+  row->setSpacing(gap);
+  row->addWidget(answer_, 1);
+  row->addWidget(file);
 
   Binder::Follow(document.Title, [&document, file] {
     const QString title = ToQt(document.Title.Get());
-    constexpr int widest = 260;
-    file->setText(file->fontMetrics().elidedText(title, Qt::ElideMiddle, widest));
+    file->setText(file->fontMetrics().elidedText(title, Qt::ElideMiddle, widestTitle));
     file->setToolTip(document.Path().empty() ? title : ToQt(document.Path()));
     file->setAccessibleName(title);
   });
   Binder::Follow(form.AnswerWords, [this] { ShowAnswer(); });
-  for (int i = 0; i < form.Text1.Size; ++i) form.Text1(i).Text.WhenChanged([this] { ShowReadings(); });
-  Binder::Follow(form.EventsEnded, [this] { ShowReadings(); });
 }
 
 // What needs the user's attention stands in bold, so that it is told apart without colour.
@@ -65,13 +63,19 @@ void AnswerStrip::ShowAnswer() {
 }
 
 // A sentence changes with each key; it is announced when another field has come to it.
-void AnswerStrip::ShowReadings() {
-  static const Grouping grouping = DesktopGrouping();
-  const std::vector<std::string> sentences = form_.Misreadings(grouping);
-  QStringList shown;
-  for (const std::string& sentence : sentences) shown.append(ToQt(sentence));
-  readings_->Show(shown.join(QStringLiteral("; ")), sentences.size() > misread_);
-  misread_ = sentences.size();
+QWidget* MakeReadingsPanel(CaseStudy& form, QWidget* parent) {
+  auto* panel = new AnnouncedLabel(QStringLiteral("Readings"), parent);
+  const auto show = [&form, panel, grouping = DesktopGrouping(), misread = std::make_shared<std::size_t>(0)] {
+    const std::vector<std::string> sentences = form.Misreadings(grouping);
+    QStringList shown;
+    for (const std::string& sentence : sentences) shown.append(ToQt(sentence));
+    panel->setVisible(!shown.isEmpty());
+    panel->Show(shown.join(QStringLiteral("; ")), sentences.size() > *misread);
+    *misread = sentences.size();
+  };
+  for (int i = 0; i < form.Text1.Size; ++i) form.Text1(i).Text.WhenChanged(show);
+  Binder::Follow<int>(form.EventsEnded, show);
+  return panel;
 }
 
 }  // namespace qismora

@@ -33,6 +33,7 @@ namespace {
 constexpr QSize windowSize{799, 599};
 constexpr QPoint windowPlace{0, -3};
 constexpr int margin = 6;
+constexpr int readingsStretch = 12;
 constexpr int largestText = 12;
 
 }  // namespace
@@ -71,7 +72,7 @@ void CaseStudyWindow::BuildFrame() {
   middle->addWidget(heirs, 0);
   middle->addWidget(result, 1);
   auto* rows = new QVBoxLayout(frame);
-  rows->setSpacing(margin - 2);
+  rows->setSpacing(margin - 4);
   rows->addWidget(top);
   rows->addLayout(middle, 1);
   rows->addWidget(classII);
@@ -116,6 +117,10 @@ void CaseStudyWindow::BuildDivision(Settings& store) {
 
 void CaseStudyWindow::BuildStatusBar(Outside& outside) {
   Binder::Result(form_.StatusBar1, AddPanel("StatusBar1.Panel1", QStringLiteral("What was last computed")));
+
+  QWidget* readings = MakeReadingsPanel(form_, this);
+  statusBar()->addWidget(readings, readingsStretch);
+  readings->hide();  // the first texts are read as they stand
 
   auto* saves = new SavePanel(ToQt(outside.Places.Reports()), this);
   statusBar()->addPermanentWidget(saves, 1);

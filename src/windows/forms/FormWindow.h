@@ -24,7 +24,7 @@ class FormWindow : public QMainWindow {
   QWidget* Background() { return background_; }
   /// Adds a panel to the status bar.
   QLabel* AddPanel(const char* name, const QString& accessibleName);
-  /// Puts a widget of full width above the status bar.
+  /// Puts a widget of full width above the status bar, in the place of the margin there.
   void AddStrip(QWidget* strip);
   /// To be called when all controls stand. A window whose text is larger than usual grows rather than cut it.
   void SetSizes(const QSize& window, int margin);
