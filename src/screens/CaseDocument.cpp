@@ -149,6 +149,8 @@ bool CaseDocument::MayLeave() {
     const Answer answer = outside_.Boxes.Show(BoxStyle::Warning, BoxButtons::SaveDiscardCancel,
                                               Join(what, CRLF, "Save it before it is closed?"));
     leave = answer == Answer::Discard || (answer == Answer::Save && SaveOrAsk());
+    if (answer == Answer::Discard) kept_ = Texts();  // nobody asks about it again
+    Review();
   });
   return leave;
 }

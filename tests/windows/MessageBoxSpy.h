@@ -1,5 +1,6 @@
 #pragma once
 
+#include <QAbstractButton>
 #include <QApplication>
 #include <QMessageBox>
 #include <QStringList>
@@ -17,6 +18,9 @@ class MessageBoxSpy : public QObject {
   void Leave() { watches_ = false; }
   void Watch() { watches_ = true; }
 
+  /// A message box that has this button is left by it.
+  void Press(QMessageBox::StandardButton button) { press_ = button; }
+
   /// The texts recorded so far.
   QStringList Take() { return std::exchange(texts_, {}); }
   int Count() const { return static_cast<int>(texts_.size()); }
@@ -32,6 +36,7 @@ class MessageBoxSpy : public QObject {
     texts_.append(box != nullptr ? box->text() : QStringLiteral("a modal window that is not a message box"));
     owner_ = modal->parentWidget() == nullptr ? QString() : modal->parentWidget()->objectName();
     onTop_ = (modal->windowFlags() & Qt::WindowStaysOnTopHint) != 0;
+    if (box != nullptr && box->button(press_) != nullptr) return box->button(press_)->click();
     modal->close();
   }
 
@@ -39,6 +44,7 @@ class MessageBoxSpy : public QObject {
   QStringList texts_;
   QString owner_;
   bool onTop_ = false;
+  QMessageBox::StandardButton press_ = QMessageBox::NoButton;
   bool watches_ = true;
 };
 

@@ -5,6 +5,7 @@
 #include <QFile>
 #include <QTemporaryDir>
 #include <QUrl>
+#include <deque>
 #include <memory>
 
 #include "shell/Documents.h"
@@ -25,6 +26,24 @@ inline bool Uses(qint64 process, const QString& file) {
   QFile maps(folder + QStringLiteral("maps"));
   return maps.open(QIODevice::ReadOnly) && maps.readAll().contains(file.toUtf8() + '\n');
 }
+
+/// Answers the dialogs for case files from a queue; they are cancelled when it is empty.
+class QueuedDialog : public QtSaveDialog {
+ public:
+  using QtSaveDialog::QtSaveDialog;
+  std::optional<std::string> AskCaseToOpen(const std::string&) override { return Next(); }
+  std::optional<std::string> AskCaseToSave(const std::string&) override { return Next(); }
+
+  std::deque<std::string> CasePaths;
+
+ private:
+  std::optional<std::string> Next() {
+    if (CasePaths.empty()) return std::nullopt;
+    std::string path = CasePaths.front();
+    CasePaths.pop_front();
+    return path;
+  }
+};
 
 /// The program with its real windows and ports, in a temporary directory or where it is installed. Only its
 /// end and the document viewer are replaced.
@@ -76,6 +95,7 @@ class ProgramFixture : public QObject {
 
   QtVideoPlayer& Player() { return *player_; }
   Settings& Store() { return settings_; }
+  QueuedDialog& Dialog() { return dialog_; }
 
   FakeProgram Ended;
   QStringList Opened;
@@ -89,7 +109,7 @@ class ProgramFixture : public QObject {
   QtProgram running_;
   QtMessageBoxes boxes_{running_};
   ProgramFolders folders_;
-  QtSaveDialog dialog_;
+  QueuedDialog dialog_;
   QtSettings settings_;
   QtDocumentViewer viewer_;
   SystemMemory memory_;

@@ -205,8 +205,10 @@ class Program(unittest.TestCase):
             self.assertTrue(name, f"a {role} of {window.name} has no name")
             self.assertNotIn(role, ("unknown", "filler", "invalid"), name)
 
-    def leave(self):
+    def leave(self, changed=False):
         self.press(self.menu, "menu item", "Exit")
+        if changed:
+            self.assertIn("This case has not been saved.", self.answer("Discard"))
         self.assertEqual(self.process.wait(PATIENCE), 0)
 
     def test_a_case_is_typed_run_and_read(self):
@@ -225,7 +227,11 @@ class Program(unittest.TestCase):
         self.find(study, "label", "What was last computed: Share of Wives")
         self.assertIn("one eighth", text(self.find(study, "text", "Narrative of the share")).lower())
 
+        announced = self.announcements()
         self.press(study, "menu item", "Residuaries")
+        final = "Answer of Residuaries: final."
+        wait_for("the state of the answer", lambda: final in announced())
+        self.assertEqual(announced().count(final), 1)
         report = self.find(study, "text", "Report")
         wait_for("the distribution", lambda: "SONS (1) = 14000 (14/24)" in text(report))
         self.assertIn("ALIVE by the deceased Amina", text(report))
@@ -256,7 +262,7 @@ class Program(unittest.TestCase):
         wait_for("the announcement", lambda: f"Saved: {report}" in announced())
         self.press(study, "menu item", "Back")
         self.gone("Case Study")
-        self.leave()
+        self.leave(changed=True)
 
     def test_the_other_windows_are_opened_read_and_left(self):
         self.assert_named(self.menu)

@@ -74,6 +74,7 @@ class ShellWindowsTest : public QObject {
   }
   void cleanup() {
     boxes_.Watch();
+    boxes_.Press(QMessageBox::NoButton);
     QCOMPARE(boxes_.Take(), QStringList());
     program_.reset();
   }
@@ -165,7 +166,9 @@ class ShellWindowsTest : public QObject {
     QTRY_VERIFY(study->isVisible());
     QCOMPARE(windows_->Study(), study);
     QCOMPARE(Find<QLineEdit>(study, "Text1(2)")->text(), QStringLiteral("3"));
+    boxes_.Press(QMessageBox::Discard);
     study->close();
+    QCOMPARE(boxes_.Take().size(), 1);
     QTRY_VERIFY(windows_->Study() == nullptr);
     QVERIFY(QTest::qWaitForWindowActive(menu_));
     QCOMPARE(program_->Ended.Ends, 0);
@@ -378,6 +381,13 @@ class ShellWindowsTest : public QObject {
                : static_cast<void>(raise(SIGTERM));
       });
       end.start(5);
+      // Windows that are closed may ask about the changed case.
+      QTimer discard;
+      connect(&discard, &QTimer::timeout, &discard, [] {
+        auto* box = qobject_cast<QMessageBox*>(QApplication::activeModalWidget());
+        if (box != nullptr && box->button(QMessageBox::Discard)) box->button(QMessageBox::Discard)->click();
+      });
+      discard.start(5);
       QApplication::exec();
       QVERIFY(asked > 0);
     }

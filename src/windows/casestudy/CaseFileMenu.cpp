@@ -1,5 +1,6 @@
 #include "windows/casestudy/CaseFileMenu.h"
 
+#include <QAccessible>
 #include <QAction>
 #include <QDropEvent>
 #include <QFileInfo>
@@ -86,7 +87,12 @@ void AddCaseFileMenu(QMenuBar* bar, CaseDocument& document) {
     QAction* action = menu->addAction(QString::fromLatin1(entry.Caption));
     action->setObjectName(QString::fromLatin1(entry.Name));
     action->setShortcut(entry.Key);
-    QObject::connect(action, &QAction::triggered, bar, [&document, run = entry.Run] { (document.*run)(); });
+    const auto act = [&document, run = entry.Run] { (document.*run)(); };
+    // As the other entries: a screen reader that chose one must not wait for an answer.
+    QObject::connect(action, &QAction::triggered, bar, [bar, act] {
+      if (!QAccessible::isActive()) return act();
+      QMetaObject::invokeMethod(bar, act, Qt::QueuedConnection);
+    });
   }
   menu->addSeparator();
   auto* recent = menu->addMenu(QStringLiteral("&Recent"));

@@ -33,7 +33,7 @@ namespace {
 constexpr QSize windowSize{799, 599};
 constexpr QPoint windowPlace{0, -3};
 constexpr int margin = 6;
-constexpr int readingsStretch = 12;
+constexpr int readingsStretch = 3;
 constexpr int largestText = 12;
 
 }  // namespace

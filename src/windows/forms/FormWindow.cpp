@@ -66,9 +66,10 @@ void FormWindow::AddStrip(QWidget* strip) {
 // The frame reaches below the status bar: menu and status bar take their part of the form's height.
 void FormWindow::SetSizes(const QSize& window, int margin) {
   bars_ = menuBar()->sizeHint().height() + statusBar()->sizeHint().height();
-  if (strip_ != nullptr) bars_ += strip_->sizeHint().height() - margin;
-  const int top = strip_ == nullptr ? margin : margin / 2;
-  frame_->layout()->setContentsMargins(margin, top, margin, margin + bars_);
+  const bool strip = strip_ != nullptr;
+  if (strip) bars_ += strip_->sizeHint().height();
+  frame_->layout()->setContentsMargins(margin, strip ? margin / 2 : margin, margin,
+                                       strip ? bars_ : margin + bars_);
   const QSize least = frame_->layout()->totalMinimumSize();
   background_->setMinimumSize(least - QSize(0, bars_));
   frameSize_ = formSize.expandedTo(least);

@@ -1,5 +1,6 @@
 #include "windows/forms/InhMainWindow.h"
 
+#include <QAccessible>
 #include <QAction>
 #include <QApplication>
 #include <QBoxLayout>
@@ -105,7 +106,12 @@ void InhMainWindow::BuildMenuBar() {
   for (const Entry& entry : entries) {
     QAction* action = menuBar()->addAction(QString::fromUtf8(entry.Caption));
     action->setObjectName(QString::fromLatin1(entry.Name));
-    connect(action, &QAction::triggered, this, [this, run = entry.Run] { (form_.*run)(); });
+    const auto act = [this, run = entry.Run] { (form_.*run)(); };
+    // The exit may ask about a changed case, and a screen reader that chose it must not wait for the answer.
+    connect(action, &QAction::triggered, this, [this, act] {
+      if (!QAccessible::isActive()) return act();
+      QMetaObject::invokeMethod(this, act, Qt::QueuedConnection);
+    });
     if (entry.Run == &InhMain::Exitz_Click) action->setShortcut(QKeySequence::Quit);
   }
   AddHelpMenu(menuBar());

@@ -1,0 +1,280 @@
+// The state of the answer and the case files on the real windows, with real clicks and keys.
+#include <QAction>
+#include <QDragEnterEvent>
+#include <QLabel>
+#include <QLineEdit>
+#include <QMenu>
+#include <QMimeData>
+#include <QStatusBar>
+#include <QTest>
+
+#include "windows/MessageBoxSpy.h"
+#include "windows/ProgramFixture.h"
+#include "windows/style/OutlinedStyle.h"
+
+namespace qismora {
+
+using testing::MessageBoxSpy;
+using testing::ProgramFixture;
+
+namespace {
+
+template <class Widget = QWidget>
+Widget* Find(QWidget* window, const char* name) {
+  auto* found = window->findChild<Widget*>(QString::fromLatin1(name));
+  if (found == nullptr) qFatal("There is no %s", name);
+  return found;
+}
+
+}  // namespace
+
+class CasesTest : public QObject {
+  Q_OBJECT
+
+ private slots:
+  void initTestCase() {
+    QFont font(QStringLiteral("DejaVu Sans"));
+    font.setPixelSize(12);
+    QApplication::setFont(font);
+  }
+  void init() {
+    program_ = std::make_unique<ProgramFixture>();
+    windows_ = &program_->Start();
+    OpenStudy();
+  }
+  void cleanup() {
+    boxes_.Watch();
+    boxes_.Press(QMessageBox::NoButton);
+    QCOMPARE(boxes_.Take(), QStringList());
+    program_.reset();
+  }
+
+  void theStateIsAlwaysInSight() {
+    QCOMPARE(State(), QStringLiteral("No answer yet."));
+    Type("Text1(2)", "1");
+    Type("Text1(25)", "24000");
+    QTest::keyClick(study_, Qt::Key_F5);
+    QCOMPARE(State(), QStringLiteral("Answer of Residuaries: final."));
+    Type("Text1(2)", "12");
+    QCOMPARE(State(), QStringLiteral("Fields have changed since the answer of Residuaries."));
+    Type("Text1(2)", "101");
+    QTest::keyClick(study_, Qt::Key_F5);
+    QVERIFY(
+        State().startsWith(QStringLiteral("Refused: these figures are not your case. Check number of Sons")));
+    QCOMPARE(boxes_.Take().size(), 1);
+    auto* state = Find<QLabel>(study_, "AnswerState");
+    QVERIFY(state->visibleRegion().boundingRect().width() > study_->width() / 2);
+    QVERIFY(!state->geometry().intersects(study_->statusBar()->geometry()));
+    study_->Document().New();  // asks, and is closed: nothing is lost
+    QCOMPARE(boxes_.Take().size(), 1);
+    QVERIFY(Find<QLineEdit>(study_, "Text1(2)")->text() == QLatin1String("101"));
+  }
+
+  void whatIsReadDifferentlyIsSaidInWords() {
+    auto* readings = Find<QLabel>(study_, "Readings");
+    QVERIFY(!readings->isVisible());
+    Type("Text1(25)", "18,40,000");
+    QVERIFY(readings->isVisible());
+    QCOMPARE(readings->text(), QStringLiteral("Gross Estate 18,40,000 is read as 18"));
+    Type("Text1(3)", "x");
+    QVERIFY(readings->text().startsWith(QStringLiteral("Daughters x is not read")));
+    Type("Text1(25)", "1840000");
+    Type("Text1(3)", "2");
+    QVERIFY(!readings->isVisible());
+  }
+
+  void aCaseIsSavedOpenedAndStartedAnew() {
+    const QString file = program_->File(QStringLiteral("zayd.qismora"));
+    QCOMPARE(Title(), QString());
+    Type("Text1(24)", "Zayd");
+    Type("Text1(2)", "2");
+    QCOMPARE(Title(), QStringLiteral("Not saved"));
+    InDialog(file);
+    Key(Qt::Key_S);
+    QCOMPARE(Title(), QStringLiteral("zayd.qismora"));
+    Type("Text1(2)", "3");
+    QCOMPARE(Title(), QStringLiteral("zayd.qismora, changed"));
+    Key(Qt::Key_S);
+    QVERIFY(Content(file).contains("Sons = 3\n"));
+
+    Key(Qt::Key_N);
+    QCOMPARE(Title(), QString());
+    for (const char* field : {"Text1(2)", "Text1(25)", "Text1(26)", "Text1(27)", "Text1(28)"}) {
+      QCOMPARE(Find<QLineEdit>(study_, field)->text(), QStringLiteral("0"));
+    }
+    QCOMPARE(Find<QLineEdit>(study_, "Text1(24)")->text(), QString());
+
+    InDialog(file);
+    Key(Qt::Key_O);
+    QCOMPARE(Find<QLineEdit>(study_, "Text1(2)")->text(), QStringLiteral("3"));
+    QCOMPARE(Find<QLineEdit>(study_, "Text1(24)")->text(), QStringLiteral("Zayd"));
+    const QString other = program_->File(QStringLiteral("umar.qismora"));
+    InDialog(other);
+    Key(Qt::Key_S, Qt::ControlModifier | Qt::ShiftModifier);
+    QCOMPARE(Title(), QStringLiteral("umar.qismora"));
+
+    // The recent files outlive the window.
+    study_->close();
+    QTRY_VERIFY(windows_->Study() == nullptr);
+    OpenStudy();
+    auto* recent = Find<QAction>(study_, "RecentCases")->menu();
+    emit recent->aboutToShow();
+    QCOMPARE(recent->actions().size(), 2);
+    QVERIFY(recent->actions().at(0)->text().endsWith(QStringLiteral("umar.qismora")));
+    recent->actions().at(1)->trigger();
+    QCOMPARE(Title(), QStringLiteral("zayd.qismora"));
+  }
+
+  void whatCannotBeOpenedChangesNothing_data() {
+    QTest::addColumn<QByteArray>("content");
+    QTest::addColumn<QString>("words");
+    QTest::newRow("damaged") << QByteArray("Sons = 1\nDaugthers = 1\n")
+                             << "Line 2: \"Daugthers\" is not a caption of the Case Study screen.";
+    QTest::newRow("missing") << QByteArray() << "was not opened";
+  }
+  void whatCannotBeOpenedChangesNothing() {
+    QFETCH(QByteArray, content);
+    QFETCH(QString, words);
+    const QString file = program_->File(QStringLiteral("bad.qismora"));
+    if (!content.isEmpty()) program_->Put(file, content);
+    Type("Text1(2)", "7");
+    windows_->OpenCase(FromQt(file));
+    const QStringList told = boxes_.Take();
+    QCOMPARE(told.size(), 1);
+    QVERIFY2(told.constFirst().contains(words), qPrintable(told.constFirst()));
+    QCOMPARE(Find<QLineEdit>(study_, "Text1(2)")->text(), QStringLiteral("7"));
+    QCOMPARE(Title(), QStringLiteral("Not saved"));
+    boxes_.Press(QMessageBox::Discard);
+    study_->close();
+    boxes_.Take();
+  }
+
+  // Saving in the place of a file whose lines are not all known would lose them.
+  void linesOfANewerVersionAreNamedAndKept() {
+    const QString file = program_->File(QStringLiteral("new.qismora"));
+    program_->Put(file, "Qismora case = 2\nSons = 1\nUnborn = 1\n");
+    windows_->OpenCase(FromQt(file));
+    QVERIFY(boxes_.Take().constFirst().contains(QStringLiteral("Line 3: Unborn = 1")));
+    const QString copy = program_->File(QStringLiteral("copy.qismora"));
+    InDialog(copy);
+    Key(Qt::Key_S);
+    QVERIFY(Content(file).contains("Unborn"));
+    QVERIFY(Content(copy).contains("Sons = 1"));
+  }
+
+  void aDroppedFileOpens() {
+    const QString file = program_->File(QStringLiteral("dropped.qismora"));
+    program_->Put(file, "Sons = 4\n");
+    QMimeData data;
+    data.setUrls({QUrl::fromLocalFile(file)});
+    auto* field = Find<QLineEdit>(study_, "Text1(3)");  // which takes dropped texts
+    for (QWidget* place : {static_cast<QWidget*>(study_), static_cast<QWidget*>(field)}) {
+      study_->Document().New();
+      QDragEnterEvent enter(QPoint(5, 5), Qt::CopyAction, &data, Qt::LeftButton, Qt::NoModifier);
+      QApplication::sendEvent(place, &enter);
+      QVERIFY(enter.isAccepted());
+      QDropEvent drop(QPointF(5, 5), Qt::CopyAction, &data, Qt::LeftButton, Qt::NoModifier);
+      QApplication::sendEvent(place, &drop);
+      QTRY_COMPARE(Find<QLineEdit>(study_, "Text1(2)")->text(), QStringLiteral("4"));
+      QCOMPARE(field->text(), QStringLiteral("0"));
+    }
+  }
+
+  void aChangedCaseIsNotClosedUnasked_data() {
+    QTest::addColumn<bool>("exit");
+    QTest::newRow("Case Study") << false;
+    QTest::newRow("the program, while Case Study is hidden") << true;
+  }
+  void aChangedCaseIsNotClosedUnasked() {
+    QFETCH(bool, exit);
+    const auto leave = [&] {
+      if (exit) {
+        Find<QAction>(&windows_->MainMenu(), "Exitz")->trigger();
+      } else {
+        study_->close();
+      }
+    };
+    const QString file = program_->File(QStringLiteral("kept.qismora"));
+    Type("Text1(2)", "2");
+    if (exit) Find<QAction>(study_, "Back")->trigger();
+    boxes_.Press(QMessageBox::Cancel);
+    leave();
+    QCOMPARE(boxes_.Take().size(), 1);
+    QVERIFY(windows_->Study() != nullptr);
+    QCOMPARE(program_->Ended.Ends, 0);
+    QCOMPARE(Find<QLineEdit>(study_, "Text1(2)")->text(), QStringLiteral("2"));
+
+    // A save that is given up is no answer either.
+    boxes_.Press(QMessageBox::Save);
+    leave();
+    QCOMPARE(program_->Ended.Ends, 0);
+    InDialog(file);
+    leave();
+    boxes_.Take();
+    QVERIFY(Content(file).contains("Sons = 2\n"));
+    if (exit) {
+      QCOMPARE(program_->Ended.Ends, 1);
+    } else {
+      QTRY_VERIFY(windows_->Study() == nullptr);
+    }
+  }
+
+  void theExampleAloneIsNotAskedAbout() {
+    QTest::keyClick(study_, Qt::Key_F5);
+    boxes_.Take();
+    study_->close();
+    QTRY_VERIFY(windows_->Study() == nullptr);
+  }
+
+ private:
+  void OpenStudy() {
+    windows_->MainMenu().Form().ShowCaseStudy();
+    study_ = windows_->Study();
+    QVERIFY(QTest::qWaitForWindowActive(study_));
+  }
+
+  void Type(const char* field, const char* text) {
+    study_->activateWindow();
+    auto* widget = Find<QLineEdit>(study_, field);
+    QTest::mouseClick(widget, Qt::LeftButton);
+    widget->selectAll();
+    QTest::keyClicks(widget, QString::fromLatin1(text));
+  }
+
+  void Key(Qt::Key key, Qt::KeyboardModifiers with = Qt::ControlModifier) {
+    study_->activateWindow();
+    QVERIFY(QTest::qWaitForWindowActive(study_));
+    QTest::keyClick(study_, key, with);
+  }
+
+  /// The next dialog for case files is answered with this file.
+  void InDialog(const QString& file) { program_->Dialog().CasePaths.push_back(FromQt(file)); }
+
+  static QByteArray Content(const QString& file) {
+    QFile opened(file);
+    return opened.open(QIODevice::ReadOnly) ? opened.readAll() : QByteArray();
+  }
+  QString State() const { return Find<QLabel>(study_, "AnswerState")->text(); }
+  QString Title() const { return Find<QLabel>(study_, "CaseTitle")->text(); }
+
+  MessageBoxSpy boxes_;
+  std::unique_ptr<ProgramFixture> program_;
+  ProgramWindows* windows_ = nullptr;
+  CaseStudyWindow* study_ = nullptr;
+};
+
+}  // namespace qismora
+
+int main(int argc, char** argv) {
+  const QTemporaryDir home;
+  for (const char* name : {"XDG_CONFIG_HOME", "XDG_DATA_HOME", "XDG_RUNTIME_DIR"}) {
+    qputenv(name, home.path().toUtf8());
+  }
+  QApplication::setStyle(new qismora::OutlinedStyle);
+  QApplication application(argc, argv);
+  QDir::setCurrent(home.path());
+  qismora::CasesTest test;
+  return QTest::qExec(&test, argc, argv);
+}
+
+#include "cases_test.moc"
