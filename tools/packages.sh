@@ -40,6 +40,8 @@ packages_to_check=(
   clang-tidy-14      # static analysis
   desktop-file-utils # validator of the desktop entry
   appstream          # validator of the metainfo file
+  shared-mime-info   # registers the type of the case files
+  libxml2-utils      # validator of its XML file
   mandoc             # validator of the manual page
   lintian            # validator of the Debian package
   poppler-utils      # the text of the PDF documents
