@@ -39,6 +39,8 @@ class CasesTest : public QObject {
   }
   void init() {
     program_ = std::make_unique<ProgramFixture>();
+    // The offscreen platform would activate the Division window when it opens by itself.
+    program_->Store().Write("Qismora", "Division", "Open", "no");
     windows_ = &program_->Start();
     OpenStudy();
   }
