@@ -11,7 +11,8 @@ struct BuiltFile {
   const char* Sha256;
 };
 
-/// The videos, the plugin that plays them and the one that prints. The build writes this list when it has made them.
+/// The videos, the plugin that plays them and the one that prints. The build writes this list when it has
+/// made them.
 extern const std::span<const BuiltFile> builtFiles;
 
 /// Whether a file has the content that the build gave to the file of its name. To play or to load another
