@@ -1,9 +1,6 @@
 #include <gtest/gtest.h>
-#include <sys/wait.h>
-#include <unistd.h>
 
 #include <algorithm>
-#include <csignal>
 #include <fstream>
 
 #include "base/Files.h"
@@ -105,34 +102,6 @@ TEST_F(ReportFiles, AFolderWithoutPermissionKeepsTheEarlierReports) {
   EXPECT_FALSE(Case.Record.ReportToFile);
   Case.World.Dialog.Paths = {"/proc/self/out.txt"};
   Case.Study->SaveResults_Click();
-  EXPECT_EQ(ReadWholeFile(Folder.File("zayd.txt")), earlier);
-}
-
-/// Ends the program hard once a report is complete on the disk and not yet in its place.
-class KilledFolders : public testing::FakeFolders {
- public:
-  void WriteThrough(const std::string&) override { std::raise(SIGKILL); }
-};
-
-TEST_F(ReportFiles, AKilledProgramKeepsTheEarlierReport) {
-  Case.Type(NameBox, "Zayd");
-  Case.Study->CreateSaveFullReport_Click();
-  const std::string earlier = ReadWholeFile(Folder.File("zayd.txt"));
-  const pid_t child = fork();
-  if (child == 0) {
-    KilledFolders killed;
-    killed.Folder = Folder.Path();
-    Outside ports = {Case.World.Clock, Case.World.Boxes, Case.World.Dialog, Case.World.Settings, killed};
-    CaseRecord record;
-    CaseStudy study(record, ports, 0);
-    study.Text1(NameBox).Text = "Zayd";
-    Case.World.Boxes.Answers = {Answer::Yes};
-    study.CreateSaveFullReport_Click();
-    _exit(0);
-  }
-  int status = 0;
-  waitpid(child, &status, 0);
-  ASSERT_TRUE(WIFSIGNALED(status));
   EXPECT_EQ(ReadWholeFile(Folder.File("zayd.txt")), earlier);
 }
 

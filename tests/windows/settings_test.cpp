@@ -2,10 +2,7 @@
 // program that is killed while it writes. Needs no window, but processes.
 
 #include <gtest/gtest.h>
-#include <sched.h>
-#include <sys/mount.h>
 #include <sys/stat.h>
-#include <sys/wait.h>
 
 #include <QSettings>
 #include <chrono>
@@ -16,8 +13,6 @@
 #include "base/Files.h"
 #include "base/Text.h"
 #include "shell/AppSettings.h"
-#include "shell/SessionLog.h"
-#include "support/FakePorts.h"
 #include "support/Processes.h"
 #include "support/TemporaryFolder.h"
 #include "windows/platform/Ports.h"
@@ -115,45 +110,6 @@ TEST(StoredSettings, TwoProgramsThatWriteAtOnceLeaveAWholeFile) {
   EXPECT_EQ(Stored(TimesExecuted) / 10, rounds) << "the last of one of them";
 }
 
-/// Gives this process a small disk of its own at the path; false where that is not permitted.
-bool MountSmallDisk(const std::string& path) {
-  if (unshare(CLONE_NEWNS) != 0 && unshare(CLONE_NEWUSER | CLONE_NEWNS) != 0) return false;
-  return mount(nullptr, "/", nullptr, MS_REC | MS_PRIVATE, nullptr) == 0 &&
-         mount("tmpfs", path.c_str(), "tmpfs", 0, "size=64k") == 0;
-}
-
-/// Fills the disk but for so many blocks.
-void Fill(const std::string& path, std::size_t blocks) {
-  constexpr std::size_t block = 4096;
-  std::ofstream file(path, std::ios::binary);
-  while (file && fs::space(fs::path(path).parent_path()).available > blocks * block)
-    file << std::string(block, ' ') << std::flush;
-}
-
-TEST(StoredSettings, ADiskThatIsAllButFullKeepsTheOldContentOrTakesTheNew) {
-  constexpr int notPermitted = 77;
-  const SettingsFolder folder;
-  const pid_t child = fork();
-  if (child == 0) {
-    if (!MountSmallDisk(folder.Path())) _exit(notPermitted);
-    Store(TimesExecuted, 5);
-    const std::string path = folder.File("Qismora/Qismora.conf");
-    for (std::size_t blocks = 0; blocks < 8; ++blocks) {
-      Fill(folder.File("filled"), blocks);
-      Store(TimesExecuted, 6);
-      const std::string found = ReadWholeFile(path);
-      if (found != "[Inheritance]\nTimesExecuted=5\n" && found != "[Inheritance]\nTimesExecuted=6\n")
-        _exit(1);
-    }
-    _exit(0);
-  }
-  int status = 0;
-  ASSERT_EQ(waitpid(child, &status, 0), child);
-  ASSERT_TRUE(WIFEXITED(status));
-  if (WEXITSTATUS(status) == notPermitted) GTEST_SKIP() << "no disk may be mounted here";
-  EXPECT_EQ(WEXITSTATUS(status), 0);
-}
-
 // A pipe that is waited for hangs the test.
 TEST(StoredSettings, OnlyAnOrdinaryFileIsReadOrWritten) {
   for (const char* name : {"Qismora/Qismora.conf", "Qismora/Qismora.conf.lock", "Qismora.conf"}) {
@@ -166,23 +122,9 @@ TEST(StoredSettings, OnlyAnOrdinaryFileIsReadOrWritten) {
   }
 }
 
-/// All that a run of the program keeps for the next one.
-void RunOnce(const TemporaryFolder& folder, int number) {
-  Store(LowerImage, number);
-  Store(LblPressed, number);
-  testing::FakePorts world;
-  world.Folders.Folder = folder.Path();
-  QtSettings settings;
-  ShellOutside outside{{world.Clock, world.Boxes, world.Dialog, settings, world.Folders},
-                       world.Viewer,
-                       world.Player,
-                       world.Memory,
-                       world.Program};
-  ShellRecord shell;
-  CaseRecord record;
-  StartSession(shell, outside);
-  record.ExecCount = Long(number);
-  Inhp(shell, record, outside);
+/// Stores all that the program keeps.
+void StoreAll(int number) {
+  for (const Setting& setting : {LowerImage, LblPressed, TimesExecuted}) Store(setting, number);
 }
 
 // Qt takes over a lock without the name of its owner when it is half a minute old; the test makes it so.
@@ -199,27 +141,17 @@ TEST(StoredSettings, AKilledProgramLeavesTheOldOrTheNewAndNoOtherWaitsForIt) {
   for (Outcome outcome = Outcome::Killed; outcome == Outcome::Killed; ++calls) {
     SCOPED_TRACE(Join("killed at call ", calls + 1));
     const SettingsFolder folder;
-    const std::string log = folder.File("popuQism.ppl");
-    RunOnce(folder, 1);
-    const std::string line = ReadWholeFile(log);
-    outcome = testing::RunUpToCall(calls + 1, [&] { RunOnce(folder, 2); });
+    StoreAll(1);
+    outcome = testing::RunUpToCall(calls + 1, [] { StoreAll(2); });
     if (outcome == Outcome::NotPermitted) GTEST_SKIP() << "no program may be watched here";
-
-    const std::size_t logged = ReadWholeFile(log).size();
-    states.insert(Join(Stored(LowerImage), Stored(LblPressed), Stored(TimesExecuted), " and ",
-                       static_cast<int>(logged / line.size()), " lines"));
-    EXPECT_EQ(logged % line.size(), 0U) << "whole lines";
+    states.insert(Join(Stored(LowerImage), Stored(LblPressed), Stored(TimesExecuted)));
 
     AgeEmptyLocks(folder);
-    const auto before = std::chrono::steady_clock::now();
-    RunOnce(folder, 3);
-    EXPECT_LT(std::chrono::steady_clock::now() - before, std::chrono::seconds(10));
+    StoreAll(3);
     for (const Setting& setting : {LowerImage, LblPressed, TimesExecuted}) EXPECT_EQ(Stored(setting), 3);
-    EXPECT_EQ(ReadWholeFile(log).size(), logged + line.size());
     if (::testing::Test::HasFailure()) return;
   }
-  EXPECT_EQ(states, (std::set<std::string>{"111 and 1 lines", "211 and 1 lines", "221 and 1 lines",
-                                           "222 and 1 lines", "222 and 2 lines"}));
+  EXPECT_EQ(states, (std::set<std::string>{"111", "211", "221", "222"}));
 }
 
 }  // namespace
