@@ -1,11 +1,8 @@
 #include <gtest/gtest.h>
 #include <sys/stat.h>
-#include <sys/wait.h>
-#include <unistd.h>
 
 #include <filesystem>
 #include <fstream>
-#include <set>
 
 #include "base/Files.h"
 #include "base/Text.h"
@@ -167,6 +164,7 @@ TEST(SessionLog, OnlyAnOpenFileIsTold) {
     StartSession(shell, ports);
     Inhp(shell, CaseRecord(), ports);
     EXPECT_EQ(world.Program.Ends, 1) << "the program ends in any case";
+    EXPECT_EQ(world.Settings.Values["Qismora/Inheritance/TimesExecuted"], "0") << "saved before the log";
     ASSERT_EQ(world.Boxes.Shown.size(), failure == FileAlreadyOpen ? 1U : 0U);
     if (failure != FileAlreadyOpen) continue;
     EXPECT_EQ(world.Boxes.Shown[0].Style, BoxStyle::Critical);
@@ -183,41 +181,6 @@ TEST(SessionLog, ASessionTooLongForALengthLeavesNoLine) {
   EXPECT_EQ(logged.World.Program.Ends, 1);
   EXPECT_TRUE(logged.World.Boxes.Shown.empty());
   EXPECT_FALSE(FileExists(logged.Path()));
-}
-
-TEST(SessionLog, ProgramsThatEndAtTheSameMomentAllGetTheirLine) {
-  const Logged logged;
-  constexpr int programs = 16;
-  constexpr int lines = 100;
-  std::set<pid_t> children;
-  for (int program = 0; program < programs; ++program) {
-    const pid_t child = fork();
-    ASSERT_GE(child, 0);
-    if (child == 0) {
-      for (int line = 0; line < lines; ++line) logged.Add(program + 1, noon, later, line);
-      _exit(0);
-    }
-    children.insert(child);
-  }
-  for (const pid_t child : children) {
-    int status = -1;
-    ASSERT_EQ(waitpid(child, &status, 0), child);
-    EXPECT_EQ(status, 0);
-  }
-  std::multiset<std::string> expected;
-  for (int program = 0; program < programs; ++program) {
-    for (int line = 0; line < lines; ++line)
-      expected.insert(SessionLine(Integer(program + 1), noon, later, Long(line)));
-  }
-  std::multiset<std::string> found;
-  const std::string content = logged.Content();
-  for (std::size_t at = 0; at < content.size();) {
-    const std::size_t end = content.find(CRLF, at);
-    ASSERT_NE(end, std::string::npos);
-    found.insert(content.substr(at, end - at));
-    at = end + CRLF.size();
-  }
-  EXPECT_EQ(found, expected);
 }
 
 TEST(SessionForm, ShowsTheNewestFirstAndATotal) {
@@ -245,16 +208,6 @@ TEST(SessionForm, ShowsTheNewestFirstAndATotal) {
   form.MSFlexGrid1_Click(4, 2);
   EXPECT_EQ(form.Label2.Caption.Get(), "               ");
   EXPECT_EQ(form.Label3.Caption.Get(), "Total duration: 0day(s):01h:03m:05s (3785 seconds)");
-}
-
-TEST(SessionForm, AMissingLogIsToldAndLeavesTheGridUnfilled) {
-  Logged logged;
-  Session form(logged.World.Ports);
-  form.Open();
-  ASSERT_EQ(logged.World.Boxes.Shown.size(), 1U);
-  EXPECT_EQ(logged.World.Boxes.Shown[0].Text, "Error 53\r\nFile not found");
-  EXPECT_TRUE(form.MSFlexGrid1.Rows.empty());
-  EXPECT_EQ(form.Label3.Caption.Get(), "TOTAL TIME");
 }
 
 TEST(SessionForm, FiveThousandLinesFitAndOneMoreIsAnError) {
