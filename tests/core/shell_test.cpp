@@ -148,58 +148,6 @@ TEST(MainMenu, EveryEntryLeadsWhereItSays) {
   }
 }
 
-TEST(MainMenu, HoveringNamesAndColoursOneEntry) {
-  Menu menu;
-  InhMain& form = menu.Open();
-  form.Option1_MouseMove(3);
-  form.Option1_MouseMove(8);
-  EXPECT_EQ(form.StatusBar1.Caption.Get(), "Rules of 'Aul' && 'Radd' implied");
-  EXPECT_EQ(form.Option1(8).BackColor, 0xC0FFC0);
-  EXPECT_EQ(form.Option1(3).BackColor, ButtonFaceColour);
-  form.Frame1_MouseMove();
-  EXPECT_EQ(form.StatusBar1.Caption.Get(), "Inheritance as per Muslim Law");
-  EXPECT_EQ(form.Option1(8).BackColor, ButtonFaceColour);
-}
-
-TEST(MainMenu, TheDisclaimerComesAndGoes) {
-  Menu menu;
-  InhMain& form = menu.Open();
-  EXPECT_EQ(form.Label5.Caption.Get(), "I agree with the disclaimer terms of the Software");
-  form.Disclaimer_Click();
-  EXPECT_TRUE(form.Text1.Visible);
-  EXPECT_EQ(form.Label5.Caption.Get(), "Disclaimer Terms:");
-  EXPECT_TRUE(form.Text1.Text.Get().starts_with("Congratulations User!\r\n\r\nDOUBLE CLICK TO HIDE"));
-  EXPECT_TRUE(form.Text1.Text.Get().ends_with("HIDE THIS DISCLAIMER\r\n\r\n\r\n"));
-  form.Text1_DblClick();
-  EXPECT_FALSE(form.Text1.Visible);
-  EXPECT_EQ(form.Label5.Caption.Get(), "I agree with the dislaimer terms in the Software");
-  form.Label5_Click();
-  EXPECT_TRUE(form.Text1.Visible);
-}
-
-TEST(MainMenu, TheFrameIsCentredInAMaximizedWindow) {
-  Menu menu;
-  InhMain& form = menu.Open();
-  form.Form_Resize(true, 28800, 16200);
-  EXPECT_EQ(form.Frame111Left, 8400);
-  EXPECT_EQ(form.Frame111Top, 3600);
-  form.Form_Resize(false, 28800, 16200);
-  EXPECT_EQ(form.Frame111Left, 0);
-  EXPECT_EQ(form.Frame111Top, 0);
-}
-
-TEST(MainMenu, EveryWayOutWritesOneLine) {
-  Menu menu;
-  InhMain& form = menu.Open();
-  form.Exitz_Click();
-  form.Form_QueryUnload();
-  Zummy zummy(menu.Record, menu.Shell, menu.World.Ports);
-  zummy.Form_QueryUnload();
-  EXPECT_EQ(menu.World.Program.Ends, 1);
-  EXPECT_EQ(ReadWholeFile(menu.Folder.File("popuQism.ppl")).find('\n'), 74U);
-  EXPECT_EQ(FileLength(menu.Folder.File("popuQism.ppl")), 75) << "one line";
-}
-
 TEST(Documents, WhoeverOpensOneIsToldWhereItLies) {
   Menu menu;
   const auto told = [&](int number) {
@@ -251,19 +199,6 @@ TEST(Zummy, TheMultipleIsTakenOfWhatTheLastCaseLeft) {
   EXPECT_EQ(menu.World.Boxes.Shown[0].Text, "9\r\nSubscript out of range");
 }
 
-TEST(Zummy, BackHidesItAndTheDoubleClickOnTheFrameHidesTheMenu) {
-  Menu menu;
-  menu.Open().Frame2_DblClick();
-  EXPECT_EQ(menu.Ways, (std::vector<std::string>{"Zummy", "hidden"}));
-  Zummy form(menu.Record, menu.Shell, menu.World.Ports);
-  std::vector<std::string> ways;
-  form.ShowMainMenu = [&] { ways.emplace_back("menu"); };
-  form.Hide = [&] { ways.emplace_back("hidden"); };
-  form.Back_Click();
-  EXPECT_EQ(ways, (std::vector<std::string>{"menu", "hidden"}));
-  EXPECT_EQ(menu.World.Program.Ends, 0);
-}
-
 TEST(LawPages, ANumberWithoutAPageLeavesTheFormAsItIs) {
   FakePorts world;
   ShellRecord shell;
@@ -276,19 +211,6 @@ TEST(LawPages, ANumberWithoutAPageLeavesTheFormAsItIs) {
   form.Form_Load();
   EXPECT_EQ(form.Text2.Text.Get(), text);
   EXPECT_EQ(form.StatusBar1.Caption.Get(), "EXCLUSION RULES OF INHERITANCE");
-}
-
-TEST(LawPages, TheEntryAndTheCloseBoxLeadToTheMenu) {
-  FakePorts world;
-  const ShellRecord shell;
-  for (const auto close : {&QurLaws::Close_Click, &QurLaws::Form_Unload}) {
-    QurLaws form(shell, world.Boxes);
-    std::vector<std::string> ways;
-    form.ShowMainMenu = [&] { ways.emplace_back("menu"); };
-    form.Unload = [&] { ways.emplace_back("unloaded"); };
-    (form.*close)();
-    EXPECT_EQ(ways, (std::vector<std::string>{"menu", "unloaded"}));
-  }
 }
 
 TEST(Animation, TwoVideosTakeTurns) {
