@@ -1,9 +1,11 @@
 #pragma once
 
+#include <QApplication>
 #include <QDesktopServices>
 #include <QDir>
 #include <QFile>
 #include <QTemporaryDir>
+#include <QTest>
 #include <QUrl>
 #include <deque>
 #include <memory>
@@ -13,8 +15,32 @@
 #include "windows/forms/ProgramWindows.h"
 #include "windows/platform/ShellPorts.h"
 #include "windows/platform/Utf8.h"
+#include "windows/style/OutlinedStyle.h"
 
 namespace qismora::testing {
+
+/// The control of that name in a window; the test ends where there is none.
+template <class Widget = QWidget>
+Widget* Find(QWidget* window, const char* name) {
+  auto* found = window->findChild<Widget*>(QString::fromLatin1(name));
+  if (found == nullptr) qFatal("There is no %s", name);
+  return found;
+}
+
+/// The main function of a test of the whole program, for a new user in an empty directory.
+template <class Test>
+int RunWindowTest(int argc, char** argv) {
+  const QTemporaryDir home;
+  for (const char* name : {"XDG_CONFIG_HOME", "XDG_DATA_HOME", "XDG_RUNTIME_DIR"}) {
+    qputenv(name, home.path().toUtf8());
+  }
+  qputenv("LC_ALL", "C.UTF-8");
+  QApplication::setStyle(new OutlinedStyle);
+  QApplication application(argc, argv);
+  QDir::setCurrent(home.path());
+  Test test;
+  return QTest::qExec(&test, argc, argv);
+}
 
 /// Whether the program has a file open or loaded.
 inline bool Uses(qint64 process, const QString& file) {

@@ -416,23 +416,6 @@ class CaseStudyWindowTest : public QObject {
     QVERIFY(QFileInfo(QString::fromStdString(folder)).isWritable());
   }
 
-  // Back only hides; the close button ends the form, and the next opening starts with a new one.
-  void BackAndClose() {
-    int menus = 0;
-    fixture_->Form().ShowMainMenu = [&menus] { ++menus; };
-    fixture_->Type("Text1(2)", "5");
-    fixture_->Find<QAction>("Back")->trigger();
-    QVERIFY(!fixture_->Window().isVisible());
-    fixture_->Window().show();
-    QCOMPARE(fixture_->Find<QLineEdit>("Text1(2)")->text(), QString("5"));
-    fixture_->Expect("This case has not been saved.", QMessageBox::Discard);
-    fixture_->Window().close();
-    QTRY_VERIFY(!fixture_->IsOpen());
-    QCOMPARE(menus, 2);
-    fixture_->Open();
-    QCOMPARE(fixture_->Find<QLineEdit>("Text1(2)")->text(), QString("0"));
-  }
-
   void CentredWhenMaximized() {
     const QWidget& window = fixture_->Window();
     const QWidget* frame = fixture_->Find("Frame111");

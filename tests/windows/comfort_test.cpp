@@ -18,10 +18,10 @@
 #include "windows/MessageBoxSpy.h"
 #include "windows/ProgramFixture.h"
 #include "windows/style/Colours.h"
-#include "windows/style/OutlinedStyle.h"
 
 namespace qismora {
 
+using testing::Find;
 using testing::MessageBoxSpy;
 using testing::ProgramFixture;
 
@@ -294,13 +294,6 @@ class ComfortTest : public QObject {
   }
 
  private:
-  template <class Widget = QWidget>
-  Widget* Find(QWidget* window, const char* name) {
-    auto* found = window->findChild<Widget*>(QString::fromLatin1(name));
-    if (found == nullptr) qFatal("There is no %s", name);
-    return found;
-  }
-
   static void EachTheme() {
     QTest::addColumn<int>("theme");
     int number = 0;
@@ -335,16 +328,6 @@ class ComfortTest : public QObject {
 
 }  // namespace qismora
 
-int main(int argc, char** argv) {
-  const QTemporaryDir home;
-  for (const char* name : {"XDG_CONFIG_HOME", "XDG_DATA_HOME", "XDG_RUNTIME_DIR"}) {
-    qputenv(name, home.path().toUtf8());
-  }
-  QApplication::setStyle(new qismora::OutlinedStyle);
-  QApplication application(argc, argv);
-  QDir::setCurrent(home.path());
-  qismora::ComfortTest test;
-  return QTest::qExec(&test, argc, argv);
-}
+int main(int argc, char** argv) { return qismora::testing::RunWindowTest<qismora::ComfortTest>(argc, argv); }
 
 #include "comfort_test.moc"

@@ -1,4 +1,3 @@
-#include <QAccessible>
 #include <QAction>
 #include <QLabel>
 #include <QLibraryInfo>
@@ -17,32 +16,20 @@
 #include "windows/MessageBoxSpy.h"
 #include "windows/ProgramFixture.h"
 #include "windows/platform/RunningProgram.h"
-#include "windows/style/OutlinedStyle.h"
 
 namespace qismora {
 
+using testing::Find;
 using testing::MessageBoxSpy;
 using testing::ProgramFixture;
 using testing::Uses;
 
 namespace {
 
-template <class Widget = QWidget>
-Widget* Find(QWidget* window, const char* name) {
-  auto* found = window->findChild<Widget*>(QString::fromLatin1(name));
-  if (found == nullptr) qFatal("There is no %s", name);
-  return found;
-}
-
 /// A double click as a mouse makes it.
 void DoubleClick(QWidget* widget) {
   QTest::mouseClick(widget, Qt::LeftButton);
   QTest::mouseDClick(widget, Qt::LeftButton);
-}
-
-QString AccessibleName(QWidget* widget) {
-  const QAccessibleInterface* accessible = QAccessible::queryAccessibleInterface(widget);
-  return accessible == nullptr ? QString() : accessible->text(QAccessible::Name);
 }
 
 /// Whether the build has videos and can play them.
@@ -124,31 +111,6 @@ class ShellWindowsTest : public QObject {
         Find<QPlainTextEdit>(windows_->Laws(), "Text2")->toPlainText().contains(QStringLiteral("HOMICIDE")));
   }
 
-  void documentsAreHandedToTheViewer() {
-    program_->PutDocuments();
-    const std::pair<int, const char*> rows[] = {
-        {1, "RULES OF DISTRIBUTION.pdf"}, {2, "Historical Background.pdf"}, {4, "Origin and Development.pdf"},
-        {9, "Schools of Thoughts.pdf"},   {10, "References.pdf"},           {11, "RelationsEU.pdf"},
-        {12, "Aayaat -e- Meeraas.pdf"}};
-    for (const auto& [entry, file] : rows) {
-      Choose(entry);
-      QTRY_COMPARE(boxes_.Count(), 1);
-      QTRY_VERIFY(!Option(entry)->isChecked());
-      QVERIFY(boxes_.Take().constFirst().endsWith(QStringLiteral("/documents/") + QString::fromLatin1(file)));
-      QCOMPARE(program_->Opened, QStringList{QString::fromLatin1(file)});
-      program_->Opened.clear();
-      QVERIFY(menu_->isVisible());
-    }
-  }
-
-  void aMissingDocumentIsReported() {
-    Choose(11);
-    QTRY_COMPARE(boxes_.Count(), 1);
-    QVERIFY(boxes_.Take().constFirst().contains(QStringLiteral("is missing")));
-    QVERIFY(program_->Opened.isEmpty());
-    QTRY_VERIFY(menu_->cursor().shape() == Qt::ArrowCursor);
-  }
-
   void theCaseHiddenKeepsItsTextsAndClosedStartsAnew() {
     Choose(6);
     QTRY_VERIFY(windows_->Study() != nullptr);
@@ -189,7 +151,7 @@ class ShellWindowsTest : public QObject {
     QTest::keyClick(Option(8), Qt::Key_Up);
     QTest::keyClick(Option(6), Qt::Key_Up);
     QVERIFY(Option(5)->hasFocus());
-    QTest::qWait(20);
+    QApplication::processEvents();
     QVERIFY(windows_->Laws() == nullptr && windows_->Study() == nullptr);
     QTest::keyClick(Option(5), Qt::Key_Return);
     QTRY_VERIFY(windows_->Laws() != nullptr);
@@ -199,17 +161,13 @@ class ShellWindowsTest : public QObject {
     QTRY_VERIFY(windows_->Laws() != nullptr);
   }
 
-  void aScreenReaderCanChooseAnEntry() {
-    QAccessibleInterface* entry = QAccessible::queryAccessibleInterface(Option(8));
-    QCOMPARE(entry->text(QAccessible::Name), QStringLiteral("Rules of 'Aul' & 'Radd' implied"));
-    entry->actionInterface()->doAction(entry->actionInterface()->actionNames().constFirst());
-    QTRY_VERIFY(windows_->Laws() != nullptr);
-  }
-
   void hoveringColoursTheEntryAndNamesIt() {
     auto* panel = Find<QLabel>(menu_, "StatusBar1.Panel3");
-    QEnterEvent enter(QPointF(5, 5), QPointF(5, 5), QPointF(5, 5));
-    QApplication::sendEvent(Option(8), &enter);
+    for (const int entry : {3, 8}) {
+      QEnterEvent enter(QPointF(5, 5), QPointF(5, 5), QPointF(5, 5));
+      QApplication::sendEvent(Option(entry), &enter);
+    }
+    QCOMPARE(menu_->Form().Option1(3).BackColor.Get(), ButtonFaceColour);
     QCOMPARE(panel->text(), QStringLiteral("Rules of 'Aul' & 'Radd' implied"));
     const QImage look = Option(8)->grab().toImage();
     QCOMPARE(look.pixelColor(look.width() - 3, look.height() / 2), QColor(192, 255, 192));
@@ -228,6 +186,7 @@ class ShellWindowsTest : public QObject {
     QCOMPARE(agree->text(), QStringLiteral("I agree with the disclaimer terms of the Software"));
     Find<QAction>(menu_, "Disclaimer")->trigger();
     QVERIFY(text->isVisible() && text->hasFocus() && !Option(0)->isVisible());
+    QVERIFY(text->toPlainText().endsWith(QStringLiteral("HIDE THIS DISCLAIMER\n\n\n")));
     QCOMPARE(agree->text(), QStringLiteral("Disclaimer Terms:"));
     DoubleClick(text->viewport());
     QVERIFY(!text->isVisible() && Option(0)->isVisible() && Option(3)->hasFocus());
@@ -238,19 +197,10 @@ class ShellWindowsTest : public QObject {
     QVERIFY(!text->isVisible());
   }
 
-  void picturesStepAndAreRemembered() {
-    QCOMPARE(PictureShown(), 1);
-    auto* place = Find(menu_, "Image3");
-    for (const int next : {2, 3, 4, 5, 0, 1, 2}) {
-      QTest::mouseClick(place, Qt::LeftButton);
-      QCOMPARE(PictureShown(), next);
-    }
-    windows_ = &program_->Start();
-    menu_ = &windows_->MainMenu();
-    QCOMPARE(PictureShown(), 2);
-    for (int i = 0; i < 6; ++i) {
-      QVERIFY(QFile::exists(QStringLiteral(":/pictures/image3-%1.svg").arg(i)));
-    }
+  void aClickStepsThePictureAndAnotherMenuRemembersIt() {
+    QTest::mouseClick(Find(menu_, "Image3"), Qt::LeftButton);
+    menu_ = &program_->Start().MainMenu();
+    QVERIFY(Find(menu_, "Image3(2)")->isVisible() && !Find(menu_, "Image3(1)")->isVisible());
   }
 
   void theLogIsShownNewestFirst() {
@@ -266,14 +216,9 @@ class ShellWindowsTest : public QObject {
     auto* selected = Find<QLabel>(log, "Label2");
     QCOMPARE(grid->rowCount(), 5);
     QCOMPARE(grid->horizontalHeaderItem(3)->text(), QStringLiteral("Session Length"));
-    QCOMPARE(grid->item(0, 0)->text(), QStringLiteral("Number"));
     QCOMPARE(grid->item(1, 0)->text(), QStringLiteral("3"));
-    QCOMPARE(grid->item(3, 1)->text(), QStringLiteral("01/03/2024 08:00:00"));
-    QCOMPARE(grid->item(4, 0)->text(), QString());
     QCOMPARE(grid->currentRow(), 1);
     QCOMPARE(selected->text().simplified(), QStringLiteral("3 01/03/2024 08:00:00 01/03/2024 08:00:10 10"));
-    QCOMPARE(Find<QLabel>(log, "Label3")->text(),
-             QStringLiteral("Total duration: 0day(s):00h:01m:00s (60 seconds)"));
     const QPoint second = grid->visualItemRect(grid->item(2, 1)).center();
     QTest::mouseClick(grid->viewport(), Qt::LeftButton, Qt::NoModifier, second);
     QCOMPARE(selected->text().simplified(), QStringLiteral("2 02/03/2024 08:00:00 02/03/2024 08:00:20 20"));
@@ -300,8 +245,9 @@ class ShellWindowsTest : public QObject {
     QTRY_VERIFY(windows_->Study() != nullptr);
     Choose(11);
     QTRY_COMPARE(boxes_.Count(), 1);
-    boxes_.Take();
+    QVERIFY(boxes_.Take().constFirst().contains(QStringLiteral("is missing")));
     QVERIFY(boxes_.WasOnTop());
+    QTRY_VERIFY(menu_->cursor().shape() == Qt::ArrowCursor);
   }
 
   void theResourcesComeByADoubleClickAndGoBack() {
@@ -521,8 +467,7 @@ class ShellWindowsTest : public QObject {
     QCOMPARE(panel->grab().toImage(), blank);
   }
 
-  // Whatever takes the focus has an accessible name, and no caption is cut.
-  void everyControlIsNamedAndShownWhole() {
+  void noCaptionIsCut() {
     AppendLine(FromQt(program_->File(QStringLiteral("popuQism.ppl"))),
                SessionLine(Integer(1), {}, {}, Long(1)));
     Choose(0);
@@ -536,9 +481,6 @@ class ShellWindowsTest : public QObject {
       QVERIFY(QTest::qWaitForWindowExposed(window));
       for (QWidget* widget : window->findChildren<QWidget*>()) {
         if (!widget->isVisible()) continue;
-        if ((widget->focusPolicy() & Qt::TabFocus) != 0) {
-          QVERIFY2(!AccessibleName(widget).isEmpty(), qPrintable(widget->objectName()));
-        }
         const auto* label = qobject_cast<QLabel*>(widget);
         if (label == nullptr || label->wordWrap()) continue;
         QVERIFY2(label->width() >= label->sizeHint().width(), qPrintable(label->text()));
@@ -557,15 +499,6 @@ class ShellWindowsTest : public QObject {
     QTest::mouseClick(Option(entry), Qt::LeftButton);
   }
 
-  int PictureShown() {
-    int shown = -1;
-    for (int i = 0; i < 6; ++i) {
-      auto* picture = Find(menu_, qPrintable(QStringLiteral("Image3(%1)").arg(i)));
-      if (picture->isVisibleTo(menu_)) shown = shown < 0 ? i : 99;
-    }
-    return shown;
-  }
-
   MessageBoxSpy boxes_;
   std::unique_ptr<ProgramFixture> program_;
   ProgramWindows* windows_ = nullptr;
@@ -575,15 +508,7 @@ class ShellWindowsTest : public QObject {
 }  // namespace qismora
 
 int main(int argc, char** argv) {
-  const QTemporaryDir home;
-  for (const char* name : {"XDG_CONFIG_HOME", "XDG_DATA_HOME", "XDG_RUNTIME_DIR"}) {
-    qputenv(name, home.path().toUtf8());
-  }
-  qputenv("LC_ALL", "C.UTF-8");
-  QApplication::setStyle(new qismora::OutlinedStyle);
-  QApplication application(argc, argv);
-  qismora::ShellWindowsTest test;
-  return QTest::qExec(&test, argc, argv);
+  return qismora::testing::RunWindowTest<qismora::ShellWindowsTest>(argc, argv);
 }
 
 #include "shell_windows_test.moc"

@@ -11,10 +11,10 @@
 
 #include "windows/MessageBoxSpy.h"
 #include "windows/ProgramFixture.h"
-#include "windows/style/OutlinedStyle.h"
 
 namespace qismora {
 
+using testing::Find;
 using testing::MessageBoxSpy;
 using testing::ProgramFixture;
 
@@ -25,13 +25,6 @@ constexpr QSize advisedScreen{800, 600};
 // The second has the taller lines: a row of the form needs three pixels more.
 constexpr const char* usualFont = "DejaVu Sans";
 constexpr const char* tallFont = "Noto Sans";
-
-template <class Widget = QWidget>
-Widget* Find(QWidget* window, const char* name) {
-  auto* found = window->findChild<Widget*>(QString::fromLatin1(name));
-  if (found == nullptr) qFatal("There is no %s", name);
-  return found;
-}
 
 /// The part of a widget's corner that can be seen.
 bool CornerIsSeen(const QWidget* widget) {
@@ -143,15 +136,7 @@ class SmallScreenTest : public QObject {
 }  // namespace qismora
 
 int main(int argc, char** argv) {
-  const QTemporaryDir home;
-  for (const char* name : {"XDG_CONFIG_HOME", "XDG_DATA_HOME", "XDG_RUNTIME_DIR"}) {
-    qputenv(name, home.path().toUtf8());
-  }
-  QApplication::setStyle(new qismora::OutlinedStyle);
-  QApplication application(argc, argv);
-  QDir::setCurrent(home.path());
-  qismora::SmallScreenTest test;
-  return QTest::qExec(&test, argc, argv);
+  return qismora::testing::RunWindowTest<qismora::SmallScreenTest>(argc, argv);
 }
 
 #include "small_screen_test.moc"
