@@ -1,5 +1,6 @@
 #include "fuzz/RandomLines.h"
 
+#include <array>
 #include <string>
 #include <vector>
 
@@ -10,46 +11,22 @@ namespace qismora::testing {
 
 namespace {
 
-constexpr const char* commands[] = {
-    "click Exec",
-    "click FullReport",
-    "click Resid",
-    "click AulRad",
-    "click AulRadd",
-    "click CreateSaveFullReport",
-    "click FullReportxx",
-    "click SaveResults",
-    "click Image2",
-    "click TestValues",
-    "click Label6",
-    "click Image38",
-    "click Back",
-    "click Label4(0)",
-    "click Label4(1)",
-    "click Label4(2)",
-    "choose 0",
-    "choose 1",
-    "doubleclick Label13",
-    "doubleclick Image37(3)",
-    "reopen",
-    "show",
-    "ls",
-    "cat FullReport",
-    "cat zayd.txt",
-    "division hanafi",
-    "division maliki consent",
-    "division shafii",
-    "division hanbali consent",
-    "clock 2024-12-31 23:59:59",
-    "clock 0001-01-01 00:00:00",
-};
+template <class... Texts>
+constexpr std::array<const char*, sizeof...(Texts)> ListOf(Texts... texts) {
+  return {texts...};
+}
 
-constexpr const char* answers[] = {"answer Yes",      "answer Yes",
-                                   "answer No",       "answer Cancel",
-                                   "file out.txt",    "file ../out",
-                                   "file .",          "file a\\b",
-                                   "file FullReport", "write zayd.txt an earlier report",
-                                   "write .txt ",     "write FullReport half"};
+constexpr auto commands = ListOf(
+    "click Exec", "click FullReport", "click Resid", "click AulRad", "click AulRadd",
+    "click CreateSaveFullReport", "click FullReportxx", "click SaveResults", "click Image2",
+    "click TestValues", "click Label6", "click Image38", "click Back", "click Label4(0)", "click Label4(1)",
+    "click Label4(2)", "choose 0", "choose 1", "doubleclick Label13", "doubleclick Image37(3)", "reopen",
+    "show", "ls", "cat FullReport", "cat zayd.txt", "division hanafi", "division maliki consent",
+    "division shafii", "division hanbali consent", "clock 2024-12-31 23:59:59", "clock 0001-01-01 00:00:00");
+
+constexpr auto answers = ListOf("answer Yes", "answer Yes", "answer No", "answer Cancel", "file out.txt",
+                                "file ../out", "file .", "file a\\b", "file FullReport",
+                                "write zayd.txt an earlier report", "write .txt ", "write FullReport half");
 
 // Sequences of commands that reach rare states: a file that is replaced, and an empty panel over a hidden
 // text that is not empty.
@@ -59,63 +36,15 @@ const std::vector<std::string> emptyPanel = {"click Resid", "type Text1(1) 5", "
                                              "click AulRadd"};
 
 // Unusual and invalid input.
-constexpr const char* oddTexts[] = {
-    "",
-    " ",
-    "-1",
-    "-100",
-    "2.5",
-    "3.5",
-    "100",
-    "101",
-    "1,000",
-    "1e3",
-    "1E+400",
-    "-1e308",
-    "1e-320",
-    "40000",
-    "-40000",
-    "3000000000",
-    "&HFF",
-    "&o17",
-    "&H",
-    "&HFFFFFFFFFF",
-    ".5",
-    "5.",
-    ".",
-    "-0",
-    "+3",
-    "  7  ",
-    "nan",
-    "inf",
-    "0x10",
-    "1d5",
-    "1e",
-    "٣",
-    "32767",
-    "32768",
-    "2147483647",
-    "2147483648",
-    "0.5",
-    "1.5",
-    "1 2",
-    "\xff\xfe",
-    "1e15",
-    "1e16",
-    "0.000012345",
-    "1.7e308",
-    "9e99",
-    "-32768",
-    "1,,0",
-    "1,234,567.89",
-    "12,34,567.8",
-    "0.125",
-    "999999999999999.99",
-    "%s%n",
-    "99999999999999999999999999999999999999999999999999999999999999999999999999"};
+constexpr auto oddTexts = ListOf(
+    "", " ", "-1", "-100", "2.5", "3.5", "100", "101", "1,000", "1e3", "1E+400", "-1e308", "1e-320", "40000",
+    "-40000", "3000000000", "&HFF", "&o17", "&H", "&HFFFFFFFFFF", ".5", "5.", ".", "-0", "+3", "  7  ", "nan",
+    "inf", "0x10", "1d5", "1e", "٣", "32767", "32768", "2147483647", "2147483648", "0.5", "1.5", "1 2",
+    "\xff\xfe", "1e15", "1e16", "0.000012345", "1.7e308", "9e99", "-32768", "1,,0", "1,234,567.89",
+    "12,34,567.8", "0.125", "999999999999999.99", "%s%n", "999999999999999999999999999999");
 
-constexpr const char* names[] = {"Zayd",       "ZAYD", "",           ".",   "..", "a/b",  "a\\b",
-                                 "عبد الله É", "İßŉ",  "FullReport", "con", " ",  "\xc3", "tab\tname"};
+constexpr auto names = ListOf("Zayd", "ZAYD", "", ".", "..", "a/b", "a\\b", "عبد الله É", "İßŉ", "FullReport",
+                              "con", " ", "\xc3", "tab\tname");
 
 constexpr int largestByte = 255;
 
