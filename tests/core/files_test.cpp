@@ -179,45 +179,37 @@ TEST(Files, AFileThatTheUserMayNotWriteToIsNotReplaced) {
   EXPECT_EQ(ReadWholeFile(folder.File("a.txt")), "earlier");
 }
 
-/// A disk that reports an error when it shall write through: the file, its folder, or the folder once more.
-class FailingDisk : public FakeFolders {
- public:
-  explicit FailingDisk(int good) : good_(good) {}
-  void WriteThrough(const std::string&) override {
-    if (good_-- == 0) throw FileFailure(EIO);
-  }
-
- private:
-  int good_;
-};
+/// A disk that reports an error when it is synchronized: the file, its directory, or the directory once more.
+FakeFolders FailingDisk(int good) {
+  FakeFolders disk;
+  disk.Disk = [good](const std::string&) mutable {
+    if (good-- == 0) throw FileFailure(EIO);
+  };
+  return disk;
+}
 
 TEST(Files, ADiskThatFailsToWriteThroughLeavesTheEarlierFile) {
   const TemporaryFolder folder;
   Write(folder.File("a.txt"), "earlier");
   for (const int good : {0, 1}) {
-    FailingDisk disk(good);
+    FakeFolders disk = FailingDisk(good);
     EXPECT_THROW(WriteSafely(disk, folder.File("a.txt"), "later", Replace::Agreed), FileFailure);
     EXPECT_EQ(ReadWholeFile(folder.File("a.txt")), "earlier");
     EXPECT_EQ(EntriesOf(folder.Path()).size(), 1U);
   }
-  FailingDisk disk(2);
+  FakeFolders disk = FailingDisk(2);
   EXPECT_THROW(WriteSafely(disk, folder.File("a.txt"), "later", Replace::Agreed), FileFailure)
       << "the new name may be lost";
   EXPECT_THROW(SyncToDisk(folder.File("missing")), FileFailure);
 }
-
-/// Ends the program hard at the moment when the new content is written and the old file still stands.
-class KilledWhileSaving : public FakeFolders {
- public:
-  void WriteThrough(const std::string&) override { std::raise(SIGKILL); }
-};
 
 TEST(Files, AKilledProgramLeavesTheEarlierFileAndTheNextSaveCleansUp) {
   const TemporaryFolder folder;
   Write(folder.File("a.txt"), "earlier");
   const pid_t child = fork();
   if (child == 0) {
-    KilledWhileSaving killed;
+    FakeFolders killed;
+    killed.Disk = [](const std::string&) { std::raise(SIGKILL); };
     WriteSafely(killed, folder.File("a.txt"), "later", Replace::Agreed);
     _exit(0);
   }

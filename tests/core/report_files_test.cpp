@@ -200,7 +200,10 @@ TEST_F(ReportFiles, AnUnansweredQuestionAbandonsItsCommand) {
 
   Case.Type(WillsBox, "0");
   std::ofstream(Folder.File("abdullah.txt")) << "earlier";
+  Case.World.Dialog.Paths = {Folder.File("abdullah.txt")};
   Case.Study->CreateSaveFullReport_Click();
+  Case.Study->SaveResults_Click();
+  EXPECT_EQ(Case.World.Boxes.Shown.size(), 3U) << "no message follows";
   EXPECT_EQ(ReadWholeFile(Folder.File("abdullah.txt")), "earlier");
 }
 

@@ -86,16 +86,6 @@ TEST(Screen, TheSavedViewOpensAndEachChoiceIsSaved) {
   EXPECT_EQ(ScreenFixture(7).Study->Label4(0).BorderStyle, 1) << "a view that is none is the first";
 }
 
-TEST(Screen, TheGenderKeepsTheArabicPictures) {
-  const ScreenFixture played(2);
-  CaseStudy& study = *played.Study;
-  study.Combo1.ListIndex = Female;
-  EXPECT_TRUE(study.Image41(1).Visible);
-  EXPECT_FALSE(study.Image41(0).Visible);
-  EXPECT_TRUE(study.Image41(22).Visible);
-  EXPECT_FALSE(study.Image(9).Visible);
-}
-
 TEST(Screen, ARefusedCountSendsTheFocusToItsBox) {
   ScreenFixture played;
   int focused = 0;

@@ -21,19 +21,13 @@ using testing::TemporaryFolder;
 
 constexpr int rounds = 200;
 
-/// The report of a program that is alone in its folder.
-std::string ReportOf(int sons) {
-  const TemporaryFolder folder;
-  SavingProgram(folder.Path(), sons).SaveReport();
-  return ReadWholeFile(folder.File("zayd.txt"));
-}
-
-std::string ResultsOf(int sons) {
+/// The file of a program that is alone in its folder.
+std::string Alone(int sons, const char* file) {
   const TemporaryFolder folder;
   SavingProgram program(folder.Path(), sons);
   program.SaveReport();
   program.SaveResults();
-  return ReadWholeFile(folder.File("results.txt"));
+  return ReadWholeFile(folder.File(file));
 }
 
 void RunTwoPrograms(const std::function<void(int sons)>& round) {
@@ -43,8 +37,8 @@ void RunTwoPrograms(const std::function<void(int sons)>& round) {
 }
 
 TEST(TwoPrograms, AReportUnderTheSameNameIsThatOfOneOfThem) {
-  const std::string reports[] = {ReportOf(1), ReportOf(2)};
-  const std::string results[] = {ResultsOf(1), ResultsOf(2)};
+  const std::string reports[] = {Alone(1, "zayd.txt"), Alone(2, "zayd.txt")};
+  const std::string results[] = {Alone(1, "results.txt"), Alone(2, "results.txt")};
   ASSERT_NE(reports[0], reports[1]);
   const TemporaryFolder folder;
   // A reader sees a whole report at every moment, not only when all is over.

@@ -1,6 +1,7 @@
 #pragma once
 
 #include <deque>
+#include <functional>
 #include <map>
 #include <string>
 #include <vector>
@@ -89,12 +90,16 @@ class FakeSettings : public Settings {
   std::map<std::string, std::string> Values;
 };
 
-/// One directory for everything.
+/// One directory for everything, on a disk that does as the test wants when it is written through.
 class FakeFolders : public Folders {
  public:
+  void WriteThrough(const std::string& path) override {
+    if (Disk) Disk(path);
+  }
   std::string Reports() override { return Folder; }
   std::string Application() override { return Folder; }
   std::string Folder = ".";
+  std::function<void(const std::string& path)> Disk;
 };
 
 /// Records the documents that it should open.

@@ -8,52 +8,36 @@
 
 namespace qismora::testing {
 
-/// A directory whose files are synchronized to the disk, as the program's are.
-class DiskFolders : public FakeFolders {
- public:
-  void WriteThrough(const std::string& path) override { SyncToDisk(path); }
-};
-
 /// One run of the program, with a wife and a number of sons, that saves every kind of file in a directory. It
 /// replaces the files of earlier runs.
 class SavingProgram {
  public:
   SavingProgram(const std::string& folder, int sons) : folder_(folder) {
-    folders_.Folder = folder;
-    Study.Text1(GrossEstateBox).Text = "24000";
-    for (const int field : {FuneralBox, DebtsBox, WillsBox}) Study.Text1(field).Text = "0";
-    Study.Text1(NameBox).Text = "Zayd";
-    Study.Text1(1).Text = "1";
-    Study.Text1(2).Text = std::to_string(sons);
-    StartSession(shell_, ports_);
+    case_.World.Folders.Folder = folder;
+    case_.World.Folders.Disk = SyncToDisk;
+    case_.TypeEstate("24000");
+    case_.Type(NameBox, "Zayd");
+    case_.Type(1, "1");
+    case_.Type(2, std::to_string(sons));
+    StartSession(shell_, case_.World.Ports);
   }
 
   void SaveReport() {
-    world_.Boxes.Answers = {Answer::Yes};
-    Study.CreateSaveFullReport_Click();
+    case_.World.Boxes.Answers = {Answer::Yes};
+    case_.Study->CreateSaveFullReport_Click();
   }
   void SaveResults() {
-    world_.Boxes.Answers = {Answer::Yes};
-    world_.Dialog.Paths = {folder_ + "/results.txt"};
-    Study.SaveResults_Click();
+    case_.World.Boxes.Answers = {Answer::Yes};
+    case_.World.Dialog.Paths = {folder_ + "/results.txt"};
+    case_.Study->SaveResults_Click();
   }
   /// Adds the session's line to the log.
-  void End() { Inhp(shell_, record_, ports_); }
+  void End() { Inhp(shell_, case_.Record, case_.World.Ports); }
 
  private:
   std::string folder_;
-  FakePorts world_;
-  DiskFolders folders_;
-  ShellOutside ports_{{world_.Clock, world_.Boxes, world_.Dialog, world_.Settings, folders_},
-                      world_.Viewer,
-                      world_.Player,
-                      world_.Memory,
-                      world_.Program};
-  CaseRecord record_;
+  ScreenFixture case_;
   ShellRecord shell_;
-
- public:
-  CaseStudy Study{record_, ports_, 0};
 };
 
 }  // namespace qismora::testing
