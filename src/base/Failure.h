@@ -5,15 +5,15 @@
 
 namespace qismora {
 
-/// A run-time failure of the system, known by its number. Whoever can answer for it catches it; what
-/// no handler takes ends its event and is told to the user.
+/// A run-time failure with a fixed number. Code that can handle it catches it. An unhandled failure ends its
+/// event and is shown to the user.
 class Failure : public std::exception {
  public:
   explicit Failure(int number) : Number(number) {}
 
   const char* what() const noexcept override { return Description().data(); }
 
-  /// The words that belong to the number.
+  /// The fixed text of the number.
   std::string_view Description() const noexcept;
 
   int Number;

@@ -53,8 +53,8 @@ void RequireOrdinary(const struct stat& found) {
   if (const char* reason = WhyNotOrdinary(found.st_mode)) throw FileFailure(PathFileAccess, reason);
 }
 
-/// Opens an ordinary file. It is looked at before it is opened, since opening a device may do something, and
-/// once more when it is open, since another program may have changed it in between.
+/// Opens an ordinary file. It is checked before it is opened, since opening a device may have effects, and
+/// once more afterwards, since another program may have replaced it in between.
 Descriptor OpenOrdinary(const std::string& path, int way, struct stat& found) {
   constexpr int never = O_NOFOLLOW | O_NONBLOCK | O_CLOEXEC | O_NOCTTY;
   constexpr mode_t mode = 0666;
@@ -155,7 +155,7 @@ void AppendLine(const std::string& path, std::string_view line) {
   try {
     WriteAll(file.Get(), Join(MissingEnd(file.Get(), size), line, CRLF));
   } catch (const FileFailure&) {
-    // Half a line is taken back, where no other line can stand behind it.
+    // An incomplete line is removed. No other line can follow it yet.
     if (locked && ftruncate(file.Get(), size) != 0) throw FileFailure(errno);
     throw;
   }
@@ -198,8 +198,8 @@ void WriteAll(int file, std::string_view bytes) {
   }
 }
 
-// A folder that may be written to and not read cannot be opened for it, and some disks know no writing
-// through.
+// A directory that may be written to but not read cannot be opened for this, and some disks do not support
+// synchronizing.
 void SyncToDisk(const std::string& path) {
   const Descriptor file(open(path.c_str(), O_RDONLY | O_NOFOLLOW | O_NONBLOCK | O_CLOEXEC));
   if (file.Get() < 0 && errno == EACCES) return;

@@ -10,14 +10,14 @@
 
 namespace qismora {
 
-// Only ordinary files are read and written. A link, a folder, a pipe or a device is a failure where a file of
-// the program should be: nothing is written through a link, and no pipe or device is waited for.
+// Only ordinary files are read and written. A link, a directory, a pipe or a device in the place of a file is
+// a failure: nothing is written through a link, and no pipe or device is waited for.
 
-/// A file that cannot be read or written, with the reason in words for the user: "the disk is full".
+/// A file that cannot be read or written, with the reason for the user: "the disk is full".
 class FileFailure : public Failure {
  public:
   FileFailure(int number, std::string reason) : Failure(number), Reason(std::move(reason)) {}
-  /// By the error number of the system.
+  /// The failure for an error number of the system.
   explicit FileFailure(int error);
 
   std::string Reason;
@@ -55,33 +55,33 @@ class InputFile {
 /// The whole content of an ordinary file.
 std::string ReadWholeFile(const std::string& path);
 
-/// Whether a file of this path can be found, also through a link.
+/// Whether there is a file of this path, also through a link.
 bool FileExists(const std::string& path);
 
 /// The length in bytes. A missing file is the failure 53.
 Long FileLength(const std::string& path);
 
-/// Adds a line to the end of an ordinary file without a second name, which is made where there is none.
-/// Programs that add to the same file at the same moment do not tear each other's lines. A line that a full
-/// disk tears is taken back; where that was not possible, it is closed before the next one.
+/// Adds a line to the end of an ordinary file without a second name; a missing file is created. Programs that
+/// add to the same file at the same time do not break each other's lines. A line that is incomplete because
+/// the disk is full is removed; if that fails, it is ended before the next line.
 void AppendLine(const std::string& path, std::string_view line);
 
-/// Whether the text names a file in its folder: no separator of any platform, not "." or "..".
+/// Whether the text is a name within a directory: without a separator of any platform, not "." or "..".
 bool IsFileName(std::string_view name);
 
-/// The names of all that lies in the folder and is no folder itself, in no order.
+/// The names of everything in the directory except directories, in no order.
 std::vector<std::string> ListFiles(const std::string& folder);
 
-/// The path that the path leads to through symbolic links, whether or not there is a file.
+/// The target of the path after all symbolic links, whether or not there is a file.
 std::string FollowLinks(std::string path);
 
 /// Writes all bytes to an open file.
 void WriteAll(int file, std::string_view bytes);
 
-/// Has a closed file or a folder written through to the disk, as far as the system can.
+/// Synchronizes a closed file or a directory to the disk, as far as the system can.
 void SyncToDisk(const std::string& path);
 
-/// Why what the system has found under a name is no ordinary file; null for an ordinary file.
+/// The reason why an object is not an ordinary file; null for an ordinary file.
 const char* WhyNotOrdinary(unsigned mode);
 
 }  // namespace qismora

@@ -30,7 +30,7 @@ bool IsUnfinishedName(std::string_view name) {
   return !name.empty() && std::ranges::all_of(name, [](char c) { return c >= '0' && c <= '9'; });
 }
 
-/// Removes an unfinished file of this user that nobody holds: the lock of a program goes with the program.
+/// Removes an unfinished file of this user that no program holds: the lock of a program ends with it.
 void RemoveIfStray(const std::string& path) {
   const Descriptor file(open(path.c_str(), O_RDONLY | O_NOFOLLOW | O_NONBLOCK | O_CLOEXEC));
   struct stat found = {};
@@ -54,7 +54,7 @@ bool Hold(int file) {
   return fstat(file, &found) == 0 && found.st_nlink > 0;
 }
 
-/// What has the name at the moment, unless it is free or a link that goes. A failure where it may not be
+/// The object that has the name, unless the name is free or a link that is replaced. Fails if it may not be
 /// replaced.
 std::optional<struct stat> Earlier(const std::string& path, Replace replace) {
   struct stat found = {};
@@ -75,7 +75,7 @@ std::optional<struct stat> Earlier(const std::string& path, Replace replace) {
   return found;
 }
 
-/// Where the group cannot be kept, no other group gets what it might do.
+/// If the group cannot be kept, no other group gets its permissions.
 void HandOnPermissions(int file, const struct stat& earlier) {
   mode_t mode = earlier.st_mode & (S_IRWXU | S_IRWXG | S_IRWXO);
   constexpr auto same = static_cast<uid_t>(-1);
@@ -97,7 +97,7 @@ NewFile::~NewFile() {
   if (!unfinished_.empty()) unlink(unfinished_.c_str());
 }
 
-// What replaces a private file is private from its first byte.
+// A file that replaces a private one is private from its first byte.
 void NewFile::Create() {
   const mode_t mode = Earlier(path_, replace_) ? 0600 : 0666;
   for (bool held = false; !held;) {
@@ -113,8 +113,8 @@ void NewFile::Create() {
   }
 }
 
-// The folder is written through before and after the move: a disk that fails is known while the earlier file
-// still stands, and a file that was saved is found again.
+// The directory is synchronized before and after the move. Before it, a disk error leaves the earlier file
+// unchanged; after it, the saved file survives a power failure.
 void NewFile::Commit(std::string_view content) {
   WriteAll(file_.Get(), content);
   if (const auto earlier = Earlier(path_, replace_)) HandOnPermissions(file_.Get(), *earlier);

@@ -8,26 +8,27 @@
 
 namespace qismora {
 
-/// What a new file may take the place of. Folders, pipes and devices are never replaced, and no file that the
-/// user may not write to.
+/// What a new file may replace. Directories, pipes and devices are never replaced, nor files that the user
+/// may not write to.
 enum class Replace {
-  Nothing,  ///< a name that is taken is the failure 58
-  OwnFile,  ///< unasked: an ordinary file without a second name
-  Agreed,   ///< with the user's consent: an ordinary file, or a link, which goes while its target stays
+  Nothing,  ///< failure 58 if the name is taken
+  OwnFile,  ///< without a question: an ordinary file without a second name
+  Agreed,   ///< with the user's consent: an ordinary file, or a link, but not its target
 };
 
-/// A file that takes its name when it is complete on the disk. Until then it lies beside its place under a
-/// name of its own, and what has the name stands. A replaced file hands its permissions on. An object that
-/// goes without a commit leaves nothing behind; what killed programs have left in the folder is removed.
+/// A file that gets its name when it is complete on the disk. Until then it has a temporary name in the same
+/// directory, and an earlier file of its name is unchanged. It takes over the permissions of the file that it
+/// replaces. Without a commit, the destructor removes it. Files that killed programs have left in the
+/// directory are removed.
 class NewFile {
  public:
-  /// Fails where the file could not be written, before there is anything to write.
+  /// Fails if the file cannot be written, before there is anything to write.
   NewFile(Folders& places, const std::string& path, Replace replace);
   ~NewFile();
   NewFile(const NewFile&) = delete;
   NewFile& operator=(const NewFile&) = delete;
 
-  /// Writes the content through to the disk and gives the file its name.
+  /// Synchronizes the content to the disk and gives the file its name.
   void Commit(std::string_view content);
 
  private:

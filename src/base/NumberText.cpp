@@ -11,7 +11,7 @@ namespace {
 
 bool IsDigit(char c) { return c >= '0' && c <= '9'; }
 
-/// What is left of the text behind its leading blanks.
+/// The text without its leading blanks.
 std::string_view WithoutBlanks(std::string_view text) {
   return text.substr(std::min(text.find_first_not_of(' '), text.size()));
 }
@@ -62,7 +62,7 @@ std::size_t NumberLength(std::string_view text, bool withCommas) {
   return end;
 }
 
-/// Whether the first digit that counts stands so far behind the point that the number is below one.
+/// Whether the first significant digit comes after the decimal point, so that the number is below one.
 bool IsBelowOne(std::string_view digits) {
   const std::size_t exponentAt = std::min(digits.find_first_of("eE"), digits.size());
   const std::string_view mantissa = digits.substr(0, exponentAt);

@@ -7,8 +7,8 @@
 
 namespace qismora {
 
-// The outside world comes in through these ports. Each has one real implementation among the windows and
-// one in memory for tests.
+// The ports through which the core reaches the outside world. Each has one real implementation in the windows
+// and one fake for tests.
 
 struct DateTime {
   int Year = 0;
@@ -32,9 +32,9 @@ enum class BoxStyle { Plain, Information, Warning, Critical };
 enum class BoxButtons { Ok, YesNo, YesNoCancel, SaveDiscardCancel };
 enum class Answer { Ok, Yes, No, Cancel, Save, Discard };
 
-/// Thrown by a message box that ended without its user: with the program, the desktop session or the display.
-/// Nobody has agreed to anything, so the command that asked is abandoned. It is no Failure, so that no
-/// handler of a rule takes it for one.
+/// Thrown by a message box that ended without an answer: with the program, the desktop session or the
+/// display. Nobody has agreed to anything, so the command that asked is abandoned. It is not a Failure, so
+/// that no handler of a rule catches it.
 class Unanswered : public std::exception {
  public:
   const char* what() const noexcept override { return "a message box ended unanswered"; }
@@ -44,13 +44,13 @@ class Unanswered : public std::exception {
 class MessageBoxes {
  public:
   virtual ~MessageBoxes() = default;
-  /// What the user answered. A box that was not answered throws Unanswered.
+  /// The answer of the user. Throws Unanswered if there is none.
   virtual Answer Show(BoxStyle style, BoxButtons buttons, const std::string& text) = 0;
 
   void Tell(BoxStyle style, const std::string& text) { Show(style, BoxButtons::Ok, text); }
 };
 
-/// The common dialogs that ask for the name of a file. Nothing when the user cancels.
+/// The common dialogs that ask for the path of a file. No value if the user cancels.
 class SaveDialog {
  public:
   virtual ~SaveDialog() = default;
@@ -68,7 +68,7 @@ class SaveDialog {
   }
 };
 
-/// The per-user settings: texts addressed by application, section and key. A missing one is empty.
+/// The per-user settings: texts addressed by application, section and key. A missing setting is empty.
 class Settings {
  public:
   virtual ~Settings() = default;
@@ -78,38 +78,37 @@ class Settings {
                      const std::string& value) = 0;
 };
 
-/// The folders that files go to, without a separator at the end.
+/// The directories of the files, without a separator at the end.
 class Folders {
  public:
   virtual ~Folders() = default;
-  /// Where reports lie: the current directory, or the user's documents where that cannot be written to.
+  /// The directory of the reports: the current one, or the user's documents if that cannot be written to.
   virtual std::string Reports() = 0;
-  /// Where the program's own files lie.
+  /// The directory of the program's own files.
   virtual std::string Application() = 0;
-  /// Where the session log stands: the program's folder, or the user's data where that cannot be written to.
+  /// The directory of the session log: the program's, or the user's data if that cannot be written to.
   virtual std::string Log() { return Application(); }
-  /// Where the documents lie that are delivered with the program.
+  /// The directory of the documents that come with the program.
   virtual std::string Documents() { return Application() + "/documents"; }
-  /// Has a file or a folder written through to the disk, as far as the platform can. A disk that fails is a
-  /// failure.
+  /// Synchronizes a file or a directory to the disk, as far as the platform can. A disk error is a failure.
   virtual void WriteThrough(const std::string& path) { static_cast<void>(path); }
 };
 
-/// The platform's viewer of documents. False where the platform has no way to open the file.
+/// The platform's viewer of documents. False if the platform cannot open the file.
 class DocumentViewer {
  public:
   virtual ~DocumentViewer() = default;
   virtual bool Open(const std::string& path) = 0;
 };
 
-/// A player of videos. One that cannot play shows nothing.
+/// A player of videos. It shows nothing if it cannot play.
 class VideoPlayer {
  public:
   virtual ~VideoPlayer() = default;
   virtual void SetFile(const std::string& path) = 0;
   virtual void Play() = 0;
 
-  /// Raised when a video has been played to its end.
+  /// Called when a video has been played to its end.
   std::function<void()> EndOfPlay;
 };
 
@@ -134,7 +133,7 @@ class Program {
   virtual void End() = 0;
 };
 
-/// What came of a command that saves: the file, and the reason where it was not saved.
+/// The outcome of a command that saves: the path, and the reason if the file was not saved.
 struct SaveOutcome {
   std::string Path;
   std::string Reason;
@@ -142,18 +141,18 @@ struct SaveOutcome {
   bool Saved() const { return Reason.empty(); }
 };
 
-/// What a case works with, handed to its screen.
+/// The ports that a case needs.
 struct Outside {
   Clock& Time;
   MessageBoxes& Boxes;
   SaveDialog& Dialog;
   Settings& Store;
   Folders& Places;
-  /// Raised when a command has saved a file or could not; not when the user changed his mind.
+  /// Called when a command has saved a file or has failed to, but not when the user cancelled.
   std::function<void(const SaveOutcome&)> SaveEnded = {};
 };
 
-/// All of it, handed to the screens around the case.
+/// All ports, for the screens around the case.
 struct ShellOutside : Outside {
   DocumentViewer& Viewer;
   VideoPlayer& MediaPlayer1;
@@ -161,7 +160,7 @@ struct ShellOutside : Outside {
   Program& Running;
 };
 
-/// The application's title: it titles the message boxes, and two of the settings stand under it.
+/// The title of the application: of its message boxes, and of two settings.
 inline constexpr const char* ApplicationTitle = "Islamic Laws of Inheritance";
 
 }  // namespace qismora

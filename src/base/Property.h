@@ -9,8 +9,8 @@
 
 namespace qismora {
 
-/// One property of a control. Whoever listens is told when it has changed; a window listens, a test
-/// does not.
+/// One property of a control. It calls its listener when it has changed; a window listens, most tests do
+/// not.
 template <class Value>
 class Property {
  public:
@@ -30,7 +30,7 @@ class Property {
   void WhenChanged(std::function<void()> listener) { listeners_.push_back(std::move(listener)); }
 
  private:
-  /// A text is copied into the storage that it has.
+  /// A text is copied into its existing storage.
   template <class Given>
   Property& Set(const Given& value) {
     if (value == value_) return *this;

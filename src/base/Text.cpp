@@ -13,7 +13,7 @@ namespace qismora {
 
 namespace {
 
-// Each writes behind what is written already, and returns the new end.
+// Each writes at the end of what is written already, and returns the new end.
 
 char* PutWhole(char* end, std::int64_t number) {
   constexpr std::ptrdiff_t mostCharacters = 20;
@@ -100,8 +100,7 @@ constexpr Spelling upperSpellings[] = {
 };
 constexpr Spelling lowerSpellings[] = {{U'İ', "i̇"}};
 
-// One letter read from the text, and how many bytes it takes. A byte that is no UTF-8 stands for itself
-// and is kept as it is.
+// One letter read from the text, and its length in bytes. A byte that is not UTF-8 is kept as it is.
 struct Letter {
   char32_t Code = 0;
   std::size_t Bytes = 1;

@@ -11,8 +11,8 @@ namespace qismora {
 inline constexpr std::string_view CRLF = "\r\n";
 inline constexpr std::string_view TAB = "\t";
 
-/// A piece of a text that is being joined: words, a whole number in plain digits, or a fraction in brackets.
-/// It does not outlive the words.
+/// A piece of a text that is being joined: a text, a whole number in plain digits, or a fraction in brackets.
+/// It refers to the text and does not own it.
 class Piece {
  public:
   Piece(const char* words) : words_(words) {}
@@ -36,10 +36,10 @@ class Piece {
   std::string_view words_;
 };
 
-/// Puts the pieces in the place of all that stands in the text from there on.
+/// Replaces the text from that position on by the pieces.
 void PutPieces(std::string& text, std::size_t from, std::initializer_list<Piece> pieces);
 
-// The pieces in the order given, with nothing between them. A text that is written is none of its pieces.
+// The pieces in order, with nothing between them. The text that is written must not be one of its pieces.
 
 template <class... Pieces>
 void Write(std::string& text, const Pieces&... pieces) {
@@ -59,7 +59,7 @@ std::string Join(const Pieces&... pieces) {
 /// The amount as a whole number of at least one digit, halves rounded away from zero. A negative
 /// amount keeps its sign even where it rounds to nothing: "-0". Only the text is rounded.
 std::string F(Double amount);
-/// The same with two blanks and the fraction behind it: "3000  (1/8)".
+/// The same, followed by two blanks and the fraction: "3000  (1/8)".
 std::string F(Double amount, Fraction fraction);
 
 /// The shortest text of a number with up to 15 significant digits; an exponent from 1E+15 upwards and
@@ -73,7 +73,8 @@ std::string TwoDigits(int number);
 std::string UpperCase(std::string_view text);
 std::string LowerCase(std::string_view text);
 
-/// The text less so many characters (not bytes) at its end. A shorter text is the invalid call failure.
+/// The text without that number of characters (not bytes) at its end. The invalid call failure if the text is
+/// shorter.
 std::string WithoutEnd(std::string_view text, int characters);
 
 }  // namespace qismora
