@@ -156,7 +156,7 @@ class Parser {
       if (!unquoted) return Refuse(CaseFault::WrongQuotation, value);
       text = *std::move(unquoted);
     }
-    // The name may stand under either caption; "Deceased = Male" is not one.
+    // The name may have either caption; "Deceased = Male" is not a name.
     const bool named = entry.Kind == Entry::Kind::Deceased && !GenderOf(text);
     const Entry meant = named ? Entry{Entry::Kind::Name} : entry;
     if (std::ranges::find(seen_, meant) != seen_.end()) return Refuse(CaseFault::NamedTwice, caption);

@@ -18,7 +18,7 @@ inline constexpr int CaseFileVersion = 1;
 inline constexpr std::size_t MostBytesOfCaseLine = 200'000;
 inline constexpr std::size_t MostBytesOfCaseFile = 4'194'304;
 
-/// A line of a case file and what stands there, without the blanks around it.
+/// A line of a case file: its number, and its text without the blanks around it.
 struct CaseLine {
   int Number = 0;
   std::string Text;

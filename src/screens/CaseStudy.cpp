@@ -22,7 +22,7 @@ namespace {
 
 constexpr const char* viewCaptions[] = {"Urd ", "E", "Arabic "};
 
-/// Which rule a double click on a caption runs; box 1 belongs to wives or husband. The daughters are the
+/// Which rule a double click on a caption runs; field 1 belongs to wives or husband. The daughters are the
 /// only caption whose rule is run without its wrapper, so that the case is loaded once.
 struct Dispatch {
   int Index;
@@ -60,7 +60,7 @@ constexpr int brightestColour = 0xFFFFFF;
 
 }  // namespace
 
-// An abandoned command must not leave the sign that a report run is going on.
+// An abandoned command must not leave the flag of a running report.
 template <class Body>
 void CaseStudy::Event(Body body) {
   GuardedEvent(World.Boxes, [&] {
@@ -221,7 +221,7 @@ void CaseStudy::ShowArabicCaptions() {
 }
 
 // The choice of view returns the screen to a male deceased. The English view shows the same caption
-// pictures as the Urdu view, without the panels over the class II boxes.
+// pictures as the Urdu view, without the panels over the class II check boxes.
 void CaseStudy::ChooseView(int index) {
   const bool urdu = index == 0;
   const bool arabic = index == 2;
@@ -248,8 +248,8 @@ void CaseStudy::Label4_Click(int index) {
   Event([&] { ChooseView(index); });
 }
 
-// The way from a caption to the screen: the results cleared, the case loaded, the wrapper, which loads it
-// again, and the rule.
+// A double click on a caption: clear the results, load the case, run the wrapper, which loads it again, and
+// the rule.
 void CaseStudy::Label1_DblClick(int index) {
   if (index == 0 || (index >= NameBox && index <= NetEstateBox)) return;
   const bool computes = index != blankCaption;
@@ -319,7 +319,7 @@ std::vector<std::string> CaseStudy::Misreadings(Grouping grouping) const {
   return sentences;
 }
 
-// A double click in a box marks an heir as alive or dead. What is no number stays as it is.
+// A double click in a field marks an heir as alive or dead. A text that is not a number is not changed.
 void CaseStudy::Text1_DblClick(int index) {
   try {
     Text1(index).Text = ParseStrict(Text1(index).Text.Get()) == 0 ? "1" : "0";
@@ -421,7 +421,7 @@ void CaseStudy::Form_QueryUnload() {
 void CaseStudy::Image2_MouseDown() { Image2.BorderStyle = 1; }
 void CaseStudy::Image42_Click() { Timer1 = Timer1 == 1000 ? 0 : 1000; }
 
-// The pictures go round 2, 1, 0 at a step a second.
+// The pictures take turns in the order 2, 1, 0, one a second.
 void CaseStudy::Timer1_Timer() {
   const int next = Image42(2).Visible ? 1 : Image42(1).Visible ? 0 : 2;
   for (int i = 0; i < Image42.Size; ++i) Image42(i).Visible = i == next;

@@ -12,23 +12,23 @@
 
 namespace qismora {
 
-/// The Case Study screen without a toolkit: its controls as plain values and the handler of every event.
-/// A window shows it and passes events on; a transcript plays it. No failure leaves an event: what no
-/// handler takes is told in a plain box with its number, and the program goes on.
+/// The Case Study screen without its window: the controls as plain values, and the handler of every event.
+/// A window shows it and passes events on; a transcript plays it. No failure leaves an event: an unhandled
+/// one is reported with its number in a message box, and the program goes on.
 class CaseStudy : public CaseScreen, public CentredFrame {
  public:
-  /// Makes the screen layer of the record anew and runs the start sequence. The saved language is the
-  /// view at the opening, an index of Label4.
+  /// Resets the screen layer of the record and runs the start sequence. The saved language is the first view,
+  /// an index of Label4.
   CaseStudy(CaseRecord& record, Outside& outside, int savedLanguage);
 
-  /// Leads back to the main menu, and to the program catalogue.
+  /// Called to show the main menu, and the program catalogue.
   std::function<void()> ShowMainMenu;
   std::function<void()> ShowCatalogue;
   std::function<void()> HideCatalogue;
-  /// Takes the screen out of sight; it keeps its texts.
+  /// Called to hide the screen; it keeps its texts.
   std::function<void()> Hide;
 
-  /// What the load will make of the text of Text1(index), where that is not what stands there at first sight.
+  /// How the load reads the text of Text1(index), if that differs from what the user sees; see Misreading.h.
   std::string MisreadingOf(int index) const;
   /// The same for all fields that are read differently, a sentence each with caption and text: Gross Estate
   /// 18,40,000 is read as 18.
@@ -45,10 +45,10 @@ class CaseStudy : public CaseScreen, public CentredFrame {
   /// The same as a sentence.
   Property<std::string> AnswerWords;
 
-  /// Changes at the end of each event that may have changed what the case holds.
+  /// Changes at the end of each event that may have changed the case.
   Property<int> EventsEnded{0};
 
-  // Heirs and boxes
+  // Heirs and fields
   void Label1_DblClick(int index);
   void Text1_Change(int index);
   void Text1_DblClick(int index);
@@ -102,14 +102,14 @@ class CaseStudy : public CaseScreen, public CentredFrame {
   /// The picture that the full report button shows.
   Property<std::string> FullReportxx{Image40};
 
-  // The caption pictures over the boxes. Image9 to Image29 are Image(9) to Image(29).
+  // The caption pictures above the fields. Image9 to Image29 are Image(9) to Image(29).
   Array<Picture, 29> Image;
   Array<Picture, 1> Image30;
   Array<Picture, 22> Image41;
   Array<Frame, 2> Frame4;
   Array<Frame, 2> Frame6;
 
-  /// The interval of the animation's timer in milliseconds; 0 stands still.
+  /// The interval of the animation's timer in milliseconds; 0 if it is stopped.
   Property<int> Timer1{0};
   Array<Picture, 2> Image42;
   Array<Picture, 1> Image6;

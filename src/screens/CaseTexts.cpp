@@ -45,7 +45,7 @@ struct FaultRow {
   const char* Behind;
 };
 
-// What is quoted stands between the two.
+// The quoted caption or line comes between the two.
 constexpr FaultRow faultRows[] = {
     {CaseFault::NotUtf8, "The text is not UTF-8.", nullptr},
     {CaseFault::ControlCharacter, "There is a control character in the line.", nullptr},

@@ -9,8 +9,8 @@
 
 namespace qismora {
 
-/// What is typed into the Case Study screen for one case, as the text that stands in each field. The net
-/// estate is derived and no part of it.
+/// The input of the Case Study screen for one case, as the text of each field. The net estate is derived and
+/// not part of it.
 struct CaseTexts {
   CaseTexts();
 
@@ -42,7 +42,7 @@ CaseTexts ReadScreen(const CaseScreen& screen, bool heirsConsent);
 /// Types the case into the screen, the gender first. Nothing is run.
 void TypeIntoScreen(const CaseTexts& texts, CaseScreen& screen);
 
-/// What a caption names: the caption stands before the equals sign of a case file, or heads a column of a
+/// What a caption names. It comes before the equals sign in a case file, or is the heading of a column of a
 /// table.
 struct Entry {
   enum class Kind { Field, Husband, ClassII, Name, Deceased, HeirsConsent };
@@ -74,7 +74,7 @@ enum class CaseFault {
   HusbandOfAMan,
 };
 
-/// The fault as an English sentence; where it concerns a caption or a line, that is quoted.
+/// The fault as an English sentence, which quotes the caption or the line that it concerns.
 std::string English(CaseFault fault, std::string_view what);
 
 /// The gender that "Deceased" gives; nothing where its value is a name.

@@ -24,8 +24,8 @@ std::string_view WithoutBlanks(std::string_view text) {
   return text.substr(first, text.find_last_not_of(' ') - first + 1);
 }
 
-/// Whether digits are grouped by commas: behind a first group of one up to as many digits come groups of that
-/// size, the last of them of three.
+/// Whether digits are grouped by commas: a first group of one digit up to the size, then groups of the size,
+/// the last of them of three digits.
 bool AreGroupedBy(std::size_t size, std::string_view text) {
   constexpr std::size_t lastSize = 3;
   const std::size_t first = text.find(',');

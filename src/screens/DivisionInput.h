@@ -36,7 +36,7 @@ struct UnreadableField {
   int Index = 0;
 };
 
-/// The fault in English: Sons: "101" is more than 100. The text stands as it was typed.
+/// The fault in English: Sons: "101" is more than 100. The text is quoted as it was typed.
 std::string English(const UnreadableField& field);
 
 /// What is to be divided. Nothing is divided while there are unreadable fields; these come in the order of

@@ -6,8 +6,8 @@
 
 namespace qismora {
 
-/// Runs the body of an event. No failure leaves it: what no handler takes is reported in a plain box with its
-/// number, and the program goes on. A message box that nobody answers ends the event without a word.
+/// Runs the body of an event. No failure leaves it: an unhandled one is reported with its number in a plain
+/// message box, and the program goes on. A message box that nobody answers ends the event silently.
 template <class Body>
 void GuardedEvent(MessageBoxes& boxes, Body body) {
   try {

@@ -75,7 +75,7 @@ void InhMain::Event(Body body) {
   GuardedEvent(outside_.Boxes, body);
 }
 
-/// The animation is there to be looked at: what fails in it is not worth a box.
+/// The animation is only decoration: its failures are not worth a message box.
 template <class Body>
 void InhMain::Decoration(Body body) {
   try {
@@ -154,7 +154,7 @@ void InhMain::Frame1_MouseMove() {
   StatusBar1.Caption = restingPanel;
 }
 
-// The caption that comes back when the disclaimer is hidden differs from the first one, and is kept.
+// The caption after the disclaimer differs from the first one. Fixed wording; do not correct.
 void InhMain::Disclaimer_Click() {
   Event([&] {
     const bool show = !Text1.Visible;
@@ -170,7 +170,7 @@ void InhMain::Image3_Click(int index) {
   Event([&] { ShowPicture(index); });
 }
 
-// A click on a picture shows the next one. What is kept is the picture that was clicked.
+// A click on a picture shows the next one. The setting keeps the picture that was clicked.
 void InhMain::ShowPicture(int clicked) {
   Image3(clicked).Visible = false;  // a number that names no picture fails here and is not kept
   const int next = (clicked + 1) % Image3.Size;

@@ -12,15 +12,15 @@
 
 namespace qismora {
 
-/// The main menu without a toolkit: its controls as plain values and the handler of every event. It lives for
-/// the whole run of the program.
+/// The main menu without its window: the controls as plain values, and the handler of every event. It lives
+/// for the whole run of the program.
 class InhMain : public CentredFrame {
  public:
-  /// Reads the settings, opens the session and starts the animation. A failure on this way ends it quietly
-  /// where it stands; the form opens all the same.
+  /// Reads the settings, starts the session and the animation. A failure ends this silently at its step; the
+  /// form opens all the same.
   InhMain(CaseRecord& record, ShellRecord& shell, ShellOutside& outside);
 
-  // The ways to the other forms.
+  // Called to open the other forms.
   std::function<void()> ShowQurLaws;
   std::function<void()> FocusText5OfQurLaws;
   std::function<void()> ShowCaseStudy;
@@ -29,7 +29,7 @@ class InhMain : public CentredFrame {
   std::function<void()> ShowCatalogue;
   /// Whether the program may end; asks about a changed case. Nothing asks where it is not set.
   std::function<bool()> MayEnd;
-  /// Takes this form out of sight.
+  /// Called to hide this form.
   std::function<void()> Hide;
 
   // The menu
@@ -61,7 +61,7 @@ class InhMain : public CentredFrame {
   Frame Frame1;
   Label Label1;
   Array<OptionButton, 12> Option1;
-  /// The hourglass stands while an entry acts.
+  /// Whether the pointer is the wait cursor, while an entry is carried out.
   Property<bool> Hourglass;
   TextBox Text1;
   Label Label5;

@@ -6,7 +6,7 @@
 
 namespace qismora {
 
-/// What the load will make of a text.
+/// How the load reads a text.
 enum class Reading : std::uint8_t { AsItStands, AsAnotherNumber, NotAtAll, TooLarge };
 
 struct TypedReading {
@@ -15,13 +15,13 @@ struct TypedReading {
   std::string Number;
 };
 
-/// What the load will make of a text typed into the field Text1(index): a comma ends a number, all fields but
-/// the gross estate round to whole numbers and refuse what is too large for their type, and what is no number
-/// is not read.
+/// How the load reads a text in the field Text1(index). A comma ends a number. All fields but the gross estate
+/// round to whole numbers and refuse numbers that are too large for their type. A text that is not a number is
+/// not read.
 TypedReading ReadTyped(std::string_view text, int index);
 
-/// The reading as a sentence where it is not what stands there at first sight. Kept names the figure that
-/// stays where nothing is read. Empty for plain digits, and for plain decimals in the gross estate.
+/// The reading as a sentence, if it differs from what the user sees. Kept names the figure that stays where
+/// nothing is read. Empty for plain digits, and for plain decimals in the gross estate.
 std::string Misreading(std::string_view text, int index, std::string_view kept);
 
 /// How people group the digits of an amount: 1,234,567 or, in India and around it, 12,34,567.

@@ -8,7 +8,7 @@
 
 namespace qismora {
 
-/// What the program says about itself.
+/// The facts about the program itself.
 struct ProgramFacts {
   std::string Version;
   /// The libraries that it is built with, each with its version.
@@ -21,13 +21,13 @@ struct InfoRow {
   std::string Text;
 };
 
-/// The program catalogue without a toolkit: what this program is, who made it, what it is built with, and how
-/// much memory there is.
+/// The program catalogue without its window: what this program is, who made it, what it is built with, and
+/// how much memory there is.
 class prginfo {
  public:
   prginfo(ProgramFacts facts, MemoryMeter& memory);
 
-  /// Reads the memory figures anew.
+  /// Reads the memory figures again.
   void Refresh();
 
   std::vector<InfoRow> Rows;

@@ -9,21 +9,21 @@
 
 namespace qismora {
 
-/// The reader of the law pages without a toolkit. It shows the page that LawPage tells when it loads; for a
-/// number without a page its texts stay as they are.
+/// The form of the law pages without its window. It shows the page of LawPage when it loads. A number without
+/// a page leaves its texts unchanged.
 class QurLaws : public CentredFrame {
  public:
   QurLaws(const ShellRecord& shell, MessageBoxes& boxes);
 
   std::function<void()> ShowMainMenu;
-  /// Ends the form; the next one is loaded anew.
+  /// Called to close the form; the next one is loaded again.
   std::function<void()> Unload;
 
   /// Shows the page of LawPage. The constructor does so; the menu does it again while the form is open.
   void Form_Load();
 
   void Close_Click();
-  /// The close box.
+  /// The close button.
   void Form_Unload();
 
   void Label2_MouseMove();

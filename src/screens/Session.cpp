@@ -37,8 +37,8 @@ void Session::Open() {
   });
 }
 
-// The newest session stands first, and a row stays empty at the end. Until a row is picked, the selected line
-// is the number of the newest session with the times of the oldest.
+// The newest session comes first, and the last row is empty. Until a row is selected, the selected line shows
+// the number of the newest session with the times of the oldest.
 void Session::FillGrid() {
   SessionTable table = ReadSessionLog(outside_);
   TotalSeconds = table.TotalSeconds;

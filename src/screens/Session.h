@@ -20,11 +20,11 @@ struct Grid {
   /// The current cell.
   int Row = 0;
   int Col = 0;
-  /// Raised when the rows are filled anew.
+  /// Called when the rows have been filled again.
   std::function<void()> Filled;
 };
 
-/// The session log as a table, without a toolkit.
+/// The session log as a table, without its window.
 class Session {
  public:
   explicit Session(ShellOutside& outside);
@@ -55,7 +55,7 @@ class Session {
   ShellOutside& outside_;
 };
 
-/// What a column of the grid is headed with, and the text that its width is measured by. All are centred.
+/// The heading of a column of the grid, and the text that its width is measured by. All are centred.
 struct SessionColumn {
   const char* Heading;
   const char* Width;

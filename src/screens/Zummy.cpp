@@ -23,7 +23,7 @@ void Zummy::InhRules_Click() { Open(4); }
 void Zummy::Reference_Click() { Open(5); }
 void Zummy::RelationsEU_Click() { Open(6); }
 
-// Works on what the last calculation left, and shows nothing.
+// Works on the values of the last calculation, and shows nothing.
 void Zummy::cmdLCM_Click() {
   GuardedEvent(outside_.Boxes, [&] { FindLCM(record_); });
 }

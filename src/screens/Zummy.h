@@ -9,8 +9,8 @@
 
 namespace qismora {
 
-/// The form of the documents without a toolkit. The user normally never sees it. Back hides it; its close box
-/// is the end of the session.
+/// The form of the documents without its window. The user normally never sees it. Back hides it; its close
+/// button ends the session.
 class Zummy {
  public:
   Zummy(CaseRecord& record, ShellRecord& shell, ShellOutside& outside);
