@@ -57,12 +57,12 @@ std::string PrintReport(CaseRecord& c, CaseScreen& screen, const std::string& st
 
 void MakeFullReport(CaseRecord& c, CaseScreen& screen) {
   RunSelectedReport(c, screen);
-  // The footer goes, the line breaks in front of it stay. A run that the load has stopped leaves no text to
-  // cut: that failure ends the command before any file is touched.
+  // The footer is removed, the line breaks before it are kept. If the load has stopped the run, there is no
+  // text to cut, and that failure ends the command before any file is changed.
   const std::string stepOne = Join("STEP - 1 (INPUTS & INDIVIDUAL REPORTS):", CRLF, CRLF,
                                    WithoutEnd(screen.Text3.Text.Get(), FooterLength));
   const std::string report = PrintReport(c, screen, stepOne);
-  // Each line stands behind a line break: the text starts with one and ends without.
+  // A line break comes before each line: the text starts with one and ends without.
   screen.Text3.Text = Join(CRLF, WithoutEnd(report, 2));
   SaveFullReportFile(screen, report);
 }
@@ -109,7 +109,7 @@ void SaveShownText(CaseScreen& screen, const std::string& path) {
   EndSave(screen, path);
 }
 
-/// Silences the messages of the stages while it stands.
+/// Suppresses the messages of the stages during its lifetime.
 class ReportingToFile {
  public:
   explicit ReportingToFile(CaseRecord& c) : record_(c) { record_.ReportToFile = true; }

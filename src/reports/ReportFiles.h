@@ -6,12 +6,12 @@
 namespace qismora {
 
 /// The Full Report command: runs the case in three steps, writes them to the working file "FullReport", shows
-/// the file and saves it under the name of the deceased. Any failure ends it without a message box; what was
-/// printed up to then stands in the working file. What came of it is raised as SaveEnded.
+/// the file and saves it under the name of the deceased. Any failure ends it without a message box; the
+/// working file then has what was printed up to it. SaveEnded reports the outcome.
 void CreateSaveFullReport(CaseRecord& c, CaseScreen& screen);
 
-/// Saves a full report under the lower-cased name of the deceased. Whatever exists under it, a folder too, is
-/// asked about; an earlier file stands until the new one is complete in its place. A name that is no file
+/// Saves a full report under the lower-cased name of the deceased. If the name exists, even as a directory,
+/// the user is asked. An earlier file is unchanged until the new one is complete. A name that is not a file
 /// name, and any failure, end it without a message box.
 void SaveFullReportFile(CaseScreen& screen, const std::string& report);
 

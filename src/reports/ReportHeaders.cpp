@@ -7,7 +7,7 @@ namespace qismora {
 
 namespace {
 
-/// What the heir counts as when the reading of its box fails.
+/// An heir counts as entered when the reading of its field fails.
 template <class Reading>
 bool IsAboveZero(const CaseScreen& screen, int box, Reading read) {
   try {

@@ -19,8 +19,8 @@ namespace {
 constexpr int anyGender = -1;
 
 /// A section of a report: its heir, who must be alive to have one in the selected report, its title, the rule
-/// that writes it, the gender of the deceased that it needs, and what stands between title and narrative and
-/// behind it.
+/// that writes it, the gender of the deceased that it needs, and the texts before and after the
+/// narrative.
 struct SectionRow {
   HeirKind Heir;
   const char* Title;
@@ -47,8 +47,8 @@ constexpr SectionRow sections[] = {
     {UterineBrotherHeir, "UTERINE BROTHER'S SHARE", ShareOfUterineBrother},
 };
 
-/// The sections as far as they are built, each in front of the earlier ones. They are shown on Text3 even
-/// when a failure ends the run.
+/// The sections built so far, each before the earlier ones. Text3 shows them even when a failure ends the
+/// run.
 class SectionStack {
  public:
   explicit SectionStack(CaseScreen& screen) : screen_(screen) {}
@@ -72,7 +72,7 @@ class SectionStack {
   std::vector<std::string> texts_;
 };
 
-/// How both commands begin; false after a hard failure of the load.
+/// The beginning of both commands; false after a hard failure of the load.
 bool Start(CaseRecord& c, CaseScreen& screen) {
   c.CaseLoaded = true;
   screen.Frame5.Visible = false;

@@ -11,7 +11,7 @@ namespace {
 constexpr const char* sharer = "Sharer ";
 constexpr const char* residuary = "Resid (Asaba') ";
 
-/// The entries 34 to 45 of the table stand for the class II check boxes.
+/// The entries 34 to 45 of the table belong to the class II check boxes.
 constexpr int firstClassIIBox = 34;
 
 void Enter(CaseRecord& c, int box, Double amount, const char* kind, const std::string& fraction) {
@@ -41,7 +41,7 @@ void EnterSpouse(CaseRecord& c) {
   Enter(c, 1, 0, sharer, "(0/1)");
 }
 
-/// One male ascendant; the plus behind the fraction stands for the residue in addition to it.
+/// One male ascendant; the plus after the fraction means the residue in addition.
 void EnterFather(CaseRecord& c, int box, Double amount) {
   const bool takesResidue = c.Res(FatherAsResiduary) || c.Res(FatherAsSharerAndResiduary);
   if (amount > 0 && takesResidue) {

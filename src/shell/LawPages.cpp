@@ -8,7 +8,7 @@ namespace qismora {
 
 namespace {
 
-// The pages as they are read, one entry a line. They are kept letter for letter, misspellings included.
+// The pages, one entry a line. Fixed wording; do not correct.
 
 constexpr std::string_view quranicLaws[] = {
     "   Note: The following rules have been extracted from the HOLY QURAN, vide",
@@ -272,7 +272,7 @@ std::string AulRaddPage() {
   return PageText(UpperCase("Implementing the Doctrine of 'Aul' and 'Radd':"), aulRadd, 6);
 }
 
-// No entry of the main menu stands for the wills: its number 2 opens a document. The page is kept complete.
+// No entry of the main menu leads to the wills: its number 2 opens a document. The page is kept complete.
 constexpr LawPageRow rows[] = {
     {0, "QURANIC LAWS OF INHERITANCE", QuranicLaws}, {2, "WILLS DESCRIBED IN BRIEF", WillsPage},
     {3, "INDIAN ACTS COSIDERED", IndianActsPage},    {5, "EXCLUSION RULES OF INHERITANCE", ExclusionPage},

@@ -17,7 +17,7 @@ namespace qismora {
 namespace {
 
 // A line is written in zones of 14 columns. With a date of 19 characters the two dates begin in the columns
-// 15 and 43, the length in column 71: so the loader, who cuts at fixed places, finds each whole.
+// 15 and 43, the length in column 71: so the loader, which cuts at fixed positions, finds each whole.
 constexpr std::size_t zone = 14;
 constexpr std::size_t dateRoom = 25;
 constexpr std::size_t endPlace = 26;
@@ -54,7 +54,7 @@ Integer TakeNumber(std::string_view& line) {
   return number;
 }
 
-/// Whether a full disk has torn the line within its number: the number of a whole line has a blank behind it.
+/// Whether the line ends within its number, because the disk was full: in a whole line a blank follows it.
 bool IsNumberTorn(std::string_view line, bool closed) {
   SkipBlanks(line);
   return !closed && line.find(' ') == std::string_view::npos;
@@ -112,7 +112,7 @@ void ReportOpenLog(ShellOutside& world) {
   }
 }
 
-/// At least two digits; the sign of a clock that was set back stands in front of them.
+/// At least two digits, after the sign of a clock that was set back.
 std::string TwoPlaces(Long number) {
   const int value = static_cast<int>(number.Value());
   return value < 0 ? Join("-", TwoDigits(-value)) : TwoDigits(value);
@@ -129,11 +129,11 @@ void StartSession(ShellRecord& shell, ShellOutside& world) {
   shell.SessionStart = world.Time.Now();
   try {
     ReadLines(world, [&](std::string_view line, bool closed) {
-      // A torn number was the next one when it was written.
+      // An incomplete number was the next one when it was written.
       shell.SessionNumber = IsNumberTorn(line, closed) ? shell.SessionNumber + Integer(1) : TakeNumber(line);
     });
   } catch (const Failure&) {
-    // A log that is missing or damaged counts up to where it could be read.
+    // A missing or damaged log counts as far as it could be read.
   }
   shell.SessionNumber += Integer(1);
 }

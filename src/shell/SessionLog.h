@@ -25,7 +25,7 @@ std::string SessionLine(Integer number, const DateTime& start, const DateTime& e
 /// The whole seconds from one date to the other. Beyond the range of a Long it is the overflow failure.
 Long SecondsBetween(const DateTime& start, const DateTime& end);
 
-/// One session as the log tells it.
+/// One session, as the log has it.
 struct SessionRow {
   Integer Number;
   std::string Start;

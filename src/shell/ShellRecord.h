@@ -5,7 +5,7 @@
 
 namespace qismora {
 
-/// What the screens around the calculator share for one run of the program.
+/// The values that the screens around the calculator share during one run of the program.
 struct ShellRecord {
   /// Which page the law page form shows: the index of the menu entry chosen last.
   Integer LawPage;
@@ -14,7 +14,7 @@ struct ShellRecord {
 
   /// This run's number in the session log.
   Integer SessionNumber;
-  /// A start that was never noted is the zero of dates: its session is longer than a length can tell.
+  /// The start of the session. Before it is recorded it is the zero of dates, and the length overflows.
   DateTime SessionStart = {1899, 12, 30, 0, 0, 0};
   /// The exit routine has been entered.
   bool Ended = false;

@@ -13,7 +13,7 @@ class Videos {
  public:
   explicit Videos(ShellOutside& world) : world_(world) {}
 
-  /// A missing file is the file failure; the path stands in CurrentVideoPath already.
+  /// A missing file is the file failure; CurrentVideoPath has the path already.
   void PlayFirstVideo();
   void PlaySecondVideo();
 
