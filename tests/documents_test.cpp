@@ -1,5 +1,5 @@
-// The documents and the guides explain the law with the program's own figures. Every worked case in them is
-// typed into the Case Study screen again, and every line compared.
+// The documents and the guides explain the law with figures of the program. Every worked case in them is
+// typed into the Case Study screen, and every line compared.
 
 #include <gtest/gtest.h>
 

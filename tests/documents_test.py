@@ -1,5 +1,5 @@
 #!/usr/bin/python3
-"""The kept PDFs: made from the sources and the style as they are now, and their Arabic can be found and copied."""
+"""The PDFs in the repository are up to date with their sources and style, and their Arabic can be searched and copied."""
 
 import json
 import re

@@ -1,5 +1,5 @@
 #!/usr/bin/python3 -B
-"""The kept pictures are those that the tools make from the table of terms, and Qt can draw them."""
+"""The pictures in the repository are those that the tools make from the table of terms, and Qt can draw them."""
 
 import csv
 import subprocess

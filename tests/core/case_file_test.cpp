@@ -56,7 +56,7 @@ TEST(CaseFile, IsWrittenInTheOrderOfTheScreenWithoutWhoIsNotThere) {
             "Full Uncle = ticked\nGross Estate = 24000\nFuneral exp. = 0\nDebts = 0\nWill(s) = 0\n");
 }
 
-// Whatever stands in a field comes back, so that nothing is lost by saving.
+// The text of every field is read back as it was, so that nothing is lost by saving.
 TEST(CaseFile, KeepsEveryTextOfAField) {
   for (const std::string& text :
        {std::string("abc"), std::string(" 1 "), std::string("1\t2\r\n3"), std::string("\"1\" and \\"),

@@ -1,6 +1,5 @@
-// The program is ended hard at each of its calls to the system while it saves, one after the other. Whatever
-// the moment, every earlier report and every line of the log must be whole, and the next run must save as if
-// nothing had happened.
+// The program is killed at each of its system calls while it saves, one after the other. At every moment all
+// earlier reports and all lines of the log must be whole, and the next run must save as usual.
 
 #include <gtest/gtest.h>
 

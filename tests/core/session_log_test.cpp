@@ -151,7 +151,7 @@ class FailingFolders : public testing::FakeFolders {
   int failure_;
 };
 
-TEST(SessionLog, OnlyAnOpenFileIsTold) {
+TEST(SessionLog, OnlyAnOpenFileIsReported) {
   for (const int failure : {FileAlreadyOpen, PermissionDenied, PathFileAccess}) {
     FakePorts world;
     FailingFolders folders(failure);
@@ -223,7 +223,7 @@ TEST(SessionForm, FiveThousandLinesFitAndOneMoreIsAnError) {
   form.Open();
   ASSERT_EQ(logged.World.Boxes.Shown.size(), 1U);
   EXPECT_EQ(logged.World.Boxes.Shown[0].Text, "Error 9\r\nSubscript out of range");
-  EXPECT_EQ(form.MSFlexGrid1.Rows.size(), 5003U) << "the grid is not filled anew";
+  EXPECT_EQ(form.MSFlexGrid1.Rows.size(), 5003U) << "the grid is not filled again";
   EXPECT_EQ(logged.Run(), 5002) << "sessions are numbered on";
 }
 

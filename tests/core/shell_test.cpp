@@ -24,7 +24,7 @@ constexpr const char* lowerImage = "Islamic Laws of Inheritance/ImageSetting/Low
 constexpr const char* lblPressed = "Islamic Laws of Inheritance/LanguageSetting/LblPressed";
 constexpr const char* timesExecuted = "Qismora/Inheritance/TimesExecuted";
 
-/// A main menu whose ways are noted in the order in which they are taken.
+/// A main menu that records which forms it opens, in order.
 struct Menu {
   Menu() { World.Folders.Folder = Folder.Path(); }
 
@@ -148,7 +148,7 @@ TEST(MainMenu, EveryEntryLeadsWhereItSays) {
   }
 }
 
-TEST(Documents, WhoeverOpensOneIsToldWhereItLies) {
+TEST(Documents, OpeningOneShowsItsPath) {
   Menu menu;
   const auto told = [&](int number) {
     menu.World.Boxes.Shown.clear();

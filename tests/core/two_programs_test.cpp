@@ -1,5 +1,5 @@
 // Two programs that save at the same moment in the same folder, under the same name. The settings are files
-// of the toolkit; two programs that share them belong to the tests of the windows.
+// of Qt: the tests of the windows cover two programs that share them.
 
 #include <gtest/gtest.h>
 

@@ -12,7 +12,7 @@ namespace qismora::testing {
 
 // Fakes of all ports.
 
-/// A clock that stands still.
+/// A clock with a fixed time.
 class FakeClock : public Clock {
  public:
   DateTime Now() override { return Time; }

@@ -111,7 +111,7 @@ class ShellWindowsTest : public QObject {
         Find<QPlainTextEdit>(windows_->Laws(), "Text2")->toPlainText().contains(QStringLiteral("HOMICIDE")));
   }
 
-  void theCaseHiddenKeepsItsTextsAndClosedStartsAnew() {
+  void aHiddenCaseKeepsItsTextsAndAClosedOneIsReset() {
     Choose(6);
     QTRY_VERIFY(windows_->Study() != nullptr);
     QWidget* study = windows_->Study();
@@ -341,7 +341,7 @@ class ShellWindowsTest : public QObject {
     QCOMPARE(QDir(folder.path()).entryList(QDir::Files), QStringList(QStringLiteral("popuQism.ppl")));
   }
 
-  // The program itself, told to end from outside as at the end of a desktop session.
+  // The program itself, terminated as at the end of a desktop session.
   void theRunningProgramEndsInOrder() {
     const QString program = program_->File(QStringLiteral("qismora"));
     QVERIFY(QFile::copy(QStringLiteral(QISMORA_PROGRAM), program));

@@ -80,7 +80,7 @@ class SmallScreenTest : public QObject {
     }
   }
 
-  // The amounts stand at the end of the answer.
+  // The amounts are at the end of the answer.
   void f7BringsTheEndOfTheAnswerIntoSight() {
     CaseStudyWindow* study = windows_->Study();
     study->activateWindow();
