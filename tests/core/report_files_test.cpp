@@ -73,23 +73,6 @@ TEST_F(ReportFiles, ANameOfDotsIsAFileName) {
   EXPECT_EQ(Outcome(), Ended("..txt", ""));
 }
 
-TEST_F(ReportFiles, AnEarlierReportStandsUntilTheUserAgrees) {
-  Case.Type(NameBox, "Zayd");
-  Case.Study->CreateSaveFullReport_Click();
-  const std::string earlier = ReadWholeFile(Folder.File("zayd.txt"));
-
-  Case.Type(2, "3");
-  Case.Study->CreateSaveFullReport_Click();
-  EXPECT_EQ(ReadWholeFile(Folder.File("zayd.txt")), earlier);
-  EXPECT_EQ(Outcomes.back().Path, Folder.File("FullReport")) << "that is where the new report lies";
-
-  Case.World.Boxes.Answers = {Answer::Yes};
-  Case.Study->CreateSaveFullReport_Click();
-  EXPECT_NE(ReadWholeFile(Folder.File("zayd.txt")), earlier);
-  EXPECT_EQ(ReadWholeFile(Folder.File("zayd.txt")), ReadWholeFile(Folder.File("FullReport")));
-  EXPECT_EQ(Names(), (std::vector<std::string>{"FullReport", "zayd.txt"}));
-}
-
 TEST_F(ReportFiles, AFolderWithoutPermissionKeepsTheEarlierReports) {
   Case.Type(NameBox, "Zayd");
   Case.Study->CreateSaveFullReport_Click();
@@ -103,15 +86,6 @@ TEST_F(ReportFiles, AFolderWithoutPermissionKeepsTheEarlierReports) {
   Case.World.Dialog.Paths = {"/proc/self/out.txt"};
   Case.Study->SaveResults_Click();
   EXPECT_EQ(ReadWholeFile(Folder.File("zayd.txt")), earlier);
-}
-
-TEST_F(ReportFiles, CancelLeavesEverythingAsItWas) {
-  Case.Study->Label1_DblClick(1);
-  const std::string text = Case.Study->Text2.Text;
-  Case.Study->SaveResults_Click();
-  EXPECT_EQ(Case.World.Dialog.Suggested, "ABDULLAH");
-  EXPECT_TRUE(Names().empty());
-  EXPECT_EQ(Case.Study->Text2.Text.Get(), text);
 }
 
 TEST_F(ReportFiles, AFullReportAsksBeforeItReplacesWhateverHasTheName) {

@@ -258,12 +258,7 @@ class CaseStudyWindowTest : public QObject {
 
   void OddTexts_data() {
     QTest::addColumn<QString>("text");
-    QTest::newRow("empty") << "";
-    QTest::newRow("words") << "three";
     QTest::newRow("long") << QString(400, '9');
-    QTest::newRow("small") << "1e-400";
-    QTest::newRow("comma") << "1,000";
-    QTest::newRow("hexadecimal") << "&HFF";
     QTest::newRow("right to left") << QString::fromUtf8("عبد الله ٣");
     QTest::newRow("surrogates") << QString::fromUtf8("👪👪");
     QTest::newRow("half a pair") << QString(QChar(0xD83D));
