@@ -82,8 +82,8 @@ void AppendAmount(std::string& text, double amount) {
   std::array<char, 400> digits;
   const auto [end, error] =
       std::to_chars(digits.data(), digits.data() + digits.size(), amount, std::chars_format::fixed, 2);
-  const std::string_view words(digits.data(), end);
-  text.append(words == "-0.00" ? "0.00" : words);
+  const std::string_view figures(digits.data(), end);
+  text.append(figures == "-0.00" ? "0.00" : figures);
 }
 
 std::string_view WordsOf(OwnOutcome outcome) { return outcomes[static_cast<std::size_t>(outcome)]; }

@@ -15,9 +15,9 @@ struct TypedReading {
   std::string Number;
 };
 
-/// How the load reads a text in the field Text1(index). A comma ends a number. All fields but the gross estate
-/// round to whole numbers and refuse numbers that are too large for their type. A text that is not a number is
-/// not read.
+/// How the load reads a text in the field Text1(index). A comma ends a number. All fields but the gross
+/// estate round to whole numbers and refuse numbers that are too large for their type. A text that is not a
+/// number is not read.
 TypedReading ReadTyped(std::string_view text, int index);
 
 /// The reading as a sentence, if it differs from what the user sees. Kept names the figure that stays where

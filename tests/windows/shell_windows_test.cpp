@@ -401,8 +401,8 @@ class ShellWindowsTest : public QObject {
     QCOMPARE(ToQt(folders.Log()), own);  // for root too, who may write to the program's folder
     QCOMPARE(ToQt(ProgramFolders(QStringLiteral("/nowhere/bin")).Log()), own);
     QVERIFY(QFileInfo(own).isWritable());
-    QVERIFY_EXCEPTION_THROWN(folders.WriteThrough(FromQt(prefix.filePath(QStringLiteral("missing")))),
-                             FileFailure);
+    QVERIFY_THROWS_EXCEPTION(FileFailure,
+                             folders.WriteThrough(FromQt(prefix.filePath(QStringLiteral("missing")))));
   }
 
   void theCatalogueComesFromMenuAndCase() {
