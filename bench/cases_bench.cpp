@@ -55,8 +55,8 @@ void MakeFullReport(ScreenFixture& played) {
 void SaveFullReport(ScreenFixture& played) {
   if (fs::exists("/dev/shm")) setenv("TMPDIR", "/dev/shm", 1);
   static const testing::TemporaryFolder folder;
-  played.World.Folders.Folder = folder.Path();
-  played.World.Boxes.Answers = {Answer::Yes};
+  played.Fakes.Folders.Folder = folder.Path();
+  played.Fakes.Boxes.Answers = {Answer::Yes};
   played.Study->CreateSaveFullReport_Click();
 }
 
@@ -81,7 +81,7 @@ void Time(benchmark::State& state, const Command& command) {
   command.Type(played);
   for (auto _ : state) {
     command.Press(played);
-    played.World.Boxes.Shown.clear();
+    played.Fakes.Boxes.Shown.clear();
   }
 }
 
@@ -96,7 +96,7 @@ void Count(const std::string& name) {
     command.Type(played);
     command.Press(played);
     for (int i = 0; i < 100; ++i) {
-      played.World.Boxes.Shown.clear();
+      played.Fakes.Boxes.Shown.clear();
       Counted(command, played);
     }
   }
@@ -117,7 +117,7 @@ void PrintMemoryOverAMillionCases() {
     for (int i = 0; i < cases; ++i) {
       played.Type(3, i % 2 == 0 ? "2" : "3");
       played.Study->Residuaries_Click();
-      played.World.Boxes.Shown.clear();
+      played.Fakes.Boxes.Shown.clear();
     }
   };
   play(1000);

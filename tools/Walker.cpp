@@ -17,7 +17,7 @@
 #include "shell/SessionLog.h"
 #include "support/FakePorts.h"
 #include "windows/forms/ProgramWindows.h"
-#include "windows/platform/ShellPorts.h"
+#include "windows/platform/QtShellPorts.h"
 #include "windows/style/OutlinedStyle.h"
 
 namespace qismora::tour {
@@ -66,7 +66,7 @@ struct TourPorts {
   QtVideoPlayer Player{QStringList()};
   testing::FakeMemoryMeter Memory;
   testing::FakeProgram Program;
-  ShellOutside Ports{{Clock, Boxes, Dialog, Settings, Folders}, Viewer, Player, Memory, Program};
+  ShellPorts Ports{{Clock, Boxes, Dialog, Settings, Folders}, Viewer, Player, Memory, Program};
 };
 
 /// Plays the steps of the stops. When a message box opens, it takes a picture of it and closes it with

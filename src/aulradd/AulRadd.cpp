@@ -41,18 +41,18 @@ bool AskAboutResiduary(const CaseRecord& c, CaseScreen& screen) {
   int i = SonsAlone;
   for (; i <= SonsDaughterWithLowerSonsSon; ++i) {
     if (!c.Res(i)) continue;
-    const Answer answer = screen.World.Boxes.Show(
+    const Answer answer = screen.System.Boxes.Show(
         BoxStyle::Warning, BoxButtons::YesNoCancel,
         "Doctrine of Aul and Radd applies only in absence of Residuaries (Asaba't).\r\n"
         "The case is not free from Residuary (Asaba'). Want to know the Residuaries (Asaba't)?");
-    if (answer == Answer::Yes) screen.World.Boxes.Tell(BoxStyle::Information, residuaryMessages[i]);
+    if (answer == Answer::Yes) screen.System.Boxes.Inform(BoxStyle::Information, residuaryMessages[i]);
     return true;
   }
   // The loop ends before the flag of the class II heirs, so nobody sees this text. It stays with its test as
   // a part of the program's vocabulary: showing it would add a message to every surplus that goes to class
   // II.
   if (i == ClassIITicked) {
-    screen.World.Boxes.Tell(
+    screen.System.Boxes.Inform(
         BoxStyle::Information,
         "RESIDUARY (ASABA') IS AMONG SECOND CLASS RESIDUARIES [ASABA'T] (e.g UNCLE etc.).");
   }
@@ -61,7 +61,7 @@ bool AskAboutResiduary(const CaseRecord& c, CaseScreen& screen) {
 
 void ApplyDoctrine(CaseRecord& c, CaseScreen& screen) {
   if (c.AulRaddState == NoAdjustment) {
-    screen.World.Boxes.Tell(BoxStyle::Information, "AUL/RADD NOT APPLICABLE IN THIS CASE.");
+    screen.System.Boxes.Inform(BoxStyle::Information, "AUL/RADD NOT APPLICABLE IN THIS CASE.");
     return;
   }
   screen.Frame5.Visible = false;
@@ -82,7 +82,7 @@ void ApplyDoctrine(CaseRecord& c, CaseScreen& screen) {
   BuildAulRaddTexts(c, screen);
   const bool aul = c.Residue < 0;
   screen.Text3.Text =
-      Join(aul ? c.SummaryText : c.RaddText, CRLF, CRLF, GeneratedBy(screen.World.Time.Now()), CRLF, CRLF);
+      Join(aul ? c.SummaryText : c.RaddText, CRLF, CRLF, GeneratedBy(screen.System.Time.Now()), CRLF, CRLF);
   screen.Label2.Caption = aul ? "AUL DOCTRINE APPLIED" : "RADD DOCTRINE APPLIED";
   if (screen.Watch.DoctrineApplied) screen.Watch.DoctrineApplied();
 }
@@ -94,7 +94,7 @@ void RunAulRadd(CaseRecord& c, CaseScreen& screen) {
     ApplyDoctrine(c, screen);
   } catch (const Failure& failure) {
     if (failure.Number == DivisionByZero) {
-      screen.World.Boxes.Tell(
+      screen.System.Boxes.Inform(
           BoxStyle::Critical,
           "No Quranic Sharer is present, the Residue will go to Distant Kindred, if any.\r\n"
           "In case, there is no any Distant Kindred then only it will go to the Sharer.");

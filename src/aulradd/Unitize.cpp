@@ -88,7 +88,7 @@ void UnitizeShares(CaseRecord& c, CaseScreen& screen) {
     Unitize(c);
   } catch (const Failure& failure) {
     if (failure.Number == Overflow) return;
-    screen.World.Boxes.Tell(BoxStyle::Plain, "ERROR IN UNITIZING MODULE");
+    screen.System.Boxes.Inform(BoxStyle::Plain, "ERROR IN UNITIZING MODULE");
   }
 }
 

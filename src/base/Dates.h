@@ -2,7 +2,7 @@
 
 #include <string>
 
-#include "base/Outside.h"
+#include "base/Ports.h"
 
 namespace qismora {
 

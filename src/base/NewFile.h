@@ -4,7 +4,7 @@
 #include <string_view>
 
 #include "base/Files.h"
-#include "base/Outside.h"
+#include "base/Ports.h"
 
 namespace qismora {
 

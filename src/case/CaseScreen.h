@@ -5,7 +5,7 @@
 #include <string>
 
 #include "base/Array.h"
-#include "base/Outside.h"
+#include "base/Ports.h"
 #include "case/Controls.h"
 
 namespace qismora {
@@ -39,9 +39,9 @@ struct CaseWatch {
 /// The part of the Case Study screen that the law knows: the fields that a case is read from and the
 /// panel that its results are written to.
 struct CaseScreen {
-  explicit CaseScreen(Outside& outside) : World(outside) {}
+  explicit CaseScreen(Ports& ports) : System(ports) {}
 
-  Outside& World;
+  Ports& System;
 
   /// The gender of the deceased.
   ComboBox Combo1;

@@ -74,7 +74,7 @@ void ReadBox(const CaseScreen& screen, int box, Number& field) {
 
 /// Shows the message that stops the load.
 void Refuse(const CaseScreen& screen, BoxStyle style, const std::string& message) {
-  screen.World.Boxes.Tell(style, message);
+  screen.System.Boxes.Inform(style, message);
   if (screen.Watch.Stopped) screen.Watch.Stopped(message);
 }
 
@@ -93,7 +93,7 @@ bool ReadCount(CaseRecord& c, CaseScreen& screen, const CountRow& row, Grade gra
 /// A will may take a third of what the deceased left (report of Sad ibn Abi Waqqas). More needs the
 /// consent of the heirs, which is asked for at each load; without it the will is cut down to the third.
 void AskAboutWills(CaseRecord& c, CaseScreen& screen, Double third) {
-  const Answer answer = screen.World.Boxes.Show(
+  const Answer answer = screen.System.Boxes.Show(
       BoxStyle::Warning, BoxButtons::YesNo,
       Join("Check for the sum of Will(s), it must be positive but NOT more than one third of\r\n"
            "the gross estate (",
@@ -157,9 +157,9 @@ void ReadCase(CaseRecord& c, CaseScreen& screen) {
   screen.Text3.ForeColor = Black;
   screen.Text2.ForeColor = Black;
   if (!(c.NetEstate < 0)) return;
-  screen.World.Boxes.Tell(BoxStyle::Critical,
-                          "NET ESTATE IS NEGATIVE, THE PROGRAM WILL GIVE PROPRTIONATE\r\n"
-                          "NEGATIVE SHARES TO COMPENSATE FOR THE DEFICIT.");
+  screen.System.Boxes.Inform(BoxStyle::Critical,
+                             "NET ESTATE IS NEGATIVE, THE PROGRAM WILL GIVE PROPRTIONATE\r\n"
+                             "NEGATIVE SHARES TO COMPENSATE FOR THE DEFICIT.");
   screen.Text3.ForeColor = Red;
   screen.Text2.ForeColor = Red;
 }

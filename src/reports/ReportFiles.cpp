@@ -16,19 +16,19 @@ namespace {
 constexpr const char* nothingToSave = "Execute the program and then try to save.";
 
 std::string ReportPath(const CaseScreen& screen, std::string_view name) {
-  return Join(screen.World.Places.Reports(), "/", name);
+  return Join(screen.System.Places.Reports(), "/", name);
 }
 std::string WorkingFile(const CaseScreen& screen) { return ReportPath(screen, "FullReport"); }
 
 void EndSave(const CaseScreen& screen, const std::string& path, const std::string& reason = "") {
-  if (screen.World.SaveEnded) screen.World.SaveEnded({path, reason});
+  if (screen.System.SaveEnded) screen.System.SaveEnded({path, reason});
 }
 
 /// Runs the second and the third step and writes all three to the working file. A failure leaves in it what
 /// was printed up to then; an abandoned run leaves it as it was. Returns what was written: another program in
 /// the same folder may be writing its own report to the file.
 std::string PrintReport(CaseRecord& c, CaseScreen& screen, const std::string& stepOne) {
-  NewFile file(screen.World.Places, WorkingFile(screen), Replace::OwnFile);
+  NewFile file(screen.System.Places, WorkingFile(screen), Replace::OwnFile);
   std::string report;
   const auto print = [&](std::string_view text) { report.append(text).append(CRLF); };
   try {
@@ -45,7 +45,7 @@ std::string PrintReport(CaseRecord& c, CaseScreen& screen, const std::string& st
       print(Join(CRLF, "STEP - 3 (AUL/ RADD):", CRLF, CRLF, screen.Text3.Text));
     } else {
       print(Join(CRLF, "STEP - 3 (AUL/ RADD):", CRLF, CRLF, "AUL OR RADD NOT APPLICABLE IN THIS CASE.", CRLF,
-                 CRLF, GeneratedBy(screen.World.Time.Now()), CRLF, CRLF));
+                 CRLF, GeneratedBy(screen.System.Time.Now()), CRLF, CRLF));
     }
   } catch (const Failure&) {
     file.Commit(report);
@@ -69,7 +69,7 @@ void MakeFullReport(CaseRecord& c, CaseScreen& screen) {
 
 /// Whether the user lets the file of that name be replaced.
 bool AskToReplaceReport(CaseScreen& screen) {
-  return screen.World.Boxes.Show(
+  return screen.System.Boxes.Show(
              BoxStyle::Warning, BoxButtons::YesNo,
              Join("SAVING THIS REPORT: You are already having a file of ", screen.Text1(NameBox).Text, ".",
                   CRLF, "Would you like to replace the existing file?")) == Answer::Yes;
@@ -84,9 +84,9 @@ std::string ShownText(const CaseScreen& screen) {
 
 /// Whether the user lets the file of that name be replaced.
 bool AskToReplaceResults(CaseScreen& screen, const std::string& name) {
-  return screen.World.Boxes.Show(BoxStyle::Warning, BoxButtons::YesNoCancel,
-                                 Join("File with the name ", name, " already exists in the folder.", CRLF,
-                                      "Would you like to replace the existing file?")) == Answer::Yes;
+  return screen.System.Boxes.Show(BoxStyle::Warning, BoxButtons::YesNoCancel,
+                                  Join("File with the name ", name, " already exists in the folder.", CRLF,
+                                       "Would you like to replace the existing file?")) == Answer::Yes;
 }
 
 /// Saves what is shown under a path of the user's choice. A link that the user chose is followed: he means
@@ -101,10 +101,10 @@ void SaveShownText(CaseScreen& screen, const std::string& path) {
 
   const std::string text = ShownText(screen);
   if (text.empty()) {
-    screen.World.Boxes.Tell(BoxStyle::Warning, nothingToSave);
+    screen.System.Boxes.Inform(BoxStyle::Warning, nothingToSave);
     return;
   }
-  WriteSafely(screen.World.Places, exists ? FollowLinks(path) : path,
+  WriteSafely(screen.System.Places, exists ? FollowLinks(path) : path,
               Join(screen.Label2.Caption, CRLF, text, CRLF), exists ? Replace::Agreed : Replace::Nothing);
   EndSave(screen, path);
 }
@@ -139,7 +139,7 @@ void SaveFullReportFile(CaseScreen& screen, const std::string& report) {
   const std::string& deceased = screen.Text1(NameBox).Text;
   const std::string name = Join(LowerCase(deceased), ".txt");
   const std::string path = ReportPath(screen, name);
-  Folders& places = screen.World.Places;
+  Folders& places = screen.System.Places;
   try {
     if (!IsFileName(name)) throw FileFailure(PathFileAccess, "this is no file name");
     try {
@@ -153,16 +153,16 @@ void SaveFullReportFile(CaseScreen& screen, const std::string& report) {
     return EndSave(screen, path, failure.Reason);
   }
   EndSave(screen, path);
-  screen.World.Boxes.Tell(BoxStyle::Information, Join("Results of ", deceased, " saved successfully."));
+  screen.System.Boxes.Inform(BoxStyle::Information, Join("Results of ", deceased, " saved successfully."));
 }
 
 void SaveResults(CaseScreen& screen) {
   if (screen.Text3.Text.Get().empty() && screen.Text2.Text.Get().empty()) {
-    screen.World.Boxes.Tell(BoxStyle::Warning, nothingToSave);
+    screen.System.Boxes.Inform(BoxStyle::Warning, nothingToSave);
     return;
   }
   const std::optional<std::string> path =
-      screen.World.Dialog.AskPath(screen.Text1(NameBox).Text, "All Text Files (*.txt)|*.txt");
+      screen.System.Dialog.AskPath(screen.Text1(NameBox).Text, "All Text Files (*.txt)|*.txt");
   if (!path) return;
   try {
     SaveShownText(screen, *path);

@@ -86,7 +86,7 @@ bool Start(CaseRecord& c, CaseScreen& screen) {
   return false;
 }
 
-std::string Footer(CaseScreen& screen) { return Join(GeneratedBy(screen.World.Time.Now()), CRLF, CRLF); }
+std::string Footer(CaseScreen& screen) { return Join(GeneratedBy(screen.System.Time.Now()), CRLF, CRLF); }
 
 /// Every kind has its section; a spouse whom the deceased cannot have has a bare heading.
 void RunAllSections(CaseRecord& c, CaseScreen& screen) {

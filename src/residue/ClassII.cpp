@@ -57,7 +57,7 @@ void ExplainClassII(CaseScreen& screen) {
   screen.Text2.Text = text;
   screen.Label2.Caption = "CLASS II RESIDUARY (ASABA')";
   screen.Label3.Caption = "0(0/1)";
-  screen.World.Boxes.Tell(BoxStyle::Information, text);
+  screen.System.Boxes.Inform(BoxStyle::Information, text);
 }
 
 }  // namespace qismora

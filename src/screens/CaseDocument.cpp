@@ -42,8 +42,7 @@ std::string SentenceOf(const std::vector<CaseLine>& unknown) {
 
 }  // namespace
 
-CaseDocument::CaseDocument(CaseStudy& form, Outside& outside)
-    : form_(form), outside_(outside), kept_(Texts()) {
+CaseDocument::CaseDocument(CaseStudy& form, Ports& ports) : form_(form), ports_(ports), kept_(Texts()) {
   const auto review = [this] { Review(); };
   for (int i = 0; i < form.Text1.Size; ++i) form.Text1(i).Text.WhenChanged(review);
   for (int i = 0; i < form.Check1.Size; ++i) form.Check1(i).Value.WhenChanged(review);
@@ -78,17 +77,17 @@ void CaseDocument::New() {
 }
 
 void CaseDocument::Open() {
-  GuardedEvent(outside_.Boxes, [&] {
-    if (const auto path = outside_.Dialog.AskCaseToOpen(Folder())) OpenFile(*path);
+  GuardedEvent(ports_.Boxes, [&] {
+    if (const auto path = ports_.Dialog.AskCaseToOpen(Folder())) OpenFile(*path);
   });
 }
 
 // The file is read before the question about the case on the screen: for a damaged one nothing is left.
 bool CaseDocument::OpenFile(const std::string& path) {
   bool opened = false;
-  GuardedEvent(outside_.Boxes, [&] {
+  GuardedEvent(ports_.Boxes, [&] {
     const auto refuse = [&](const std::string& reason) {
-      outside_.Boxes.Tell(BoxStyle::Warning, Join(FileName(path), " was not opened.", CRLF, CRLF, reason));
+      ports_.Boxes.Inform(BoxStyle::Warning, Join(FileName(path), " was not opened.", CRLF, CRLF, reason));
     };
     CaseFileReading reading;
     try {
@@ -103,32 +102,32 @@ bool CaseDocument::OpenFile(const std::string& path) {
     Start(reading.Case, path);
     Remember(path, true);
     opened = true;
-    if (incomplete_) outside_.Boxes.Tell(BoxStyle::Information, SentenceOf(reading.Unknown));
+    if (incomplete_) ports_.Boxes.Inform(BoxStyle::Information, SentenceOf(reading.Unknown));
   });
   return opened;
 }
 
 void CaseDocument::Save() {
-  GuardedEvent(outside_.Boxes, [&] { SaveOrAsk(); });
+  GuardedEvent(ports_.Boxes, [&] { SaveOrAsk(); });
 }
 
 void CaseDocument::SaveAs() {
-  GuardedEvent(outside_.Boxes, [&] { AskAndSave(); });
+  GuardedEvent(ports_.Boxes, [&] { AskAndSave(); });
 }
 
 bool CaseDocument::SaveOrAsk() { return path_.empty() || incomplete_ ? AskAndSave() : SaveTo(path_); }
 
 bool CaseDocument::AskAndSave() {
-  const auto path = outside_.Dialog.AskCaseToSave(SuggestedPath());
+  const auto path = ports_.Dialog.AskCaseToSave(SuggestedPath());
   return path && SaveTo(*path);
 }
 
 bool CaseDocument::SaveTo(const std::string& path) {
   const CaseTexts texts = Texts();
   try {
-    SaveCaseFile(outside_.Places, path, texts);
+    SaveCaseFile(ports_.Places, path, texts);
   } catch (const Failure& failure) {
-    outside_.Boxes.Tell(BoxStyle::Critical,
+    ports_.Boxes.Inform(BoxStyle::Critical,
                         Join(FileName(path), " could not be saved.", CRLF, CRLF, ReasonOf(failure)));
     return false;
   }
@@ -143,11 +142,11 @@ bool CaseDocument::SaveTo(const std::string& path) {
 bool CaseDocument::MayLeave() {
   if (!IsChanged()) return true;
   bool leave = false;
-  GuardedEvent(outside_.Boxes, [&] {
+  GuardedEvent(ports_.Boxes, [&] {
     const std::string what = path_.empty() ? "This case has not been saved."
                                            : Join(FileName(path_), " has changed since it was saved.");
-    const Answer answer = outside_.Boxes.Show(BoxStyle::Warning, BoxButtons::SaveDiscardCancel,
-                                              Join(what, CRLF, "Save it before it is closed?"));
+    const Answer answer = ports_.Boxes.Show(BoxStyle::Warning, BoxButtons::SaveDiscardCancel,
+                                            Join(what, CRLF, "Save it before it is closed?"));
     leave = answer == Answer::Discard || (answer == Answer::Save && SaveOrAsk());
     if (answer == Answer::Discard) kept_ = Texts();  // nobody asks about it again
     Review();
@@ -158,7 +157,7 @@ bool CaseDocument::MayLeave() {
 std::vector<std::string> CaseDocument::Recent() const {
   std::vector<std::string> paths;
   for (int i = 1; i <= MostRecent; ++i) {
-    std::string path = outside_.Store.Read(ApplicationTitle, section, Key(i));
+    std::string path = ports_.Store.Read(ApplicationTitle, section, Key(i));
     if (!path.empty()) paths.push_back(std::move(path));
   }
   return paths;
@@ -172,15 +171,15 @@ void CaseDocument::Remember(const std::string& path, bool exists) {
   paths.resize(MostRecent);
   for (int i = 1; i <= MostRecent; ++i) {
     const std::string& value = paths[static_cast<std::size_t>(i - 1)];
-    if (outside_.Store.Read(ApplicationTitle, section, Key(i)) == value) continue;
-    outside_.Store.Write(ApplicationTitle, section, Key(i), value);
+    if (ports_.Store.Read(ApplicationTitle, section, Key(i)) == value) continue;
+    ports_.Store.Write(ApplicationTitle, section, Key(i), value);
   }
 }
 
 std::string CaseDocument::Folder() const {
   const std::vector<std::string> recent = Recent();
   const std::string& known = !path_.empty() || recent.empty() ? path_ : recent.front();
-  return known.empty() ? outside_.Places.Reports() : known.substr(0, known.rfind('/'));
+  return known.empty() ? ports_.Places.Reports() : known.substr(0, known.rfind('/'));
 }
 
 std::string CaseDocument::SuggestedPath() const {

@@ -13,7 +13,7 @@ namespace qismora {
 class CaseDocument {
  public:
   /// The example that a new screen shows counts as kept: it is no work of the user.
-  CaseDocument(CaseStudy& form, Outside& outside);
+  CaseDocument(CaseStudy& form, Ports& ports);
 
   // The commands of the menu.
   /// Empties everything, the estate of the example too.
@@ -52,7 +52,7 @@ class CaseDocument {
   std::string SuggestedPath() const;
 
   CaseStudy& form_;
-  Outside& outside_;
+  Ports& ports_;
   std::string path_;
   CaseTexts kept_;
   /// Lines of the file are not known here; saving in its place would lose them.

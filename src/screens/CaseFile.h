@@ -5,7 +5,7 @@
 #include <string_view>
 #include <vector>
 
-#include "base/Outside.h"
+#include "base/Ports.h"
 #include "screens/CaseTexts.h"
 
 namespace qismora {

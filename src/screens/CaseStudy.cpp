@@ -63,7 +63,7 @@ constexpr int brightestColour = 0xFFFFFF;
 // An abandoned command must not leave the flag of a running report.
 template <class Body>
 void CaseStudy::Event(Body body) {
-  GuardedEvent(World.Boxes, [&] {
+  GuardedEvent(System.Boxes, [&] {
     const bool loaded = record_.CaseLoaded;
     try {
       body();
@@ -98,8 +98,8 @@ void CaseStudy::Command(AnswerOf what, const std::string& name, Body body) {
   });
 }
 
-CaseStudy::CaseStudy(CaseRecord& record, Outside& outside, int savedLanguage)
-    : CaseScreen(outside), record_(record) {
+CaseStudy::CaseStudy(CaseRecord& record, Ports& ports, int savedLanguage)
+    : CaseScreen(ports), record_(record) {
   static_cast<ScreenLayer&>(record) = ScreenLayer{};
 
   for (const Caption& caption : Captions()) Label1(caption.Index).Caption = std::string(caption.Words);
@@ -241,7 +241,7 @@ void CaseStudy::ChooseView(int index) {
     Label4(i).BorderStyle = i == index ? 1 : 0;
     Label4(i).ForeColor = i == index ? DarkRed : ButtonTextColour;
   }
-  LblPressed.Write(World.Store, Join(index));
+  LblPressed.Write(System.Store, Join(index));
 }
 
 void CaseStudy::Label4_Click(int index) {
@@ -264,7 +264,7 @@ void CaseStudy::Label1_DblClick(int index) {
     }
     RunHeir(index);
     StatusBar1.Caption = Join("Share of ", Label1(index).Caption);
-    World.Boxes.Tell(BoxStyle::Information, "Current data executed successfully.");
+    System.Boxes.Inform(BoxStyle::Information, "Current data executed successfully.");
     Frame5.Visible = false;
   });
 }
@@ -385,14 +385,15 @@ void CaseStudy::TestValues_Click() {
 
 void CaseStudy::Label13_DblClick() {
   Event([&] {
-    World.Boxes.Tell(BoxStyle::Information, Join("Number of executions of this program = ", Label13.Caption));
+    System.Boxes.Inform(BoxStyle::Information,
+                        Join("Number of executions of this program = ", Label13.Caption));
   });
 }
 
 void CaseStudy::Label6_Click() {
   Event([&] {
     if (HideCatalogue) HideCatalogue();
-    World.Boxes.Tell(BoxStyle::Information, "YOU ARE WORKING ON THIS PROGRAM");
+    System.Boxes.Inform(BoxStyle::Information, "YOU ARE WORKING ON THIS PROGRAM");
   });
 }
 void CaseStudy::Image38_Click() { Label6_Click(); }

@@ -1,7 +1,7 @@
 #pragma once
 
 #include "base/Failure.h"
-#include "base/Outside.h"
+#include "base/Ports.h"
 #include "base/Text.h"
 
 namespace qismora {
@@ -14,7 +14,7 @@ void GuardedEvent(MessageBoxes& boxes, Body body) {
     try {
       body();
     } catch (const Failure& failure) {
-      boxes.Tell(BoxStyle::Plain, Join(failure.Number, CRLF, failure.Description()));
+      boxes.Inform(BoxStyle::Plain, Join(failure.Number, CRLF, failure.Description()));
     }
   } catch (const Unanswered&) {
     return;

@@ -72,7 +72,7 @@ void Call(const std::function<void()>& way) {
 
 template <class Body>
 void InhMain::Event(Body body) {
-  GuardedEvent(outside_.Boxes, body);
+  GuardedEvent(ports_.Boxes, body);
 }
 
 /// The animation is only decoration: its failures are not worth a message box.
@@ -85,8 +85,8 @@ void InhMain::Decoration(Body body) {
   }
 }
 
-InhMain::InhMain(CaseRecord& record, ShellRecord& shell, ShellOutside& outside)
-    : record_(record), shell_(shell), outside_(outside), videos_(outside) {
+InhMain::InhMain(CaseRecord& record, ShellRecord& shell, ShellPorts& ports)
+    : record_(record), shell_(shell), ports_(ports), videos_(ports) {
   Frame1.Caption = "INHERITANCE BY MUSLIM LAW";
   Label1.Caption = "INHERITANCE BY MUSLIM LAW";
   for (int i = 0; i < Option1.Size; ++i) Option1(i).Caption = entries[i].Caption;
@@ -97,7 +97,7 @@ InhMain::InhMain(CaseRecord& record, ShellRecord& shell, ShellOutside& outside)
   Label6.Caption = "Advised to run this program on 800x600 screen resolution";
   StatusBar1.Caption = restingPanel;
   Image3(0).Visible = true;
-  outside_.MediaPlayer1.EndOfPlay = [this] { MediaPlayer1_EndOfPlay(); };
+  ports_.MediaPlayer1.EndOfPlay = [this] { MediaPlayer1_EndOfPlay(); };
   try {
     Form_Load();
   } catch (const Failure&) {
@@ -106,10 +106,10 @@ InhMain::InhMain(CaseRecord& record, ShellRecord& shell, ShellOutside& outside)
 }
 
 void InhMain::Form_Load() {
-  record_.ExecCount = TimesExecuted.Read(outside_.Store);
-  shell_.SavedLanguage = ToInteger(LblPressed.Read(outside_.Store));
-  ShowPicture(static_cast<int>(LowerImage.Read(outside_.Store).Value()));
-  StartSession(shell_, outside_);
+  record_.ExecCount = TimesExecuted.Read(ports_.Store);
+  shell_.SavedLanguage = ToInteger(LblPressed.Read(ports_.Store));
+  ShowPicture(static_cast<int>(LowerImage.Read(ports_.Store).Value()));
+  StartSession(shell_, ports_);
   Label22.Caption = Join(shell_.SessionNumber);
   videos_.PlaySecondVideo();
 }
@@ -136,7 +136,7 @@ void InhMain::RunEntry(int index) {
       Call(ShowQurLaws);
       return Call(FocusText5OfQurLaws);
     case Leads::ToDocument:
-      return OpenDocument(entry.Document, outside_);
+      return OpenDocument(entry.Document, ports_);
     case Leads::ToCaseStudy:
       return Call(ShowCaseStudy);
     case Leads::Nowhere:
@@ -175,7 +175,7 @@ void InhMain::ShowPicture(int clicked) {
   Image3(clicked).Visible = false;  // a number that names no picture fails here and is not kept
   const int next = (clicked + 1) % Image3.Size;
   for (int i = 0; i < Image3.Size; ++i) Image3(i).Visible = i == next;
-  LowerImage.Write(outside_.Store, Join(clicked));
+  LowerImage.Write(ports_.Store, Join(clicked));
 }
 
 void InhMain::Label22_Click() {
@@ -198,7 +198,7 @@ void InhMain::Form_QueryUnload() { RunExit(); }
 
 void InhMain::RunExit() {
   if (MayEnd && !MayEnd()) return;
-  Event([&] { Inhp(shell_, record_, outside_); });
+  Event([&] { Inhp(shell_, record_, ports_); });
 }
 
 void InhMain::MediaPlayer1_EndOfPlay() {

@@ -3,7 +3,7 @@
 #include <functional>
 
 #include "base/Array.h"
-#include "base/Outside.h"
+#include "base/Ports.h"
 #include "case/CaseRecord.h"
 #include "case/Controls.h"
 #include "screens/CentredFrame.h"
@@ -18,7 +18,7 @@ class InhMain : public CentredFrame {
  public:
   /// Reads the settings, starts the session and the animation. A failure ends this silently at its step; the
   /// form opens all the same.
-  InhMain(CaseRecord& record, ShellRecord& shell, ShellOutside& outside);
+  InhMain(CaseRecord& record, ShellRecord& shell, ShellPorts& ports);
 
   // Called to open the other forms.
   std::function<void()> ShowQurLaws;
@@ -86,7 +86,7 @@ class InhMain : public CentredFrame {
 
   CaseRecord& record_;
   ShellRecord& shell_;
-  ShellOutside& outside_;
+  ShellPorts& ports_;
   Videos videos_;
 };
 

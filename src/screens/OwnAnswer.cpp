@@ -74,9 +74,9 @@ struct OwnCase {
   NoDialog Dialog;
   NoSettings Store;
   NoFolders Places;
-  Outside World{Time, Boxes, Dialog, Store, Places};
+  Ports System{Time, Boxes, Dialog, Store, Places};
   CaseRecord Record;
-  CaseScreen Screen{World};
+  CaseScreen Screen{System};
 };
 
 /// Where the record has the count of a kind, its fixed share and the residue of each head.

@@ -3,7 +3,7 @@
 #include <string>
 #include <vector>
 
-#include "base/Outside.h"
+#include "base/Ports.h"
 #include "base/Property.h"
 
 namespace qismora {

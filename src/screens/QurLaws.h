@@ -2,7 +2,7 @@
 
 #include <functional>
 
-#include "base/Outside.h"
+#include "base/Ports.h"
 #include "case/Controls.h"
 #include "screens/CentredFrame.h"
 #include "shell/ShellRecord.h"

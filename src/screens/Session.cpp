@@ -18,7 +18,7 @@ Grid::Line Cells(const SessionRow& row) { return {Join(row.Number), row.Start, r
 
 }  // namespace
 
-Session::Session(ShellOutside& outside) : outside_(outside) {
+Session::Session(ShellPorts& ports) : ports_(ports) {
   Label1.Caption = "Logged Sessions of Qismora";
   Label3.Caption = "TOTAL TIME";
   Label4.Caption = "Selected...";
@@ -26,13 +26,13 @@ Session::Session(ShellOutside& outside) : outside_(outside) {
 }
 
 void Session::Open() {
-  GuardedEvent(outside_.Boxes, [&] {
+  GuardedEvent(ports_.Boxes, [&] {
     try {
       TotalSeconds = Long(0);
       FillGrid();
       TotalTime();
     } catch (const Failure& failure) {
-      outside_.Boxes.Tell(BoxStyle::Plain, Join("Error ", failure.Number, CRLF, failure.Description()));
+      ports_.Boxes.Inform(BoxStyle::Plain, Join("Error ", failure.Number, CRLF, failure.Description()));
     }
   });
 }
@@ -40,7 +40,7 @@ void Session::Open() {
 // The newest session comes first, and the last row is empty. Until a row is selected, the selected line shows
 // the number of the newest session with the times of the oldest.
 void Session::FillGrid() {
-  SessionTable table = ReadSessionLog(outside_);
+  SessionTable table = ReadSessionLog(ports_);
   TotalSeconds = table.TotalSeconds;
   Grid& grid = MSFlexGrid1;
   grid.Rows.assign(static_cast<std::size_t>(table.Count) + 3, {});
@@ -63,7 +63,7 @@ void Session::FillGrid() {
 void Session::TotalTime() { Label3.Caption = TotalTimeText(TotalSeconds); }
 
 void Session::MSFlexGrid1_Click(int row, int col) {
-  GuardedEvent(outside_.Boxes, [&] {
+  GuardedEvent(ports_.Boxes, [&] {
     if (row < 0 || row >= static_cast<int>(MSFlexGrid1.Rows.size())) throw Failure(SubscriptOutOfRange);
     MSFlexGrid1.Row = row;
     MSFlexGrid1.Col = col;

@@ -7,7 +7,7 @@
 
 #include "base/Array.h"
 #include "base/Numbers.h"
-#include "base/Outside.h"
+#include "base/Ports.h"
 #include "case/Controls.h"
 
 namespace qismora {
@@ -27,7 +27,7 @@ struct Grid {
 /// The session log as a table, without its window.
 class Session {
  public:
-  explicit Session(ShellOutside& outside);
+  explicit Session(ShellPorts& ports);
 
   /// Reads the log and fills the form, each time it is opened.
   void Open();
@@ -52,7 +52,7 @@ class Session {
   void FillGrid();
   void TotalTime();
 
-  ShellOutside& outside_;
+  ShellPorts& ports_;
 };
 
 /// The heading of a column of the grid, and the text that its width is measured by. All are centred.

@@ -7,11 +7,11 @@
 
 namespace qismora {
 
-Zummy::Zummy(CaseRecord& record, ShellRecord& shell, ShellOutside& outside)
-    : record_(record), shell_(shell), outside_(outside) {}
+Zummy::Zummy(CaseRecord& record, ShellRecord& shell, ShellPorts& ports)
+    : record_(record), shell_(shell), ports_(ports) {}
 
 void Zummy::Open(int document) {
-  GuardedEvent(outside_.Boxes, [&] { OpenDocument(document, outside_); });
+  GuardedEvent(ports_.Boxes, [&] { OpenDocument(document, ports_); });
 }
 
 void Zummy::HistBack_Click() { Open(1); }
@@ -25,11 +25,11 @@ void Zummy::RelationsEU_Click() { Open(6); }
 
 // Works on the values of the last calculation, and shows nothing.
 void Zummy::cmdLCM_Click() {
-  GuardedEvent(outside_.Boxes, [&] { FindLCM(record_); });
+  GuardedEvent(ports_.Boxes, [&] { FindLCM(record_); });
 }
 
 void Zummy::Back_Click() {
-  GuardedEvent(outside_.Boxes, [&] {
+  GuardedEvent(ports_.Boxes, [&] {
     if (ShowMainMenu) ShowMainMenu();
     if (Hide) Hide();
   });
@@ -37,7 +37,7 @@ void Zummy::Back_Click() {
 
 void Zummy::Form_QueryUnload() {
   if (MayEnd && !MayEnd()) return;
-  GuardedEvent(outside_.Boxes, [&] { Inhp(shell_, record_, outside_); });
+  GuardedEvent(ports_.Boxes, [&] { Inhp(shell_, record_, ports_); });
 }
 
 }  // namespace qismora

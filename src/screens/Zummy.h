@@ -3,7 +3,7 @@
 #include <array>
 #include <functional>
 
-#include "base/Outside.h"
+#include "base/Ports.h"
 #include "case/CaseRecord.h"
 #include "shell/ShellRecord.h"
 
@@ -13,7 +13,7 @@ namespace qismora {
 /// button ends the session.
 class Zummy {
  public:
-  Zummy(CaseRecord& record, ShellRecord& shell, ShellOutside& outside);
+  Zummy(CaseRecord& record, ShellRecord& shell, ShellPorts& ports);
 
   std::function<void()> ShowMainMenu;
   std::function<void()> Hide;
@@ -38,7 +38,7 @@ class Zummy {
 
   CaseRecord& record_;
   ShellRecord& shell_;
-  ShellOutside& outside_;
+  ShellPorts& ports_;
 };
 
 inline constexpr const char* ZummyTitle = "PDF Documents etc. Resources";

@@ -3,7 +3,7 @@
 #include <string>
 
 #include "base/Numbers.h"
-#include "base/Outside.h"
+#include "base/Ports.h"
 
 namespace qismora {
 

@@ -8,23 +8,23 @@
 
 namespace qismora {
 
-void OpenDocument(int number, ShellOutside& world) {
+void OpenDocument(int number, ShellPorts& ports) {
   const auto* document = std::ranges::find(Documents, number, &Document::Number);
   if (document == Documents.end()) throw Failure(SubscriptOutOfRange);
-  const std::string path = Join(world.Places.Documents(), "/", document->FileName);
+  const std::string path = Join(ports.Places.Documents(), "/", document->FileName);
   if (!FileExists(path)) {
-    world.Boxes.Tell(BoxStyle::Warning,
-                     Join("The document \"", document->Title, "\" is missing. It should lie at", CRLF, path));
+    ports.Boxes.Inform(BoxStyle::Warning, Join("The document \"", document->Title,
+                                               "\" is missing. It should lie at", CRLF, path));
     return;
   }
-  if (!world.Viewer.Open(path)) {
-    world.Boxes.Tell(BoxStyle::Warning, Join("There is no PDF viewer on this computer. The document \"",
-                                             document->Title, "\" lies at", CRLF, path));
+  if (!ports.Viewer.Open(path)) {
+    ports.Boxes.Inform(BoxStyle::Warning, Join("There is no PDF viewer on this computer. The document \"",
+                                               document->Title, "\" lies at", CRLF, path));
     return;
   }
-  world.Boxes.Tell(BoxStyle::Information,
-                   Join("The document \"", document->Title,
-                        "\" opens in your PDF viewer. If none comes up, you find it at", CRLF, path));
+  ports.Boxes.Inform(BoxStyle::Information,
+                     Join("The document \"", document->Title,
+                          "\" opens in your PDF viewer. If none comes up, you find it at", CRLF, path));
 }
 
 }  // namespace qismora

@@ -2,7 +2,7 @@
 
 #include <array>
 
-#include "base/Outside.h"
+#include "base/Ports.h"
 
 namespace qismora {
 
@@ -25,6 +25,6 @@ inline constexpr std::array<Document, 7> Documents = {{
 
 /// Opens a document in the platform's viewer. It cannot be known whether a viewer appears, so a message box
 /// shows the path in any case. A number without a document is the subscript failure.
-void OpenDocument(int number, ShellOutside& world);
+void OpenDocument(int number, ShellPorts& ports);
 
 }  // namespace qismora

@@ -25,7 +25,7 @@ constexpr std::size_t lengthRoom = 8;
 
 constexpr std::size_t blockLength = 1 << 16;
 
-std::string LogPath(ShellOutside& world) { return Join(world.Places.Log(), "/popuQism.ppl"); }
+std::string LogPath(ShellPorts& ports) { return Join(ports.Places.Log(), "/popuQism.ppl"); }
 
 void PrintZone(std::string& line, std::string_view field) {
   line.append((zone - line.size() % zone) % zone, ' ').append(field);
@@ -64,8 +64,8 @@ bool IsNumberTorn(std::string_view line, bool closed) {
 /// is no session. The whole log is read at every start, so it is read in blocks, and no more than a block of
 /// it is kept at a time.
 template <class Reader>
-void ReadLines(ShellOutside& world, Reader reader) {
-  InputFile file(LogPath(world));
+void ReadLines(ShellPorts& ports, Reader reader) {
+  InputFile file(LogPath(ports));
   std::string text;
   for (bool more = true; more;) {
     const std::size_t kept = text.size();
@@ -93,17 +93,17 @@ std::chrono::sys_seconds TimePoint(const DateTime& when) {
          std::chrono::seconds(when.Second);
 }
 
-void LogSession(const ShellRecord& shell, const CaseRecord& c, ShellOutside& world) {
-  TimesExecuted.Write(world.Store, Join(c.ExecCount));
-  const DateTime now = world.Time.Now();
+void LogSession(const ShellRecord& shell, const CaseRecord& c, ShellPorts& ports) {
+  TimesExecuted.Write(ports.Store, Join(c.ExecCount));
+  const DateTime now = ports.Time.Now();
   const Long seconds = SecondsBetween(shell.SessionStart, now);
-  AppendLine(LogPath(world), SessionLine(shell.SessionNumber, shell.SessionStart, now, seconds));
+  AppendLine(LogPath(ports), SessionLine(shell.SessionNumber, shell.SessionStart, now, seconds));
 }
 
 /// The program ends whether or not the message was read.
-void ReportOpenLog(ShellOutside& world) {
+void ReportOpenLog(ShellPorts& ports) {
   try {
-    world.Boxes.Tell(
+    ports.Boxes.Inform(
         BoxStyle::Critical,
         Join("Unexpected error has occured within the", CRLF, "Program. Contact your Software vendor.", CRLF,
              "Continued use of this package may lead", CRLF, "to some other complications."));
@@ -125,10 +125,10 @@ Long Remainder(Long number, int divisor) { return Long(number.Value() % divisor)
 
 }  // namespace
 
-void StartSession(ShellRecord& shell, ShellOutside& world) {
-  shell.SessionStart = world.Time.Now();
+void StartSession(ShellRecord& shell, ShellPorts& ports) {
+  shell.SessionStart = ports.Time.Now();
   try {
-    ReadLines(world, [&](std::string_view line, bool closed) {
+    ReadLines(ports, [&](std::string_view line, bool closed) {
       // An incomplete number was the next one when it was written.
       shell.SessionNumber = IsNumberTorn(line, closed) ? shell.SessionNumber + Integer(1) : TakeNumber(line);
     });
@@ -138,15 +138,15 @@ void StartSession(ShellRecord& shell, ShellOutside& world) {
   shell.SessionNumber += Integer(1);
 }
 
-void Inhp(ShellRecord& shell, const CaseRecord& c, ShellOutside& world) {
+void Inhp(ShellRecord& shell, const CaseRecord& c, ShellPorts& ports) {
   if (shell.Ended) return;
   shell.Ended = true;
   try {
-    LogSession(shell, c, world);
+    LogSession(shell, c, ports);
   } catch (const Failure& failure) {
-    if (failure.Number == FileAlreadyOpen) ReportOpenLog(world);
+    if (failure.Number == FileAlreadyOpen) ReportOpenLog(ports);
   }
-  world.Running.End();
+  ports.Running.End();
 }
 
 std::string SessionLine(Integer number, const DateTime& start, const DateTime& end, Long seconds) {
@@ -161,9 +161,9 @@ Long SecondsBetween(const DateTime& start, const DateTime& end) {
   return Long((TimePoint(end) - TimePoint(start)).count());
 }
 
-SessionTable ReadSessionLog(ShellOutside& world) {
+SessionTable ReadSessionLog(ShellPorts& ports) {
   SessionTable table;
-  ReadLines(world, [&](std::string_view line, bool) {
+  ReadLines(ports, [&](std::string_view line, bool) {
     if (++table.Count > MostSessions) throw Failure(SubscriptOutOfRange);
     SessionRow row;
     row.Number = TakeNumber(line);

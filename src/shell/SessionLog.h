@@ -5,7 +5,7 @@
 
 #include "base/Array.h"
 #include "base/Numbers.h"
-#include "base/Outside.h"
+#include "base/Ports.h"
 #include "case/CaseRecord.h"
 #include "shell/ShellRecord.h"
 
@@ -13,11 +13,11 @@ namespace qismora {
 
 /// Notes the start of the session and takes its number from the log: the number of the last line plus 1.
 /// Where the log cannot be read, the number counts from what was read up to there.
-void StartSession(ShellRecord& shell, ShellOutside& world);
+void StartSession(ShellRecord& shell, ShellPorts& ports);
 
 /// The exit routine: saves how many times a case was loaded, adds the session's line to the log and ends the
 /// program. Only its first call does anything. Where the line cannot be written, it is lost.
-void Inhp(ShellRecord& shell, const CaseRecord& c, ShellOutside& world);
+void Inhp(ShellRecord& shell, const CaseRecord& c, ShellPorts& ports);
 
 /// A line of the log without its line break.
 std::string SessionLine(Integer number, const DateTime& start, const DateTime& end, Long seconds);
@@ -42,7 +42,7 @@ struct SessionTable {
 
 /// Reads the log by the fixed positions of its lines. More lines than the tables hold are the subscript
 /// failure, a missing file is the file failure.
-SessionTable ReadSessionLog(ShellOutside& world);
+SessionTable ReadSessionLog(ShellPorts& ports);
 inline constexpr int MostSessions = 5000;
 
 /// The total of all lengths in days, hours, minutes and seconds.

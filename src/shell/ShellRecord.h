@@ -1,7 +1,7 @@
 #pragma once
 
 #include "base/Numbers.h"
-#include "base/Outside.h"
+#include "base/Ports.h"
 
 namespace qismora {
 

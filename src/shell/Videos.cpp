@@ -10,7 +10,7 @@ void Videos::PlayFirstVideo() { Play("brindhaven.avi", FirstVideoLength); }
 void Videos::PlaySecondVideo() { Play("brindhaven1.avi", SecondVideoLength); }
 
 void Videos::Play(const char* fileName, int expectedLength) {
-  CurrentVideoPath = Join(world_.Places.Application(), "/", fileName);
+  CurrentVideoPath = Join(ports_.Places.Application(), "/", fileName);
   CurrentVideoLength = FileLength(CurrentVideoPath);
   if (CurrentVideoLength == expectedLength) Start();
 }
@@ -28,8 +28,8 @@ void Videos::PlayAgain() {
 }
 
 void Videos::Start() {
-  world_.MediaPlayer1.SetFile(CurrentVideoPath);
-  world_.MediaPlayer1.Play();
+  ports_.MediaPlayer1.SetFile(CurrentVideoPath);
+  ports_.MediaPlayer1.Play();
 }
 
 }  // namespace qismora

@@ -3,7 +3,7 @@
 #include <string>
 
 #include "base/Numbers.h"
-#include "base/Outside.h"
+#include "base/Ports.h"
 
 namespace qismora {
 
@@ -11,7 +11,7 @@ namespace qismora {
 /// any other length is never played. It decorates the screen: nothing depends on it.
 class Videos {
  public:
-  explicit Videos(ShellOutside& world) : world_(world) {}
+  explicit Videos(ShellPorts& ports) : ports_(ports) {}
 
   /// A missing file is the file failure; CurrentVideoPath has the path already.
   void PlayFirstVideo();
@@ -29,7 +29,7 @@ class Videos {
   void Play(const char* fileName, int expectedLength);
   void Start();
 
-  ShellOutside& world_;
+  ShellPorts& ports_;
 };
 
 inline constexpr int FirstVideoLength = 1069056;

@@ -177,7 +177,7 @@ TEST_F(AnswerStateTest, QuestionAndWarningDoNotRefuse) {
   case_.Type(2, "1");
   for (const Answer answer : {Answer::Yes, Answer::No}) {
     case_.Type(WillsBox, "500");
-    case_.World.Boxes.Answers = {answer};
+    case_.Fakes.Boxes.Answers = {answer};
     Study().Resid_Click();
     EXPECT_EQ(Words(), "Answer of Residuaries: final.");
   }
@@ -189,14 +189,14 @@ TEST_F(AnswerStateTest, QuestionAndWarningDoNotRefuse) {
   EXPECT_EQ(Words(), "Answer of Residuaries: the net estate is below 0, nothing is left to divide.");
 
   case_.Type(WillsBox, "900");
-  case_.World.Boxes.QuestionsEnd = true;
+  case_.Fakes.Boxes.QuestionsEnd = true;
   Study().Resid_Click();
   EXPECT_EQ(Words(), "Refused: these figures are not your case. The command was not finished.");
 }
 
 TEST_F(AnswerStateTest, TheFullReportAppliesWhatIsToBeApplied) {
   const TemporaryFolder folder;
-  case_.World.Folders.Folder = folder.Path();
+  case_.Fakes.Folders.Folder = folder.Path();
   TypeAul();
   Study().CreateSaveFullReport_Click();
   EXPECT_EQ(Words(), "Answer of Full Report: final.");
@@ -206,7 +206,7 @@ TEST_F(AnswerStateTest, TheFullReportAppliesWhatIsToBeApplied) {
 
   // Without a file to write, it ends behind its first step.
   case_.Type(1, "1");
-  case_.World.Folders.Folder = folder.File("missing");
+  case_.Fakes.Folders.Folder = folder.File("missing");
   Study().CreateSaveFullReport_Click();
   EXPECT_EQ(Standing(), AnswerStanding::ToAdjust);
 }

@@ -174,7 +174,7 @@ TEST(CaseFile, OpeningOneIsTypingIt) {
   EXPECT_EQ(played.Study->Text1(DebtsBox).Text.Get(), "7");
   EXPECT_EQ(played.Study->Check1(2).Value, 0);
   EXPECT_EQ(played.Study->Check1(4).Value, 1);
-  EXPECT_TRUE(played.World.Boxes.Shown.empty());
+  EXPECT_TRUE(played.Fakes.Boxes.Shown.empty());
 
   ScreenFixture other;
   TypeIntoScreen(ReadScreen(*played.Study, false), *other.Study);

@@ -116,7 +116,7 @@ Reading ReadText(const std::string& text) {
 struct User : testing::ScreenFixture {
   explicit User(const TypedCase& typed) {
     TypeIntoScreen(typed.Texts(), *Study);
-    World.Boxes.Answers.assign(1, typed.HeirsConsent ? Answer::Yes : Answer::No);
+    Fakes.Boxes.Answers.assign(1, typed.HeirsConsent ? Answer::Yes : Answer::No);
     Study->Resid_Click();
     if (Record.AulRaddState == NoAdjustment || WasTold("Overflow")) return;
     Divided = Study->Text3.Text;
@@ -125,7 +125,7 @@ struct User : testing::ScreenFixture {
   }
 
   bool WasTold(std::string_view words) const {
-    for (const auto& box : World.Boxes.Shown) {
+    for (const auto& box : Fakes.Boxes.Shown) {
       if (box.Text.find(words) != std::string::npos) return true;
     }
     return false;

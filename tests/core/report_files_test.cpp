@@ -18,11 +18,11 @@ using testing::TemporaryFolder;
 class ReportFiles : public ::testing::Test {
  protected:
   ReportFiles() {
-    Case.World.Folders.Folder = Folder.Path();
+    Case.Fakes.Folders.Folder = Folder.Path();
     Case.TypeEstate("24000");
     Case.Type(1, "1");
     Case.Type(2, "1");
-    Case.World.Ports.SaveEnded = [this](const SaveOutcome& outcome) { Outcomes.push_back(outcome); };
+    Case.Fakes.Ports.SaveEnded = [this](const SaveOutcome& outcome) { Outcomes.push_back(outcome); };
   }
 
   /// The last outcome, which is taken; its reason is empty where the file was saved.
@@ -50,13 +50,13 @@ class ReportFiles : public ::testing::Test {
 
 TEST_F(ReportFiles, ANameThatIsNoFileNameSavesNothingAndOverwritesNothing) {
   fs::create_directory(Folder.File("reports"));
-  Case.World.Folders.Folder = Folder.File("reports");
+  Case.Fakes.Folders.Folder = Folder.File("reports");
   for (const std::string& name : {std::string("../escaped"), std::string("a/b"), std::string("a\\b"),
                                   std::string("a\0b", 3), std::string(300, 'x')}) {
-    Case.World.Boxes.Shown.clear();
+    Case.Fakes.Boxes.Shown.clear();
     Case.Type(NameBox, name);
     Case.Study->CreateSaveFullReport_Click();
-    EXPECT_TRUE(Case.World.Boxes.Shown.empty()) << name;
+    EXPECT_TRUE(Case.Fakes.Boxes.Shown.empty()) << name;
     EXPECT_EQ(Names(), std::vector<std::string>{"reports"}) << name;
     ASSERT_EQ(std::distance(fs::directory_iterator(Folder.File("reports")), fs::directory_iterator()), 1)
         << name;
@@ -78,12 +78,12 @@ TEST_F(ReportFiles, AFolderWithoutPermissionKeepsTheEarlierReports) {
   Case.Study->CreateSaveFullReport_Click();
   const std::string earlier = ReadWholeFile(Folder.File("zayd.txt"));
   // Root may write everywhere, so the folder is one that nobody can write to.
-  Case.World.Folders.Folder = "/proc/self";
-  Case.World.Boxes.Shown.clear();
+  Case.Fakes.Folders.Folder = "/proc/self";
+  Case.Fakes.Boxes.Shown.clear();
   Case.Study->CreateSaveFullReport_Click();
-  EXPECT_TRUE(Case.World.Boxes.Shown.empty());
+  EXPECT_TRUE(Case.Fakes.Boxes.Shown.empty());
   EXPECT_FALSE(Case.Record.ReportToFile);
-  Case.World.Dialog.Paths = {"/proc/self/out.txt"};
+  Case.Fakes.Dialog.Paths = {"/proc/self/out.txt"};
   Case.Study->SaveResults_Click();
   EXPECT_EQ(ReadWholeFile(Folder.File("zayd.txt")), earlier);
 }
@@ -93,7 +93,7 @@ TEST_F(ReportFiles, AFullReportAsksBeforeItReplacesWhateverHasTheName) {
   std::ofstream(Folder.File("elsewhere")) << "not ours";
   fs::create_symlink(Folder.File("elsewhere"), Folder.File("zayd.txt"));
   for (const Answer answer : {Answer::No, Answer::Yes}) {
-    Case.World.Boxes.Answers = {answer};
+    Case.Fakes.Boxes.Answers = {answer};
     Case.Study->CreateSaveFullReport_Click();
     EXPECT_EQ(fs::is_symlink(Folder.File("zayd.txt")), answer == Answer::No);
     EXPECT_EQ(ReadWholeFile(Folder.File("elsewhere")), "not ours");
@@ -101,11 +101,11 @@ TEST_F(ReportFiles, AFullReportAsksBeforeItReplacesWhateverHasTheName) {
   fs::remove(Folder.File("zayd.txt"));
   fs::create_directory(Folder.File("zayd.txt"));
   Outcomes.clear();
-  Case.World.Boxes.Shown.clear();
-  Case.World.Boxes.Answers = {Answer::Yes};
+  Case.Fakes.Boxes.Shown.clear();
+  Case.Fakes.Boxes.Answers = {Answer::Yes};
   Case.Study->CreateSaveFullReport_Click();
-  ASSERT_EQ(Case.World.Boxes.Shown.size(), 1U);
-  EXPECT_EQ(Case.World.Boxes.Shown[0].Buttons, BoxButtons::YesNo);
+  ASSERT_EQ(Case.Fakes.Boxes.Shown.size(), 1U);
+  EXPECT_EQ(Case.Fakes.Boxes.Shown[0].Buttons, BoxButtons::YesNo);
   EXPECT_EQ(Outcome(), Ended("zayd.txt", "a folder has this name"));
 }
 
@@ -116,7 +116,7 @@ TEST_F(ReportFiles, AWorkingFileThatIsNotTheProgramsOwnEndsTheCommand) {
   EXPECT_EQ(Names(), (std::vector<std::string>{"FullReport", "elsewhere"}));
   EXPECT_EQ(ReadWholeFile(Folder.File("elsewhere")), "not ours");
   EXPECT_EQ(Outcome(), Ended("FullReport", "the file has a second name"));
-  EXPECT_TRUE(Case.World.Boxes.Shown.empty());
+  EXPECT_TRUE(Case.Fakes.Boxes.Shown.empty());
 }
 
 TEST_F(ReportFiles, ResultsSavedOntoALinkGoToTheFileThatItLeadsTo) {
@@ -124,8 +124,8 @@ TEST_F(ReportFiles, ResultsSavedOntoALinkGoToTheFileThatItLeadsTo) {
   std::ofstream(Folder.File("far/file")) << "earlier";
   fs::create_symlink("far/file", Folder.File("link.txt"));
   Case.Study->Label1_DblClick(1);
-  Case.World.Dialog.Paths = {Folder.File("link.txt")};
-  Case.World.Boxes.Answers = {Answer::Yes};
+  Case.Fakes.Dialog.Paths = {Folder.File("link.txt")};
+  Case.Fakes.Boxes.Answers = {Answer::Yes};
   Case.Study->SaveResults_Click();
   EXPECT_TRUE(fs::is_symlink(Folder.File("link.txt")));
   EXPECT_TRUE(ReadWholeFile(Folder.File("far/file")).starts_with("WIFE'S SHARE\r\n"));
@@ -136,12 +136,12 @@ TEST_F(ReportFiles, ResultsSavedOntoALinkGoToTheFileThatItLeadsTo) {
 TEST_F(ReportFiles, ResultsAreNotSavedOverAFolder) {
   fs::create_directory(Folder.File("results"));
   Case.Study->Label1_DblClick(1);
-  Case.World.Boxes.Shown.clear();
-  Case.World.Dialog.Paths = {Folder.File("results")};
+  Case.Fakes.Boxes.Shown.clear();
+  Case.Fakes.Dialog.Paths = {Folder.File("results")};
   Case.Study->SaveResults_Click();
-  EXPECT_TRUE(Case.World.Boxes.Shown.empty());
+  EXPECT_TRUE(Case.Fakes.Boxes.Shown.empty());
   EXPECT_EQ(Outcome(), Ended("results", "a folder has this name"));
-  Case.World.Dialog.Paths = {"/proc"};
+  Case.Fakes.Dialog.Paths = {"/proc"};
   Case.Study->SaveResults_Click();
   EXPECT_EQ(Outcome().second, "a folder has this name") << "the root of all folders is found too";
 }
@@ -152,10 +152,10 @@ TEST_F(ReportFiles, AnEmptyPanelLeavesAnEarlierFileThatTheUserAgreedToReplace) {
   Case.Study->Text2.Visible = false;
   Case.Study->Text3.Visible = true;
   for (const char* name : {"earlier.txt", "new.txt"}) {
-    Case.World.Dialog.Paths = {Folder.File(name)};
-    Case.World.Boxes.Answers = {Answer::Yes};
+    Case.Fakes.Dialog.Paths = {Folder.File(name)};
+    Case.Fakes.Boxes.Answers = {Answer::Yes};
     Case.Study->SaveResults_Click();
-    EXPECT_EQ(Case.World.Boxes.Shown.back().Text, "Execute the program and then try to save.");
+    EXPECT_EQ(Case.Fakes.Boxes.Shown.back().Text, "Execute the program and then try to save.");
   }
   EXPECT_EQ(Names(), std::vector<std::string>{"earlier.txt"});
   EXPECT_EQ(ReadWholeFile(Folder.File("earlier.txt")), "earlier");
@@ -163,21 +163,21 @@ TEST_F(ReportFiles, AnEmptyPanelLeavesAnEarlierFileThatTheUserAgreedToReplace) {
 }
 
 TEST_F(ReportFiles, AnUnansweredQuestionAbandonsItsCommand) {
-  Case.World.Boxes.QuestionsEnd = true;
+  Case.Fakes.Boxes.QuestionsEnd = true;
   Case.Type(WillsBox, "20000");
   Case.Study->CreateSaveFullReport_Click();
   EXPECT_TRUE(Names().empty()) << "nobody has agreed to the larger will";
-  EXPECT_EQ(Case.World.Boxes.Shown.size(), 1U) << "no message follows";
+  EXPECT_EQ(Case.Fakes.Boxes.Shown.size(), 1U) << "no message follows";
   EXPECT_FALSE(Case.Record.ReportToFile);
   EXPECT_FALSE(Case.Record.CaseLoaded);
   EXPECT_TRUE(Outcomes.empty());
 
   Case.Type(WillsBox, "0");
   std::ofstream(Folder.File("abdullah.txt")) << "earlier";
-  Case.World.Dialog.Paths = {Folder.File("abdullah.txt")};
+  Case.Fakes.Dialog.Paths = {Folder.File("abdullah.txt")};
   Case.Study->CreateSaveFullReport_Click();
   Case.Study->SaveResults_Click();
-  EXPECT_EQ(Case.World.Boxes.Shown.size(), 3U) << "no message follows";
+  EXPECT_EQ(Case.Fakes.Boxes.Shown.size(), 3U) << "no message follows";
   EXPECT_EQ(ReadWholeFile(Folder.File("abdullah.txt")), "earlier");
 }
 

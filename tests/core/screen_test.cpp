@@ -79,9 +79,9 @@ TEST(Screen, TheSavedViewOpensAndEachChoiceIsSaved) {
   for (const int view : {0, 1, 2}) {
     ScreenFixture played(view);
     EXPECT_EQ(played.Study->Label4(view).BorderStyle, 1);
-    EXPECT_EQ(played.World.Settings.Values[key], std::to_string(view));
+    EXPECT_EQ(played.Fakes.Settings.Values[key], std::to_string(view));
     played.Study->Label4_Click(2 - view);
-    EXPECT_EQ(played.World.Settings.Values[key], std::to_string(2 - view));
+    EXPECT_EQ(played.Fakes.Settings.Values[key], std::to_string(2 - view));
   }
   EXPECT_EQ(ScreenFixture(7).Study->Label4(0).BorderStyle, 1) << "a view that is none is the first";
 }

@@ -22,7 +22,7 @@ constexpr DateTime later = {2024, 3, 5, 13, 2, 5};
 
 /// A program that keeps its log in a folder of its own.
 struct Logged {
-  Logged() { World.Folders.Folder = Folder.Path(); }
+  Logged() { Fakes.Folders.Folder = Folder.Path(); }
 
   std::string Path() const { return Folder.File("popuQism.ppl"); }
   std::string Content() const { return ReadWholeFile(Path()); }
@@ -34,13 +34,13 @@ struct Logged {
   /// One run of the program, from its start to its end; its number.
   Integer Run() {
     ShellRecord shell;
-    StartSession(shell, World.Ports);
-    Inhp(shell, Record, World.Ports);
+    StartSession(shell, Fakes.Ports);
+    Inhp(shell, Record, Fakes.Ports);
     return shell.SessionNumber;
   }
 
   TemporaryFolder Folder;
-  FakePorts World;
+  FakePorts Fakes;
   CaseRecord Record;
 };
 
@@ -56,8 +56,8 @@ TEST(SessionLog, TheLoaderFindsWhatTheExitHasWritten) {
   const int numbers[] = {1, 12, 123, 1234, 12345, 32767, -5, -32768};
   const int lengths[] = {0, 9, 3725, -1, -86400, 99999, 9999999, -999999};
   for (std::size_t i = 0; i < std::size(numbers); ++i) logged.Add(numbers[i], noon, later, lengths[i]);
-  const FakePorts& world = logged.World;
-  const SessionTable table = ReadSessionLog(const_cast<FakePorts&>(world).Ports);
+  const FakePorts& fakes = logged.Fakes;
+  const SessionTable table = ReadSessionLog(const_cast<FakePorts&>(fakes).Ports);
   ASSERT_EQ(table.Count, static_cast<int>(std::size(numbers)));
   for (std::size_t i = 0; i < std::size(numbers); ++i) {
     const SessionRow& row = table.Rows[i + 1];
@@ -72,7 +72,7 @@ TEST(SessionLog, ALengthOfMoreThanSevenDigitsLosesItsFirstOnes) {
   Logged logged;
   logged.Add(1, noon, later, 12345678);
   logged.Add(2, noon, later, 2147483647);
-  const SessionTable table = ReadSessionLog(logged.World.Ports);
+  const SessionTable table = ReadSessionLog(logged.Fakes.Ports);
   EXPECT_EQ(table.Rows[1].Length, 2345678);
   EXPECT_EQ(table.Rows[2].Length, 7483647);
 }
@@ -110,7 +110,7 @@ TEST(SessionLog, ATornLineTakesNoOtherAlong) {
     std::ofstream(logged.Path(), std::ios::app) << whole.substr(0, torn);
     EXPECT_EQ(logged.Run(), 13) << torn;
     EXPECT_EQ(logged.Run(), 14) << torn;
-    const SessionTable table = ReadSessionLog(logged.World.Ports);
+    const SessionTable table = ReadSessionLog(logged.Fakes.Ports);
     ASSERT_EQ(table.Count, 4) << torn;
     EXPECT_EQ(table.Rows[3].Number, 13) << torn;
     EXPECT_EQ(table.Rows[3].Start, "05/03/2024 14:07:09      ") << torn;
@@ -130,15 +130,15 @@ TEST(SessionLog, TheExitRunsOnceAndSavesTheExecutions) {
   Logged logged;
   logged.Record.ExecCount = Long(77);
   ShellRecord shell;
-  logged.World.Clock.Time = noon;
-  StartSession(shell, logged.World.Ports);
-  logged.World.Clock.Time = later;
-  Inhp(shell, logged.Record, logged.World.Ports);
-  Inhp(shell, logged.Record, logged.World.Ports);
-  EXPECT_EQ(logged.World.Program.Ends, 1);
+  logged.Fakes.Clock.Time = noon;
+  StartSession(shell, logged.Fakes.Ports);
+  logged.Fakes.Clock.Time = later;
+  Inhp(shell, logged.Record, logged.Fakes.Ports);
+  Inhp(shell, logged.Record, logged.Fakes.Ports);
+  EXPECT_EQ(logged.Fakes.Program.Ends, 1);
   EXPECT_EQ(logged.Content(),
             " 1            05/03/2024 12:00:00         05/03/2024 13:02:05          3725 \r\n");
-  EXPECT_EQ(logged.World.Settings.Values["Qismora/Inheritance/TimesExecuted"], "77");
+  EXPECT_EQ(logged.Fakes.Settings.Values["Qismora/Inheritance/TimesExecuted"], "77");
 }
 
 /// The folder of a log that cannot be written for a given reason.
@@ -153,22 +153,22 @@ class FailingFolders : public testing::FakeFolders {
 
 TEST(SessionLog, OnlyAnOpenFileIsReported) {
   for (const int failure : {FileAlreadyOpen, PermissionDenied, PathFileAccess}) {
-    FakePorts world;
+    FakePorts fakes;
     FailingFolders folders(failure);
-    ShellOutside ports{{world.Clock, world.Boxes, world.Dialog, world.Settings, folders},
-                       world.Viewer,
-                       world.Player,
-                       world.Memory,
-                       world.Program};
+    ShellPorts ports{{fakes.Clock, fakes.Boxes, fakes.Dialog, fakes.Settings, folders},
+                     fakes.Viewer,
+                     fakes.Player,
+                     fakes.Memory,
+                     fakes.Program};
     ShellRecord shell;
     StartSession(shell, ports);
     Inhp(shell, CaseRecord(), ports);
-    EXPECT_EQ(world.Program.Ends, 1) << "the program ends in any case";
-    EXPECT_EQ(world.Settings.Values["Qismora/Inheritance/TimesExecuted"], "0") << "saved before the log";
-    ASSERT_EQ(world.Boxes.Shown.size(), failure == FileAlreadyOpen ? 1U : 0U);
+    EXPECT_EQ(fakes.Program.Ends, 1) << "the program ends in any case";
+    EXPECT_EQ(fakes.Settings.Values["Qismora/Inheritance/TimesExecuted"], "0") << "saved before the log";
+    ASSERT_EQ(fakes.Boxes.Shown.size(), failure == FileAlreadyOpen ? 1U : 0U);
     if (failure != FileAlreadyOpen) continue;
-    EXPECT_EQ(world.Boxes.Shown[0].Style, BoxStyle::Critical);
-    EXPECT_EQ(world.Boxes.Shown[0].Text,
+    EXPECT_EQ(fakes.Boxes.Shown[0].Style, BoxStyle::Critical);
+    EXPECT_EQ(fakes.Boxes.Shown[0].Text,
               "Unexpected error has occured within the\r\nProgram. Contact your Software vendor.\r\n"
               "Continued use of this package may lead\r\nto some other complications.");
   }
@@ -177,9 +177,9 @@ TEST(SessionLog, OnlyAnOpenFileIsReported) {
 TEST(SessionLog, ASessionTooLongForALengthLeavesNoLine) {
   Logged logged;
   ShellRecord neverStarted;
-  Inhp(neverStarted, logged.Record, logged.World.Ports);
-  EXPECT_EQ(logged.World.Program.Ends, 1);
-  EXPECT_TRUE(logged.World.Boxes.Shown.empty());
+  Inhp(neverStarted, logged.Record, logged.Fakes.Ports);
+  EXPECT_EQ(logged.Fakes.Program.Ends, 1);
+  EXPECT_TRUE(logged.Fakes.Boxes.Shown.empty());
   EXPECT_FALSE(FileExists(logged.Path()));
 }
 
@@ -187,7 +187,7 @@ TEST(SessionForm, ShowsTheNewestFirstAndATotal) {
   Logged logged;
   logged.Add(1, noon, later, 3725);
   logged.Add(2, later, noon, 60);
-  Session form(logged.World.Ports);
+  Session form(logged.Fakes.Ports);
   EXPECT_EQ(form.Label3.Caption.Get(), "TOTAL TIME");
   form.Open();
   ASSERT_EQ(form.MSFlexGrid1.Rows.size(), 5U);
@@ -213,16 +213,16 @@ TEST(SessionForm, ShowsTheNewestFirstAndATotal) {
 TEST(SessionForm, FiveThousandLinesFitAndOneMoreIsAnError) {
   Logged logged;
   for (int i = 1; i <= MostSessions; ++i) logged.Add(i, noon, later, 1);
-  Session form(logged.World.Ports);
+  Session form(logged.Fakes.Ports);
   form.Open();
-  EXPECT_TRUE(logged.World.Boxes.Shown.empty());
+  EXPECT_TRUE(logged.Fakes.Boxes.Shown.empty());
   EXPECT_EQ(form.MSFlexGrid1.Rows.size(), 5003U);
   EXPECT_EQ(form.TotalSeconds, 5000);
 
   logged.Add(5001, noon, later, 1);
   form.Open();
-  ASSERT_EQ(logged.World.Boxes.Shown.size(), 1U);
-  EXPECT_EQ(logged.World.Boxes.Shown[0].Text, "Error 9\r\nSubscript out of range");
+  ASSERT_EQ(logged.Fakes.Boxes.Shown.size(), 1U);
+  EXPECT_EQ(logged.Fakes.Boxes.Shown[0].Text, "Error 9\r\nSubscript out of range");
   EXPECT_EQ(form.MSFlexGrid1.Rows.size(), 5003U) << "the grid is not filled again";
   EXPECT_EQ(logged.Run(), 5002) << "sessions are numbered on";
 }
@@ -230,7 +230,7 @@ TEST(SessionForm, FiveThousandLinesFitAndOneMoreIsAnError) {
 TEST(SessionForm, AnEmptyLogShowsAnEmptyGrid) {
   Logged logged;
   std::ofstream(logged.Path()).close();
-  Session form(logged.World.Ports);
+  Session form(logged.Fakes.Ports);
   form.Open();
   EXPECT_EQ(form.MSFlexGrid1.Rows.size(), 3U);
   EXPECT_EQ(form.Label2.Caption.Get(), "0               0");

@@ -26,10 +26,10 @@ constexpr const char* timesExecuted = "Qismora/Inheritance/TimesExecuted";
 
 /// A main menu that records which forms it opens, in order.
 struct Menu {
-  Menu() { World.Folders.Folder = Folder.Path(); }
+  Menu() { Fakes.Folders.Folder = Folder.Path(); }
 
   InhMain& Open() {
-    Form = std::make_unique<InhMain>(Record, Shell, World.Ports);
+    Form = std::make_unique<InhMain>(Record, Shell, Fakes.Ports);
     const auto note = [this](const char* way) { return [this, way] { Ways.emplace_back(way); }; };
     Form->ShowQurLaws = note("QurLaws");
     Form->FocusText5OfQurLaws = note("Text5");
@@ -62,7 +62,7 @@ struct Menu {
   }
 
   TemporaryFolder Folder;
-  FakePorts World;
+  FakePorts Fakes;
   CaseRecord Record;
   ShellRecord Shell;
   std::unique_ptr<InhMain> Form;
@@ -83,7 +83,7 @@ TEST(MainMenu, AFirstRunStartsWithNothingSaved) {
 
 TEST(MainMenu, SettingsAreReadByTheirLeadingDigits) {
   Menu menu;
-  menu.World.Settings.Values = {{lowerImage, "4abc"}, {lblPressed, " 2"}, {timesExecuted, "123 times"}};
+  menu.Fakes.Settings.Values = {{lowerImage, "4abc"}, {lblPressed, " 2"}, {timesExecuted, "123 times"}};
   menu.Open();
   EXPECT_EQ(menu.PictureShown(), 5);
   EXPECT_EQ(menu.Shell.SavedLanguage, 2);
@@ -93,12 +93,12 @@ TEST(MainMenu, SettingsAreReadByTheirLeadingDigits) {
 TEST(MainMenu, ADamagedSettingEndsTheLoadQuietly) {
   for (const char* damaged : {"6", "-1", "99999999999"}) {
     Menu menu;
-    menu.World.Settings.Values = {{lowerImage, damaged}, {timesExecuted, "5"}};
+    menu.Fakes.Settings.Values = {{lowerImage, damaged}, {timesExecuted, "5"}};
     const InhMain& form = menu.Open();
-    EXPECT_TRUE(menu.World.Boxes.Shown.empty());
+    EXPECT_TRUE(menu.Fakes.Boxes.Shown.empty());
     EXPECT_EQ(menu.Record.ExecCount, 5) << "what was read before stays";
     EXPECT_EQ(form.Label22.Caption.Get(), "") << "the session was not begun";
-    EXPECT_EQ(menu.World.Settings.Values[lowerImage], damaged);
+    EXPECT_EQ(menu.Fakes.Settings.Values[lowerImage], damaged);
   }
 }
 
@@ -108,9 +108,9 @@ TEST(MainMenu, EachClickShowsTheNextPictureAndKeepsTheClickedOne) {
   for (int i = 0; i < form.Image3.Size; ++i) {
     form.Image3_Click(i);
     EXPECT_EQ(menu.PictureShown(), (i + 1) % 6);
-    EXPECT_EQ(menu.World.Settings.Values[lowerImage], std::to_string(i));
+    EXPECT_EQ(menu.Fakes.Settings.Values[lowerImage], std::to_string(i));
     Menu next;
-    next.World.Settings.Values = menu.World.Settings.Values;
+    next.Fakes.Settings.Values = menu.Fakes.Settings.Values;
     next.Open();
     EXPECT_EQ(next.PictureShown(), menu.PictureShown());
   }
@@ -133,12 +133,12 @@ TEST(MainMenu, EveryEntryLeadsWhereItSays) {
     for (int i = 0; i < form.Option1.Size; ++i) {
       if (i == 7) continue;
       menu.Ways.clear();
-      menu.World.Viewer.Opened.clear();
+      menu.Fakes.Viewer.Opened.clear();
       form.Option1_Click(i);
       EXPECT_EQ(menu.Ways, ways.contains(i) ? ways.at(i) : std::vector<std::string>());
-      ASSERT_EQ(menu.World.Viewer.Opened.size(), files.count(i));
+      ASSERT_EQ(menu.Fakes.Viewer.Opened.size(), files.count(i));
       if (files.contains(i)) {
-        EXPECT_EQ(menu.World.Viewer.Opened[0], menu.Folder.File("documents/" + files.at(i)));
+        EXPECT_EQ(menu.Fakes.Viewer.Opened[0], menu.Folder.File("documents/" + files.at(i)));
       }
       EXPECT_EQ(menu.Shell.LawPage, i);
       EXPECT_FALSE(form.Option1(i).Value);
@@ -151,25 +151,25 @@ TEST(MainMenu, EveryEntryLeadsWhereItSays) {
 TEST(Documents, OpeningOneShowsItsPath) {
   Menu menu;
   const auto told = [&](int number) {
-    menu.World.Boxes.Shown.clear();
-    OpenDocument(number, menu.World.Ports);
-    EXPECT_EQ(menu.World.Boxes.Shown.size(), 1U);
-    return menu.World.Boxes.Shown.front();
+    menu.Fakes.Boxes.Shown.clear();
+    OpenDocument(number, menu.Fakes.Ports);
+    EXPECT_EQ(menu.Fakes.Boxes.Shown.size(), 1U);
+    return menu.Fakes.Boxes.Shown.front();
   };
   EXPECT_EQ(told(4).Style, BoxStyle::Warning) << "a missing file";
-  EXPECT_TRUE(menu.World.Viewer.Opened.empty());
+  EXPECT_TRUE(menu.Fakes.Viewer.Opened.empty());
   menu.PutDocuments();
   EXPECT_EQ(told(4).Style, BoxStyle::Information);
-  menu.World.Viewer.HasViewer = false;
+  menu.Fakes.Viewer.HasViewer = false;
   EXPECT_EQ(told(4).Style, BoxStyle::Warning) << "no viewer";
   EXPECT_TRUE(told(6).Text.ends_with(menu.Folder.File("documents/RelationsEU.pdf")));
-  EXPECT_THROW(OpenDocument(8, menu.World.Ports), Failure);
+  EXPECT_THROW(OpenDocument(8, menu.Fakes.Ports), Failure);
 }
 
 TEST(Zummy, EachButtonOpensItsDocumentAndNoneTheVerses) {
   Menu menu;
   menu.PutDocuments();
-  Zummy form(menu.Record, menu.Shell, menu.World.Ports);
+  Zummy form(menu.Record, menu.Shell, menu.Fakes.Ports);
   for (const ZummyButton& button : ZummyButtons) (form.*button.Click)();
   const std::vector<std::string> files = {"Historical Background.pdf",
                                           "Historical Background.pdf",
@@ -178,32 +178,32 @@ TEST(Zummy, EachButtonOpensItsDocumentAndNoneTheVerses) {
                                           "RULES OF DISTRIBUTION.pdf",
                                           "References.pdf",
                                           "RelationsEU.pdf"};
-  ASSERT_EQ(menu.World.Viewer.Opened.size(), files.size());
+  ASSERT_EQ(menu.Fakes.Viewer.Opened.size(), files.size());
   for (std::size_t i = 0; i < files.size(); ++i) {
-    EXPECT_EQ(menu.World.Viewer.Opened[i], menu.Folder.File("documents/" + files[i]));
+    EXPECT_EQ(menu.Fakes.Viewer.Opened[i], menu.Folder.File("documents/" + files[i]));
   }
 }
 
 TEST(Zummy, TheMultipleIsTakenOfWhatTheLastCaseLeft) {
   Menu menu;
-  Zummy form(menu.Record, menu.Shell, menu.World.Ports);
+  Zummy form(menu.Record, menu.Shell, menu.Fakes.Ports);
   menu.Record.LcmCount = Integer(2);
   menu.Record.LcmDen(0) = Integer(6);
   menu.Record.LcmDen(1) = Integer(4);
   form.cmdLCM_Click();
   EXPECT_EQ(menu.Record.LcmResult, 12);
-  EXPECT_TRUE(menu.World.Boxes.Shown.empty());
+  EXPECT_TRUE(menu.Fakes.Boxes.Shown.empty());
   menu.Record.LcmCount = Integer(12);
   form.cmdLCM_Click();
-  ASSERT_EQ(menu.World.Boxes.Shown.size(), 1U);
-  EXPECT_EQ(menu.World.Boxes.Shown[0].Text, "9\r\nSubscript out of range");
+  ASSERT_EQ(menu.Fakes.Boxes.Shown.size(), 1U);
+  EXPECT_EQ(menu.Fakes.Boxes.Shown[0].Text, "9\r\nSubscript out of range");
 }
 
 TEST(LawPages, ANumberWithoutAPageLeavesTheFormAsItIs) {
-  FakePorts world;
+  FakePorts fakes;
   ShellRecord shell;
   shell.LawPage = Integer(5);
-  QurLaws form(shell, world.Boxes);
+  QurLaws form(shell, fakes.Boxes);
   EXPECT_EQ(form.Caption.Get(), "EXCLUSION RULES OF INHERITANCE");
   EXPECT_EQ(form.StatusBar1.Caption.Get(), "EXCLUSION RULES OF INHERITANCE");
   const std::string text = form.Text2.Text;
@@ -220,12 +220,12 @@ TEST(Animation, TwoVideosTakeTurns) {
   InhMain& form = menu.Open();
   const std::string first = menu.Folder.File("brindhaven.avi");
   const std::string second = menu.Folder.File("brindhaven1.avi");
-  menu.World.Player.EndOfPlay();
-  menu.World.Player.EndOfPlay();
+  menu.Fakes.Player.EndOfPlay();
+  menu.Fakes.Player.EndOfPlay();
   form.Frame5_Click();
   form.Frame5_Click();
   form.Frame5_DblClick();
-  EXPECT_EQ(menu.World.Player.Played, (std::vector<std::string>{second, first, first, second, first, first}));
+  EXPECT_EQ(menu.Fakes.Player.Played, (std::vector<std::string>{second, first, first, second, first, first}));
 }
 
 TEST(Animation, AFileOfAnotherLengthIsNeverPlayedAndAMissingOneIsNoMatter) {
@@ -234,19 +234,19 @@ TEST(Animation, AFileOfAnotherLengthIsNeverPlayedAndAMissingOneIsNoMatter) {
   InhMain& form = menu.Open();
   form.Frame5_Click();
   form.Frame5_DblClick();
-  menu.World.Player.EndOfPlay();
-  EXPECT_TRUE(menu.World.Player.Played.empty());
-  EXPECT_TRUE(menu.World.Boxes.Shown.empty());
+  menu.Fakes.Player.EndOfPlay();
+  EXPECT_TRUE(menu.Fakes.Player.Played.empty());
+  EXPECT_TRUE(menu.Fakes.Boxes.Shown.empty());
   EXPECT_EQ(form.Label22.Caption.Get(), "1");
 }
 
 TEST(Catalogue, MemoryIsReadAtEachOpening) {
-  FakePorts world;
-  world.Memory.Figures = {8.0 * 1024 * 1024 * 1024, 1024.0 * 1024, 30.6 * 1024 * 1024};
-  prginfo form({"1.0", {"Qt 6", "zlib"}}, world.Memory);
+  FakePorts fakes;
+  fakes.Memory.Figures = {8.0 * 1024 * 1024 * 1024, 1024.0 * 1024, 30.6 * 1024 * 1024};
+  prginfo form({"1.0", {"Qt 6", "zlib"}}, fakes.Memory);
   EXPECT_EQ(form.TotalMemory.Get(), "8192 MiB");
   EXPECT_EQ(form.UsedMemory.Get(), "31 MiB");
-  world.Memory.Figures.Free = 0;
+  fakes.Memory.Figures.Free = 0;
   form.Refresh();
   EXPECT_EQ(form.FreeMemory.Get(), "0 MiB");
   EXPECT_EQ(form.Rows.back().Text, "Qt 6, zlib");

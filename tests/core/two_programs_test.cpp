@@ -59,9 +59,9 @@ TEST(TwoPrograms, AReportUnderTheSameNameIsThatOfOneOfThem) {
 TEST(TwoPrograms, EachSessionHasItsLine) {
   const TemporaryFolder folder;
   RunTwoPrograms([&](int sons) { SavingProgram(folder.Path(), sons).End(); });
-  testing::FakePorts world;
-  world.Folders.Folder = folder.Path();
-  const SessionTable table = ReadSessionLog(world.Ports);
+  testing::FakePorts fakes;
+  fakes.Folders.Folder = folder.Path();
+  const SessionTable table = ReadSessionLog(fakes.Ports);
   EXPECT_EQ(table.Count, 2 * rounds);
   for (int i = 1; i <= table.Count; ++i) {
     EXPECT_EQ(table.Rows[static_cast<std::size_t>(i)].Start, "05/03/2024 14:07:09      ");

@@ -89,7 +89,7 @@ void Player::Perform(std::string_view line) {
 /// The view of a new screen is the index read at program start. There are no settings then, so it is 0.
 void Player::Open() {
   study_.reset();
-  study_ = std::make_unique<CaseStudy>(record_, outside_, 0);
+  study_ = std::make_unique<CaseStudy>(record_, ports_, 0);
   if (shown_.empty()) shown_ = Snapshot(*study_);
 }
 
@@ -222,7 +222,7 @@ void Player::Lcm(std::string_view rest) {
   try {
     FindLCM(record_);
   } catch (const Failure& failure) {
-    boxes_.Tell(BoxStyle::Plain, Join(failure.Number, CRLF, failure.Description()));
+    boxes_.Inform(BoxStyle::Plain, Join(failure.Number, CRLF, failure.Description()));
   }
   out_ << "  LcmResult = " << record_.LcmResult.Value() << "\n  LcmDen =";
   for (int i = 0; i < count; ++i) out_ << ' ' << record_.LcmDen(i).Value();

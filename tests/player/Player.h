@@ -61,7 +61,7 @@ class Player {
   PrintedSaveDialog dialog_;
   FakeSettings settings_;
   FakeFolders folders_;
-  Outside outside_{clock_, boxes_, dialog_, settings_, folders_};
+  Ports ports_{clock_, boxes_, dialog_, settings_, folders_};
   std::unique_ptr<CaseStudy> study_;
   std::vector<ControlValue> shown_;
 };

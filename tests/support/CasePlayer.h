@@ -24,7 +24,7 @@ using Lines = std::vector<std::string>;
 class CasePlayer {
  public:
   CasePlayer() {
-    world_.Folders.Folder = folder_.Path();
+    fakes_.Folders.Folder = folder_.Path();
     fields_ = {{"Wives", 1}, {"Husband", 1}};  // both captions belong to field 1
     for (const int field : HeirBoxes) fields_[screen_.Label1(field).Caption.Get()] = field;
     for (const int field : {NameBox, GrossEstateBox, FuneralBox, DebtsBox, WillsBox}) {
@@ -64,7 +64,7 @@ class CasePlayer {
     } else if (caption == "Heirs consent") {
       heirsConsent_ = value == "yes";
     } else if (caption == "Answer") {
-      world_.Boxes.Answers.push_back(value == "Yes" ? Answer::Yes : Answer::No);
+      fakes_.Boxes.Answers.push_back(value == "Yes" ? Answer::Yes : Answer::No);
     } else if (const auto field = fields_.find(caption); field != fields_.end()) {
       screen_.Text1(field->second).Text = value;
     } else if (const auto checkBox = checkBoxes_.find(caption);
@@ -83,7 +83,7 @@ class CasePlayer {
       return DivisionLines(ReadDivisionInput(screen_, heirsConsent_),
                            SchoolOf(command.substr(division.size())));
     }
-    world_.Boxes.Shown.clear();
+    fakes_.Boxes.Shown.clear();
     if (command == "Residuaries") {
       screen_.Resid_Click();
       return Figures();
@@ -112,7 +112,7 @@ class CasePlayer {
 
   Lines Message() {
     Lines lines;
-    for (const FakeMessageBoxes::Box& box : world_.Boxes.Shown) {
+    for (const FakeMessageBoxes::Box& box : fakes_.Boxes.Shown) {
       std::ranges::copy(LinesOf(box.Text), std::back_inserter(lines));
     }
     return lines;
@@ -178,9 +178,9 @@ class CasePlayer {
   }
 
   TemporaryFolder folder_;
-  FakePorts world_;
+  FakePorts fakes_;
   CaseRecord record_;
-  CaseStudy screen_{record_, world_.Ports, 1};
+  CaseStudy screen_{record_, fakes_.Ports, 1};
   std::map<std::string, int> fields_;
   std::map<std::string, int> checkBoxes_;
   bool heirsConsent_ = false;

@@ -6,7 +6,7 @@
 #include <string>
 #include <vector>
 
-#include "base/Outside.h"
+#include "base/Ports.h"
 
 namespace qismora::testing {
 
@@ -149,7 +149,7 @@ struct FakePorts {
   FakeVideoPlayer Player;
   FakeMemoryMeter Memory;
   FakeProgram Program;
-  ShellOutside Ports{{Clock, Boxes, Dialog, Settings, Folders}, Viewer, Player, Memory, Program};
+  ShellPorts Ports{{Clock, Boxes, Dialog, Settings, Folders}, Viewer, Player, Memory, Program};
 };
 
 }  // namespace qismora::testing

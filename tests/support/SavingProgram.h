@@ -13,26 +13,26 @@ namespace qismora::testing {
 class SavingProgram {
  public:
   SavingProgram(const std::string& folder, int sons) : folder_(folder) {
-    case_.World.Folders.Folder = folder;
-    case_.World.Folders.Disk = SyncToDisk;
+    case_.Fakes.Folders.Folder = folder;
+    case_.Fakes.Folders.Disk = SyncToDisk;
     case_.TypeEstate("24000");
     case_.Type(NameBox, "Zayd");
     case_.Type(1, "1");
     case_.Type(2, std::to_string(sons));
-    StartSession(shell_, case_.World.Ports);
+    StartSession(shell_, case_.Fakes.Ports);
   }
 
   void SaveReport() {
-    case_.World.Boxes.Answers = {Answer::Yes};
+    case_.Fakes.Boxes.Answers = {Answer::Yes};
     case_.Study->CreateSaveFullReport_Click();
   }
   void SaveResults() {
-    case_.World.Boxes.Answers = {Answer::Yes};
-    case_.World.Dialog.Paths = {folder_ + "/results.txt"};
+    case_.Fakes.Boxes.Answers = {Answer::Yes};
+    case_.Fakes.Dialog.Paths = {folder_ + "/results.txt"};
     case_.Study->SaveResults_Click();
   }
   /// Adds the session's line to the log.
-  void End() { Inhp(shell_, case_.Record, case_.World.Ports); }
+  void End() { Inhp(shell_, case_.Record, case_.Fakes.Ports); }
 
  private:
   std::string folder_;

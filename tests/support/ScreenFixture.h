@@ -11,7 +11,7 @@ namespace qismora::testing {
 /// A Case Study screen without a window, on fake ports.
 struct ScreenFixture {
   explicit ScreenFixture(int savedLanguage = 0)
-      : Study(std::make_unique<CaseStudy>(Record, World.Ports, savedLanguage)) {}
+      : Study(std::make_unique<CaseStudy>(Record, Fakes.Ports, savedLanguage)) {}
 
   void Type(int field, const std::string& text) { Study->Text1(field).Text = text; }
 
@@ -21,7 +21,7 @@ struct ScreenFixture {
     for (const int field : {FuneralBox, DebtsBox, WillsBox}) Type(field, "0");
   }
 
-  FakePorts World;
+  FakePorts Fakes;
   CaseRecord Record;
   std::unique_ptr<CaseStudy> Study;
 };

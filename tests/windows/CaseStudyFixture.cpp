@@ -29,7 +29,7 @@ CaseStudyFixture::~CaseStudyFixture() {
 void CaseStudyFixture::Open() {
   delete window_;
   const Double view = ParsePrefix(Store.Read(ApplicationTitle, "LanguageSetting", "LblPressed"));
-  window_ = new CaseStudyWindow(Record, outside_, static_cast<int>(view.Value()));
+  window_ = new CaseStudyWindow(Record, ports_, static_cast<int>(view.Value()));
   window_->show();
   if (!QTest::qWaitForWindowActive(window_)) qFatal("the window does not become active");
 }

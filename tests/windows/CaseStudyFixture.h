@@ -10,7 +10,7 @@
 #include <deque>
 
 #include "windows/casestudy/CaseStudyWindow.h"
-#include "windows/platform/Ports.h"
+#include "windows/platform/QtPorts.h"
 
 namespace qismora::testing {
 
@@ -71,7 +71,7 @@ class CaseStudyFixture {
   QtMessageBoxes boxes_{running_};
   SystemFolders places_;
   QtSaveDialog dialog_{places_};
-  Outside outside_{clock_, boxes_, dialog_, Store, places_};
+  Ports ports_{clock_, boxes_, dialog_, Store, places_};
   QPointer<CaseStudyWindow> window_;
   QTimer watchdog_;
   std::deque<Expected> expected_;

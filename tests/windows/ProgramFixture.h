@@ -13,7 +13,7 @@
 #include "shell/Documents.h"
 #include "support/FakePorts.h"
 #include "windows/forms/ProgramWindows.h"
-#include "windows/platform/ShellPorts.h"
+#include "windows/platform/QtShellPorts.h"
 #include "windows/platform/Utf8.h"
 #include "windows/style/OutlinedStyle.h"
 
@@ -92,9 +92,9 @@ class ProgramFixture : public QObject {
   ProgramWindows& Start(const QStringList& pluginFolders = {}) {
     windows_.reset();
     player_ = std::make_unique<QtVideoPlayer>(pluginFolders);
-    outside_ = std::make_unique<ShellOutside>(
-        ShellOutside{{clock_, boxes_, dialog_, settings_, folders_}, viewer_, *player_, memory_, Ended});
-    windows_ = std::make_unique<ProgramWindows>(*outside_, *player_);
+    ports_ = std::make_unique<ShellPorts>(
+        ShellPorts{{clock_, boxes_, dialog_, settings_, folders_}, viewer_, *player_, memory_, Ended});
+    windows_ = std::make_unique<ProgramWindows>(*ports_, *player_);
     windows_->ShowMainMenu();
     return *windows_;
   }
@@ -140,7 +140,7 @@ class ProgramFixture : public QObject {
   QtDocumentViewer viewer_;
   SystemMemory memory_;
   std::unique_ptr<QtVideoPlayer> player_;
-  std::unique_ptr<ShellOutside> outside_;
+  std::unique_ptr<ShellPorts> ports_;
   std::unique_ptr<ProgramWindows> windows_;
 };
 

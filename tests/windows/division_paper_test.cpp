@@ -48,8 +48,8 @@ CaseTexts Everybody() {
 }
 
 DivisionDocument DocumentOf(const CaseTexts& texts, School school = School::Hanafi) {
-  testing::FakePorts outside;
-  CaseScreen screen(outside.Ports);
+  testing::FakePorts ports;
+  CaseScreen screen(ports.Ports);
   TypeIntoScreen(texts, screen);
   return {ViewDivision(screen, false, school), QDate(2026, 11, 21)};
 }

@@ -9,7 +9,7 @@
 
 #include "screens/HeirFields.h"
 #include "windows/division/DivisionWords.h"
-#include "windows/platform/Ports.h"
+#include "windows/platform/QtPorts.h"
 #include "windows/platform/Utf8.h"
 
 using namespace qismora;

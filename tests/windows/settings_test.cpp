@@ -15,7 +15,7 @@
 #include "shell/AppSettings.h"
 #include "support/Processes.h"
 #include "support/TemporaryFolder.h"
-#include "windows/platform/Ports.h"
+#include "windows/platform/QtPorts.h"
 #include "windows/platform/Utf8.h"
 
 namespace qismora {

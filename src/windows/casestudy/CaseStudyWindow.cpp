@@ -38,18 +38,18 @@ constexpr int largestText = 12;
 
 }  // namespace
 
-CaseStudyWindow::CaseStudyWindow(CaseRecord& record, Outside& outside, int savedLanguage)
-    : FormHolder(record, outside, savedLanguage),
+CaseStudyWindow::CaseStudyWindow(CaseRecord& record, Ports& ports, int savedLanguage)
+    : FormHolder(record, ports, savedLanguage),
       FormWindow(form_, "CaseStudy", QStringLiteral("Case Study"), largestText),
-      document_(form_, outside) {
+      document_(form_, ports) {
   setWindowTitle(QStringLiteral("Case Study - Finding shares of Quranic Sharers"));
   setAttribute(Qt::WA_DeleteOnClose);
   form_.Hide = [this] { hide(); };
   FillCaseMenu(menuBar(), form_, binder_);
   AddCaseFileMenu(menuBar(), document_);
-  BuildDivision(outside.Store);
+  BuildDivision(ports.Store);
   AddHelpMenu(menuBar());
-  BuildStatusBar(outside);
+  BuildStatusBar(ports);
   BuildFrame();
   BuildTimer();
   AddStrip(new AnswerStrip(form_, document_, this));
@@ -115,16 +115,16 @@ void CaseStudyWindow::BuildDivision(Settings& store) {
   menuBar()->setCornerWidget(line);
 }
 
-void CaseStudyWindow::BuildStatusBar(Outside& outside) {
+void CaseStudyWindow::BuildStatusBar(Ports& ports) {
   Binder::Result(form_.StatusBar1, AddPanel("StatusBar1.Panel1", QStringLiteral("What was last computed")));
 
   QWidget* readings = MakeReadingsPanel(form_, this);
   statusBar()->addWidget(readings, readingsStretch);
   readings->hide();  // the first texts are read as they stand
 
-  auto* saves = new SavePanel(ToQt(outside.Places.Reports()), this);
+  auto* saves = new SavePanel(ToQt(ports.Places.Reports()), this);
   statusBar()->addPermanentWidget(saves, 1);
-  outside.SaveEnded = [saves = QPointer<SavePanel>(saves)](const SaveOutcome& outcome) {
+  ports.SaveEnded = [saves = QPointer<SavePanel>(saves)](const SaveOutcome& outcome) {
     if (saves != nullptr) saves->ShowOutcome(outcome);
   };
 }

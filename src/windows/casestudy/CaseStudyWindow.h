@@ -12,7 +12,7 @@ class DivisionOpener;
 /// with a new one.
 class CaseStudyWindow : public FormHolder<CaseStudy>, public FormWindow {
  public:
-  CaseStudyWindow(CaseRecord& record, Outside& outside, int savedLanguage);
+  CaseStudyWindow(CaseRecord& record, Ports& ports, int savedLanguage);
 
   /// The Division window, which shows what the fields come to.
   DivisionOpener& Division() { return *division_; }
@@ -25,7 +25,7 @@ class CaseStudyWindow : public FormHolder<CaseStudy>, public FormWindow {
  private:
   void BuildFrame();
   void BuildDivision(Settings& store);
-  void BuildStatusBar(Outside& outside);
+  void BuildStatusBar(Ports& ports);
   void BuildTimer();
   void KeepOnTop();
   void OrderTabs();

@@ -2,7 +2,7 @@
 
 #include <QLabel>
 
-#include "base/Outside.h"
+#include "base/Ports.h"
 
 namespace qismora {
 

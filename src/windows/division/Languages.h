@@ -7,7 +7,7 @@
 #include <array>
 #include <optional>
 
-#include "base/Outside.h"
+#include "base/Ports.h"
 
 namespace qismora {
 

@@ -12,7 +12,7 @@
 
 #include "windows/division/Languages.h"
 #include "windows/platform/BuiltFiles.h"
-#include "windows/platform/ShellPorts.h"
+#include "windows/platform/QtShellPorts.h"
 #include "windows/print/PrintDialogs.h"
 
 namespace qismora {

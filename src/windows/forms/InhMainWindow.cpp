@@ -76,9 +76,8 @@ class DisclaimerText : public ReadingText {
 
 }  // namespace
 
-InhMainWindow::InhMainWindow(CaseRecord& record, ShellRecord& shell, ShellOutside& outside,
-                             QtVideoPlayer& player)
-    : FormHolder(record, shell, outside),
+InhMainWindow::InhMainWindow(CaseRecord& record, ShellRecord& shell, ShellPorts& ports, QtVideoPlayer& player)
+    : FormHolder(record, shell, ports),
       FormWindow(form_, "InhMain", QStringLiteral("Main menu"), largestText) {
   setWindowTitle(QStringLiteral("Islamic Laws of Inheritance"));
   form_.Hide = [this] {

@@ -10,7 +10,7 @@ namespace qismora {
 /// The window of the main menu. Closing it ends the program.
 class InhMainWindow : public FormHolder<InhMain>, public FormWindow {
  public:
-  InhMainWindow(CaseRecord& record, ShellRecord& shell, ShellOutside& outside, QtVideoPlayer& player);
+  InhMainWindow(CaseRecord& record, ShellRecord& shell, ShellPorts& ports, QtVideoPlayer& player);
 
  protected:
   void changeEvent(QEvent* event) override;

@@ -6,7 +6,7 @@
 
 #include "base/Text.h"
 #include "windows/division/DivisionOpener.h"
-#include "windows/platform/Ports.h"
+#include "windows/platform/QtPorts.h"
 #include "windows/platform/SessionEnd.h"
 #include "windows/platform/Utf8.h"
 
@@ -39,8 +39,8 @@ void BringUp(QWidget* window) {
 
 }  // namespace
 
-ProgramWindows::ProgramWindows(ShellOutside& outside, QtVideoPlayer& player)
-    : outside_(outside), menu_(record_, shell_, outside, player) {
+ProgramWindows::ProgramWindows(ShellPorts& ports, QtVideoPlayer& player)
+    : ports_(ports), menu_(record_, shell_, ports, player) {
   InhMain& form = menu_.Form();
   form.ShowQurLaws = [this] { ShowQurLaws(); };
   form.FocusText5OfQurLaws = [this] { laws_->Form().Text5.SetFocus(); };
@@ -76,7 +76,7 @@ bool ProgramWindows::MayEnd() { return sessionEnds_ || study_ == nullptr || stud
 // While a page is open, the menu loads the form with another one.
 void ProgramWindows::ShowQurLaws() {
   if (laws_ == nullptr) {
-    laws_ = new QurLawsWindow(shell_, outside_.Boxes);
+    laws_ = new QurLawsWindow(shell_, ports_.Boxes);
     laws_->Form().ShowMainMenu = [this] { ShowMainMenu(); };
     laws_->move(menu_.pos());
   } else {
@@ -87,7 +87,7 @@ void ProgramWindows::ShowQurLaws() {
 
 void ProgramWindows::ShowCaseStudy() {
   if (study_ == nullptr) {
-    study_ = new CaseStudyWindow(record_, outside_, static_cast<int>(shell_.SavedLanguage.Value()));
+    study_ = new CaseStudyWindow(record_, ports_, static_cast<int>(shell_.SavedLanguage.Value()));
     CaseStudy& form = study_->Form();
     form.ShowMainMenu = [this] { ShowMainMenu(); };
     form.ShowCatalogue = [this] { ShowCatalogue(study_); };
@@ -100,7 +100,7 @@ void ProgramWindows::ShowCaseStudy() {
 
 void ProgramWindows::ShowZummy() {
   if (zummy_ == nullptr) {
-    zummy_ = std::make_unique<ZummyWindow>(record_, shell_, outside_);
+    zummy_ = std::make_unique<ZummyWindow>(record_, shell_, ports_);
     zummy_->Form().ShowMainMenu = [this] { ShowMainMenu(); };
     zummy_->Form().MayEnd = [this] { return MayEnd(); };
   }
@@ -110,7 +110,7 @@ void ProgramWindows::ShowZummy() {
 
 void ProgramWindows::ShowSession() {
   if (session_ == nullptr) {
-    session_ = std::make_unique<SessionWindow>(outside_);
+    session_ = std::make_unique<SessionWindow>(ports_);
     session_->move(menu_.pos() + besideTheMenu);
   }
   BringUp(session_.get());
@@ -120,7 +120,7 @@ void ProgramWindows::ShowSession() {
 
 void ProgramWindows::ShowCatalogue(QWidget* from) {
   delete catalogue_;
-  catalogue_ = new ProgramInfoWindow(Facts(), outside_.clsMemory, from);
+  catalogue_ = new ProgramInfoWindow(Facts(), ports_.clsMemory, from);
   BringUp(catalogue_);
 }
 

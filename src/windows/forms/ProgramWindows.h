@@ -17,7 +17,7 @@ namespace qismora {
 /// other window is made when it is first wanted.
 class ProgramWindows {
  public:
-  ProgramWindows(ShellOutside& outside, QtVideoPlayer& player);
+  ProgramWindows(ShellPorts& ports, QtVideoPlayer& player);
   ~ProgramWindows();
   ProgramWindows(const ProgramWindows&) = delete;
   ProgramWindows& operator=(const ProgramWindows&) = delete;
@@ -44,7 +44,7 @@ class ProgramWindows {
   void HideCatalogue();
   bool MayEnd();
 
-  ShellOutside& outside_;
+  ShellPorts& ports_;
   CaseRecord record_;
   ShellRecord shell_;
   InhMainWindow menu_;

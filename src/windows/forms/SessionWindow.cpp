@@ -28,7 +28,7 @@ constexpr int shownRows = 14;
 
 }  // namespace
 
-SessionWindow::SessionWindow(ShellOutside& outside) : FormHolder(outside) {
+SessionWindow::SessionWindow(ShellPorts& ports) : FormHolder(ports) {
   setObjectName(QStringLiteral("Session"));
   setAccessibleName(QStringLiteral("Session log"));
   setWindowTitle(QStringLiteral("Logged Sessions of Qismora"));

@@ -13,7 +13,7 @@ namespace qismora {
 /// The window of the session log.
 class SessionWindow : public FormHolder<Session>, public QMainWindow {
  public:
-  explicit SessionWindow(ShellOutside& outside);
+  explicit SessionWindow(ShellPorts& ports);
 
  private:
   QWidget* Head();

@@ -21,8 +21,8 @@ constexpr QSize leastButton{170, 34};
 
 }  // namespace
 
-ZummyWindow::ZummyWindow(CaseRecord& record, ShellRecord& shell, ShellOutside& outside)
-    : FormHolder(record, shell, outside) {
+ZummyWindow::ZummyWindow(CaseRecord& record, ShellRecord& shell, ShellPorts& ports)
+    : FormHolder(record, shell, ports) {
   setObjectName(QStringLiteral("Zummy"));
   setAccessibleName(QStringLiteral("Documents"));
   setWindowTitle(ToQt(ZummyTitle));

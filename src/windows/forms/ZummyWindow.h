@@ -10,7 +10,7 @@ namespace qismora {
 /// The window of the documents form. Closing it ends the program; Back hides it.
 class ZummyWindow : public FormHolder<Zummy>, public QMainWindow {
  public:
-  ZummyWindow(CaseRecord& record, ShellRecord& shell, ShellOutside& outside);
+  ZummyWindow(CaseRecord& record, ShellRecord& shell, ShellPorts& ports);
 
  protected:
   void closeEvent(QCloseEvent* event) override;

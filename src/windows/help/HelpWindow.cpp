@@ -22,7 +22,7 @@
 #include <QWindow>
 
 #include "windows/division/Languages.h"
-#include "windows/platform/Ports.h"
+#include "windows/platform/QtPorts.h"
 
 namespace qismora {
 

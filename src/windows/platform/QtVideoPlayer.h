@@ -5,7 +5,7 @@
 #include <QStringList>
 #include <QWidget>
 
-#include "base/Outside.h"
+#include "base/Ports.h"
 #include "windows/video/VideoScreen.h"
 
 namespace qismora {

@@ -1,11 +1,11 @@
 #pragma once
 
 #include "windows/forms/ProgramWindows.h"
-#include "windows/platform/ShellPorts.h"
+#include "windows/platform/QtShellPorts.h"
 
 namespace qismora {
 
-/// The program as it runs: its windows and the real ports to the outside world.
+/// The program as it runs: its windows and its real ports.
 struct RunningProgram {
   /// Takes the directory of the program's binary.
   explicit RunningProgram(const QString& binaries) : Places(binaries) {}
@@ -19,8 +19,8 @@ struct RunningProgram {
   QtDocumentViewer Viewer;
   QtVideoPlayer Player{Places.Plugins()};
   SystemMemory Memory;
-  ShellOutside Outside{{Time, Boxes, Dialog, Store, Places}, Viewer, Player, Memory, Running};
-  ProgramWindows Windows{Outside, Player};
+  ShellPorts System{{Time, Boxes, Dialog, Store, Places}, Viewer, Player, Memory, Running};
+  ProgramWindows Windows{System, Player};
 };
 
 }  // namespace qismora

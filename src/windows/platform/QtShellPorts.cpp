@@ -1,4 +1,4 @@
-#include "windows/platform/ShellPorts.h"
+#include "windows/platform/QtShellPorts.h"
 
 #include <QCoreApplication>
 #include <QDesktopServices>

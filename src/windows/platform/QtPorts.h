@@ -1,12 +1,12 @@
 #pragma once
 
-#include "base/Outside.h"
+#include "base/Ports.h"
 
 class QWidget;
 
 namespace qismora {
 
-// The ports to the outside world as they are in the running program.
+// The ports of the running program.
 
 class SystemClock : public Clock {
  public:

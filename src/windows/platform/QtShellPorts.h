@@ -2,7 +2,7 @@
 
 #include <QStringList>
 
-#include "windows/platform/Ports.h"
+#include "windows/platform/QtPorts.h"
 
 namespace qismora {
 

@@ -1,4 +1,4 @@
-#include "windows/platform/Ports.h"
+#include "windows/platform/QtPorts.h"
 
 #include <QApplication>
 #include <QDateTime>

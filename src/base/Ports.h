@@ -47,7 +47,7 @@ class MessageBoxes {
   /// The answer of the user. Throws Unanswered if there is none.
   virtual Answer Show(BoxStyle style, BoxButtons buttons, const std::string& text) = 0;
 
-  void Tell(BoxStyle style, const std::string& text) { Show(style, BoxButtons::Ok, text); }
+  void Inform(BoxStyle style, const std::string& text) { Show(style, BoxButtons::Ok, text); }
 };
 
 /// The common dialogs that ask for the path of a file. No value if the user cancels.
@@ -142,7 +142,7 @@ struct SaveOutcome {
 };
 
 /// The ports that a case needs.
-struct Outside {
+struct Ports {
   Clock& Time;
   MessageBoxes& Boxes;
   SaveDialog& Dialog;
@@ -153,7 +153,7 @@ struct Outside {
 };
 
 /// All ports, for the screens around the case.
-struct ShellOutside : Outside {
+struct ShellPorts : Ports {
   DocumentViewer& Viewer;
   VideoPlayer& MediaPlayer1;
   MemoryMeter& clsMemory;
