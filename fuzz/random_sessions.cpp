@@ -13,6 +13,7 @@
 #include <iostream>
 
 #include "fuzz/Invariants.h"
+#include "fuzz/Obstacles.h"
 #include "fuzz/RandomLines.h"
 #include "player/Player.h"
 #include "support/TemporaryFolder.h"
@@ -75,11 +76,15 @@ class Sessions {
     Player player(record_, nowhere_, folder_.Path());
     for (std::size_t lines = 5 + random_.Below(40); lines > 0; --lines) {
       const std::string line = random_.Next();
+      if (random_.Below(8) == 0) Print("# " + obstacles_.Place(random_));
       player.Boxes().QuestionsEnd = random_.Below(16) == 0;
       if (player.Boxes().QuestionsEnd) Print("# questions end unanswered");
       Print(line);
+      const bool command = line.starts_with("click ");
+      if (command) obstacles_.Look(player.Boxes());
       player.Perform(line);
       CheckInvariants(player.Study(), record_);
+      if (command) obstacles_.Check(player.Boxes());
     }
   }
 
@@ -91,6 +96,7 @@ class Sessions {
   bool print_;
   std::ostream nowhere_{nullptr};
   TemporaryFolder folder_;
+  Obstacles obstacles_{folder_.Path()};
   CaseRecord record_;
 };
 
