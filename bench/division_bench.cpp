@@ -78,7 +78,7 @@ void DivisionComparedWithCommands(benchmark::State& state) {
     if (field.Heir == Husband) continue;
     texts.Fields[static_cast<std::size_t>(field.Index)] = std::to_string(family[field.Heir]);
   }
-  texts.Fields[GrossEstateBox] = "240000";
+  texts.Fields[GrossEstateField] = "240000";
   for (auto _ : state) {
     const DivisionInput input = ReadDivisionInput(texts);
     DivideWithReasons(School::Hanafi);

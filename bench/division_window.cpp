@@ -66,7 +66,7 @@ int main(int argc, char** argv) {
     best = best == 0 ? took : std::min(best, took);
   }
   const double usual = Keystroke(form);
-  for (const int box : HeirBoxes) form.Text1(box).Text = box >= 13 && box <= 21 ? "1" : "2";
+  for (const int box : HeirFieldIndexes) form.Text1(box).Text = box >= 13 && box <= 21 ? "1" : "2";
   for (int i = 0; i < form.Check1.Size; ++i) form.Check1(i).Value = 1;
   std::printf("%.2f %.2f %.2f %.2f\n", first, best, usual, Keystroke(form));
   return 0;

@@ -15,7 +15,8 @@ namespace {
 class Checks {
  public:
   /// The longest texts contain every amount, with up to 309 digits each, and the name of the deceased.
-  explicit Checks(const CaseStudy& study) : most_(64 * 1024 + 64 * study.Text1(NameBox).Text.Get().size()) {}
+  explicit Checks(const CaseStudy& study)
+      : most_(64 * 1024 + 64 * study.Text1(NameField).Text.Get().size()) {}
 
   template <class Value>
   void Check(const Value&) const {}

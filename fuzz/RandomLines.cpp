@@ -68,20 +68,20 @@ std::string RandomLines::Next() {
     case 3:
       return answers[Below(std::size(answers))];
     case 4:
-      return Join("doubleclick Label1(", HeirBoxes[Below(HeirBoxes.size())], ")");
+      return Join("doubleclick Label1(", HeirFieldIndexes[Below(HeirFieldIndexes.size())], ")");
     case 5:
-      return Join("doubleclick Text1(", HeirBoxes[Below(HeirBoxes.size())], ")");
+      return Join("doubleclick Text1(", HeirFieldIndexes[Below(HeirFieldIndexes.size())], ")");
     case 6:
       return Join(Below(3) == 0 ? "untick " : "tick ", static_cast<int>(Below(12)));
     case 7:
-      return Below(8) == 0 ? Numbers() : Join("type Text1(", NameBox, ") ", names[Below(std::size(names))]);
+      return Below(8) == 0 ? Numbers() : Join("type Text1(", NameField, ") ", names[Below(std::size(names))]);
     case 8:
     case 9: {
-      const int field = GrossEstateBox + static_cast<int>(Below(4));
+      const int field = GrossEstateField + static_cast<int>(Below(4));
       return Join("type Text1(", field, ") ", Typed(field));
     }
     default: {
-      const int field = HeirBoxes[Below(HeirBoxes.size())];
+      const int field = HeirFieldIndexes[Below(HeirFieldIndexes.size())];
       return Join("type Text1(", field, ") ", Typed(field));
     }
   }
@@ -89,8 +89,8 @@ std::string RandomLines::Next() {
 
 std::string RandomLines::Typed(int field) {
   if (Below(12) == 0) return Below(4) == 0 ? Noise() : oddTexts[Below(std::size(oddTexts))];
-  if (field == GrossEstateBox) return Estate();
-  if (field > GrossEstateBox) return Below(2) == 0 ? "0" : Join(static_cast<int>(Below(5000)));
+  if (field == GrossEstateField) return Estate();
+  if (field > GrossEstateField) return Below(2) == 0 ? "0" : Join(static_cast<int>(Below(5000)));
   return Join(static_cast<int>(Below(Below(4) == 0 ? 21 : 4)));
 }
 

@@ -77,7 +77,7 @@ void BuildSharerSummary(CaseRecord& c, const CaseScreen& screen) {
   c.SharerLines = "";
   for (const HeirLine& line : spouseLines) AddSummaryLine(c, line);
   for (const HeirLine& line : otherLines) AddSummaryLine(c, line);
-  Write(c.SummaryText, SummaryOpening, screen.Text1(NameBox).Text, SummaryExplanation, SharersBlock(c),
+  Write(c.SummaryText, SummaryOpening, screen.Text1(NameField).Text, SummaryExplanation, SharersBlock(c),
         "TOTAL Q-Shares = ", F(c.TotalQShares), "\r\nRESIDUE (Balance) = ", F(c.Residue), " (", c.ResidueNum,
         "/", c.ResidueDen, ")\r\n\r\nRESIDUARIES [ASABA'T] (Share per head):\r\n");
 }
@@ -89,8 +89,8 @@ void BuildAulRaddTexts(CaseRecord& c, const CaseScreen& screen) {
   const std::string figures =
       Join(SharersBlock(c), "TOTAL Q-Shares = ", F(c.TotalQShares + c.Residue), " (", F(c.TotalQShares),
            ")\r\nRESIDUE (Balance) = 0  (", F(c.Residue), ")\r\n\r\n");
-  Write(c.SummaryText, AulRaddOpening, screen.Text1(NameBox).Text, AulExplanation, figures);
-  Write(c.RaddText, AulRaddOpening, screen.Text1(NameBox).Text, RaddExplanation, figures);
+  Write(c.SummaryText, AulRaddOpening, screen.Text1(NameField).Text, AulExplanation, figures);
+  Write(c.RaddText, AulRaddOpening, screen.Text1(NameField).Text, RaddExplanation, figures);
 }
 
 }  // namespace qismora

@@ -12,14 +12,14 @@ namespace qismora {
 
 /// The fields of the heirs, in the order of the screen. The arrays Text1 and Label1 have no elements
 /// between 8 and 11, and those from 24 to 29 belong to the deceased and the estate.
-inline constexpr std::array HeirBoxes = {1,  2,  3,  4,  5,  6,  7,  13, 14, 15, 16,
-                                         17, 18, 19, 20, 21, 22, 23, 30, 31, 32, 33};
-inline constexpr int NameBox = 24;
-inline constexpr int GrossEstateBox = 25;
-inline constexpr int FuneralBox = 26;
-inline constexpr int DebtsBox = 27;
-inline constexpr int WillsBox = 28;
-inline constexpr int NetEstateBox = 29;
+inline constexpr std::array HeirFieldIndexes = {1,  2,  3,  4,  5,  6,  7,  13, 14, 15, 16,
+                                                17, 18, 19, 20, 21, 22, 23, 30, 31, 32, 33};
+inline constexpr int NameField = 24;
+inline constexpr int GrossEstateField = 25;
+inline constexpr int FuneralField = 26;
+inline constexpr int DebtsField = 27;
+inline constexpr int WillsField = 28;
+inline constexpr int NetEstateField = 29;
 
 inline constexpr int Male = 0;
 inline constexpr int Female = 1;

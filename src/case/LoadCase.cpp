@@ -13,7 +13,7 @@ enum class Grade { Soft, Hard };
 /// A kind of heir: where its count is typed and stored, the most that is accepted, the message about a
 /// count outside the limits, and whether the field then takes the focus.
 struct CountRow {
-  int Box;
+  int Field;
   Integer CaseRecord::*Count;
   int Most;
   const char* Message;
@@ -66,8 +66,8 @@ Double Converted(Double typed, Double) { return typed; }
 
 /// Text that is no number leaves the stored value as it is: an empty field is not a zero.
 template <class Number>
-void ReadBox(const CaseScreen& screen, int box, Number& field) {
-  if (const std::optional<Double> typed = ReadNumber(screen.Text1(box).Text.Get())) {
+void ReadField(const CaseScreen& screen, int index, Number& field) {
+  if (const std::optional<Double> typed = ReadNumber(screen.Text1(index).Text.Get())) {
     field = Converted(*typed, field);
   }
 }
@@ -82,10 +82,10 @@ void Refuse(const CaseScreen& screen, BoxStyle style, const std::string& message
 /// stale one is checked as well.
 bool ReadCount(CaseRecord& c, CaseScreen& screen, const CountRow& row, Grade grade = Grade::Soft) {
   Integer& count = c.*row.Count;
-  ReadBox(screen, row.Box, count);
+  ReadField(screen, row.Field, count);
   if (count >= 0 && count <= row.Most) return true;
   Refuse(screen, BoxStyle::Warning, row.Message);
-  if (row.TakesFocus) screen.Text1(row.Box).SetFocus();
+  if (row.TakesFocus) screen.Text1(row.Field).SetFocus();
   if (grade == Grade::Hard) c.InputFailed = true;
   return false;
 }
@@ -104,24 +104,24 @@ void AskAboutWills(CaseRecord& c, CaseScreen& screen, Double third) {
            "If you respond in NO, the program will take WILL equal to 1/3 of gross estate."));
   if (answer != Answer::No) return;
   c.Wills = RoundTo<Long>(third);
-  screen.Text1(WillsBox).Text = F(c.Wills);
+  screen.Text1(WillsField).Text = F(c.Wills);
 }
 
 /// Reads the estate and what is paid from it before the heirs; returns the message about a refused figure,
 /// or null. The debts are compared with the gross estate alone, not with what the funeral left of it.
 const char* ReadEstate(CaseRecord& c, CaseScreen& screen) {
-  ReadBox(screen, GrossEstateBox, c.GrossEstate);
+  ReadField(screen, GrossEstateField, c.GrossEstate);
   if (c.GrossEstate < 0) return "No estate wealth for inheritance.";
 
-  ReadBox(screen, FuneralBox, c.FuneralExp);
+  ReadField(screen, FuneralField, c.FuneralExp);
   if (c.FuneralExp > c.GrossEstate || c.FuneralExp < 0) {
     return "No estate wealth left for inheritance, after funerals.";
   }
-  ReadBox(screen, DebtsBox, c.Debts);
+  ReadField(screen, DebtsField, c.Debts);
   if (c.Debts > c.GrossEstate || c.Debts < 0) {
     return "No estate wealth left for inheritance, after payment of debts.";
   }
-  ReadBox(screen, WillsBox, c.Wills);
+  ReadField(screen, WillsField, c.Wills);
   const Double third = Double(1.0) / 3.0 * c.GrossEstate;
   if (c.Wills > third || c.Wills < 0) AskAboutWills(c, screen, third);
   return nullptr;
@@ -151,7 +151,7 @@ void ReadCase(CaseRecord& c, CaseScreen& screen) {
   }
 
   c.NetEstate = c.GrossEstate - (c.Debts + c.FuneralExp + c.Wills);
-  screen.Text1(NetEstateBox).Text = F(c.NetEstate);
+  screen.Text1(NetEstateField).Text = F(c.NetEstate);
   if (screen.Watch.LoadCompleted) screen.Watch.LoadCompleted();
 
   screen.Text3.ForeColor = Black;

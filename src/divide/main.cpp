@@ -65,7 +65,7 @@ class Run {
 
   void Divide(const InputFamily& family) {
     answer_.Id = family.Id;
-    answer_.Name = family.Texts->Fields[static_cast<std::size_t>(NameBox)];
+    answer_.Name = family.Texts->Fields[static_cast<std::size_t>(NameField)];
     answer_.Estate = family.Input.Estate;
     answer_.Estate.HeirsConsent = answer_.Estate.HeirsConsent || options_.HeirsConsent;
     answer_.Settlement = faraid::Settle(answer_.Estate);

@@ -71,7 +71,7 @@ void MakeFullReport(CaseRecord& c, CaseScreen& screen) {
 bool AskToReplaceReport(CaseScreen& screen) {
   return screen.System.Boxes.Show(
              BoxStyle::Warning, BoxButtons::YesNo,
-             Join("SAVING THIS REPORT: You are already having a file of ", screen.Text1(NameBox).Text, ".",
+             Join("SAVING THIS REPORT: You are already having a file of ", screen.Text1(NameField).Text, ".",
                   CRLF, "Would you like to replace the existing file?")) == Answer::Yes;
 }
 
@@ -136,7 +136,7 @@ void CreateSaveFullReport(CaseRecord& c, CaseScreen& screen) {
 }
 
 void SaveFullReportFile(CaseScreen& screen, const std::string& report) {
-  const std::string& deceased = screen.Text1(NameBox).Text;
+  const std::string& deceased = screen.Text1(NameField).Text;
   const std::string name = Join(LowerCase(deceased), ".txt");
   const std::string path = ReportPath(screen, name);
   Folders& places = screen.System.Places;
@@ -162,7 +162,7 @@ void SaveResults(CaseScreen& screen) {
     return;
   }
   const std::optional<std::string> path =
-      screen.System.Dialog.AskPath(screen.Text1(NameBox).Text, "All Text Files (*.txt)|*.txt");
+      screen.System.Dialog.AskPath(screen.Text1(NameField).Text, "All Text Files (*.txt)|*.txt");
   if (!path) return;
   try {
     SaveShownText(screen, *path);

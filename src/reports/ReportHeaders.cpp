@@ -9,22 +9,22 @@ namespace {
 
 /// An heir counts as entered when the reading of its field fails.
 template <class Reading>
-bool IsAboveZero(const CaseScreen& screen, int box, Reading read) {
+bool IsAboveZero(const CaseScreen& screen, int index, Reading read) {
   try {
-    return read(screen.Text1(box).Text.Get()) > 0;
+    return read(screen.Text1(index).Text.Get()) > 0;
   } catch (const Failure&) {
     return true;
   }
 }
 
-std::string BoxLine(const CaseScreen& screen, int box) {
-  return Join(screen.Label1(box).Caption, " = ", screen.Text1(box).Text, CRLF);
+std::string FieldLine(const CaseScreen& screen, int index) {
+  return Join(screen.Label1(index).Caption, " = ", screen.Text1(index).Text, CRLF);
 }
 
 std::string Inputs(const CaseScreen& screen) {
   std::string text = Join("DISTRIBUTION OF PROPERTY LEFT BY DECEASED ",
-                          UpperCase(screen.Text1(NameBox).Text.Get()), CRLF, CRLF, "INPUTS:", CRLF);
-  for (int box = GrossEstateBox; box <= NetEstateBox; ++box) text += BoxLine(screen, box);
+                          UpperCase(screen.Text1(NameField).Text.Get()), CRLF, CRLF, "INPUTS:", CRLF);
+  for (int index = GrossEstateField; index <= NetEstateField; ++index) text += FieldLine(screen, index);
   return Join(text, CRLF, "SHARE CLAIMANTS:", CRLF);
 }
 
@@ -32,21 +32,25 @@ constexpr std::string_view distribution = "\r\n\r\nDISTRIBUTION FOLLOWS LIKE THI
 
 }  // namespace
 
-bool IsEnteredLeniently(const CaseScreen& screen, int box) { return IsAboveZero(screen, box, ParsePrefix); }
+bool IsEnteredLeniently(const CaseScreen& screen, int index) {
+  return IsAboveZero(screen, index, ParsePrefix);
+}
 
-bool IsEnteredStrictly(const CaseScreen& screen, int box) { return IsAboveZero(screen, box, ParseStrict); }
+bool IsEnteredStrictly(const CaseScreen& screen, int index) {
+  return IsAboveZero(screen, index, ParseStrict);
+}
 
 void BuildFullHeader(CaseRecord& c, const CaseScreen& screen) {
   std::string claimants;
-  for (const int box : HeirBoxes) claimants += BoxLine(screen, box);
+  for (const int index : HeirFieldIndexes) claimants += FieldLine(screen, index);
   c.ReportHeader = Join(Inputs(screen), claimants, distribution);
 }
 
 void BuildSelectedHeader(CaseRecord& c, const CaseScreen& screen) {
   std::string claimants;
-  for (const int box : HeirBoxes) {
-    const bool entered = box <= 7 ? IsEnteredLeniently(screen, box) : IsEnteredStrictly(screen, box);
-    if (entered) claimants += BoxLine(screen, box);
+  for (const int index : HeirFieldIndexes) {
+    const bool entered = index <= 7 ? IsEnteredLeniently(screen, index) : IsEnteredStrictly(screen, index);
+    if (entered) claimants += FieldLine(screen, index);
   }
   const bool none = claimants.empty();
   c.ReportHeader = Join(Inputs(screen), none ? "- NO SELECTION IS FOUND" : claimants, distribution,

@@ -12,7 +12,7 @@ void BuildSelectedHeader(CaseRecord& c, const CaseScreen& screen);
 
 /// Whether the field has a number above 0, by its leading digits or by the strict conversion. If the reading
 /// fails, the heir counts as entered.
-bool IsEnteredLeniently(const CaseScreen& screen, int box);
-bool IsEnteredStrictly(const CaseScreen& screen, int box);
+bool IsEnteredLeniently(const CaseScreen& screen, int index);
+bool IsEnteredStrictly(const CaseScreen& screen, int index);
 
 }  // namespace qismora

@@ -12,27 +12,29 @@ constexpr const char* sharer = "Sharer ";
 constexpr const char* residuary = "Resid (Asaba') ";
 
 /// The entries 34 to 45 of the table belong to the class II check boxes.
-constexpr int firstClassIIBox = 34;
+constexpr int firstClassIICheckBox = 34;
 
-void Enter(CaseRecord& c, int box, Double amount, const char* kind, const std::string& fraction) {
-  c.SummaryAmount(box) = amount;
-  c.SummaryKind(box) = kind;
-  c.SummaryFraction(box) = fraction;
+void Enter(CaseRecord& c, int field, Double amount, const char* kind, const std::string& fraction) {
+  c.SummaryAmount(field) = amount;
+  c.SummaryKind(field) = kind;
+  c.SummaryFraction(field) = fraction;
 }
 
-void EnterSharer(CaseRecord& c, int box, Double amount, HeirKind heir) {
-  Enter(c, box, amount, sharer, Join(FractionOf(c, heir)));
+void EnterSharer(CaseRecord& c, int field, Double amount, HeirKind heir) {
+  Enter(c, field, amount, sharer, Join(FractionOf(c, heir)));
 }
-void EnterSharer(CaseRecord& c, int box, HeirKind heir) { EnterSharer(c, box, c.*Heirs[heir].Amount, heir); }
+void EnterSharer(CaseRecord& c, int field, HeirKind heir) {
+  EnterSharer(c, field, c.*Heirs[heir].Amount, heir);
+}
 
-void EnterResiduary(CaseRecord& c, int box, Double amount) { Enter(c, box, amount, residuary, ""); }
+void EnterResiduary(CaseRecord& c, int field, Double amount) { Enter(c, field, amount, residuary, ""); }
 
 /// A kind that is a residuary when any of the flags is set, else a sharer.
-void EnterEither(CaseRecord& c, int box, HeirKind heir, std::initializer_list<ResiduaryFlag> flags) {
+void EnterEither(CaseRecord& c, int field, HeirKind heir, std::initializer_list<ResiduaryFlag> flags) {
   for (const ResiduaryFlag flag : flags) {
-    if (c.Res(flag)) return EnterResiduary(c, box, c.*Heirs[heir].Amount);
+    if (c.Res(flag)) return EnterResiduary(c, field, c.*Heirs[heir].Amount);
   }
-  EnterSharer(c, box, heir);
+  EnterSharer(c, field, heir);
 }
 
 void EnterSpouse(CaseRecord& c) {
@@ -42,32 +44,32 @@ void EnterSpouse(CaseRecord& c) {
 }
 
 /// One male ascendant; the plus after the fraction means the residue in addition.
-void EnterFather(CaseRecord& c, int box, Double amount) {
+void EnterFather(CaseRecord& c, int field, Double amount) {
   const bool takesResidue = c.Res(FatherAsResiduary) || c.Res(FatherAsSharerAndResiduary);
   if (amount > 0 && takesResidue) {
-    Enter(c, box, amount, residuary,
+    Enter(c, field, amount, residuary,
           Join("(", c.FractionNum(FatherHeir), "/", c.FractionDen(FatherHeir), "+)"));
   } else if (amount == 0 && c.Res(FatherAsResiduary)) {
-    EnterResiduary(c, box, amount);
+    EnterResiduary(c, field, amount);
   } else {
-    EnterSharer(c, box, amount, FatherHeir);
+    EnterSharer(c, field, amount, FatherHeir);
   }
 }
 
-std::string HeirLine(const CaseRecord& c, const CaseScreen& screen, int box) {
-  return Join(screen.Label1(box).Caption, " = ", screen.Text1(box).Text, " (", F(c.SummaryAmount(box)), ")- ",
-              c.SummaryKind(box), c.SummaryFraction(box), CRLF);
+std::string HeirLine(const CaseRecord& c, const CaseScreen& screen, int field) {
+  return Join(screen.Label1(field).Caption, " = ", screen.Text1(field).Text, " (", F(c.SummaryAmount(field)),
+              ")- ", c.SummaryKind(field), c.SummaryFraction(field), CRLF);
 }
 
 /// The grandmothers entered, and one line for the amount of the group: the last of them that has one.
 std::string GrandMotherLines(const CaseRecord& c, const CaseScreen& screen) {
   std::string lines;
   int kept = 0;
-  for (int box = 17; box <= 21; ++box) {
-    if (!IsEnteredStrictly(screen, box)) continue;
-    lines += Join(screen.Label1(box).Caption, " = ", screen.Text1(box).Text, " (C)- ", c.SummaryKind(box),
-                  c.SummaryFraction(box), CRLF);
-    if (c.SummaryAmount(box) > 0) kept = box;
+  for (int field = 17; field <= 21; ++field) {
+    if (!IsEnteredStrictly(screen, field)) continue;
+    lines += Join(screen.Label1(field).Caption, " = ", screen.Text1(field).Text, " (C)- ",
+                  c.SummaryKind(field), c.SummaryFraction(field), CRLF);
+    if (c.SummaryAmount(field) > 0) kept = field;
   }
   if (kept == 0) return lines;
   return Join(lines, "TrueGr. Mother (", c.GrandMotherCount, "/", c.GrandMotherGroup, ") = (",
@@ -84,15 +86,15 @@ std::string ClassIILine(const CaseScreen& screen) {
 
 std::string HeirLines(const CaseRecord& c, const CaseScreen& screen) {
   std::string lines;
-  for (const int box : {1, 2, 3, 4, 5, 6, 7}) {
-    if (IsEnteredLeniently(screen, box)) lines += HeirLine(c, screen, box);
+  for (const int field : {1, 2, 3, 4, 5, 6, 7}) {
+    if (IsEnteredLeniently(screen, field)) lines += HeirLine(c, screen, field);
   }
-  for (const int box : {13, 14, 15, 16}) {
-    if (IsEnteredStrictly(screen, box)) lines += HeirLine(c, screen, box);
+  for (const int field : {13, 14, 15, 16}) {
+    if (IsEnteredStrictly(screen, field)) lines += HeirLine(c, screen, field);
   }
   lines += GrandMotherLines(c, screen);
-  for (const int box : {22, 23, 30, 31, 32, 33}) {
-    if (IsEnteredStrictly(screen, box)) lines += HeirLine(c, screen, box);
+  for (const int field : {22, 23, 30, 31, 32, 33}) {
+    if (IsEnteredStrictly(screen, field)) lines += HeirLine(c, screen, field);
   }
   return lines + ClassIILine(screen);
 }
@@ -137,8 +139,8 @@ void FillSummaryTable(CaseRecord& c) {
   EnterSharer(c, 32, UterineSisterHeir);
   EnterSharer(c, 33, UterineBrotherHeir);
   for (int i = 0; i < c.ClassIIFlag.Size; ++i) {
-    c.SummaryAmount(firstClassIIBox + i) = c.Residue;
-    c.SummaryKind(firstClassIIBox + i) = residuary;
+    c.SummaryAmount(firstClassIICheckBox + i) = c.Residue;
+    c.SummaryKind(firstClassIICheckBox + i) = residuary;
   }
 }
 

@@ -103,7 +103,7 @@ void AnswerState::End(int adjustment, bool netBelowZero, const CaseTexts& texts)
 // The name of the deceased stands in the texts of the answer and in none of its figures.
 void AnswerState::FieldsHold(const CaseTexts& texts) {
   CaseTexts named = texts;
-  named.Fields[NameBox] = answered_.Fields[NameBox];
+  named.Fields[NameField] = answered_.Fields[NameField];
   differ_ = named != answered_;
 }
 

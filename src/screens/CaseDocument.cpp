@@ -184,7 +184,7 @@ std::string CaseDocument::Folder() const {
 
 std::string CaseDocument::SuggestedPath() const {
   if (!path_.empty()) return path_;
-  const std::string name = form_.Text1(NameBox).Text.Get() + std::string(suffix);
+  const std::string name = form_.Text1(NameField).Text.Get() + std::string(suffix);
   const bool usable = name.size() > suffix.size() && IsFileName(name);
   return Join(Folder(), "/", usable ? name : "case.qismora");
 }

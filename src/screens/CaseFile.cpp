@@ -16,7 +16,7 @@ namespace {
 
 constexpr std::string_view versionCaption = "Qismora case";
 constexpr std::string_view byteOrderMark = "\xEF\xBB\xBF";
-constexpr int estateFields[] = {GrossEstateBox, FuneralBox, DebtsBox, WillsBox};
+constexpr int estateFields[] = {GrossEstateField, FuneralField, DebtsField, WillsField};
 
 std::string_view Trimmed(std::string_view text) {
   const std::size_t first = text.find_first_not_of(" \t");
@@ -190,9 +190,9 @@ std::string WriteCaseFile(const CaseTexts& texts) {
   };
   std::string file;
   AppendEntry(file, versionCaption, Join(CaseFileVersion));
-  AppendEntry(file, "Name", field(NameBox));
+  AppendEntry(file, "Name", field(NameField));
   AppendEntry(file, "Deceased", texts.Gender == Female ? "Female" : "Male");
-  for (const int heir : HeirBoxes) {
+  for (const int heir : HeirFieldIndexes) {
     if (field(heir).empty() || field(heir) == "0") continue;
     AppendEntry(file, CaptionOf(heir, texts.Gender == Female), field(heir));
   }

@@ -103,10 +103,10 @@ CaseStudy::CaseStudy(CaseRecord& record, Ports& ports, int savedLanguage)
   static_cast<ScreenLayer&>(record) = ScreenLayer{};
 
   for (const Caption& caption : Captions()) Label1(caption.Index).Caption = std::string(caption.Words);
-  for (const int box : HeirBoxes) Text1(box).Text = "0";
-  Text1(NameBox).Text = "ABDULLAH";
+  for (const int field : HeirFieldIndexes) Text1(field).Text = "0";
+  Text1(NameField).Text = "ABDULLAH";
   for (const ExampleFigure& example : ExampleFigures) Text1(example.Index).Text = std::string(example.Text);
-  Text1(NetEstateBox).Text = "0";
+  Text1(NetEstateField).Text = "0";
   for (int i = 0; i < Check1.Size; ++i) Check1(i).Caption = ClassIIRows[static_cast<std::size_t>(i)].Caption;
   for (int i = 0; i < Label4.Size; ++i) Label4(i).Caption = viewCaptions[i];
   for (int i = 0; i < Text1.Size; ++i) {
@@ -166,7 +166,7 @@ void CaseStudy::StartCase(const CaseTexts& texts) {
     StatusBar1.Caption = "";
     Frame5.Visible = true;
     TypeIntoScreen(texts, *this);
-    Text1(NetEstateBox).Text = "0";
+    Text1(NetEstateField).Text = "0";
     HeirsConsent = texts.HeirsConsent;
     answer_.Cleared();
     reviewing_ = true;
@@ -251,7 +251,7 @@ void CaseStudy::Label4_Click(int index) {
 // A double click on a caption: clear the results, load the case, run the wrapper, which loads it again, and
 // the rule.
 void CaseStudy::Label1_DblClick(int index) {
-  if (index == 0 || (index >= NameBox && index <= NetEstateBox)) return;
+  if (index == 0 || (index >= NameField && index <= NetEstateField)) return;
   const bool computes = index != blankCaption;
   Command(computes ? AnswerOf::OneShare : AnswerOf::Nothing, Join("Share of ", Label1(index).Caption), [&] {
     ShowLongText(*this, false);
@@ -287,7 +287,7 @@ void CaseStudy::Text1_Change(int) {
 // A refused estate is 0 afterwards, and so is the spouse that a switch of gender takes away.
 std::string CaseStudy::KeptFigure(int index) const {
   if (index == 1) return Join(Combo1.ListIndex == Male ? record_.Wives : record_.Husband);
-  if (index == GrossEstateBox) return GeneralNumber(record_.GrossEstate);
+  if (index == GrossEstateField) return GeneralNumber(record_.GrossEstate);
   return "the figure of the run before";
 }
 
@@ -299,7 +299,7 @@ std::vector<std::string> CaseStudy::Misreadings(Grouping grouping) const {
   std::vector<std::string> sentences;
   for (const Caption& caption : Captions()) {
     const int index = caption.Index;
-    if (index == 0 || index == NameBox || index == NetEstateBox) continue;
+    if (index == 0 || index == NameField || index == NetEstateField) continue;
     const std::string& text = Text1(index).Text;
     const TypedReading reading = ReadTyped(text, index);
     if (reading.How == Reading::AsItStands) continue;
@@ -364,7 +364,7 @@ void CaseStudy::Image2_Click() {
     Text3.Text = "";
     Text2.Text = "";
     Label3.Caption = "";
-    for (const int box : HeirBoxes) Text1(box).Text = "0";
+    for (const int field : HeirFieldIndexes) Text1(field).Text = "0";
     for (int i = 0; i < Check1.Size; ++i) Check1(i).Value = 0;
     const int next = Label6.ForeColor + 500000;
     Label6.ForeColor = next <= brightestColour ? next : Green;
@@ -377,7 +377,7 @@ void CaseStudy::TestValues_Click() {
   Event([&] {
     const bool fill = testValues_;
     testValues_ = !fill;
-    for (const int box : HeirBoxes) Text1(box).Text = fill ? "1" : "0";
+    for (const int field : HeirFieldIndexes) Text1(field).Text = fill ? "1" : "0";
     if (fill) return;
     for (int i = 0; i < Check1.Size; ++i) Check1(i).Value = 0;
   });

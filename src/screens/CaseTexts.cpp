@@ -67,13 +67,13 @@ constexpr FaultRow faultRows[] = {
 
 CaseTexts::CaseTexts() {
   Fields.fill("0");
-  Fields[Index(NameBox)].clear();
+  Fields[Index(NameField)].clear();
 }
 
 CaseTexts ReadScreen(const CaseScreen& screen, bool heirsConsent) {
   CaseTexts texts;
   for (const Caption& caption : Captions()) {
-    if (caption.Index == 0 || caption.Index == NetEstateBox) continue;
+    if (caption.Index == 0 || caption.Index == NetEstateField) continue;
     texts.Fields[Index(caption.Index)] = screen.Text1(caption.Index).Text;
   }
   for (int i = 0; i < screen.Check1.Size; ++i) texts.ClassII[Index(i)] = screen.Check1(i).Value == 1;
@@ -85,7 +85,7 @@ CaseTexts ReadScreen(const CaseScreen& screen, bool heirsConsent) {
 void TypeIntoScreen(const CaseTexts& texts, CaseScreen& screen) {
   screen.Combo1.ListIndex = texts.Gender;
   for (const Caption& caption : Captions()) {
-    if (caption.Index == 0 || caption.Index == NetEstateBox) continue;
+    if (caption.Index == 0 || caption.Index == NetEstateField) continue;
     screen.Text1(caption.Index).Text = texts.Fields[Index(caption.Index)];
   }
   for (int i = 0; i < screen.Check1.Size; ++i) screen.Check1(i).Value = texts.ClassII[Index(i)] ? 1 : 0;
@@ -99,7 +99,7 @@ std::optional<Entry> FindEntry(std::string_view caption) {
   if (is("Heirs consent")) return Entry{Kind::HeirsConsent};
   if (is(CaptionOf(faraid::Kind::Husband))) return Entry{Kind::Husband};
   for (const Caption& row : Captions()) {
-    if (row.Index != 0 && row.Index != NetEstateBox && is(row.Words)) return Entry{Kind::Field, row.Index};
+    if (row.Index != 0 && row.Index != NetEstateField && is(row.Words)) return Entry{Kind::Field, row.Index};
   }
   for (int i = 0; i < static_cast<int>(ClassIIRows.size()); ++i) {
     if (is(ClassIIRows[Index(i)].Caption)) return Entry{Kind::ClassII, i};
@@ -135,13 +135,13 @@ std::optional<CaseFault> CaseEntries::Set(Entry entry, std::string_view value) {
       break;
     }
     case Kind::Name:
-      texts_.Fields[Index(NameBox)] = value;
+      texts_.Fields[Index(NameField)] = value;
       break;
     case Kind::Deceased:
       if (const std::optional<int> gender = GenderOf(value)) {
         gender_ = gender;
       } else {
-        texts_.Fields[Index(NameBox)] = value;
+        texts_.Fields[Index(NameField)] = value;
       }
       break;
     case Kind::HeirsConsent: {

@@ -14,7 +14,7 @@ namespace qismora {
 struct CaseTexts {
   CaseTexts();
 
-  /// By the index on the screen. The name is at NameBox; the others are "0" unless typed.
+  /// By the index on the screen. The name is at NameField; the others are "0" unless typed.
   std::array<std::string, 34> Fields;
   std::array<bool, 12> ClassII{};
   int Gender = Male;
@@ -30,10 +30,10 @@ struct ExampleFigure {
 };
 
 inline constexpr std::array<ExampleFigure, 4> ExampleFigures = {{
-    {GrossEstateBox, "18600"},
-    {FuneralBox, "1000"},
-    {DebtsBox, "5000"},
-    {WillsBox, "2600"},
+    {GrossEstateField, "18600"},
+    {FuneralField, "1000"},
+    {DebtsField, "5000"},
+    {WillsField, "2600"},
 }};
 
 /// What the fields of the screen hold. The consent of the heirs is not part of the screen.

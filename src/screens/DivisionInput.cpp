@@ -141,10 +141,10 @@ DivisionInput ReadDivisionInput(const CaseTexts& texts) {
   for (std::size_t i = 0; i < texts.ClassII.size(); ++i) {
     input.Family[ClassIIKind(static_cast<int>(i))] = texts.ClassII[i] ? 1 : 0;
   }
-  input.Estate.Gross = fields.Amount(GrossEstateBox);
-  input.Estate.Funeral = fields.Amount(FuneralBox);
-  input.Estate.Debts = fields.Amount(DebtsBox);
-  input.Estate.Bequests = fields.Amount(WillsBox);
+  input.Estate.Gross = fields.Amount(GrossEstateField);
+  input.Estate.Funeral = fields.Amount(FuneralField);
+  input.Estate.Debts = fields.Amount(DebtsField);
+  input.Estate.Bequests = fields.Amount(WillsField);
   input.Estate.HeirsConsent = texts.HeirsConsent;
   input.Unreadable = std::move(fields.Unreadable);
   return input;

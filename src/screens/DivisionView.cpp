@@ -53,7 +53,7 @@ void Fill(DivisionView& view, const faraid::Division& division) {
 /// The texts are read once for all schools.
 DivisionView ViewWithoutLines(const CaseTexts& texts, const DivisionInput& input) {
   DivisionView view;
-  view.Name = texts.Fields[NameBox];
+  view.Name = texts.Fields[NameField];
   view.Gender = texts.Gender;
   view.Unreadable = input.Unreadable;
   view.Estate = input.Estate;

@@ -117,13 +117,13 @@ void InhMain::Form_Load() {
 // The group goes back to its resting entry, so that the same entry can be chosen again.
 void InhMain::Option1_Click(int index) {
   Event([&] {
-    Hourglass = true;
+    ShowsWaitCursor = true;
     Option1(index).Value = true;
     shell_.LawPage = Integer(index);
     RunEntry(index);
     Option1(index).Value = false;
     Option1(restingEntry).Value = true;
-    Hourglass = false;
+    ShowsWaitCursor = false;
   });
 }
 

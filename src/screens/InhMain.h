@@ -62,7 +62,7 @@ class InhMain : public CentredFrame {
   Label Label1;
   Array<OptionButton, 12> Option1;
   /// Whether the pointer is the wait cursor, while an entry is carried out.
-  Property<bool> Hourglass;
+  Property<bool> ShowsWaitCursor;
   TextBox Text1;
   Label Label5;
   Label Label6;

@@ -26,8 +26,8 @@ bool IsPlain(std::string_view text, bool whole) {
 
 /// The number as its field takes it; beyond the range of the field's type it is the overflow failure.
 std::string ReadAs(Double number, int index) {
-  if (index == GrossEstateBox) return GeneralNumber(number);
-  const bool money = index == FuneralBox || index == DebtsBox || index == WillsBox;
+  if (index == GrossEstateField) return GeneralNumber(number);
+  const bool money = index == FuneralField || index == DebtsField || index == WillsField;
   return money ? Join(RoundTo<Long>(number)) : Join(RoundTo<Integer>(number));
 }
 
@@ -37,7 +37,7 @@ TypedReading ReadTyped(std::string_view text, int index) {
   if (!IsNumber(text)) return {Reading::NotAtAll, ""};
   try {
     const std::string read = ReadAs(ParsePrefix(text), index);
-    const bool plain = IsPlain(text, index != GrossEstateBox);
+    const bool plain = IsPlain(text, index != GrossEstateField);
     return {plain ? Reading::AsItStands : Reading::AsAnotherNumber, read};
   } catch (const Failure&) {
     return {Reading::TooLarge, ""};

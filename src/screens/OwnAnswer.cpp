@@ -256,7 +256,7 @@ OwnAnswer OwnAnswerOf(const CaseTexts& texts) {
   }
   answer.NetEstate = own.Record.NetEstate.Value();
   answer.Refusal = own.Boxes.Refusal;
-  for (const int field : {GrossEstateBox, FuneralBox, DebtsBox, WillsBox}) {
+  for (const int field : {GrossEstateField, FuneralField, DebtsField, WillsField}) {
     const std::string& text = texts.Fields[static_cast<std::size_t>(field)];
     answer.StopsAtComma = answer.StopsAtComma || text.find(',') != std::string::npos;
   }

@@ -112,7 +112,7 @@ TEST_F(AnswerStateTest, ChangedFieldsAreAnotherCase) {
   EXPECT_EQ(Words(), "Fields have changed since the answer of Aul/ Radd.");
   case_.Type(23, "2");
   EXPECT_EQ(Words(), "Answer of Aul/ Radd: final.");
-  case_.Type(NameBox, "Aminah");
+  case_.Type(NameField, "Aminah");
   EXPECT_EQ(Standing(), AnswerStanding::Final);
   Study().Check1(0).Value = 1;
   EXPECT_EQ(Standing(), AnswerStanding::Changed);
@@ -145,12 +145,12 @@ TEST_F(AnswerStateTest, EachMessageThatStopsTheLoadRefusesTheFigures) {
            {33, "101",
             "Check number of Uterine Brothers (From same mother but different father), should be limited "
             "reasonably."},
-           {GrossEstateBox, "-1", "No estate wealth for inheritance."},
-           {FuneralBox, "801", "No estate wealth left for inheritance, after funerals."},
-           {DebtsBox, "801", "No estate wealth left for inheritance, after payment of debts."},
+           {GrossEstateField, "-1", "No estate wealth for inheritance."},
+           {FuneralField, "801", "No estate wealth left for inheritance, after funerals."},
+           {DebtsField, "801", "No estate wealth left for inheritance, after payment of debts."},
            {3, "40000", "Check for high values of Debts/ Wills (Legacies)/ Funeral expenses"},
-           {WillsBox, "3000000000", "Check for high values of Debts/ Wills (Legacies)/ Funeral expenses"},
-           {GrossEstateBox, "1e999", "Check for high values of Debts/ Wills (Legacies)/ Funeral expenses"},
+           {WillsField, "3000000000", "Check for high values of Debts/ Wills (Legacies)/ Funeral expenses"},
+           {GrossEstateField, "1e999", "Check for high values of Debts/ Wills (Legacies)/ Funeral expenses"},
        }) {
     const std::string before = Study().Text1(refusal.Index).Text;
     Study().Combo1.ListIndex = refusal.Gender;
@@ -176,19 +176,19 @@ TEST_F(AnswerStateTest, QuestionAndWarningDoNotRefuse) {
   case_.TypeEstate("800");
   case_.Type(2, "1");
   for (const Answer answer : {Answer::Yes, Answer::No}) {
-    case_.Type(WillsBox, "500");
+    case_.Type(WillsField, "500");
     case_.Fakes.Boxes.Answers = {answer};
     Study().Resid_Click();
     EXPECT_EQ(Words(), "Answer of Residuaries: final.");
   }
-  EXPECT_EQ(Study().Text1(WillsBox).Text.Get(), "267");
+  EXPECT_EQ(Study().Text1(WillsField).Text.Get(), "267");
   case_.TypeEstate("1000");
-  case_.Type(FuneralBox, "600");
-  case_.Type(DebtsBox, "600");
+  case_.Type(FuneralField, "600");
+  case_.Type(DebtsField, "600");
   Study().Resid_Click();
   EXPECT_EQ(Words(), "Answer of Residuaries: the net estate is below 0, nothing is left to divide.");
 
-  case_.Type(WillsBox, "900");
+  case_.Type(WillsField, "900");
   case_.Fakes.Boxes.QuestionsEnd = true;
   Study().Resid_Click();
   EXPECT_EQ(Words(), "Refused: these figures are not your case. The command was not finished.");
@@ -217,7 +217,7 @@ TEST_F(AnswerStateTest, AStartedCaseHasNoPast) {
   Study().Resid_Click();
   CaseTexts next;
   next.Fields[23] = "two";
-  next.Fields[GrossEstateBox] = "900";
+  next.Fields[GrossEstateField] = "900";
   next.HeirsConsent = true;
   Study().StartCase(next);
   EXPECT_EQ(Words(), "No answer yet.");
@@ -234,9 +234,9 @@ TEST_F(AnswerStateTest, AStartedCaseHasNoPast) {
 TEST(Misreadings, NameTheFieldItsTextAndWhatIsRead) {
   ScreenFixture played;
   played.TypeEstate("18,40,000");
-  played.Type(FuneralBox, "1e6");
-  played.Type(DebtsBox, "-1234567.5");
-  played.Type(WillsBox, "99999999999");
+  played.Type(FuneralField, "1e6");
+  played.Type(DebtsField, "-1234567.5");
+  played.Type(WillsField, "99999999999");
   played.Type(1, "one");
   played.Type(2, "2.5");
   played.Type(3, "");

@@ -32,11 +32,11 @@ TEST(CaseFile, IsReadAsItIsWrittenByHand) {
       "Deceased = Male\n"
       "Heirs consent = yes");
   ASSERT_FALSE(reading.Fault);
-  EXPECT_EQ(FieldOf(reading, NameBox), "Abdullah");
+  EXPECT_EQ(FieldOf(reading, NameField), "Abdullah");
   EXPECT_EQ(FieldOf(reading, 1), "1");
   EXPECT_EQ(FieldOf(reading, 17), "1");
-  EXPECT_EQ(FieldOf(reading, GrossEstateBox), "1,000");
-  EXPECT_EQ(FieldOf(reading, DebtsBox), "0");
+  EXPECT_EQ(FieldOf(reading, GrossEstateField), "1,000");
+  EXPECT_EQ(FieldOf(reading, DebtsField), "0");
   EXPECT_TRUE(reading.Case.ClassII[11]);
   EXPECT_TRUE(reading.Case.HeirsConsent);
   EXPECT_EQ(reading.Case.Gender, Male);
@@ -49,7 +49,7 @@ TEST(CaseFile, IsWrittenInTheOrderOfTheScreenWithoutWhoIsNotThere) {
   texts.Fields[33] = "2";
   texts.Fields[2] = "abc";
   texts.Fields[3] = "";
-  texts.Fields[GrossEstateBox] = "24000";
+  texts.Fields[GrossEstateField] = "24000";
   texts.ClassII[4] = true;
   EXPECT_EQ(WriteCaseFile(texts),
             "Qismora case = 1\nName =\nDeceased = Female\nHusband = 1\nSons = abc\nUterine Brothers = 2\n"
@@ -66,7 +66,7 @@ TEST(CaseFile, KeepsEveryTextOfAField) {
       CaseTexts texts;
       texts.Gender = gender;
       texts.HeirsConsent = gender == Female;
-      for (const int index : {1, 2, 33, NameBox, GrossEstateBox}) {
+      for (const int index : {1, 2, 33, NameField, GrossEstateField}) {
         texts.Fields[static_cast<std::size_t>(index)] = text;
       }
       const CaseFileReading reading = ParseCaseFile(WriteCaseFile(texts));
@@ -119,7 +119,7 @@ TEST(CaseFile, ANewerVersionMayHoldLinesThatAreNotKnown) {
   const CaseFileReading reading = ParseCaseFile("Qismora case = 2\nSons = 1\nUnborn = 1\nnote\nDebts = 5\n");
   ASSERT_FALSE(reading.Fault);
   EXPECT_EQ(FieldOf(reading, 2), "1");
-  EXPECT_EQ(FieldOf(reading, DebtsBox), "5");
+  EXPECT_EQ(FieldOf(reading, DebtsField), "5");
   EXPECT_EQ(reading.Unknown, (std::vector<CaseLine>{{3, "Unborn = 1"}, {4, "note"}}));
   EXPECT_TRUE(ParseCaseFile("Qismora case = 2\nSons = 1\nSons = 2\n").Fault);
 }
@@ -128,7 +128,7 @@ TEST(CaseFile, ANewerVersionMayHoldLinesThatAreNotKnown) {
 // same, or a fault that has a line.
 TEST(CaseFile, NoDamageGoesUnnoticedOrBreaksTheReader) {
   CaseTexts texts;
-  texts.Fields[NameBox] = "عبداللہ\t";
+  texts.Fields[NameField] = "عبداللہ\t";
   texts.Fields[2] = "\"2";
   texts.ClassII[11] = true;
   const std::string whole = WriteCaseFile(texts);
@@ -148,7 +148,7 @@ TEST(CaseFile, NoDamageGoesUnnoticedOrBreaksTheReader) {
     } else {
       const CaseFileReading again = ParseCaseFile(WriteCaseFile(reading.Case));
       ASSERT_FALSE(again.Fault) << content;
-      for (const int heir : HeirBoxes) {
+      for (const int heir : HeirFieldIndexes) {
         const std::string& text = FieldOf(reading, heir);
         ASSERT_EQ(FieldOf(again, heir), text.empty() ? "0" : text) << content;
       }
@@ -169,9 +169,9 @@ TEST(CaseFile, OpeningOneIsTypingIt) {
   EXPECT_EQ(played.Study->Text1(1).Text.Get(), "1");
   EXPECT_EQ(played.Study->Text1(2).Text.Get(), "2 x");
   EXPECT_EQ(played.Study->Text1(5).Text.Get(), "0");
-  EXPECT_EQ(played.Study->Text1(NameBox).Text.Get(), "");
-  EXPECT_EQ(played.Study->Text1(GrossEstateBox).Text.Get(), "0");
-  EXPECT_EQ(played.Study->Text1(DebtsBox).Text.Get(), "7");
+  EXPECT_EQ(played.Study->Text1(NameField).Text.Get(), "");
+  EXPECT_EQ(played.Study->Text1(GrossEstateField).Text.Get(), "0");
+  EXPECT_EQ(played.Study->Text1(DebtsField).Text.Get(), "7");
   EXPECT_EQ(played.Study->Check1(2).Value, 0);
   EXPECT_EQ(played.Study->Check1(4).Value, 1);
   EXPECT_TRUE(played.Fakes.Boxes.Shown.empty());

@@ -20,7 +20,7 @@ struct Heads {
 
 CaseTexts Case(std::initializer_list<Heads> heirs, const char* gross = "2400") {
   CaseTexts texts;
-  texts.Fields[GrossEstateBox] = gross;
+  texts.Fields[GrossEstateField] = gross;
   for (const auto& [heir, count] : heirs) {
     if (heir == Kind::Husband) texts.Gender = Female;
     texts = WithHeads(texts, heir, count);
@@ -35,7 +35,7 @@ TEST(DivisionView, NamesWhatBecameOfTheEstate) {
   unreadable.Fields[3] = "two";
   EXPECT_EQ(Outcome(unreadable), DivisionOutcome::Unreadable);
   CaseTexts indebted = Case({{Kind::Sons, 1}});
-  indebted.Fields[DebtsBox] = "2400.01";
+  indebted.Fields[DebtsField] = "2400.01";
   EXPECT_EQ(Outcome(indebted), DivisionOutcome::Short);
   EXPECT_EQ(Outcome(Case({})), DivisionOutcome::NoHeirs);
   EXPECT_EQ(Outcome(Case({{Kind::Husband, 1}, {Kind::FullSisters, 2}})), DivisionOutcome::AwlApplied);
@@ -62,16 +62,16 @@ TEST(DivisionView, TakersSumToTheNetEstateAndOthersStandApart) {
 
 TEST(DivisionView, MarksTheExampleFiguresThatAreUntouched) {
   CaseTexts texts = Case({{Kind::Sons, 1}}, "18600");
-  texts.Fields[DebtsBox] = "5000";
-  texts.Fields[FuneralBox] = "999";
-  EXPECT_EQ(ViewDivision(texts, School::Hanafi).Examples, (std::vector<int>{GrossEstateBox, DebtsBox}));
+  texts.Fields[DebtsField] = "5000";
+  texts.Fields[FuneralField] = "999";
+  EXPECT_EQ(ViewDivision(texts, School::Hanafi).Examples, (std::vector<int>{GrossEstateField, DebtsField}));
 }
 
 TEST(DivisionView, AsksForTheConsentWhereMoreThanAThirdIsBequeathed) {
   CaseTexts texts = Case({{Kind::Sons, 1}}, "300");
-  texts.Fields[WillsBox] = "100";
+  texts.Fields[WillsField] = "100";
   EXPECT_FALSE(ViewDivision(texts, School::Hanafi).ConsentMatters());
-  texts.Fields[WillsBox] = "100.01";
+  texts.Fields[WillsField] = "100.01";
   EXPECT_TRUE(ViewDivision(texts, School::Hanafi).BequestsAreCut());
   texts.HeirsConsent = true;
   EXPECT_TRUE(ViewDivision(texts, School::Hanafi).ConsentMatters());

@@ -54,7 +54,7 @@ TEST_F(ReportFiles, ANameThatIsNoFileNameSavesNothingAndOverwritesNothing) {
   for (const std::string& name : {std::string("../escaped"), std::string("a/b"), std::string("a\\b"),
                                   std::string("a\0b", 3), std::string(300, 'x')}) {
     Case.Fakes.Boxes.Shown.clear();
-    Case.Type(NameBox, name);
+    Case.Type(NameField, name);
     Case.Study->CreateSaveFullReport_Click();
     EXPECT_TRUE(Case.Fakes.Boxes.Shown.empty()) << name;
     EXPECT_EQ(Names(), std::vector<std::string>{"reports"}) << name;
@@ -67,14 +67,14 @@ TEST_F(ReportFiles, ANameThatIsNoFileNameSavesNothingAndOverwritesNothing) {
 }
 
 TEST_F(ReportFiles, ANameOfDotsIsAFileName) {
-  Case.Type(NameBox, ".");
+  Case.Type(NameField, ".");
   Case.Study->CreateSaveFullReport_Click();
   EXPECT_EQ(Names(), (std::vector<std::string>{"..txt", "FullReport"}));
   EXPECT_EQ(Outcome(), Ended("..txt", ""));
 }
 
 TEST_F(ReportFiles, AFolderWithoutPermissionKeepsTheEarlierReports) {
-  Case.Type(NameBox, "Zayd");
+  Case.Type(NameField, "Zayd");
   Case.Study->CreateSaveFullReport_Click();
   const std::string earlier = ReadWholeFile(Folder.File("zayd.txt"));
   // Root may write everywhere, so the folder is one that nobody can write to.
@@ -89,7 +89,7 @@ TEST_F(ReportFiles, AFolderWithoutPermissionKeepsTheEarlierReports) {
 }
 
 TEST_F(ReportFiles, AFullReportAsksBeforeItReplacesWhateverHasTheName) {
-  Case.Type(NameBox, "Zayd");
+  Case.Type(NameField, "Zayd");
   std::ofstream(Folder.File("elsewhere")) << "not ours";
   fs::create_symlink(Folder.File("elsewhere"), Folder.File("zayd.txt"));
   for (const Answer answer : {Answer::No, Answer::Yes}) {
@@ -164,7 +164,7 @@ TEST_F(ReportFiles, AnEmptyPanelLeavesAnEarlierFileThatTheUserAgreedToReplace) {
 
 TEST_F(ReportFiles, AnUnansweredQuestionAbandonsItsCommand) {
   Case.Fakes.Boxes.QuestionsEnd = true;
-  Case.Type(WillsBox, "20000");
+  Case.Type(WillsField, "20000");
   Case.Study->CreateSaveFullReport_Click();
   EXPECT_TRUE(Names().empty()) << "nobody has agreed to the larger will";
   EXPECT_EQ(Case.Fakes.Boxes.Shown.size(), 1U) << "no message follows";
@@ -172,7 +172,7 @@ TEST_F(ReportFiles, AnUnansweredQuestionAbandonsItsCommand) {
   EXPECT_FALSE(Case.Record.CaseLoaded);
   EXPECT_TRUE(Outcomes.empty());
 
-  Case.Type(WillsBox, "0");
+  Case.Type(WillsField, "0");
   std::ofstream(Folder.File("abdullah.txt")) << "earlier";
   Case.Fakes.Dialog.Paths = {Folder.File("abdullah.txt")};
   Case.Study->CreateSaveFullReport_Click();
@@ -182,7 +182,7 @@ TEST_F(ReportFiles, AnUnansweredQuestionAbandonsItsCommand) {
 }
 
 TEST_F(ReportFiles, SavedResultsKeepTheScriptsOfTheName) {
-  Case.Type(NameBox, "عبد الله É");
+  Case.Type(NameField, "عبد الله É");
   Case.Study->CreateSaveFullReport_Click();
   EXPECT_EQ(Names(), (std::vector<std::string>{"FullReport", "عبد الله é.txt"}));
   EXPECT_NE(ReadWholeFile(Folder.File("FullReport")).find("DECEASED عبد الله É\r\n"), std::string::npos);

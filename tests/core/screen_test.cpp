@@ -44,12 +44,12 @@ TEST(Screen, EachClearStepsTheColourOfTheNameAndComesBackToGreen) {
   EXPECT_GT(clears, 30);
 }
 
-TEST(Screen, TheBorderOfTheClearPictureGoesWithAChangedBox) {
+TEST(Screen, TheBorderOfTheClearPictureGoesWithAChangedField) {
   ScreenFixture played;
   CaseStudy& study = *played.Study;
   study.Image2_MouseDown();
   study.Image2_Click();
-  EXPECT_EQ(study.Image2.BorderStyle, 1) << "every box held 0 already";
+  EXPECT_EQ(study.Image2.BorderStyle, 1) << "every field held 0 already";
   played.Type(2, "3");
   EXPECT_EQ(study.Image2.BorderStyle, 0);
   study.Image2_MouseDown();
@@ -86,11 +86,11 @@ TEST(Screen, TheSavedViewOpensAndEachChoiceIsSaved) {
   EXPECT_EQ(ScreenFixture(7).Study->Label4(0).BorderStyle, 1) << "a view that is none is the first";
 }
 
-TEST(Screen, ARefusedCountSendsTheFocusToItsBox) {
+TEST(Screen, ARefusedCountSendsTheFocusToItsField) {
   ScreenFixture played;
   int focused = 0;
-  for (const int box : HeirBoxes) {
-    played.Study->Text1(box).FocusWanted = [&focused, box] { focused = box; };
+  for (const int field : HeirFieldIndexes) {
+    played.Study->Text1(field).FocusWanted = [&focused, field] { focused = field; };
   }
   played.Type(2, "101");
   played.Study->Label1_DblClick(3);
@@ -135,14 +135,14 @@ TEST(Screen, SaysWhatIsReadWhereThatIsNotWhatStandsThere) {
       {2, "", "This is not a number and is not read: the figure of the run before stays."},
       {2, "4e4", "This is too large and will be refused."},
       {2, "40000", "This is too large and will be refused."},
-      {GrossEstateBox, "12.50", ""},
-      {GrossEstateBox, "24,000", "Read as 24"},
-      {GrossEstateBox, "24.000", ""},
-      {GrossEstateBox, "2.4e4", "Read as 24000"},
-      {GrossEstateBox, "9e99", "Read as 9E+99"},
-      {GrossEstateBox, "1e400", "This is too large and will be refused."},
-      {DebtsBox, "4e4", "Read as 40000"},
-      {DebtsBox, "4e9", "This is too large and will be refused."},
+      {GrossEstateField, "12.50", ""},
+      {GrossEstateField, "24,000", "Read as 24"},
+      {GrossEstateField, "24.000", ""},
+      {GrossEstateField, "2.4e4", "Read as 24000"},
+      {GrossEstateField, "9e99", "Read as 9E+99"},
+      {GrossEstateField, "1e400", "This is too large and will be refused."},
+      {DebtsField, "4e4", "Read as 40000"},
+      {DebtsField, "4e9", "This is too large and will be refused."},
   };
   for (const auto& row : rows) {
     ScreenFixture played;
@@ -160,11 +160,11 @@ TEST(Screen, SaysWhichFigureStays) {
     played.Type(field, "none");
     return played.Study->MisreadingOf(field);
   };
-  EXPECT_EQ(stays(GrossEstateBox), "This is not a number and is not read: 18600 stays.");
+  EXPECT_EQ(stays(GrossEstateField), "This is not a number and is not read: 18600 stays.");
   EXPECT_EQ(stays(1), "This is not a number and is not read: 3 stays.");
-  played.Type(DebtsBox, "99999");
+  played.Type(DebtsField, "99999");
   played.Study->Label1_DblClick(3);
-  EXPECT_EQ(stays(GrossEstateBox), "This is not a number and is not read: 0 stays.");
+  EXPECT_EQ(stays(GrossEstateField), "This is not a number and is not read: 0 stays.");
   played.Study->Combo1.ListIndex = Female;
   played.Study->Combo1.ListIndex = Male;
   EXPECT_EQ(stays(1), "This is not a number and is not read: 0 stays.");

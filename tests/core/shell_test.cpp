@@ -143,7 +143,7 @@ TEST(MainMenu, EveryEntryLeadsWhereItSays) {
       EXPECT_EQ(menu.Shell.LawPage, i);
       EXPECT_FALSE(form.Option1(i).Value);
       EXPECT_TRUE(form.Option1(7).Value);
-      EXPECT_FALSE(form.Hourglass);
+      EXPECT_FALSE(form.ShowsWaitCursor);
     }
   }
 }

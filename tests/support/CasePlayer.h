@@ -26,10 +26,10 @@ class CasePlayer {
   CasePlayer() {
     fakes_.Folders.Folder = folder_.Path();
     fields_ = {{"Wives", 1}, {"Husband", 1}};  // both captions belong to field 1
-    for (const int field : HeirBoxes) fields_[screen_.Label1(field).Caption.Get()] = field;
-    for (const int field : {NameBox, GrossEstateBox, FuneralBox, DebtsBox, WillsBox}) {
+    for (const int field : HeirFieldIndexes) fields_[screen_.Label1(field).Caption.Get()] = field;
+    for (const int field : {NameField, GrossEstateField, FuneralField, DebtsField, WillsField}) {
       fields_[screen_.Label1(field).Caption.Get()] = field;
-      if (field != NameBox) screen_.Text1(field).Text = "0";
+      if (field != NameField) screen_.Text1(field).Text = "0";
     }
     for (int i = 0; i < screen_.Check1.Size; ++i) checkBoxes_[screen_.Check1(i).Caption.Get()] = i;
   }

@@ -28,7 +28,7 @@ struct TypedCase {
     for (std::size_t i = 0; i < texts.ClassII.size(); ++i) {
       texts.ClassII[i] = Family[ClassIIKind(static_cast<int>(i))] > 0;
     }
-    constexpr int amountFields[] = {GrossEstateBox, FuneralBox, DebtsBox, WillsBox};
+    constexpr int amountFields[] = {GrossEstateField, FuneralField, DebtsField, WillsField};
     for (std::size_t i = 0; i < Amounts.size(); ++i) type(amountFields[i], Amounts[i]);
     texts.Gender = Family[faraid::Kind::Husband] > 0 ? Female : Male;
     texts.HeirsConsent = HeirsConsent;

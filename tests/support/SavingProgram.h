@@ -16,7 +16,7 @@ class SavingProgram {
     case_.Fakes.Folders.Folder = folder;
     case_.Fakes.Folders.Disk = SyncToDisk;
     case_.TypeEstate("24000");
-    case_.Type(NameBox, "Zayd");
+    case_.Type(NameField, "Zayd");
     case_.Type(1, "1");
     case_.Type(2, std::to_string(sons));
     StartSession(shell_, case_.Fakes.Ports);

@@ -17,8 +17,8 @@ struct ScreenFixture {
 
   /// Types an estate without funeral expenses, debts and wills.
   void TypeEstate(const std::string& estate) {
-    Type(GrossEstateBox, estate);
-    for (const int field : {FuneralBox, DebtsBox, WillsBox}) Type(field, "0");
+    Type(GrossEstateField, estate);
+    for (const int field : {FuneralField, DebtsField, WillsField}) Type(field, "0");
   }
 
   FakePorts Fakes;

@@ -49,7 +49,7 @@ class CaseStudyFixture {
   /// The next message box contains these words; this button of it is clicked.
   void Expect(const QString& words, QMessageBox::StandardButton answer = QMessageBox::Ok);
   /// Message boxes are closed unread.
-  void IgnoreBoxes() { ignore_ = true; }
+  void IgnoreMessageBoxes() { ignore_ = true; }
   /// Whether all expected message boxes have come, and no others.
   bool AllAnswered() const { return expected_.empty() && surprises_ == 0; }
 

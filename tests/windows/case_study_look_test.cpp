@@ -101,14 +101,14 @@ class CaseStudyLookTest : public QObject {
   }
 
   void FieldsHoldTheirFigures() {
-    for (const auto* box : fixture_->Find("Frame1")->findChildren<QLineEdit*>()) {
-      const QString widest = box->width() > 60 ? QStringLiteral("-2147483647") : QStringLiteral("100");
-      const int frame = 2 * box->style()->pixelMetric(QStyle::PM_DefaultFrameWidth) + 4;
-      QVERIFY(box->fontMetrics().horizontalAdvance(widest) + frame <= box->width());
-      QVERIFY(box->fontMetrics().height() <= box->height() - 4);
+    for (const auto* field : fixture_->Find("Frame1")->findChildren<QLineEdit*>()) {
+      const QString widest = field->width() > 60 ? QStringLiteral("-2147483647") : QStringLiteral("100");
+      const int frame = 2 * field->style()->pixelMetric(QStyle::PM_DefaultFrameWidth) + 4;
+      QVERIFY(field->fontMetrics().horizontalAdvance(widest) + frame <= field->width());
+      QVERIFY(field->fontMetrics().height() <= field->height() - 4);
       for (const auto* caption : fixture_->Find("Frame1")->findChildren<QWidget*>()) {
         if (!caption->property("text").toString().isEmpty() && caption->objectName().startsWith("Label1"))
-          QVERIFY(!caption->geometry().intersects(box->geometry()));
+          QVERIFY(!caption->geometry().intersects(field->geometry()));
       }
     }
   }

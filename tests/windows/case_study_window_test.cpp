@@ -45,7 +45,7 @@ class CaseStudyWindowTest : public QObject {
     fixture_->Type("Text1(2)", "1");
     fixture_->Type("Text1(3)", "1");
     fixture_->Type("Text1(25)", "24000");
-    for (const char* box : {"Text1(26)", "Text1(27)", "Text1(28)"}) fixture_->Type(box, "0");
+    for (const char* field : {"Text1(26)", "Text1(27)", "Text1(28)"}) fixture_->Type(field, "0");
     QTest::keyClick(&fixture_->Window(), Qt::Key_F5);
     auto* report = fixture_->Find<QPlainTextEdit>("Text3");
     QTRY_VERIFY(report->isVisible());
@@ -64,7 +64,7 @@ class CaseStudyWindowTest : public QObject {
 
   void OneHeir_data() {
     QTest::addColumn<QString>("way");
-    for (const char* way : {"mouse", "on top", "Return", "Space", "menu", "press", "from the box"}) {
+    for (const char* way : {"mouse", "on top", "Return", "Space", "menu", "press", "from the field"}) {
       QTest::newRow(way) << QString::fromLatin1(way);
     }
   }
@@ -79,7 +79,7 @@ class CaseStudyWindowTest : public QObject {
     if (way == "Return") fixture_->Key("Label1(16)", Qt::Key_Return);
     if (way == "Space") fixture_->Key("Label1(16)", Qt::Key_Space);
     if (way == "menu") ChooseFromMenu(caption, 0);
-    if (way == "from the box")
+    if (way == "from the field")
       QTest::keyClick(fixture_->Find("Text1(16)"), Qt::Key_Return, Qt::ControlModifier);
     if (way == "press") {
       QAccessibleInterface* accessible = QAccessible::queryAccessibleInterface(caption);
@@ -130,7 +130,7 @@ class CaseStudyWindowTest : public QObject {
 
   // What stays where no number was typed is what the last run has left.
   void HintsFollowTheRuns() {
-    fixture_->IgnoreBoxes();
+    fixture_->IgnoreMessageBoxes();
     fixture_->DoubleClick("Label1(3)");
     fixture_->Type("Text1(25)", "none");
     const QWidget* estate = fixture_->Find("Text1(25)");
@@ -267,12 +267,12 @@ class CaseStudyWindowTest : public QObject {
   // Whatever the fields contain, a command ends and the window keeps working.
   void OddTexts() {
     QFETCH(const QString, text);
-    fixture_->IgnoreBoxes();
-    for (const char* box : {"Text1(1)", "Text1(7)", "Text1(13)", "Text1(24)", "Text1(25)", "Text1(28)"}) {
-      fixture_->Find<QLineEdit>(box)->setText(text);
+    fixture_->IgnoreMessageBoxes();
+    for (const char* field : {"Text1(1)", "Text1(7)", "Text1(13)", "Text1(24)", "Text1(25)", "Text1(28)"}) {
+      fixture_->Find<QLineEdit>(field)->setText(text);
       fixture_->DoubleClick("Label1(3)");
       fixture_->Find<QAction>("Resid")->trigger();
-      fixture_->DoubleClick(box);
+      fixture_->DoubleClick(field);
     }
     QVERIFY(fixture_->TextOf("Label13").toInt() > 0);
     QCOMPARE(fixture_->Window().size(), QSize(799, 599));

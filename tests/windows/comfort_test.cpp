@@ -211,16 +211,16 @@ class ComfortTest : public QObject {
   void keysLeadEverywhere() {
     study_->activateWindow();
     QVERIFY(QTest::qWaitForWindowActive(study_));
-    auto* box = Find(study_, "Text1(2)");
-    box->setFocus();
-    QTest::keyClick(box, Qt::Key_F10);
+    auto* field = Find(study_, "Text1(2)");
+    field->setFocus();
+    QTest::keyClick(field, Qt::Key_F10);
     QCOMPARE(study_->menuBar()->activeAction(), Find<QAction>(study_, "Back"));
     QTest::keyClick(study_->menuBar(), Qt::Key_Escape);
-    QVERIFY(box->hasFocus());
-    QTest::keyClick(box, Qt::Key_F7);
-    QVERIFY2(box->hasFocus(), "there is no answer yet");
-    QTest::keyClick(box, Qt::Key_F5);
-    QTest::keyClick(box, Qt::Key_F7);
+    QVERIFY(field->hasFocus());
+    QTest::keyClick(field, Qt::Key_F7);
+    QVERIFY2(field->hasFocus(), "there is no answer yet");
+    QTest::keyClick(field, Qt::Key_F5);
+    QTest::keyClick(field, Qt::Key_F7);
     QVERIFY(Find(study_, "Text3")->hasFocus());
     QTest::keyClick(Find(study_, "Text3"), Qt::Key_Backtab);
     QCOMPARE(study_->focusWidget()->objectName(), QStringLiteral("FullReportxx"));

@@ -31,7 +31,7 @@ CaseTexts CaseOf(std::initializer_list<std::pair<std::size_t, const char*>> fiel
 CaseTexts Abdullah() {
   CaseTexts texts = CaseOf(
       {{1, "1"}, {3, "2"}, {14, "1"}, {16, "1"}, {31, "1"}, {25, "1840000"}, {27, "240000"}, {28, "100000"}});
-  texts.Fields[NameBox] = std::string("Abdullah");
+  texts.Fields[NameField] = std::string("Abdullah");
   return texts;
 }
 
@@ -43,7 +43,8 @@ CaseTexts Everybody() {
   }
   texts.Fields[25] = std::string("999999999999999.99");
   texts.ClassII.fill(true);
-  texts.Fields[NameBox] = std::string("Zaynab bint Abd al-Rahman ibn Muhammad ibn Abdullah of the old town");
+  texts.Fields[NameField] =
+      std::string("Zaynab bint Abd al-Rahman ibn Muhammad ibn Abdullah of the old town");
   return texts;
 }
 
@@ -164,7 +165,7 @@ class DivisionPaperTest : public QObject {
   // What the user typed as a name is text, and no part of a path.
   void namesAreText() {
     CaseTexts texts = Abdullah();
-    texts.Fields[NameBox] = std::string("../<b>A&B</b>\"");
+    texts.Fields[NameField] = std::string("../<b>A&B</b>\"");
     const DivisionDocument document = DocumentOf(texts);
     QCOMPARE(document.FileName(), QStringLiteral("Division - b A B b"));
     const QTemporaryDir folder;

@@ -172,9 +172,9 @@ class DivisionWindowTest : public QObject {
     study_->Type("Text1(22)", QStringLiteral("1"));
     QTRY_VERIFY(Row("Full brother") >= 0);
     auto* table = Find<QTableView>("DivisionTable");
-    QAccessibleInterface* spoken = QAccessible::queryAccessibleInterface(table);
-    QCOMPARE(spoken->role(), QAccessible::Table);
-    QAccessibleInterface* cell = spoken->tableInterface()->cellAt(Row("Son"), 0);
+    QAccessibleInterface* accessible = QAccessible::queryAccessibleInterface(table);
+    QCOMPARE(accessible->role(), QAccessible::Table);
+    QAccessibleInterface* cell = accessible->tableInterface()->cellAt(Row("Son"), 0);
     QVERIFY(cell->text(QAccessible::Name).startsWith(QStringLiteral("Son: ")));
     QVERIFY(cell->text(QAccessible::Name).contains(QStringLiteral("10,000.00")));
     QVERIFY(cell->text(QAccessible::Name).contains(QStringLiteral("Quran 4:11")));

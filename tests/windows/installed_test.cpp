@@ -52,11 +52,11 @@ class InstalledTest : public QObject {
     ProgramWindows& windows = home.Start();
     windows.MainMenu().findChild<QRadioButton*>(QStringLiteral("Option1(6)"))->click();
     QTRY_VERIFY(windows.Study() != nullptr);
-    const std::pair<const char*, const char*> boxes[] = {{"Text1(2)", "1"},      {"Text1(24)", "Abdullah"},
-                                                         {"Text1(25)", "24000"}, {"Text1(26)", "0"},
-                                                         {"Text1(27)", "0"},     {"Text1(28)", "0"}};
-    for (const auto& [box, text] : boxes) {
-      windows.Study()->findChild<QLineEdit*>(QString::fromLatin1(box))->setText(QString::fromLatin1(text));
+    const std::pair<const char*, const char*> fields[] = {{"Text1(2)", "1"},      {"Text1(24)", "Abdullah"},
+                                                          {"Text1(25)", "24000"}, {"Text1(26)", "0"},
+                                                          {"Text1(27)", "0"},     {"Text1(28)", "0"}};
+    for (const auto& [field, text] : fields) {
+      windows.Study()->findChild<QLineEdit*>(QString::fromLatin1(field))->setText(QString::fromLatin1(text));
     }
     windows.Study()->findChild<QAction*>(QStringLiteral("CreateSaveFullReport"))->trigger();
     QTRY_VERIFY(boxes_.Count() > 0);

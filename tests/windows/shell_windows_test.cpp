@@ -69,7 +69,7 @@ class ShellWindowsTest : public QObject {
   void pagesOpenAndReturn_data() {
     QTest::addColumn<int>("entry");
     QTest::addColumn<QString>("title");
-    QTest::addColumn<bool>("byCloseBox");
+    QTest::addColumn<bool>("byCloseButton");
     QTest::newRow("laws") << 0 << "QURANIC LAWS OF INHERITANCE" << false;
     QTest::newRow("acts") << 3 << "INDIAN ACTS COSIDERED" << true;
     QTest::newRow("exclusion") << 5 << "EXCLUSION RULES OF INHERITANCE" << false;
@@ -78,7 +78,7 @@ class ShellWindowsTest : public QObject {
   void pagesOpenAndReturn() {
     QFETCH(int, entry);
     QFETCH(QString, title);
-    QFETCH(bool, byCloseBox);
+    QFETCH(bool, byCloseButton);
     for (int round = 0; round < 2; ++round) {  // the same entry can be chosen again
       Choose(entry);
       QTRY_VERIFY(windows_->Laws() != nullptr);
@@ -88,7 +88,7 @@ class ShellWindowsTest : public QObject {
       QCOMPARE(Find<QLineEdit>(laws, "Text1")->text(), title);
       QCOMPARE(Find<QLabel>(laws, "StatusBar1.Panel1")->text(), title);
       QVERIFY(Find<QPlainTextEdit>(laws, "Text2")->hasFocus());
-      if (byCloseBox) {
+      if (byCloseButton) {
         laws->close();
       } else {
         Find<QAction>(laws, "Close")->trigger();
@@ -270,7 +270,7 @@ class ShellWindowsTest : public QObject {
   void everyWayOutWritesOneLine_data() {
     QTest::addColumn<QString>("way");
     for (const char* way :
-         {"entry", "close box of the menu", "close box of the resources", "end of the session"}) {
+         {"entry", "close button of the menu", "close button of the resources", "end of the session"}) {
       QTest::newRow(way) << way;
     }
   }
@@ -279,9 +279,9 @@ class ShellWindowsTest : public QObject {
     windows_->Record().ExecCount = Long(9);
     if (way == QLatin1String("entry")) {
       Find<QAction>(menu_, "Exitz")->trigger();
-    } else if (way == QLatin1String("close box of the menu")) {
+    } else if (way == QLatin1String("close button of the menu")) {
       menu_->close();
-    } else if (way == QLatin1String("close box of the resources")) {
+    } else if (way == QLatin1String("close button of the resources")) {
       DoubleClick(Find(menu_, "Frame2"));
       QTRY_VERIFY(windows_->Resources() != nullptr);
       windows_->Resources()->close();

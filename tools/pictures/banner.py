@@ -10,20 +10,20 @@ BASMALA = "بِسْمِ ٱللَّهِ ٱلرَّحْمَـٰنِ ٱلرَّحِ
 WIDTH, HEIGHT = 420, 80
 FONT = "/usr/share/fonts/opentype/fonts-hosny-amiri/Amiri-Regular.ttf"
 
-# The ground, the writing, the star, its heart.
+# The background, the text, the star, its heart.
 TONES = ((IVORY, TEAL, GOLD, CLAY), (NIGHT, AMBER, TEAL, IVORY))
 
 
 def make_banners(folder):
     face = Face(FONT, "ar")
-    for index, (ground, writing, ornament, heart) in enumerate(TONES):
+    for index, (background, writing, ornament, heart) in enumerate(TONES):
         drawing = Drawing(WIDTH, HEIGHT)
-        drawing.path(rounded(1, 1, WIDTH - 1, HEIGHT - 1, 10), ground, GOLD, 1.5)
+        drawing.path(rounded(1, 1, WIDTH - 1, HEIGHT - 1, 10), background, GOLD, 1.5)
         drawing.path(rounded(5, 5, WIDTH - 5, HEIGHT - 5, 7), stroke=ornament, width=0.8)
         for x in (40, WIDTH - 40):
             eight_star(drawing, (x, HEIGHT / 2), 23, ornament)
-            drawing.path(polygon(khatam((x, HEIGHT / 2), 18)), stroke=ground, width=1.5)
-            eight_star(drawing, (x, HEIGHT / 2), 9, ground)
+            drawing.path(polygon(khatam((x, HEIGHT / 2), 18)), stroke=background, width=1.5)
+            eight_star(drawing, (x, HEIGHT / 2), 9, background)
             eight_star(drawing, (x, HEIGHT / 2), 5, heart)
         words = face.outline(BASMALA, 35.5, 0.55)
         left, top, right, bottom = bounds(words)

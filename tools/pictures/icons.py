@@ -43,20 +43,20 @@ def emblem():
     return drawing
 
 
-def full_report(page, ink, seal, edge):
+def full_report(page, text, seal, edge):
     """A page with two shares as fractions, the line beside each, and the sum below a double line."""
     drawing = Drawing(40, 40)
     drawing.path(polygon([(4, 1.5), (26, 1.5), (34, 9.5), (34, 38.5), (4, 38.5)]), page, edge, 1.5, join="round")
     drawing.path(polygon([(26, 1.5), (26, 9.5), (34, 9.5)]), edge, edge, 1.5, join="round")
     for y, below in ((11.5, 2), (22.5, 3)):
-        drawing.path(polygon(rectangle(7.5, y - 0.75, 18.5, y + 0.75)), ink)
+        drawing.path(polygon(rectangle(7.5, y - 0.75, 18.5, y + 0.75)), text)
         blocks = polygon(rectangle(11.5, y - 4.6, 14.5, y - 2))
         for k in range(below):
             x = 13 + 3.8 * (k - (below - 1) / 2)
             blocks += polygon(rectangle(x - 1.4, y + 2, x + 1.4, y + 4.6))
-        drawing.path(blocks, ink)
-        drawing.path(polygon(rectangle(21.5, y - 0.75, 30.5, y + 0.75)), ink, opacity=0.6)
-    drawing.path(polygon(rectangle(7.5, 31, 30.5, 32.2)) + polygon(rectangle(7.5, 33.4, 30.5, 34.6)), ink)
+        drawing.path(blocks, text)
+        drawing.path(polygon(rectangle(21.5, y - 0.75, 30.5, y + 0.75)), text, opacity=0.6)
+    drawing.path(polygon(rectangle(7.5, 31, 30.5, 32.2)) + polygon(rectangle(7.5, 33.4, 30.5, 34.6)), text)
     eight_star(drawing, (31.6, 31.6), 7.6, edge)
     eight_star(drawing, (31.6, 31.6), 5.8, seal)
     return drawing

@@ -15,10 +15,10 @@ DRAWN = (4, 4, WIDTH - 4, HEIGHT - 4)
 CENTRE = (WIDTH / 2, HEIGHT / 2)
 
 
-def scene(ground):
+def scene(background):
     drawing = Drawing(WIDTH, HEIGHT)
     drawing.path(polygon(rectangle(0, 0, WIDTH, HEIGHT)), NIGHT)
-    drawing.path(polygon(rectangle(*FIELD)), ground)
+    drawing.path(polygon(rectangle(*FIELD)), background)
     return drawing
 
 

@@ -19,9 +19,9 @@ WATER = "#8fc3c0"
 SHARES = ((1 / 8, AMBER), (7 / 24, CLAY), (7 / 12, IVORY))
 
 
-def shared_disc(drawing, centre, radius, gap, ground):
+def shared_disc(drawing, centre, radius, gap, background):
     """A disc divided among the heirs of SHARES, the first share beginning at the top. The gaps between
-    them show the ground."""
+    them show the background."""
     start = -90
     for share, colour in SHARES:
         drawing.path(sector(centre, 0, radius, start, start + 360 * share), colour)
@@ -30,11 +30,11 @@ def shared_disc(drawing, centre, radius, gap, ground):
     for share, _ in SHARES:
         cuts += line(centre, polar(centre, radius + 0.5, start))
         start += 360 * share
-    drawing.path(cuts, stroke=ground, width=gap)
+    drawing.path(cuts, stroke=background, width=gap)
 
 
 def plate(drawing, fill, edge):
-    """The ground of the small ornaments: both pictures of a pair cover the same ground."""
+    """The background of the small ornaments: both pictures of a pair cover the same background."""
     drawing.path(rounded(0.5, 0.5, drawing.width - 0.5, drawing.height - 0.5, 6), fill, edge, 1)
 
 

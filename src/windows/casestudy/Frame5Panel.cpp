@@ -69,7 +69,7 @@ Frame5Panel::Frame5Panel(CaseStudy& form, Binder& binder, QWidget* parent) : QGr
   rows->addWidget(howTo);
   rows->addStretch(3);
   rows->addWidget(Link(form, this), 0, Qt::AlignHCenter);
-  binder.Box(form.Frame5, this);
+  binder.Group(form.Frame5, this);
 }
 
 }  // namespace qismora

@@ -5,7 +5,7 @@
 #include <algorithm>
 #include <span>
 
-#include "windows/casestudy/CaseBox.h"
+#include "windows/casestudy/CaseField.h"
 #include "windows/platform/Utf8.h"
 #include "windows/style/Pictures.h"
 #include "windows/widgets/CaptionButton.h"
@@ -20,7 +20,7 @@ enum class Kind { Title, Spouse, Heir, Estate, Blank };
 /// What stands in a row, and what screen readers and tool tips call it.
 struct Row {
   Kind What;
-  int Box;
+  int Field;
   const char* Words;
 };
 
@@ -55,11 +55,11 @@ constexpr Row rightRows[] = {
     {Kind::Heir, 20, "Grandfather's mother (father's father's mother)"},
     {Kind::Heir, 21, "Father's grandmother (father's mother's mother)"},
     {Kind::Title, 0, "Estate"},
-    {Kind::Estate, GrossEstateBox, "Gross estate"},
-    {Kind::Estate, FuneralBox, "Funeral expenses"},
-    {Kind::Estate, DebtsBox, "Debts"},
-    {Kind::Estate, WillsBox, "Wills"},
-    {Kind::Estate, NetEstateBox, "Net estate"},
+    {Kind::Estate, GrossEstateField, "Gross estate"},
+    {Kind::Estate, FuneralField, "Funeral expenses"},
+    {Kind::Estate, DebtsField, "Debts"},
+    {Kind::Estate, WillsField, "Wills"},
+    {Kind::Estate, NetEstateField, "Net estate"},
 };
 
 // Columns of the grid: caption, picture and field of the left heirs, a gap, and the same on the right.
@@ -74,12 +74,12 @@ constexpr int pictureColumnWidth = 66;
 constexpr const char* computeShare = "Compute the share";
 constexpr const char* inUrdu = "%1, in Urdu";
 constexpr const char* inArabic = "%1, in Arabic";
-constexpr const char* boxTip = "%1\nDouble-click or F2: 0 or 1";
+constexpr const char* fieldTip = "%1\nDouble-click or F2: 0 or 1";
 constexpr const char* captionTip = "%1\nDouble-click or Enter: compute the share";
 
 /// The number of a field among those that have a caption picture of their own.
-int PictureNumber(int box) {
-  return static_cast<int>(std::ranges::find(HeirBoxes, box) - HeirBoxes.begin()) - 1;
+int PictureNumber(int field) {
+  return static_cast<int>(std::ranges::find(HeirFieldIndexes, field) - HeirFieldIndexes.begin()) - 1;
 }
 
 QLabel* Title(const char* words, QWidget* parent) {
@@ -96,7 +96,7 @@ HeirsPanel::HeirsPanel(CaseStudy& form, Binder& binder, QWidget* parent)
     : QGroupBox(parent), form_(form), binder_(binder), grid_(new QGridLayout(this)) {
   setObjectName(QStringLiteral("Frame1"));
   setAccessibleName(QStringLiteral("Heirs and estate of the deceased"));
-  binder.Box(form.Frame1, this);
+  binder.Group(form.Frame1, this);
   grid_->setContentsMargins(8, 1, 8, 2);
   grid_->setHorizontalSpacing(4);
   grid_->setVerticalSpacing(0);
@@ -119,10 +119,10 @@ HeirsPanel::HeirsPanel(CaseStudy& form, Binder& binder, QWidget* parent)
           AddSpouse(line);
           break;
         case Kind::Heir:
-          AddHeir(line, column, row.Box, words);
+          AddHeir(line, column, row.Field, words);
           break;
         case Kind::Estate:
-          AddEstate(line, row.Box, words);
+          AddEstate(line, row.Field, words);
           break;
         case Kind::Blank:
           AddBlankCaption(line);
@@ -134,36 +134,36 @@ HeirsPanel::HeirsPanel(CaseStudy& form, Binder& binder, QWidget* parent)
   }
 }
 
-CaseBox* HeirsPanel::AddBox(int box, const QString& spoken) {
-  auto* widget = new CaseBox(Indexed("Text1", box), Content::Figure, this);
-  widget->setAccessibleName(spoken);
-  widget->SetTip(QString::fromUtf8(boxTip).arg(spoken));
+CaseField* HeirsPanel::AddField(int field, const QString& accessibleName) {
+  auto* widget = new CaseField(Indexed("Text1", field), Content::Figure, this);
+  widget->setAccessibleName(accessibleName);
+  widget->SetTip(QString::fromUtf8(fieldTip).arg(accessibleName));
   widget->setAlignment(Qt::AlignRight);
-  widget->Toggle = [this, box] { form_.Text1_DblClick(box); };
-  binder_.Box(form_.Text1(box), widget);
-  if (box == NetEstateBox) return widget;  // the program writes it
-  const auto mark = [this, box, widget] { widget->Mark(ToQt(form_.MisreadingOf(box))); };
-  Binder::Follow(form_.Text1(box).Text, mark);
+  widget->Toggle = [this, field] { form_.Text1_DblClick(field); };
+  binder_.Field(form_.Text1(field), widget);
+  if (field == NetEstateField) return widget;  // the program writes it
+  const auto mark = [this, field, widget] { widget->Mark(ToQt(form_.MisreadingOf(field))); };
+  Binder::Follow(form_.Text1(field).Text, mark);
   form_.EventsEnded.WhenChanged(mark);
   return widget;
 }
 
-CaptionButton* HeirsPanel::AddCaption(int box, const QString& accessibleName) {
-  auto* caption =
-      new CaptionButton(Indexed("Label1", box), Gesture::DoubleClick, QString::fromUtf8(computeShare), this);
-  Binder::Caption(form_.Label1(box), caption);
-  connect(caption, &QAbstractButton::clicked, this, [this, box] { form_.Label1_DblClick(box); });
+CaptionButton* HeirsPanel::AddCaption(int field, const QString& accessibleName) {
+  auto* caption = new CaptionButton(Indexed("Label1", field), Gesture::DoubleClick,
+                                    QString::fromUtf8(computeShare), this);
+  Binder::Caption(form_.Label1(field), caption);
+  connect(caption, &QAbstractButton::clicked, this, [this, field] { form_.Label1_DblClick(field); });
   caption->setAccessibleName(accessibleName);
   caption->setToolTip(QString::fromUtf8(captionTip).arg(accessibleName));
   return caption;
 }
 
 // The pictures stand beside the caption, which stays readable in every view, and act as it does.
-void HeirsPanel::AddPicture(int row, int column, int box, const QString& accessibleName, const QString& name,
-                            const QString& file, Picture& control) {
+void HeirsPanel::AddPicture(int row, int column, int field, const QString& accessibleName,
+                            const QString& name, const QString& file, Picture& control) {
   auto* picture = new PictureButton(name, QStringLiteral("captions/") + file, Colours::OfText,
                                     Gesture::DoubleClick, QString::fromUtf8(computeShare), this);
-  connect(picture, &QAbstractButton::clicked, this, [this, box] { form_.Label1_DblClick(box); });
+  connect(picture, &QAbstractButton::clicked, this, [this, field] { form_.Label1_DblClick(field); });
   picture->setFixedSize(pictureSize);
   picture->SetAlignment(Qt::AlignRight | Qt::AlignVCenter);
   picture->setAccessibleName(accessibleName);
@@ -172,29 +172,30 @@ void HeirsPanel::AddPicture(int row, int column, int box, const QString& accessi
   grid_->addWidget(picture, row, column, 1, 2, Qt::AlignRight | Qt::AlignVCenter);
 }
 
-void HeirsPanel::AddHeir(int row, int column, int box, const QString& heir) {
-  const int number = PictureNumber(box);
-  CaseBox* input = AddBox(box, heir);
+void HeirsPanel::AddHeir(int row, int column, int field, const QString& heir) {
+  const int number = PictureNumber(field);
+  CaseField* input = AddField(field, heir);
   input->setFixedWidth(boxWidth);
-  input->Explain = [this, box] { form_.Label1_DblClick(box); };
-  grid_->addWidget(AddCaption(box, heir), row, column);
-  AddPicture(row, column, box, QString::fromUtf8(inUrdu).arg(heir), QStringLiteral("Image%1").arg(number + 9),
-             QStringLiteral("urdu-%1").arg(box), form_.Image(number + 9));
-  AddPicture(row, column, box, QString::fromUtf8(inArabic).arg(heir), Indexed("Image41", number + 2),
-             QStringLiteral("arabic-%1").arg(box), form_.Image41(number + 2));
+  input->Explain = [this, field] { form_.Label1_DblClick(field); };
+  grid_->addWidget(AddCaption(field, heir), row, column);
+  AddPicture(row, column, field, QString::fromUtf8(inUrdu).arg(heir),
+             QStringLiteral("Image%1").arg(number + 9), QStringLiteral("urdu-%1").arg(field),
+             form_.Image(number + 9));
+  AddPicture(row, column, field, QString::fromUtf8(inArabic).arg(heir), Indexed("Image41", number + 2),
+             QStringLiteral("arabic-%1").arg(field), form_.Image41(number + 2));
   grid_->addWidget(input, row, column + 2, Qt::AlignVCenter);
 }
 
 // Wives or husband, as the gender of the deceased has it.
 void HeirsPanel::AddSpouse(int row) {
-  CaseBox* input = AddBox(1, {});
+  CaseField* input = AddField(1, {});
   input->setFixedWidth(boxWidth);
   input->Explain = [this] { form_.Label1_DblClick(1); };
   CaptionButton* caption = AddCaption(1, {});
   Binder::Follow(form_.Label1(1).Caption, [this, input, caption] {
     const QString words = ToQt(form_.Label1(1).Caption.Get());
     input->setAccessibleName(words);
-    input->SetTip(QString::fromUtf8(boxTip).arg(words));
+    input->SetTip(QString::fromUtf8(fieldTip).arg(words));
     caption->setAccessibleName(words);
     caption->setToolTip(QString::fromUtf8(captionTip).arg(words));
   });
@@ -212,10 +213,10 @@ void HeirsPanel::AddSpouse(int row) {
   grid_->addWidget(input, row, 2, Qt::AlignVCenter);
 }
 
-void HeirsPanel::AddEstate(int row, int box, const QString& figure) {
-  CaseBox* input = AddBox(box, figure);
-  input->setReadOnly(box == NetEstateBox);
-  QLabel* caption = Binder::FieldCaption(form_.Label1(box), Indexed("Label1", box), input);
+void HeirsPanel::AddEstate(int row, int field, const QString& figure) {
+  CaseField* input = AddField(field, figure);
+  input->setReadOnly(field == NetEstateField);
+  QLabel* caption = Binder::FieldCaption(form_.Label1(field), Indexed("Label1", field), input);
   grid_->addWidget(caption, row, rightColumn);
   grid_->addWidget(input, row, rightColumn + 1, 1, 2, Qt::AlignVCenter);
 }

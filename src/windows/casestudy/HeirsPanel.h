@@ -10,7 +10,7 @@ class QGridLayout;
 namespace qismora {
 
 class CaptionButton;
-class CaseBox;
+class CaseField;
 
 /// The fields of the heirs and of the estate with their captions: spouse and descendants, brothers and
 /// sisters; ascendants, estate.
@@ -19,13 +19,13 @@ class HeirsPanel : public QGroupBox {
   HeirsPanel(CaseStudy& form, Binder& binder, QWidget* parent);
 
  private:
-  void AddHeir(int row, int column, int box, const QString& heir);
+  void AddHeir(int row, int column, int field, const QString& heir);
   void AddSpouse(int row);
-  void AddEstate(int row, int box, const QString& figure);
+  void AddEstate(int row, int field, const QString& figure);
   void AddBlankCaption(int row);
-  CaseBox* AddBox(int box, const QString& spoken);
-  CaptionButton* AddCaption(int box, const QString& accessibleName);
-  void AddPicture(int row, int column, int box, const QString& accessibleName, const QString& name,
+  CaseField* AddField(int field, const QString& accessibleName);
+  CaptionButton* AddCaption(int field, const QString& accessibleName);
+  void AddPicture(int row, int column, int field, const QString& accessibleName, const QString& name,
                   const QString& file, Picture& control);
 
   CaseStudy& form_;

@@ -4,7 +4,7 @@
 #include <QComboBox>
 #include <QWheelEvent>
 
-#include "windows/casestudy/CaseBox.h"
+#include "windows/casestudy/CaseField.h"
 #include "windows/style/Pictures.h"
 #include "windows/widgets/HoverFilter.h"
 #include "windows/widgets/Names.h"
@@ -63,11 +63,11 @@ void TopStrip::AddGender() {
 }
 
 void TopStrip::AddName() {
-  auto* name = new CaseBox(Indexed("Text1", NameBox), Content::Name, this);
+  auto* name = new CaseField(Indexed("Text1", NameField), Content::Name, this);
   name->setAccessibleName(QStringLiteral("Name of the deceased"));
-  name->Toggle = [this] { form_.Text1_DblClick(NameBox); };
-  binder_.Box(form_.Text1(NameBox), name);
-  layout()->addWidget(Binder::FieldCaption(form_.Label1(NameBox), Indexed("Label1", NameBox), name));
+  name->Toggle = [this] { form_.Text1_DblClick(NameField); };
+  binder_.Field(form_.Text1(NameField), name);
+  layout()->addWidget(Binder::FieldCaption(form_.Label1(NameField), Indexed("Label1", NameField), name));
   layout()->addWidget(name);
 }
 

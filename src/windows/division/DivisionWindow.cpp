@@ -492,7 +492,7 @@ void DivisionWindow::Watch() {
     if (window != nullptr) window->Changed();
   };
   for (int i = 0; i < form_.Text1.Size; ++i) {
-    if (i != NetEstateBox) form_.Text1(i).Text.WhenChanged(changed);
+    if (i != NetEstateField) form_.Text1(i).Text.WhenChanged(changed);
   }
   for (int i = 0; i < form_.Check1.Size; ++i) form_.Check1(i).Value.WhenChanged(changed);
   form_.Combo1.ListIndex.WhenChanged(changed);

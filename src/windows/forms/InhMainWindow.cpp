@@ -97,7 +97,8 @@ InhMainWindow::InhMainWindow(CaseRecord& record, ShellRecord& shell, ShellPorts&
     panel->setText(WithoutMnemonics(form_.StatusBar1.Caption));
     panel->setAccessibleName(name + QStringLiteral(": ") + panel->text());
   });
-  Binder::Follow(form_.Hourglass, [this] { form_.Hourglass ? setCursor(Qt::WaitCursor) : unsetCursor(); });
+  Binder::Follow(form_.ShowsWaitCursor,
+                 [this] { form_.ShowsWaitCursor ? setCursor(Qt::WaitCursor) : unsetCursor(); });
   SetSizes(windowSize, margin);
 }
 
@@ -152,7 +153,7 @@ QWidget* InhMainWindow::Menu() {
   auto* menu = new QGroupBox(Frame111());
   menu->setObjectName(QStringLiteral("Frame1"));
   menu->setAccessibleName(QStringLiteral("Menu"));
-  binder_.Box(form_.Frame1, menu);
+  binder_.Group(form_.Frame1, menu);
   auto* rows = new QVBoxLayout(menu);
   rows->setSpacing(0);
   for (int i = 0; i < form_.Option1.Size; ++i) {

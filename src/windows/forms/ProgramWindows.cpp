@@ -114,7 +114,7 @@ void ProgramWindows::ShowSession() {
     session_->move(menu_.pos() + besideTheMenu);
   }
   BringUp(session_.get());
-  const BoxOwner owner(session_.get());
+  const MessageBoxOwner owner(session_.get());
   session_->Form().Open();
 }
 

@@ -86,7 +86,7 @@ QWidget* QurLawsWindow::Title() {
   title->setReadOnly(true);
   title->setFont(HeadingFont(font(), titleSize));
   title->setAlignment(Qt::AlignCenter);
-  binder_.Box(form_.Text1, title);
+  binder_.Field(form_.Text1, title);
   return title;
 }
 

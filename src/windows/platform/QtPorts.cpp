@@ -158,8 +158,8 @@ void QtProgram::End() {
   QCoreApplication::exit();
 }
 
-BoxOwner::BoxOwner(QWidget* window) { chosenOwner = window; }
-BoxOwner::~BoxOwner() { chosenOwner = nullptr; }
+MessageBoxOwner::MessageBoxOwner(QWidget* window) { chosenOwner = window; }
+MessageBoxOwner::~MessageBoxOwner() { chosenOwner = nullptr; }
 
 Answer QtMessageBoxes::Show(BoxStyle style, BoxButtons buttons, const std::string& text) {
   QMessageBox box(IconOf(style), QString::fromUtf8(ApplicationTitle), ToQtLines(text), Offered(buttons),

@@ -34,12 +34,12 @@ class QtMessageBoxes : public MessageBoxes {
 };
 
 /// While it lives, message boxes belong to its window, even before the desktop has made that the active one.
-class BoxOwner {
+class MessageBoxOwner {
  public:
-  explicit BoxOwner(QWidget* window);
-  ~BoxOwner();
-  BoxOwner(const BoxOwner&) = delete;
-  BoxOwner& operator=(const BoxOwner&) = delete;
+  explicit MessageBoxOwner(QWidget* window);
+  ~MessageBoxOwner();
+  MessageBoxOwner(const MessageBoxOwner&) = delete;
+  MessageBoxOwner& operator=(const MessageBoxOwner&) = delete;
 };
 
 /// Opens in the program's directory, or in that of the reports if the program's cannot be written to.

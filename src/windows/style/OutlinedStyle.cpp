@@ -84,7 +84,7 @@ void DrawFocus(QPainter* painter, const QStyleOption& option) {
 
 }  // namespace
 
-void DrawBox(QPainter* painter, const QColor& line, const QRect& rect) {
+void DrawFrame(QPainter* painter, const QColor& line, const QRect& rect) {
   for (const int y : {rect.top(), rect.bottom()}) painter->fillRect(rect.left(), y, rect.width(), 1, line);
   for (const int x : {rect.left(), rect.right()}) painter->fillRect(x, rect.top(), 1, rect.height(), line);
 }
@@ -125,8 +125,8 @@ void OutlinedStyle::drawPrimitive(PrimitiveElement element, const QStyleOption* 
   if (element == PE_FrameFocusRect) return DrawFocus(painter, *option);
   if (element == PE_FrameGroupBox) {
     const int title = qMax(pixelMetric(PM_IndicatorHeight, option, widget), option->fontMetrics.height());
-    return DrawBox(painter, Line(palette, groupStrength),
-                   option->rect.adjusted(0, title + titleMargin, 0, 0));
+    return DrawFrame(painter, Line(palette, groupStrength),
+                     option->rect.adjusted(0, title + titleMargin, 0, 0));
   }
   QProxyStyle::drawPrimitive(element, option, painter, widget);
   const bool radio = element == PE_IndicatorRadioButton;
@@ -136,13 +136,13 @@ void OutlinedStyle::drawPrimitive(PrimitiveElement element, const QStyleOption* 
       // A text area has space for a second line within the first: it shows the focus.
       if (Scrolls(widget)) {
         const QColor inner = HasFocus(*option) ? FocusColour(palette) : palette.color(QPalette::Base);
-        DrawBox(painter, inner, option->rect.marginsRemoved(oneLine));
+        DrawFrame(painter, inner, option->rect.marginsRemoved(oneLine));
       }
       [[fallthrough]];
     case PE_PanelMenu:
       if (HasFocus(*option) || NeedsOutlines(palette)) {
-        DrawBox(painter, HasFocus(*option) ? FocusColour(palette) : Line(palette, frameStrength),
-                option->rect);
+        DrawFrame(painter, HasFocus(*option) ? FocusColour(palette) : Line(palette, frameStrength),
+                  option->rect);
       }
       return;
     case PE_IndicatorRadioButton:

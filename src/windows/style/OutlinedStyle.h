@@ -28,6 +28,6 @@ class OutlinedStyle : public QProxyStyle {
 };
 
 /// A plain line within the edges of the rectangle, whole at every scale.
-void DrawBox(QPainter* painter, const QColor& line, const QRect& rect);
+void DrawFrame(QPainter* painter, const QColor& line, const QRect& rect);
 
 }  // namespace qismora

@@ -44,7 +44,7 @@ void Binder::TextColour(Label& control, QWidget* widget) {
   Colour(control.ForeColor, widget, QPalette::WindowText, QPalette::Window);
 }
 
-void Binder::Box(TextBox& control, QLineEdit* widget) {
+void Binder::Field(TextBox& control, QLineEdit* widget) {
   Follow(control.Text, [&control, widget] {
     const QString text = ToQt(control.Text.Get());
     if (widget->text() == text) return;
@@ -83,7 +83,7 @@ void Binder::Choice(ComboBox& control, QComboBox* widget) {
                    [&control](int index) { control.ListIndex = index; });
 }
 
-void Binder::Box(Frame& control, QGroupBox* widget) {
+void Binder::Group(Frame& control, QGroupBox* widget) {
   Follow(control.Caption, [&control, widget] { widget->setTitle(ToQt(control.Caption.Get())); });
   Visible(control.Visible, widget);
 }

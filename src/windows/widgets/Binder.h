@@ -41,11 +41,11 @@ class Binder {
   }
   /// The colour that a label changes while the program runs.
   void TextColour(Label& control, QWidget* widget);
-  void Box(TextBox& control, QLineEdit* widget);
+  void Field(TextBox& control, QLineEdit* widget);
   void Text(TextBox& control, QPlainTextEdit* widget);
   void Check(CheckBox& control, QCheckBox* widget);
   void Choice(ComboBox& control, QComboBox* widget);
-  void Box(Frame& control, QGroupBox* widget);
+  void Group(Frame& control, QGroupBox* widget);
   void Visible(Property<bool>& control, QWidget* widget);
   void Enabled(MenuEntry& control, QAction* action);
 

@@ -55,7 +55,7 @@ void CaptionButton::PaintFrame(QPainter* painter) {
     frame.initFrom(this);
     style()->drawPrimitive(QStyle::PE_Frame, &frame, painter, this);
   } else if (border_ == QFrame::Box) {
-    DrawBox(painter, palette().color(foregroundRole()), rect());
+    DrawFrame(painter, palette().color(foregroundRole()), rect());
   }
 }
 

@@ -6,18 +6,18 @@
 
 namespace qismora {
 
-/// A box that a figure of the case is typed into. A double click, F2 or an entry of its context menu
-/// toggles it, Ctrl+Return or an entry explains the share of its heir; the arrows lead to the boxes above and
-/// below.
-class CaseBox : public CleanLineEdit {
+/// A field that a figure of the case is typed into. A double click, F2 or an entry of its context menu
+/// toggles it, Ctrl+Return or an entry explains the share of its heir; the arrows lead to the fields above
+/// and below.
+class CaseField : public CleanLineEdit {
  public:
-  CaseBox(const QString& name, Content content, QWidget* parent);
+  CaseField(const QString& name, Content content, QWidget* parent);
 
   std::function<void()> Toggle;
   std::function<void()> Explain;
-  /// What the box is for; its tool tip.
+  /// What the field is for; its tool tip.
   void SetTip(const QString& tip);
-  /// Where something else is read than what stands there at first sight: the box is tinted and its tool tip
+  /// Where something else is read than what stands there at first sight: the field is tinted and its tool tip
   /// says so. No words take the mark away.
   void Mark(const QString& words);
 

@@ -1,4 +1,4 @@
-#include "windows/casestudy/CaseBox.h"
+#include "windows/casestudy/CaseField.h"
 
 #include <QContextMenuEvent>
 #include <QKeyEvent>
@@ -22,34 +22,34 @@ constexpr double tint = 0.35;
 
 }  // namespace
 
-CaseBox::CaseBox(const QString& name, Content content, QWidget* parent) : CleanLineEdit(content, parent) {
+CaseField::CaseField(const QString& name, Content content, QWidget* parent) : CleanLineEdit(content, parent) {
   setObjectName(name);
 }
 
-QSize CaseBox::sizeHint() const {
+QSize CaseField::sizeHint() const {
   return {QLineEdit::sizeHint().width(), fontMetrics().height() + rowMargin};
 }
 
-QSize CaseBox::minimumSizeHint() const { return {0, sizeHint().height()}; }
+QSize CaseField::minimumSizeHint() const { return {0, sizeHint().height()}; }
 
-void CaseBox::focusInEvent(QFocusEvent* event) {
+void CaseField::focusInEvent(QFocusEvent* event) {
   entering_ = event->reason() == Qt::MouseFocusReason;
   QLineEdit::focusInEvent(event);
 }
 
-// The first click into a box takes its whole text, as Tab does: what is typed next replaces the 0.
-void CaseBox::mouseReleaseEvent(QMouseEvent* event) {
+// The first click into a field takes its whole text, as Tab does: what is typed next replaces the 0.
+void CaseField::mouseReleaseEvent(QMouseEvent* event) {
   CleanLineEdit::mouseReleaseEvent(event);
   if (std::exchange(entering_, false) && !hasSelectedText()) selectAll();
 }
 
-void CaseBox::mouseDoubleClickEvent(QMouseEvent* event) {
+void CaseField::mouseDoubleClickEvent(QMouseEvent* event) {
   if (event->button() != Qt::LeftButton) return QLineEdit::mouseDoubleClickEvent(event);
   if (Toggle) Toggle();
   selectAll();
 }
 
-void CaseBox::keyPressEvent(QKeyEvent* event) {
+void CaseField::keyPressEvent(QKeyEvent* event) {
   switch (event->key()) {
     case Qt::Key_F2:
       if (Toggle) Toggle();
@@ -70,7 +70,7 @@ void CaseBox::keyPressEvent(QKeyEvent* event) {
   }
 }
 
-void CaseBox::contextMenuEvent(QContextMenuEvent* event) {
+void CaseField::contextMenuEvent(QContextMenuEvent* event) {
   QMenu* menu = CreateContextMenu();
   menu->setAttribute(Qt::WA_DeleteOnClose);
   menu->addSeparator();
@@ -86,19 +86,19 @@ void CaseBox::contextMenuEvent(QContextMenuEvent* event) {
                                                              : event->globalPos());
 }
 
-void CaseBox::SetTip(const QString& tip) {
+void CaseField::SetTip(const QString& tip) {
   tip_ = tip;
   Mark(mark_);
 }
 
-void CaseBox::Mark(const QString& words) {
+void CaseField::Mark(const QString& words) {
   if (std::exchange(mark_, words) != words) update();
   setToolTip(words.isEmpty() ? tip_ : words + QStringLiteral("\n\n") + tip_);
   setAccessibleDescription(words);
 }
 
 // Dots show that a figure is longer than its field; whoever edits it sees the part around the cursor.
-void CaseBox::paintEvent(QPaintEvent* event) {
+void CaseField::paintEvent(QPaintEvent* event) {
   QStyleOptionFrame option;
   initStyleOption(&option);
   const QRect inside = style()->subElementRect(QStyle::SE_LineEditContents, &option, this);
@@ -112,8 +112,8 @@ void CaseBox::paintEvent(QPaintEvent* event) {
                         QPalette::Text);
 }
 
-// A box that only tells has the colour of the form.
-void CaseBox::initStyleOption(QStyleOptionFrame* option) const {
+// A field that only tells has the colour of the form.
+void CaseField::initStyleOption(QStyleOptionFrame* option) const {
   QLineEdit::initStyleOption(option);
   if (!mark_.isEmpty()) {
     option->palette.setColor(QPalette::Base, Between(palette().color(QPalette::Base), amber, tint));
