@@ -6,6 +6,7 @@
 #include <QDir>
 #include <QLineEdit>
 #include <QMessageBox>
+#include <QPainter>
 #include <QPlainTextEdit>
 #include <QPointer>
 #include <QScrollBar>
@@ -16,6 +17,7 @@
 #include "base/Files.h"
 #include "shell/SessionLog.h"
 #include "support/FakePorts.h"
+#include "windows/division/Languages.h"
 #include "windows/forms/ProgramWindows.h"
 #include "windows/platform/QtShellPorts.h"
 #include "windows/style/OutlinedStyle.h"
@@ -27,6 +29,7 @@ namespace {
 constexpr int fontPixels = 12;
 constexpr int pollMilliseconds = 15;
 constexpr double mebibyte = 1024.0 * 1024.0;
+constexpr int gapBetweenWindows = 8;
 
 struct PastSession {
   DateTime Start;
@@ -47,6 +50,10 @@ struct TourPorts {
   TourPorts() {
     QDir().mkpath(QStringLiteral("Documents"));
     Folders.Folder = "Documents";
+    // The division opens on request, in the size that the pictures have.
+    Settings.Write("Qismora", "Division", "Open", "no");
+    Settings.Write("Qismora", "Division", "Place", "0,0,860,740");
+    Settings.Write("Qismora", "Division", "Language", "en");
     Memory.Figures = {8192 * mebibyte, 5120 * mebibyte, 32 * mebibyte};
     Integer number(0);
     for (const PastSession& past : pastSessions) {
@@ -88,7 +95,8 @@ class Walker : public QObject {
       if (messageBox_.isNull()) qFatal("no message box opens for the picture %s", stop.Picture);
       return messageBox_;
     }
-    return WindowAtRest();
+    const QImage window = WindowAtRest();
+    return stop.Shows == Shown::Window ? window : SideBySide(Picture(windows_.Study()), window);
   }
 
  protected:
@@ -105,6 +113,16 @@ class Walker : public QObject {
  private:
   static QImage Picture(QWidget* widget) {
     return widget->grab().toImage().convertToFormat(QImage::Format_RGB32);
+  }
+
+  static QImage SideBySide(const QImage& left, const QImage& right) {
+    QImage both(left.width() + gapBetweenWindows + right.width(), std::max(left.height(), right.height()),
+                QImage::Format_RGB32);
+    both.fill(Qt::white);
+    QPainter painter(&both);
+    painter.drawImage(0, 0, left);
+    painter.drawImage(left.width() + gapBetweenWindows, 0, right);
+    return both;
   }
 
   // After a message box has closed, no window is active until one is activated.
@@ -154,6 +172,11 @@ class Walker : public QObject {
         QScrollBar* bar = Find<QPlainTextEdit>(step.Name)->verticalScrollBar();
         return bar->setValue(bar->maximum());
       }
+      case Do::Speak:
+        for (const Language language : AllLanguages) {
+          if (NameOf(language) == QString::fromUtf8(step.Name)) SetLanguage(language);
+        }
+        return;
       case Do::Close:
         ActiveWindow()->close();
     }
@@ -200,7 +223,11 @@ void FixEnvironment(const QString& home) {
                            "QT_QPA_PLATFORMTHEME", "QT_PLUGIN_PATH"}) {
     qunsetenv(name);
   }
-  qputenv("QT_QPA_PLATFORM", "offscreen");
+  const QString screen = home + QStringLiteral("/screen.json");
+  AppendLine(screen.toStdString(),
+             R"({"screens": [{"name": "Screen", "x": 0, "y": 0, "width": 1920, "height": 1080,
+    "logicalDpi": 96, "logicalBaseDpi": 96, "dpr": 1}]})");
+  qputenv("QT_QPA_PLATFORM", "offscreen:configfile=" + screen.toLocal8Bit());
   qputenv("LC_ALL", "C.UTF-8");
   qputenv("XDG_CONFIG_HOME", home.toLocal8Bit());
   qputenv("QT_LOGGING_RULES", "default.warning=false");  // what the offscreen platform cannot do

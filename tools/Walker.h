@@ -7,8 +7,9 @@
 
 namespace qismora::tour {
 
-/// What a user does with a control of the active window. The control is given by its name.
-enum class Do { Click, DoubleClick, Hover, Choose, Pick, Type, Bottom, Close };
+/// What a user does with a control of the active window. The control is given by its name. Speak chooses the
+/// language with that name.
+enum class Do { Click, DoubleClick, Hover, Choose, Pick, Type, Bottom, Speak, Close };
 
 struct Step {
   Do What;
@@ -16,8 +17,9 @@ struct Step {
   const char* Text = "";
 };
 
-/// What a picture shows: the active window after the steps, or the first message box that the steps open.
-enum class Shown { Window, MessageBox };
+/// What a picture shows: the active window after the steps, the same with Case Study to its left, or the
+/// first message box that the steps open.
+enum class Shown { Window, BesideCaseStudy, MessageBox };
 
 struct Stop {
   const char* Picture;

@@ -18,6 +18,8 @@ const char* const wife = "Text1(1)";
 const char* const son = "Text1(2)";
 const char* const daughter = "Text1(3)";
 const char* const mother = "Text1(16)";
+const char* const grandfather = "Text1(14)";
+const char* const consanguineBrother = "Text1(31)";
 const char* const fullSister = "Text1(23)";
 const char* const name = "Text1(24)";
 const char* const gross = "Text1(25)";
@@ -85,6 +87,26 @@ const std::vector<Stop> stops = {
     {"report-saved", {{Do::Choose, "CreateSaveFullReport"}}, Shown::MessageBox},
     {"full-report", {}},
     {"save-question", {{Do::Choose, "CreateSaveFullReport"}}, Shown::MessageBox},
+
+    // The division of a wife, two daughters, a grandfather, the mother and a consanguine brother.
+    {"division",
+     {{Do::Choose, "Back"},
+      {Do::Click, "Option1(6)"},
+      {Do::Click, "Label4(1)"},
+      {Do::Click, "Image2"},
+      {Do::Pick, "Combo1", "Male"},
+      {Do::Type, wife, "1"},
+      {Do::Type, daughter, "2"},
+      {Do::Type, grandfather, "1"},
+      {Do::Type, mother, "1"},
+      {Do::Type, consanguineBrother, "1"},
+      {Do::Type, name, "Abdullah"},
+      {Do::Type, gross, "24000"},
+      {Do::Choose, "Division"}},
+     Shown::BesideCaseStudy},
+    {"division-schools", {{Do::Choose, "FourSchools"}}},
+    {"division-urdu", {{Do::Choose, "FourSchools"}, {Do::Speak, "اردو"}}},
+    {"division-arabic", {{Do::Speak, "العربية"}}},
 };
 
 /// The largest difference of two colours in any channel.
