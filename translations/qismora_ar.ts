@@ -13,7 +13,7 @@
     </message>
     <message>
         <source>The commands refuse funeral expenses, debts and wills above 2,147,483,647.</source>
-        <translation>الأوامر ترفض ما زاد على 2,147,483,647 من نفقات التجهيز والديون والوصايا.</translation>
+        <translation>الأوامر ترفض ما زاد على 2٬147٬483٬647 من نفقات التجهيز والديون والوصايا.</translation>
     </message>
     <message>
         <source>Funeral expenses and debts exceed the estate. The commands refuse it, or divide a negative estate.</source>
@@ -65,7 +65,7 @@
     </message>
     <message>
         <source>Beside a grandfather the commands give the sixth of the great grandmothers to nobody, or also to the grandfather&apos;s mother.</source>
-        <translation>مع الجد لا تعطي الأوامر سدس الجدات البعيدات أحدًا، أو تعطيه أم الجد أيضًا.</translation>
+        <translation>مع الجد لا تعطي الأوامر سدس الجدات البعيدات لأحد، أو تعطيه لأم الجد أيضًا.</translation>
     </message>
     <message>
         <source>The text of Aul has no line for a grandfather.</source>
@@ -238,7 +238,7 @@
     </message>
     <message>
         <source>%1 %2</source>
-        <translation>%1 %2</translation>
+        <translation>%2 %1</translation>
     </message>
     <message>
         <source>%1, and in the picture from the top: %2</source>
@@ -799,11 +799,11 @@
     </message>
     <message>
         <source>{share} because there are two or more siblings</source>
-        <translation>{share} لوجود اثنين فأكثر من الإخوة</translation>
+        <translation>{share} لوجود اثنين فأكثر من الإخوة أو الأخوات</translation>
     </message>
     <message>
         <source>{share}, neither descendants nor two siblings</source>
-        <translation>{share} لعدم الفرع الوارث وعدم العدد من الإخوة</translation>
+        <translation>{share} لعدم الفرع الوارث وعدم العدد من الإخوة أو الأخوات</translation>
     </message>
     <message>
         <source>{share}, al-Umariyyatan: a third of what {a heir} leaves</source>
@@ -839,23 +839,23 @@
     </message>
     <message>
         <source>takes {left}, nearest male</source>
-        <translation>{left} تعصيبًا، أقرب ذكر</translation>
+        <translation>{left} تعصيبًا لأقرب ذكر</translation>
     </message>
     <message>
         <source>takes {left}, two parts to {a heir}&apos;s one</source>
-        <translation>{left} تعصيبًا، له سهمان مع سهم {a heir}</translation>
+        <translation>{left} تعصيبًا بالاشتراك مع {a heir}، للذكر مثل حظ الأنثيين</translation>
     </message>
     <message>
         <source>takes {left}, one part to {a heir}&apos;s two</source>
-        <translation>{left} عصبة بالغير، لها سهم مع سهمي {a heir}</translation>
+        <translation>{left} تعصيبًا بالغير مع {a heir}، للذكر مثل حظ الأنثيين</translation>
     </message>
     <message>
         <source>takes {left} beside {a heir}</source>
-        <translation>{left} عصبة مع الغير، مع {a heir}</translation>
+        <translation>{left} تعصيبًا مع الغير لوجود {a heir}</translation>
     </message>
     <message>
         <source>al-Akdariyya: his 1/6 and her 1/2 joined, two parts to one</source>
-        <translation>الأكدرية: يُجمع سدس الجد 1/6 ونصف الأخت 1/2 ثم للذكر سهمان وللأنثى سهم</translation>
+        <translation>الأكدرية: يُجمع سدس الجد ونصف الأخت ويُقسم بينهما للذكر مثل حظ الأنثيين</translation>
     </message>
     <message>
         <source>al-Malikiyya: takes {left}, siblings would have nothing</source>
@@ -867,7 +867,7 @@
     </message>
     <message>
         <source>shares as a brother with the siblings</source>
-        <translation>المقاسمة مع الإخوة كأخ</translation>
+        <translation>يقاسم الإخوة كأخ منهم</translation>
     </message>
     <message>
         <source>{share} of the whole, more than a brother&apos;s part</source>
@@ -883,7 +883,7 @@
     </message>
     <message>
         <source>takes up to {share} of what the grandfather leaves</source>
-        <translation>ما يبقى بعد الجد إلى تمام {share}</translation>
+        <translation>مما يبقى بعد الجد، إلى تمام {share} من جميع المال</translation>
     </message>
     <message>
         <source>mu&apos;adda: takes what the full sisters leave</source>
@@ -891,7 +891,7 @@
     </message>
     <message>
         <source>excluded by {a heir}</source>
-        <translation>الحجب لوجود {a heir}</translation>
+        <translation>حجب ب{a heir}</translation>
     </message>
     <message>
         <source>two thirds are taken</source>
@@ -942,7 +942,7 @@
     </message>
     <message>
         <source>reports of al-Mughira and Ubada</source>
-        <translation>حديث المغيرة وحديث عبادة</translation>
+        <translation>حديثا المغيرة وعبادة</translation>
     </message>
     <message>
         <source>report of Ali</source>
@@ -966,7 +966,7 @@
     </message>
     <message>
         <source>Companions</source>
-        <translation>الصحابة</translation>
+        <translation>آثار الصحابة</translation>
     </message>
     <message>
         <source>consensus</source>
@@ -993,11 +993,11 @@
     </message>
     <message>
         <source>children</source>
-        <translation>الأولاد</translation>
+        <translation>الفرع الوارث</translation>
     </message>
     <message>
         <source>children of sons</source>
-        <translation>أولاد الأبناء</translation>
+        <translation>الفرع الوارث من أولاد الابن</translation>
     </message>
     <message>
         <source>%1 (%2)</source>
@@ -1022,7 +1022,7 @@
     </message>
     <message>
         <source>Gross estate</source>
-        <translation>التركة</translation>
+        <translation>إجمالي التركة</translation>
     </message>
     <message>
         <source>Funeral expenses</source>
@@ -1117,11 +1117,11 @@
     </message>
     <message>
         <source>yields to %1</source>
-        <translation>الحجب لوجود %1</translation>
+        <translation>حجب ب%1</translation>
     </message>
     <message>
         <source>Nothing is divided while a field cannot be read.</source>
-        <translation>لا يُقسم شيء ما دام حقل لا يُقرأ.</translation>
+        <translation>لا يُقسم شيء ما دام أحد الحقول غير مقروء.</translation>
     </message>
     <message>
         <source>Nothing is left to divide: funeral expenses and debts exceed the estate by %1.</source>
@@ -1161,11 +1161,11 @@
     </message>
     <message>
         <source>Base %1, corrected base %2</source>
-        <translation>أصل المسألة %1، وتصحيحها %2</translation>
+        <translation>أصل المسألة %1، وتصح من %2</translation>
     </message>
     <message>
         <source>Base %1, raised to %2, corrected base %3</source>
-        <translation>أصل المسألة %1، وتعول إلى %2، وتصحيحها %3</translation>
+        <translation>أصل المسألة %1، وتعول إلى %2، وتصح من %3</translation>
     </message>
     <message>
         <source>less %1</source>
@@ -1189,19 +1189,19 @@
     </message>
     <message>
         <source>Gross estate %1</source>
-        <translation>التركة %1</translation>
+        <translation>إجمالي التركة %1</translation>
     </message>
     <message>
         <source>Bequests of %1 are limited to %2, all that funeral expenses and debts leave.</source>
-        <translation>وصايا بمقدار %1 تُحدّ بمقدار %2، وهو كل ما يبقى بعد نفقات التجهيز والديون.</translation>
+        <translation>تُنفَّذ الوصايا البالغة %1 في حدود %2، وهو كل ما يبقى بعد نفقات التجهيز والديون.</translation>
     </message>
     <message>
         <source>Bequests of %1 are limited to %2, a third of what funeral expenses and debts leave. More needs the consent of the heirs.</source>
-        <translation>وصايا بمقدار %1 تُحدّ بمقدار %2، وهو ثلث ما يبقى بعد نفقات التجهيز والديون. وما زاد فبإجازة الورثة.</translation>
+        <translation>تُنفَّذ الوصايا البالغة %1 في حدود %2، وهو ثلث ما يبقى بعد نفقات التجهيز والديون. وما زاد فموقوف على إجازة الورثة.</translation>
     </message>
     <message>
         <source>Still the example with which Case Study opens: %1.</source>
-        <translation>لا يزال هو المثال الذي تُفتح به شاشة Case Study: %1.</translation>
+        <translation>لا تزال هذه قيم المثال الذي تُفتح به شاشة Case Study: %1.</translation>
     </message>
     <message>
         <source>, </source>
@@ -1259,7 +1259,7 @@
     </message>
     <message>
         <source>The deceased</source>
-        <translation>المتوفى</translation>
+        <translation>المتوفى / المتوفاة</translation>
     </message>
 </context>
 </TS>

@@ -5,67 +5,67 @@
     <name>Differences</name>
     <message>
         <source>The commands read an amount only up to its first comma.</source>
-        <translation>احکامات رقم کو صرف پہلے کوما تک پڑھتے ہیں۔</translation>
+        <translation>کمانڈیں رقم کو صرف پہلے کوما تک پڑھتی ہیں۔</translation>
     </message>
     <message>
         <source>The commands round funeral expenses, debts and wills to whole numbers.</source>
-        <translation>احکامات تجہیز و تکفین، قرض اور وصیت کو پورے اعداد میں بدل دیتے ہیں۔</translation>
+        <translation>کمانڈیں تجہیز و تکفین، قرض اور وصیت کی رقم کو قریب ترین پورے عدد میں بدل دیتی ہیں۔</translation>
     </message>
     <message>
         <source>The commands refuse funeral expenses, debts and wills above 2,147,483,647.</source>
-        <translation>احکامات 2,147,483,647 سے زیادہ تجہیز و تکفین، قرض اور وصیت قبول نہیں کرتے۔</translation>
+        <translation>کمانڈیں 2,147,483,647 سے زیادہ تجہیز و تکفین، قرض اور وصیت قبول نہیں کرتیں۔</translation>
     </message>
     <message>
         <source>Funeral expenses and debts exceed the estate. The commands refuse it, or divide a negative estate.</source>
-        <translation>تجہیز و تکفین اور قرض ترکے سے زیادہ ہیں۔ احکامات اسے رد کرتے ہیں یا منفی ترکہ تقسیم کرتے ہیں۔</translation>
+        <translation>تجہیز و تکفین اور قرض ترکے سے زیادہ ہیں۔ کمانڈیں اسے قبول نہیں کرتیں یا منفی ترکہ تقسیم کرتی ہیں۔</translation>
     </message>
     <message>
         <source>The commands limit the wills to a third of the gross estate, as a whole number, and not to a third of what funeral expenses and debts leave.</source>
-        <translation>احکامات وصیت کو کل ترکے کے تہائی تک، پورے عدد میں، محدود کرتے ہیں، نہ کہ تجہیز و تکفین اور قرض کے بعد بچنے والے مال کے تہائی تک۔</translation>
+        <translation>کمانڈیں وصیت کو کل ترکے کے تہائی تک، پورے عدد میں، محدود کرتی ہیں، نہ کہ تجہیز و تکفین اور قرض کے بعد بچنے والے مال کے تہائی تک۔</translation>
     </message>
     <message>
         <source>No other heir is alive beside husband or wife. The commands show no figures.</source>
-        <translation>شوہر یا بیوی کے سوا کوئی وارث نہیں۔ احکامات کوئی رقم نہیں دکھاتے۔</translation>
+        <translation>شوہر یا بیوی کے سوا کوئی وارث نہیں۔ کمانڈیں کوئی رقم نہیں دکھاتیں۔</translation>
     </message>
     <message>
         <source>The fixed shares use up the estate exactly. The commands show no figures.</source>
-        <translation>مقررہ حصے ترکے کو ٹھیک پورا کر دیتے ہیں۔ احکامات کوئی رقم نہیں دکھاتے۔</translation>
+        <translation>مقررہ حصے ترکے کو ٹھیک پورا کر دیتے ہیں۔ کمانڈیں کوئی رقم نہیں دکھاتیں۔</translation>
     </message>
     <message>
         <source>The estate is too large for the commands: they cannot round the spouse&apos;s amount and show no figures.</source>
-        <translation>ترکہ احکامات کے لیے بہت بڑا ہے: وہ شوہر یا بیوی کی رقم کو پورے عدد میں نہیں بدل سکتے اور کوئی رقم نہیں دکھاتے۔</translation>
+        <translation>ترکہ کمانڈوں کے لیے بہت بڑا ہے: وہ شوہر یا بیوی کی رقم کو پورے عدد میں نہیں بدل سکتیں اور کوئی رقم نہیں دکھاتیں۔</translation>
     </message>
     <message>
         <source>The family is too large for the fractions of the commands: they show no final figures.</source>
-        <translation>خاندان احکامات کی کسور کے لیے بہت بڑا ہے: وہ آخری رقوم نہیں دکھاتے۔</translation>
+        <translation>خاندان کمانڈوں کی کسور کے لیے بہت بڑا ہے: وہ آخری رقوم نہیں دکھاتیں۔</translation>
     </message>
     <message>
         <source>The commands give a consanguine brother beside daughters nothing, unless a consanguine sister is alive.</source>
-        <translation>احکامات بیٹیوں کے ساتھ علاتی بھائی کو کچھ نہیں دیتے، سوائے اس کے کہ علاتی بہن زندہ ہو۔</translation>
+        <translation>کمانڈیں بیٹیوں کے ساتھ علاتی بھائی کو کچھ نہیں دیتیں، سوائے اس کے کہ علاتی بہن زندہ ہو۔</translation>
     </message>
     <message>
         <source>The commands let son&apos;s daughters share with the son&apos;s son&apos;s son instead of taking their fixed share.</source>
-        <translation>احکامات پوتیوں کو مقررہ حصہ دینے کے بجائے پڑپوتے کے ساتھ شریک کرتے ہیں۔</translation>
+        <translation>کمانڈیں پوتیوں کو مقررہ حصہ دینے کے بجائے پڑپوتے کے ساتھ شریک کرتی ہیں۔</translation>
     </message>
     <message>
         <source>The commands let son&apos;s daughters share with the son&apos;s son&apos;s son instead of taking their sixth. A son&apos;s son&apos;s daughter then takes nothing.</source>
-        <translation>احکامات پوتیوں کو چھٹا حصہ دینے کے بجائے پڑپوتے کے ساتھ شریک کرتے ہیں۔ پھر پڑپوتی کو کچھ نہیں ملتا۔</translation>
+        <translation>کمانڈیں پوتیوں کو چھٹا حصہ دینے کے بجائے پڑپوتے کے ساتھ شریک کرتی ہیں۔ پھر پڑپوتی کو کچھ نہیں ملتا۔</translation>
     </message>
     <message>
         <source>The commands leave the son&apos;s son&apos;s daughter out of the residue that she shares with her brother.</source>
-        <translation>احکامات پڑپوتی کو اس باقی سے خارج رکھتے ہیں جس میں وہ اپنے بھائی کے ساتھ شریک ہے۔</translation>
+        <translation>کمانڈیں پڑپوتی کو اس باقی مال سے خارج رکھتی ہیں جس میں وہ اپنے بھائی کے ساتھ شریک ہے۔</translation>
     </message>
     <message>
         <source>The commands give a son&apos;s son&apos;s daughter a sixth, though two daughters have taken the two thirds.</source>
-        <translation>احکامات پڑپوتی کو چھٹا حصہ دیتے ہیں حالانکہ دو بیٹیاں دو تہائی لے چکی ہیں۔</translation>
+        <translation>کمانڈیں پڑپوتی کو چھٹا حصہ دیتی ہیں حالانکہ دو بیٹیاں دو تہائی لے چکی ہیں۔</translation>
     </message>
     <message>
         <source>The commands give a consanguine sister beside her brother and one full sister a sixth, and then her part of the residue.</source>
-        <translation>احکامات علاتی بہن کو، جب اس کا بھائی اور ایک حقیقی بہن ساتھ ہوں، چھٹا حصہ دیتے ہیں اور پھر باقی میں سے اس کا حصہ بھی۔</translation>
+        <translation>کمانڈیں علاتی بہن کو، جب اس کا بھائی اور ایک حقیقی بہن ساتھ ہوں، چھٹا حصہ دیتی ہیں اور پھر باقی مال میں سے اس کا حصہ بھی۔</translation>
     </message>
     <message>
         <source>Beside a grandfather the commands give the sixth of the great grandmothers to nobody, or also to the grandfather&apos;s mother.</source>
-        <translation>دادا کے ساتھ احکامات پردادیوں اور پرنانیوں کا چھٹا حصہ کسی کو نہیں دیتے، یا دادا کی ماں کو بھی دیتے ہیں۔</translation>
+        <translation>دادا کے ساتھ کمانڈیں اوپر کی جدات (نانی کی ماں، دادی کی ماں اور دادا کی ماں) کا چھٹا حصہ کسی کو نہیں دیتیں، یا دادا کی ماں کو بھی دے دیتی ہیں۔</translation>
     </message>
     <message>
         <source>The text of Aul has no line for a grandfather.</source>
@@ -73,7 +73,7 @@
     </message>
     <message>
         <source>The commands follow Hanafi law, from which this school differs here.</source>
-        <translation>احکامات حنفی فقہ پر چلتے ہیں، جس سے یہ مذہب یہاں مختلف ہے۔</translation>
+        <translation>کمانڈیں حنفی فقہ پر چلتی ہیں، جس سے یہ مسلک یہاں مختلف ہے۔</translation>
     </message>
 </context>
 <context>
@@ -167,7 +167,7 @@
     </message>
     <message>
         <source>Family tree</source>
-        <translation>شجرہ نسب</translation>
+        <translation>شجرۂ نسب</translation>
     </message>
     <message>
         <source>Division - %1</source>
@@ -187,7 +187,7 @@
     </message>
     <message>
         <source>Back to the case (Esc)</source>
-        <translation>اصل مسئلے پر واپس (Esc)</translation>
+        <translation>اصل صورت پر واپس (Esc)</translation>
     </message>
     <message>
         <source>the fields of Case Study as they stand now</source>
@@ -195,7 +195,7 @@
     </message>
     <message>
         <source>a supposition, not the case of the fields</source>
-        <translation>فرضی صورت، خانوں کا مسئلہ نہیں</translation>
+        <translation>فرضی صورت، خانوں میں درج صورت نہیں</translation>
     </message>
     <message>
         <source>Kept</source>
@@ -223,18 +223,18 @@
     </message>
     <message>
         <source>Back to the case</source>
-        <translation>اصل مسئلے پر واپس</translation>
+        <translation>اصل صورت پر واپس</translation>
     </message>
 </context>
 <context>
     <name>FamilyTreeView</name>
     <message>
         <source>Family tree</source>
-        <translation>شجرہ نسب</translation>
+        <translation>شجرۂ نسب</translation>
     </message>
     <message>
         <source>Deceased</source>
-        <translation>متوفی</translation>
+        <translation>میت</translation>
     </message>
     <message>
         <source>%1 %2</source>
@@ -696,7 +696,7 @@
     </message>
     <message>
         <source>School</source>
-        <translation>مذہب</translation>
+        <translation>فقہی مسلک</translation>
     </message>
     <message>
         <source>The estate</source>
@@ -760,7 +760,7 @@
     </message>
     <message>
         <source>Saved: %1</source>
-        <translation>محفوظ ہوا: %1</translation>
+        <translation>محفوظ ہوئی: %1</translation>
     </message>
 </context>
 <context>
@@ -791,7 +791,7 @@
     </message>
     <message>
         <source>{share} completes two thirds beside one {heir}</source>
-        <translation>{share}، ایک {heir} کے ساتھ دو تہائی پورا کرنے کو</translation>
+        <translation>{share}، ایک {heir} کے ساتھ دو تہائی کی تکمیل کے لیے</translation>
     </message>
     <message>
         <source>{share} in the father&apos;s place</source>
@@ -855,7 +855,7 @@
     </message>
     <message>
         <source>al-Akdariyya: his 1/6 and her 1/2 joined, two parts to one</source>
-        <translation>مسئلہ اکدریہ: دادا کا 1/6 اور بہن کا 1/2 ملا کر، مرد کے دو حصے اور عورت کا ایک</translation>
+        <translation>مسئلہ اکدریہ: دادا کا 1/6 اور بہن کا 1/2 ملا کر، دادا کے دو حصے اور بہن کا ایک</translation>
     </message>
     <message>
         <source>al-Malikiyya: takes {left}, siblings would have nothing</source>
@@ -883,7 +883,7 @@
     </message>
     <message>
         <source>takes up to {share} of what the grandfather leaves</source>
-        <translation>دادا کے بعد جو بچے اس میں سے {share} تک</translation>
+        <translation>دادا کے بعد بچنے والے مال سے، کل مال کے {share} تک</translation>
     </message>
     <message>
         <source>mu&apos;adda: takes what the full sisters leave</source>
@@ -899,7 +899,7 @@
     </message>
     <message>
         <source>not an heir in this school</source>
-        <translation>اس مذہب میں وارث نہیں</translation>
+        <translation>اس مسلک میں وارث نہیں</translation>
     </message>
     <message>
         <source>nothing is left</source>
@@ -907,7 +907,7 @@
     </message>
     <message>
         <source>to distant kindred; if there is none, later Hanafi jurists return it to the spouse</source>
-        <translation>ذوی الارحام کو؛ وہ نہ ہوں تو متاخرین احناف کے نزدیک شوہر یا بیوی پر رد</translation>
+        <translation>ذوی الارحام کو؛ وہ نہ ہوں تو متاخرینِ احناف کے نزدیک شوہر یا بیوی پر رد</translation>
     </message>
     <message>
         <source>to distant kindred; if there is none, to the treasury</source>
@@ -934,39 +934,39 @@
     </message>
     <message>
         <source>report of Ibn Abbas</source>
-        <translation>حدیثِ ابن عباس</translation>
+        <translation>حدیثِ ابن عباسؓ</translation>
     </message>
     <message>
         <source>report of Ibn Masud</source>
-        <translation>حدیثِ ابن مسعود</translation>
+        <translation>حدیثِ ابن مسعودؓ</translation>
     </message>
     <message>
         <source>reports of al-Mughira and Ubada</source>
-        <translation>احادیثِ مغیرہ و عبادہ</translation>
+        <translation>احادیثِ مغیرہؓ و عبادہؓ</translation>
     </message>
     <message>
         <source>report of Ali</source>
-        <translation>حدیثِ علی</translation>
+        <translation>حدیثِ علیؓ</translation>
     </message>
     <message>
         <source>ruling of Abu Bakr</source>
-        <translation>فیصلۂ ابوبکر</translation>
+        <translation>فیصلۂ ابوبکرؓ</translation>
     </message>
     <message>
         <source>ruling of Umar</source>
-        <translation>فیصلۂ عمر</translation>
+        <translation>فیصلۂ عمرؓ</translation>
     </message>
     <message>
         <source>ruling of Zayd</source>
-        <translation>قولِ زید</translation>
+        <translation>قولِ زیدؓ</translation>
     </message>
     <message>
         <source>ruling of Malik</source>
-        <translation>قولِ مالک</translation>
+        <translation>قولِ مالکؒ</translation>
     </message>
     <message>
         <source>Companions</source>
-        <translation>صحابہ</translation>
+        <translation>آثارِ صحابہؓ</translation>
     </message>
     <message>
         <source>consensus</source>
@@ -1038,11 +1038,11 @@
     </message>
     <message>
         <source>The fixed shares exceed the estate: Awl raises the base from %1 to %2.</source>
-        <translation>مقررہ حصے ترکے سے بڑھ گئے: عول سے اصل مسئلہ %1 سے %2 ہوا۔</translation>
+        <translation>مقررہ حصے ترکے سے بڑھ گئے: عول سے اصلِ مسئلہ %1 سے %2 ہوا۔</translation>
     </message>
     <message>
         <source>The fixed shares leave something and there is no residuary: Radd returns it to the sharers other than the spouse.</source>
-        <translation>مقررہ حصوں کے بعد کچھ بچا اور کوئی عصبہ نہیں: رد کے ذریعے وہ شوہر یا بیوی کے سوا ذوی الفروض کو لوٹا۔</translation>
+        <translation>مقررہ حصوں کے بعد کچھ بچا اور کوئی عصبہ نہیں: رد کے ذریعے وہ شوہر یا بیوی کے سوا باقی ذوی الفروض کو لوٹایا گیا۔</translation>
     </message>
     <message>
         <source>Beside the spouse there is no other heir: %1 is left over.</source>
@@ -1088,7 +1088,7 @@
     </message>
     <message>
         <source>not an heir in this school</source>
-        <translation>اس مذہب میں وارث نہیں</translation>
+        <translation>اس مسلک میں وارث نہیں</translation>
     </message>
     <message>
         <source>nothing is left</source>
@@ -1149,7 +1149,7 @@
     </message>
     <message>
         <source>%1: &quot;%2&quot; is more than %3</source>
-        <translation>%1: &quot;%2&quot; زیادہ سے زیادہ %3 ہو سکتا ہے</translation>
+        <translation>%1: &quot;%2&quot; حد سے زیادہ ہے، زیادہ سے زیادہ %3</translation>
     </message>
     <message>
         <source>%1: &quot;%2&quot; is not an amount</source>
@@ -1161,11 +1161,11 @@
     </message>
     <message>
         <source>Base %1, corrected base %2</source>
-        <translation>اصل مسئلہ %1، تصحیح %2</translation>
+        <translation>اصلِ مسئلہ %1، تصحیح %2</translation>
     </message>
     <message>
         <source>Base %1, raised to %2, corrected base %3</source>
-        <translation>اصل مسئلہ %1، عول %2، تصحیح %3</translation>
+        <translation>اصلِ مسئلہ %1، عول ہو کر %2، تصحیح %3</translation>
     </message>
     <message>
         <source>less %1</source>
@@ -1251,7 +1251,7 @@
     </message>
     <message>
         <source>The commands of Case Study answer otherwise.</source>
-        <translation>Case Study کے احکامات کا جواب مختلف ہے۔</translation>
+        <translation>Case Study کی کمانڈوں کا جواب مختلف ہے۔</translation>
     </message>
     <message>
         <source>Where Qismora differs</source>
@@ -1259,7 +1259,7 @@
     </message>
     <message>
         <source>The deceased</source>
-        <translation>متوفی</translation>
+        <translation>متوفی / متوفیہ</translation>
     </message>
 </context>
 </TS>
