@@ -882,7 +882,7 @@
         <translation>ما يبقى بعد الجد</translation>
     </message>
     <message>
-        <source>takes up to {share} of what the grandfather leaves</source>
+        <source>takes what the grandfather leaves, up to {share} of the whole</source>
         <translation>مما يبقى بعد الجد، إلى تمام {share} من جميع المال</translation>
     </message>
     <message>

@@ -882,7 +882,7 @@
         <translation>دادا کے بعد جو بچے</translation>
     </message>
     <message>
-        <source>takes up to {share} of what the grandfather leaves</source>
+        <source>takes what the grandfather leaves, up to {share} of the whole</source>
         <translation>دادا کے بعد بچنے والے مال سے، کل مال کے {share} تک</translation>
     </message>
     <message>

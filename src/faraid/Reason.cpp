@@ -149,7 +149,7 @@ std::string_view Pattern(ReasonCode code) {
     case ReasonCode::WhatGrandfatherLeaves:
       return "takes what the grandfather leaves";
     case ReasonCode::FullSistersBeforeConsanguine:
-      return "takes up to {share} of what the grandfather leaves";
+      return "takes what the grandfather leaves, up to {share} of the whole";
     case ReasonCode::Muadda:
       return "mu'adda: takes what the full sisters leave";
     case ReasonCode::ExcludedBy:

@@ -86,7 +86,7 @@ TEST(Reasons, AreSentences) {
       {Maliki,
        FamilyOf({{Grandfather, 1}, {FullSisters, 1}, {ConsanguineBrothers, 2}}),
        {{Grandfather, "1/3 of the whole, more than a brother's part (ruling of Zayd)"},
-        {FullSisters, "takes up to 1/2 of what the grandfather leaves (ruling of Zayd)"},
+        {FullSisters, "takes what the grandfather leaves, up to 1/2 of the whole (ruling of Zayd)"},
         {ConsanguineBrothers, "mu'adda: takes what the full sisters leave (ruling of Zayd)"}}},
       {Maliki,
        FamilyOf({{Mother, 1}, {GreatGrandfather, 1}, {FullBrothers, 3}}),
