@@ -638,12 +638,12 @@
         <translation>تقدم</translation>
     </message>
     <message>
-        <source>Find in the page (Ctrl+F)</source>
-        <translation>البحث في الصفحة (Ctrl+F)</translation>
+        <source>Find (Ctrl+F)</source>
+        <translation>بحث (Ctrl+F)</translation>
     </message>
     <message>
-        <source>Find in the page</source>
-        <translation>البحث في الصفحة</translation>
+        <source>Find</source>
+        <translation>بحث</translation>
     </message>
     <message>
         <source>Next</source>
@@ -662,8 +662,12 @@
         <translation>استُؤنف من الطرف الآخر للصفحة.</translation>
     </message>
     <message>
-        <source>The page does not contain &quot;%1&quot;.</source>
-        <translation>لا تحتوي الصفحة على &quot;%1&quot;.</translation>
+        <source>Found on another page.</source>
+        <translation>وُجد في صفحة أخرى.</translation>
+    </message>
+    <message>
+        <source>No page contains &quot;%1&quot;.</source>
+        <translation>لا تحتوي أي صفحة على &quot;%1&quot;.</translation>
     </message>
 </context>
 <context>

@@ -638,12 +638,12 @@
         <translation>آگے</translation>
     </message>
     <message>
-        <source>Find in the page (Ctrl+F)</source>
-        <translation>صفحے میں تلاش (Ctrl+F)</translation>
+        <source>Find (Ctrl+F)</source>
+        <translation>تلاش (Ctrl+F)</translation>
     </message>
     <message>
-        <source>Find in the page</source>
-        <translation>صفحے میں تلاش</translation>
+        <source>Find</source>
+        <translation>تلاش</translation>
     </message>
     <message>
         <source>Next</source>
@@ -662,8 +662,12 @@
         <translation>صفحے کے دوسرے سرے سے جاری۔</translation>
     </message>
     <message>
-        <source>The page does not contain &quot;%1&quot;.</source>
-        <translation>صفحے میں &quot;%1&quot; نہیں ملا۔</translation>
+        <source>Found on another page.</source>
+        <translation>دوسرے صفحے پر ملا۔</translation>
+    </message>
+    <message>
+        <source>No page contains &quot;%1&quot;.</source>
+        <translation>کسی صفحے میں &quot;%1&quot; نہیں ملا۔</translation>
     </message>
 </context>
 <context>

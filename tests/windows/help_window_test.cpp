@@ -108,6 +108,15 @@ class HelpWindowTest : public QObject {
     QCOMPARE(PageOf(window)->textCursor().selectedText().toLower(), QStringLiteral("residuaries"));
     QTest::keyClick(words, Qt::Key_Return);
     QVERIFY(PageOf(window)->textCursor().position() > first);
+    // The page that contains them opens, whichever way Awl is written.
+    window.Show(DifferencesPage, {});
+    words->setText(QStringLiteral("awl"));
+    QTest::keyClick(words, Qt::Key_Return);
+    QCOMPARE(PageOf(window)->textCursor().selectedText().toLower(), QStringLiteral("aul"));
+    words->setText(QStringLiteral("umm al-farrukh"));
+    QTest::keyClick(words, Qt::Key_Return);
+    QCOMPARE(PageOf(window)->source().fileName(), QString::fromLatin1(DivisionPage));
+    QCOMPARE(PageOf(window)->textCursor().selectedText().toLower(), words->text());
     words->setText(QStringLiteral("no such words"));
     QTest::keyClick(words, Qt::Key_Return);
     QVERIFY(window.findChild<QLabel*>(QStringLiteral("HelpFound"))

@@ -14,6 +14,7 @@
 #include <QMenu>
 #include <QMenuBar>
 #include <QPointer>
+#include <QRegularExpression>
 #include <QSet>
 #include <QShortcut>
 #include <QStatusBar>
@@ -56,6 +57,13 @@ QPointer<HelpWindow> help;
 void StartSavedLanguage() {
   QtSettings store;
   StartLanguage(store);
+}
+
+/// Finds the words in any case. The commands of Case Study write Aul, classical books Awl.
+QRegularExpression Pattern(const QString& words) {
+  static const QRegularExpression awl(QStringLiteral("a[uw]l"), QRegularExpression::CaseInsensitiveOption);
+  return QRegularExpression(QRegularExpression::escape(words).replace(awl, QStringLiteral("a[uw]l")),
+                            QRegularExpression::CaseInsensitiveOption);
 }
 
 }  // namespace
@@ -241,8 +249,8 @@ void HelpWindow::Translate() {
   for (qsizetype i = 0; i < pages_.size(); ++i) {
     pages_[i]->setText(Help::tr(entries[i].Caption).remove(QLatin1Char('&')));
   }
-  words_->setPlaceholderText(Help::tr("Find in the page (Ctrl+F)"));
-  words_->setAccessibleName(Help::tr("Find in the page"));
+  words_->setPlaceholderText(Help::tr("Find (Ctrl+F)"));
+  words_->setAccessibleName(Help::tr("Find"));
   next_->setText(Help::tr("Next"));
   previous_->setText(Help::tr("Previous"));
 }
@@ -286,8 +294,8 @@ void HelpWindow::ListHeadings() {
 }
 
 void HelpWindow::Find(bool backward) {
-  const QString wanted = words_->text();
-  if (wanted.isEmpty()) return words_->setFocus(Qt::ShortcutFocusReason);
+  if (words_->text().isEmpty()) return words_->setFocus(Qt::ShortcutFocusReason);
+  const QRegularExpression wanted = Pattern(words_->text());
   const auto how = backward ? QTextDocument::FindBackward : QTextDocument::FindFlags();
   found_->clear();
   if (page_->find(wanted, how)) return;
@@ -296,7 +304,17 @@ void HelpWindow::Find(bool backward) {
   page_->moveCursor(backward ? QTextCursor::End : QTextCursor::Start);
   if (page_->find(wanted, how)) return found_->setText(Help::tr("Continued from the other end of the page."));
   page_->setTextCursor(before);
-  found_->setText(Help::tr("The page does not contain \"%1\".").arg(wanted));
+  for (const char* name : {GuidePage, DifferencesPage, DivisionPage}) {
+    const QString page = QString::fromLatin1(name);
+    QFile file(folder_ + QLatin1Char('/') + page);
+    if (page == page_->source().fileName() || !file.open(QIODevice::ReadOnly) ||
+        !QString::fromUtf8(file.readAll()).contains(wanted)) {
+      continue;
+    }
+    Show(page, {});
+    if (page_->find(wanted)) return found_->setText(Help::tr("Found on another page."));
+  }
+  found_->setText(Help::tr("No page contains \"%1\".").arg(words_->text()));
 }
 
 void HelpWindow::changeEvent(QEvent* event) {
