@@ -1,5 +1,4 @@
 #include <gtest/gtest.h>
-#include <sys/resource.h>
 #include <sys/stat.h>
 #include <sys/wait.h>
 #include <unistd.h>
@@ -11,6 +10,7 @@
 
 #include "base/NewFile.h"
 #include "support/FakePorts.h"
+#include "support/FullDisk.h"
 #include "support/TemporaryFolder.h"
 
 namespace qismora {
@@ -18,24 +18,8 @@ namespace {
 
 namespace fs = std::filesystem;
 using testing::FakeFolders;
+using testing::FullDisk;
 using testing::TemporaryFolder;
-
-/// No file of this process grows beyond the size, as on a disk that is full.
-class FullDisk {
- public:
-  explicit FullDisk(rlim_t size) {
-    std::signal(SIGXFSZ, SIG_IGN);
-    getrlimit(RLIMIT_FSIZE, &before_);
-    const rlimit limit = {size, before_.rlim_max};
-    setrlimit(RLIMIT_FSIZE, &limit);
-  }
-  ~FullDisk() { setrlimit(RLIMIT_FSIZE, &before_); }
-  FullDisk(const FullDisk&) = delete;
-  FullDisk& operator=(const FullDisk&) = delete;
-
- private:
-  rlimit before_{};
-};
 
 std::vector<std::string> EntriesOf(const std::string& folder) {
   std::vector<std::string> names;
@@ -47,14 +31,6 @@ std::vector<std::string> EntriesOf(const std::string& folder) {
 void Write(const std::string& path, const std::string& content, Replace replace = Replace::Agreed) {
   FakeFolders places;
   WriteSafely(places, path, content, replace);
-}
-
-TEST(Files, ASafelyWrittenFileHasItsContentAndNothingIsLeftBeside) {
-  const TemporaryFolder folder;
-  Write(folder.File("a.txt"), "one");
-  Write(folder.File("a.txt"), "two");
-  EXPECT_EQ(ReadWholeFile(folder.File("a.txt")), "two");
-  EXPECT_EQ(EntriesOf(folder.Path()), std::vector<std::string>{"a.txt"});
 }
 
 TEST(Files, AFullDiskLeavesTheEarlierFile) {
@@ -203,35 +179,20 @@ TEST(Files, ADiskThatFailsToWriteThroughLeavesTheEarlierFile) {
   EXPECT_THROW(SyncToDisk(folder.File("missing")), FileFailure);
 }
 
-TEST(Files, AKilledProgramLeavesTheEarlierFileAndTheNextSaveCleansUp) {
+TEST(Files, ASaveRemovesTheUnfinishedFilesOfKilledProgramsAlone) {
   const TemporaryFolder folder;
-  Write(folder.File("a.txt"), "earlier");
-  const pid_t child = fork();
-  if (child == 0) {
-    FakeFolders killed;
-    killed.Disk = [](const std::string&) { std::raise(SIGKILL); };
-    WriteSafely(killed, folder.File("a.txt"), "later", Replace::Agreed);
-    _exit(0);
-  }
-  int status = 0;
-  waitpid(child, &status, 0);
-  ASSERT_TRUE(WIFSIGNALED(status));
-  EXPECT_EQ(ReadWholeFile(folder.File("a.txt")), "earlier");
-  ASSERT_EQ(EntriesOf(folder.Path()).size(), 2U);
-
   FakeFolders places;
   NewFile running(places, folder.File("b.txt"), Replace::Nothing);
-  std::ofstream(folder.File(".report-of-mine.part")) << "a name of the user's own";
+  for (const char* name : {".report-7.part", ".report-of-mine.part"}) std::ofstream(folder.File(name)) << "x";
   Write(folder.File("a.txt"), "later");
   running.Commit("b");
   EXPECT_EQ(EntriesOf(folder.Path()), (std::vector<std::string>{".report-of-mine.part", "a.txt", "b.txt"}));
 }
 
-TEST(Files, NamesThatLeaveTheFolderAreNone) {
-  for (const std::string& name : {std::string(""), std::string("."), std::string(".."), std::string("a/b"),
-                                  std::string("a\\b"), std::string("a\0b", 3)}) {
+TEST(Files, ANameThatLeavesItsFolderIsNoFileName) {
+  using namespace std::string_literals;
+  for (const auto& name : {""s, "."s, ".."s, "a/b"s, "a\\b"s, "a\0b"s})
     EXPECT_FALSE(IsFileName(name)) << name;
-  }
   for (const char* name : {"a", ".a", "...", "محمد.txt", "a b"}) EXPECT_TRUE(IsFileName(name)) << name;
 }
 
