@@ -106,7 +106,7 @@ TEST(Screen, ARefusedCountSendsTheFocusToItsField) {
   EXPECT_EQ(focused, 0);
 }
 
-TEST(Screen, BackAndTheCloseBoxShowTheMenu) {
+TEST(Screen, BackAndTheCloseButtonShowTheMenu) {
   const ScreenFixture played;
   CaseStudy& study = *played.Study;
   std::string road;

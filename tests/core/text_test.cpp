@@ -37,14 +37,6 @@ TEST(Text, TheWidestFiguresFit) {
   EXPECT_EQ(F(-1.7976931348623157e308, widest).size(), 327U);
 }
 
-TEST(Text, AWrittenTextReplacesTheOldOneAndAnAppendedOneFollowsIt) {
-  std::string text = "an older and longer text";
-  Write(text, "new ", Integer(5));
-  EXPECT_EQ(text, "new 5");
-  Append(text, CRLF, std::string(300, 'x'));
-  EXPECT_EQ(text, "new 5\r\n" + std::string(300, 'x'));
-}
-
 TEST(Text, GeneralNumbersHaveFifteenDigits) {
   struct Row {
     double Value;
