@@ -4,7 +4,6 @@
 
 #include <algorithm>
 #include <filesystem>
-#include <map>
 #include <sstream>
 #include <string>
 #include <vector>
@@ -23,21 +22,12 @@ using Lines = std::vector<std::string>;
 /// one.
 class CasePlayer {
  public:
-  CasePlayer() {
-    fakes_.Folders.Folder = folder_.Path();
-    fields_ = {{"Wives", 1}, {"Husband", 1}};  // both captions belong to field 1
-    for (const int field : HeirFieldIndexes) fields_[screen_.Label1(field).Caption.Get()] = field;
-    for (const int field : {NameField, GrossEstateField, FuneralField, DebtsField, WillsField}) {
-      fields_[screen_.Label1(field).Caption.Get()] = field;
-      if (field != NameField) screen_.Text1(field).Text = "0";
-    }
-    for (int i = 0; i < screen_.Check1.Size; ++i) checkBoxes_[screen_.Check1(i).Caption.Get()] = i;
-  }
+  CasePlayer() { fakes_.Folders.Folder = folder_.Path(); }
 
   /// Types what the case begins with, and returns it.
   CaseTexts Type(const documents::WorkedCase& worked) {
-    for (const auto& [caption, value] : worked.Fields) Enter(caption, value);
-    return ReadScreen(screen_, heirsConsent_);
+    Enter(worked.Fields);
+    return typed_.Texts();
   }
 
   void Play(const documents::WorkedCase& worked) {
@@ -47,32 +37,27 @@ class CasePlayer {
     for (const documents::Played& answer : worked.Answers) {
       SCOPED_TRACE(answer.Command);
       if (answer.Command == "Then type") {
-        for (const std::string& line : answer.Lines) {
-          const auto [caption, value] = documents::SplitEntry(line);
-          Enter(caption, value);
-        }
-        continue;
+        documents::Entries changes;
+        for (const std::string& line : answer.Lines) changes.push_back(documents::SplitEntry(line));
+        Enter(changes);
+      } else {
+        EXPECT_EQ(Joined(answer.Lines), Joined(Shortened(answer.Lines, Run(answer.Command))));
       }
-      EXPECT_EQ(Joined(answer.Lines), Joined(Shortened(answer.Lines, Run(answer.Command))));
     }
   }
 
  private:
-  void Enter(const std::string& caption, const std::string& value) {
-    if (caption == "Deceased" && (value == "Male" || value == "Female")) {
-      screen_.Combo1.ListIndex = value == "Female" ? Female : Male;
-    } else if (caption == "Heirs consent") {
-      heirsConsent_ = value == "yes";
-    } else if (caption == "Answer") {
-      fakes_.Boxes.Answers.push_back(value == "Yes" ? Answer::Yes : Answer::No);
-    } else if (const auto field = fields_.find(caption); field != fields_.end()) {
-      screen_.Text1(field->second).Text = value;
-    } else if (const auto checkBox = checkBoxes_.find(caption);
-               checkBox != checkBoxes_.end() && value == "ticked") {
-      screen_.Check1(checkBox->second).Value = 1;
-    } else {
-      ADD_FAILURE() << "the screen has no " << caption << " = " << value;
+  void Enter(const documents::Entries& entries) {
+    for (const auto& [caption, value] : entries) {
+      const std::optional<Entry> entry = FindEntry(caption);
+      if (caption == "Answer") {
+        fakes_.Boxes.Answers.push_back(value == "Yes" ? Answer::Yes : Answer::No);
+      } else {
+        EXPECT_TRUE(entry && !typed_.Set(*entry, value)) << "the screen has no " << caption << " = " << value;
+      }
     }
+    EXPECT_FALSE(typed_.Settle());
+    TypeIntoScreen(typed_.Texts(), screen_);
   }
 
   /// Runs the command and returns what the user then reads, without empty lines.
@@ -80,23 +65,18 @@ class CasePlayer {
     if (command == "Message") return Message();
     if (command == "Files") return Files();
     if (const std::string division = "Division "; command.starts_with(division)) {
-      return DivisionLines(ReadDivisionInput(screen_, heirsConsent_),
-                           SchoolOf(command.substr(division.size())));
+      return DivisionLines(ReadDivisionInput(typed_.Texts()), SchoolOf(command.substr(division.size())));
     }
     fakes_.Boxes.Shown.clear();
-    if (command == "Residuaries") {
-      screen_.Resid_Click();
-      return Figures();
-    }
-    if (command == "Aul & Radd") {
-      screen_.AulRadd_Click();
+    if (command == "Residuaries" || command == "Aul & Radd") {
+      command == "Residuaries" ? screen_.Resid_Click() : screen_.AulRadd_Click();
       return Figures();
     }
     if (command == "All Individual") screen_.FullReport_Click();
     if (command == "Execute Selected") screen_.Exec_Click();
     if (command == "Full Report") screen_.CreateSaveFullReport_Click();
     if (const std::string doubleClick = "Double click "; command.starts_with(doubleClick)) {
-      screen_.Label1_DblClick(fields_.at(command.substr(doubleClick.size())));
+      screen_.Label1_DblClick(FindEntry(command.substr(doubleClick.size())).value().Index);
       Lines lines = {screen_.Label2.Caption, screen_.Label3.Caption};
       std::ranges::copy(LinesOf(screen_.Text2.Text), std::back_inserter(lines));
       return lines;
@@ -181,9 +161,7 @@ class CasePlayer {
   FakePorts fakes_;
   CaseRecord record_;
   CaseStudy screen_{record_, fakes_.Ports, 1};
-  std::map<std::string, int> fields_;
-  std::map<std::string, int> checkBoxes_;
-  bool heirsConsent_ = false;
+  CaseEntries typed_;
 };
 
 }  // namespace qismora::testing

@@ -17,10 +17,13 @@ struct Played {
   std::vector<std::string> Lines;
 };
 
+/// What is typed, by the captions of the fields.
+using Entries = std::vector<std::pair<std::string, std::string>>;
+
 /// A worked case: what is typed, by the captions of the fields, and the answers in the order of the commands.
 struct WorkedCase {
   std::string Title;
-  std::vector<std::pair<std::string, std::string>> Fields;
+  Entries Fields;
   std::vector<Played> Answers;
   /// The heading under which it stands, as a link names it.
   std::string Section;
