@@ -10,7 +10,6 @@
 #include <deque>
 #include <memory>
 
-#include "shell/Documents.h"
 #include "support/FakePorts.h"
 #include "windows/forms/ProgramWindows.h"
 #include "windows/platform/QtShellPorts.h"
@@ -40,17 +39,6 @@ int RunWindowTest(int argc, char** argv) {
   QDir::setCurrent(home.path());
   Test test;
   return QTest::qExec(&test, argc, argv);
-}
-
-/// Whether the program has a file open or loaded.
-inline bool Uses(qint64 process, const QString& file) {
-  const QString folder = QStringLiteral("/proc/%1/").arg(process);
-  for (const QFileInfo& open :
-       QDir(folder + QStringLiteral("fd")).entryInfoList(QDir::Files | QDir::System)) {
-    if (open.symLinkTarget() == file) return true;
-  }
-  QFile maps(folder + QStringLiteral("maps"));
-  return maps.open(QIODevice::ReadOnly) && maps.readAll().contains(file.toUtf8() + '\n');
 }
 
 /// Answers the dialogs for case files from a queue; they are cancelled when it is empty.
@@ -105,12 +93,6 @@ class ProgramFixture : public QObject {
     QFile file(path);
     QDir().mkpath(QFileInfo(path).path());
     if (file.open(QIODevice::WriteOnly)) file.write(content);
-  }
-
-  void PutDocuments() const {
-    for (const Document& document : Documents) {
-      Put(folder_.filePath(QStringLiteral("documents/") + ToQt(document.FileName)), "%PDF-1.4");
-    }
   }
 
   QStringList LogLines() const {

@@ -13,7 +13,21 @@ namespace qismora {
 
 using testing::MessageBoxSpy;
 using testing::ProgramFixture;
-using testing::Uses;
+
+namespace {
+
+/// Whether the program has a file open or loaded.
+bool Uses(qint64 process, const QString& file) {
+  const QString folder = QStringLiteral("/proc/%1/").arg(process);
+  for (const QFileInfo& open :
+       QDir(folder + QStringLiteral("fd")).entryInfoList(QDir::Files | QDir::System)) {
+    if (open.symLinkTarget() == file) return true;
+  }
+  QFile maps(folder + QStringLiteral("maps"));
+  return maps.open(QIODevice::ReadOnly) && maps.readAll().contains(file.toUtf8() + '\n');
+}
+
+}  // namespace
 
 class InstalledTest : public QObject {
   Q_OBJECT
