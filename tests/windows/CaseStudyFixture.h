@@ -1,82 +1,72 @@
 #pragma once
 
 #include <QAction>
-#include <QDir>
-#include <QMessageBox>
-#include <QPointer>
-#include <QTemporaryDir>
 #include <QTest>
-#include <QTimer>
-#include <deque>
 
-#include "windows/casestudy/CaseStudyWindow.h"
-#include "windows/platform/QtPorts.h"
+#include "windows/MessageBoxSpy.h"
+#include "windows/ProgramFixture.h"
 
 namespace qismora::testing {
 
-/// A Case Study window of a new user: empty settings and an empty directory. Expected message boxes are
-/// answered, unexpected ones reported.
+/// The Case Study window of a new user, and the message boxes of the program.
 class CaseStudyFixture {
  public:
-  CaseStudyFixture();
-  ~CaseStudyFixture();
+  CaseStudyFixture() { Open(); }
 
-  CaseStudyWindow& Window() { return *window_; }
-  CaseStudy& Form() { return window_->Form(); }
-  bool IsOpen() const { return window_ != nullptr; }
-  /// Opens a window as the program does, with the view of the settings.
-  void Open();
+  CaseStudyWindow& Window() { return *windows_->Study(); }
+  CaseStudy& Form() { return Window().Form(); }
+  Settings& Store() { return program_.Store(); }
+  /// Starts the program with the settings of the earlier start, and opens the window.
+  void Open() {
+    // The offscreen platform would activate the Division window when it opens by itself.
+    Store().Write("Qismora", "Division", "Open", "no");
+    windows_ = &program_.Start();
+    windows_->MainMenu().Form().ShowCaseStudy();
+    Activate();
+  }
 
   template <class Widget = QWidget>
   Widget* Find(const char* name) {
-    auto* found = window_->findChild<Widget*>(QString::fromLatin1(name));
-    if (found == nullptr) qFatal("there is no %s", name);
-    return found;
+    return testing::Find<Widget>(&Window(), name);
   }
+  /// The text of a label or a button.
+  QString TextOf(const char* name) { return Find(name)->property("text").toString(); }
 
   /// Clicks into the field and types.
-  void Type(const char* field, const QString& text);
-  void Click(const char* name);
-  void DoubleClick(const char* name);
+  void Type(const char* field, const QString& text) {
+    Activate();
+    Click(field);
+    QTest::keyClick(Find(field), Qt::Key_A, Qt::ControlModifier);
+    QTest::keyClicks(Find(field), text);
+  }
+  void Click(const char* name) { QTest::mouseClick(Find(name), Qt::LeftButton); }
+  void DoubleClick(const char* name) { QTest::mouseDClick(Find(name), Qt::LeftButton); }
   /// A double click sent to the window, which passes it to the widget on top at that place.
-  void DoubleClickAt(const char* name);
-  /// Moves the mouse over the widget, or whatever lies on top of it; to its middle if no place is given.
-  void MoveTo(const char* name, QPoint place = {});
-  void Key(const char* name, Qt::Key key);
-  /// The text of a label or a button.
-  QString TextOf(const char* name);
+  void DoubleClickAt(const char* name) {
+    QTest::mouseDClick(Window().windowHandle(), Qt::LeftButton, {},
+                       PlaceOf(name, Find(name)->rect().center()));
+  }
+  /// Moves the mouse over a place of the widget, or whatever lies on top of it.
+  void MoveTo(const char* name, QPoint place) {
+    QTest::mouseMove(Window().windowHandle(), PlaceOf(name, place));
+  }
+  void Key(const char* name, Qt::Key key) {
+    Activate();
+    Find(name)->setFocus(Qt::TabFocusReason);
+    QTest::keyClick(Find(name), key);
+  }
 
-  /// The next message box contains these words; this button of it is clicked.
-  void Expect(const QString& words, QMessageBox::StandardButton answer = QMessageBox::Ok);
-  /// Message boxes are closed unread.
-  void IgnoreMessageBoxes() { ignore_ = true; }
-  /// Whether all expected message boxes have come, and no others.
-  bool AllAnswered() const { return expected_.empty() && surprises_ == 0; }
-
-  CaseRecord Record;
-  QtSettings Store;
+  MessageBoxSpy Boxes;
 
  private:
-  struct Expected {
-    QString Words;
-    QMessageBox::StandardButton Answer;
-  };
+  QPoint PlaceOf(const char* name, QPoint place) { return Find(name)->mapTo(&Window(), place); }
+  void Activate() {
+    Window().activateWindow();
+    if (!QTest::qWaitForWindowActive(&Window())) qFatal("the window does not become active");
+  }
 
-  void Answer(QMessageBox& box);
-
-  QTemporaryDir home_;
-  QString before_;
-  SystemClock clock_;
-  QtProgram running_;
-  QtMessageBoxes boxes_{running_};
-  SystemFolders places_;
-  QtSaveDialog dialog_{places_};
-  Ports ports_{clock_, boxes_, dialog_, Store, places_};
-  QPointer<CaseStudyWindow> window_;
-  QTimer watchdog_;
-  std::deque<Expected> expected_;
-  int surprises_ = 0;
-  bool ignore_ = false;
+  ProgramFixture program_;
+  ProgramWindows* windows_ = nullptr;
 };
 
 }  // namespace qismora::testing

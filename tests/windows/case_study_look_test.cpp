@@ -1,18 +1,12 @@
 #include <QApplication>
-#include <QCheckBox>
 #include <QComboBox>
 #include <QGroupBox>
 #include <QLabel>
 #include <QLineEdit>
-#include <QMenuBar>
-#include <QPlainTextEdit>
-#include <QPushButton>
-#include <QStatusBar>
 #include <QStyle>
 #include <optional>
 
 #include "CaseStudyFixture.h"
-#include "windows/style/OutlinedStyle.h"
 
 using qismora::testing::CaseStudyFixture;
 
@@ -36,7 +30,6 @@ class CaseStudyLookTest : public QObject {
 
  private slots:
   void initTestCase() {
-    QApplication::setStyle(new qismora::OutlinedStyle);
     QFont font(QStringLiteral("DejaVu Sans"));
     font.setPixelSize(12);
     QApplication::setFont(font);
@@ -117,5 +110,6 @@ class CaseStudyLookTest : public QObject {
   std::optional<CaseStudyFixture> fixture_;
 };
 
-QTEST_MAIN(CaseStudyLookTest)
+int main(int argc, char** argv) { return qismora::testing::RunWindowTest<CaseStudyLookTest>(argc, argv); }
+
 #include "case_study_look_test.moc"

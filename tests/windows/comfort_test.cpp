@@ -267,6 +267,20 @@ class ComfortTest : public QObject {
     for (const char* line : {"Label2", "Label3"}) QVERIFY(Find(study_, line)->actions().contains(copy));
   }
 
+  void noLabelIsCut() {
+    for (QWidget* window : OpenAll()) {
+      if (window == study_) continue;
+      window->show();
+      QVERIFY(QTest::qWaitForWindowExposed(window));
+      for (const QLabel* label : window->findChildren<QLabel*>()) {
+        if (!label->isVisible() || label->wordWrap()) continue;
+        const QSize needed = label->sizeHint();
+        QVERIFY2(label->width() >= needed.width() && label->height() >= needed.height(),
+                 qPrintable(label->text()));
+      }
+    }
+  }
+
   // An amount is broken into lines; in a field, which has but one, dots show that there is more.
   void noFigureIsCut() {
     auto* amount = Find<QLabel>(study_, "Label3");

@@ -274,5 +274,7 @@ class DivisionWindowTest : public QObject {
 
 }  // namespace qismora
 
-QTEST_MAIN(qismora::DivisionWindowTest)
+int main(int argc, char** argv) {
+  return qismora::testing::RunWindowTest<qismora::DivisionWindowTest>(argc, argv);
+}
 #include "division_window_test.moc"

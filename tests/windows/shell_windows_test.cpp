@@ -360,28 +360,6 @@ class ShellWindowsTest : public QObject {
     if (program_->Player().IsLoaded()) QTRY_VERIFY(panel->grab().toImage() != blank);
   }
 
-  void noCaptionIsCut() {
-    AppendLine(FromQt(program_->File(QStringLiteral("popuQism.ppl"))),
-               SessionLine(Integer(1), {}, {}, Long(1)));
-    Choose(0);
-    QTRY_VERIFY(windows_->Laws() != nullptr);
-    QTest::mouseClick(Find(menu_, "Label22"), Qt::LeftButton);
-    Find<QAction>(menu_, "About")->trigger();
-    DoubleClick(Find(menu_, "Frame2"));
-    menu_->show();
-    for (QWidget* window : QList<QWidget*>{menu_, windows_->Laws(), windows_->Log(), windows_->Resources(),
-                                           windows_->Catalogue()}) {
-      QVERIFY(QTest::qWaitForWindowExposed(window));
-      for (QWidget* widget : window->findChildren<QWidget*>()) {
-        if (!widget->isVisible()) continue;
-        const auto* label = qobject_cast<QLabel*>(widget);
-        if (label == nullptr || label->wordWrap()) continue;
-        QVERIFY2(label->width() >= label->sizeHint().width(), qPrintable(label->text()));
-        QVERIFY2(label->height() >= label->sizeHint().height(), qPrintable(label->text()));
-      }
-    }
-  }
-
  private:
   QRadioButton* Option(int index) {
     return Find<QRadioButton>(menu_, qPrintable(QStringLiteral("Option1(%1)").arg(index)));

@@ -1,7 +1,6 @@
 // The program on the screen that it is started on, which may be too small for its forms.
 #include <QAction>
 #include <QCheckBox>
-#include <QLayout>
 #include <QPlainTextEdit>
 #include <QScreen>
 #include <QScrollArea>
