@@ -1,14 +1,8 @@
-#include <QAction>
-#include <QDir>
 #include <QLabel>
 #include <QLineEdit>
-#include <QListWidget>
-#include <QMenuBar>
-#include <QScrollBar>
 #include <QSet>
 #include <QTest>
 #include <QTextBlock>
-#include <QTextFragment>
 
 #include "screens/Differences.h"
 #include "windows/division/Languages.h"
@@ -41,31 +35,14 @@ class HelpWindowTest : public QObject {
  private slots:
   void cleanup() { SetLanguage(Language::English); }
 
-  // Each kind of difference, and each link within and between the pages, leads to a heading that is there.
-  void linksLeadSomewhere() {
+  // tests/links checks the links between the pages.
+  void eachKindOfDifferenceHasAHeading() {
     HelpWindow window(docs);
-    QHash<QString, QSet<QString>> anchors;
-    for (const QString& page : QDir(docs).entryList({QStringLiteral("*.md")}))
-      anchors[page] = AnchorsOf(window, page);
+    const QSet<QString> anchors = AnchorsOf(window, DifferencesPage);
     for (const DifferenceKind& kind : DifferenceKinds()) {
-      QVERIFY2(anchors[DifferencesPage].contains(ToQt(kind.Section)), qPrintable(ToQt(kind.Section)));
+      QVERIFY2(anchors.contains(ToQt(kind.Section)), qPrintable(ToQt(kind.Section)));
     }
-    QVERIFY(anchors[GuidePage].contains(KeysAnchor));
-    int links = 0;
-    for (const char* page : {GuidePage, DifferencesPage, DivisionPage}) {
-      window.Show(QString::fromLatin1(page), {});
-      const QTextDocument& text = *PageOf(window)->document();
-      for (QTextBlock block = text.begin(); block.isValid(); block = block.next()) {
-        for (auto part = block.begin(); !part.atEnd(); ++part) {
-          const QUrl link(part.fragment().charFormat().anchorHref());
-          if (link.isEmpty() || !link.isRelative() || !link.hasFragment()) continue;
-          const QString target = link.path().isEmpty() ? QString::fromLatin1(page) : link.path();
-          QVERIFY2(anchors.value(target).contains(link.fragment()), qPrintable(link.toString()));
-          ++links;
-        }
-      }
-    }
-    QVERIFY(links > 20);
+    QVERIFY(AnchorsOf(window, GuidePage).contains(KeysAnchor));
   }
 
   void showsAHeadingAndGoesBack() {
