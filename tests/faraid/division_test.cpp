@@ -135,17 +135,6 @@ TEST(EveryDivision, KeepsTheExcludedWithoutAShareWhenAnotherJoins) {
   });
 }
 
-TEST(EveryDivision, IsTheSameWhateverWasDividedBefore) {
-  RandomFamilies random(3);
-  for (int i = 0; i < randomFamilies; ++i) {
-    const Family family = random.Next();
-    const School school = Schools[random.Below(4)];
-    const Division first = Divide(family, school);
-    Divide(random.Next(), Schools[random.Below(4)]);
-    ASSERT_EQ(Divide(family, school).Rows, first.Rows) << ::testing::PrintToString(family);
-  }
-}
-
 TEST(EveryDivision, PaysTheNetEstateToTheLastHundredth) {
   RandomFamilies random(4);
   ForAllFamilies([&](const Family& family, School school) {
