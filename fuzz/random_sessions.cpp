@@ -24,15 +24,6 @@ using namespace qismora::testing;
 
 namespace {
 
-#if defined(__has_feature)
-#if __has_feature(address_sanitizer)
-#define QISMORA_SANITIZED
-#endif
-#endif
-#ifdef __SANITIZE_ADDRESS__
-#define QISMORA_SANITIZED
-#endif
-
 // The sanitizer does not return freed memory, so growth means nothing there.
 #ifdef QISMORA_SANITIZED
 constexpr bool memoryIsMeasured = false;
