@@ -1,6 +1,4 @@
 // The program where it is installed, run by a user who cannot write there: installed_test PREFIX
-#include <QAction>
-#include <QLineEdit>
 #include <QProcess>
 #include <QRadioButton>
 #include <QTest>
@@ -59,23 +57,6 @@ class InstalledTest : public QObject {
       QVERIFY(boxes_.Take().constFirst().endsWith(file.fileName()));
       QVERIFY2(file.open(QIODevice::ReadOnly) && file.read(5) == "%PDF-", qPrintable(file.fileName()));
     }
-  }
-
-  void aReportGoesToTheUsersDocuments() {
-    ProgramFixture home(binaries_);
-    ProgramWindows& windows = home.Start();
-    windows.MainMenu().findChild<QRadioButton*>(QStringLiteral("Option1(6)"))->click();
-    QTRY_VERIFY(windows.Study() != nullptr);
-    const std::pair<const char*, const char*> fields[] = {{"Text1(2)", "1"},      {"Text1(24)", "Abdullah"},
-                                                          {"Text1(25)", "24000"}, {"Text1(26)", "0"},
-                                                          {"Text1(27)", "0"},     {"Text1(28)", "0"}};
-    for (const auto& [field, text] : fields) {
-      windows.Study()->findChild<QLineEdit*>(QString::fromLatin1(field))->setText(QString::fromLatin1(text));
-    }
-    windows.Study()->findChild<QAction*>(QStringLiteral("CreateSaveFullReport"))->trigger();
-    QTRY_VERIFY(boxes_.Count() > 0);
-    QVERIFY(boxes_.Take().constLast().contains(QStringLiteral("saved successfully")));
-    QVERIFY(QFile::exists(QDir::homePath() + QStringLiteral("/Documents/abdullah.txt")));
   }
 
   // The installed program itself.
