@@ -3,7 +3,6 @@
 #include <sys/wait.h>
 #include <unistd.h>
 
-#include <algorithm>
 #include <filesystem>
 #include <fstream>
 
@@ -18,14 +17,8 @@ namespace {
 namespace fs = std::filesystem;
 using testing::FakeFolders;
 using testing::FullDisk;
+using testing::NamesIn;
 using testing::TemporaryFolder;
-
-std::vector<std::string> EntriesOf(const std::string& folder) {
-  std::vector<std::string> names;
-  for (const auto& entry : fs::directory_iterator(folder)) names.push_back(entry.path().filename().string());
-  std::ranges::sort(names);
-  return names;
-}
 
 void Write(const std::string& path, const std::string& content, Replace replace = Replace::Agreed) {
   FakeFolders places;
@@ -40,7 +33,7 @@ TEST(Files, AFullDiskLeavesTheEarlierFile) {
     EXPECT_THROW(Write(folder.File("a.txt"), std::string(100000, 'x')), FileFailure);
   }
   EXPECT_EQ(ReadWholeFile(folder.File("a.txt")), "earlier");
-  EXPECT_EQ(EntriesOf(folder.Path()), std::vector<std::string>{"a.txt"}) << "no half-written file is left";
+  EXPECT_EQ(NamesIn(folder.Path()), std::vector<std::string>{"a.txt"}) << "no half-written file is left";
 }
 
 TEST(Files, AFolderThatCannotBeWrittenToIsAFailure) {
@@ -79,7 +72,7 @@ struct Obstacles {
 // A pipe or a device that is waited for hangs the test.
 TEST(Files, NothingIsWrittenThroughOrReplacedUnaskedAndNothingIsWaitedFor) {
   const Obstacles obstacles;
-  const std::vector<std::string> before = EntriesOf(obstacles.Folder.Path());
+  const std::vector<std::string> before = NamesIn(obstacles.Folder.Path());
   for (const char* name : Obstacles::Names) {
     const std::string path = obstacles.Folder.File(name);
     const fs::file_type type = fs::symlink_status(path).type();
@@ -92,7 +85,7 @@ TEST(Files, NothingIsWrittenThroughOrReplacedUnaskedAndNothingIsWaitedFor) {
     EXPECT_EQ(fs::symlink_status(path).type(), type) << name;
   }
   EXPECT_EQ(ReadWholeFile(obstacles.Folder.File("elsewhere")), "not ours");
-  EXPECT_EQ(EntriesOf(obstacles.Folder.Path()), before);
+  EXPECT_EQ(NamesIn(obstacles.Folder.Path()), before);
 }
 
 TEST(Files, AnAgreedReplacementTakesTheNameAndLeavesWhatALinkPointsTo) {
@@ -170,7 +163,7 @@ TEST(Files, ADiskThatFailsToWriteThroughLeavesTheEarlierFile) {
     FakeFolders disk = FailingDisk(good);
     EXPECT_THROW(WriteSafely(disk, folder.File("a.txt"), "later", Replace::Agreed), FileFailure);
     EXPECT_EQ(ReadWholeFile(folder.File("a.txt")), "earlier");
-    EXPECT_EQ(EntriesOf(folder.Path()).size(), 1U);
+    EXPECT_EQ(NamesIn(folder.Path()).size(), 1U);
   }
   FakeFolders disk = FailingDisk(2);
   EXPECT_THROW(WriteSafely(disk, folder.File("a.txt"), "later", Replace::Agreed), FileFailure)
@@ -185,7 +178,7 @@ TEST(Files, ASaveRemovesTheUnfinishedFilesOfKilledProgramsAlone) {
   for (const char* name : {".report-7.part", ".report-of-mine.part"}) std::ofstream(folder.File(name)) << "x";
   Write(folder.File("a.txt"), "later");
   running.Commit("b");
-  EXPECT_EQ(EntriesOf(folder.Path()), (std::vector<std::string>{".report-of-mine.part", "a.txt", "b.txt"}));
+  EXPECT_EQ(NamesIn(folder.Path()), (std::vector<std::string>{".report-of-mine.part", "a.txt", "b.txt"}));
 }
 
 TEST(Files, ANameThatLeavesItsFolderIsNoFileName) {

@@ -9,6 +9,7 @@
 #include "base/Text.h"
 #include "screens/DivisionText.h"
 #include "screens/Event.h"
+#include "support/TemporaryFolder.h"
 
 namespace fs = std::filesystem;
 
@@ -27,6 +28,14 @@ int IndexUpTo(std::string_view text, int last) {
   const std::optional<int> index = Number(text);
   if (!index || *index < 0 || *index > last) throw UnknownCommand();
   return *index;
+}
+
+/// The entry of that name in a table. Throws where there is none.
+template <class Value, std::size_t Size>
+Value Named(const std::pair<std::string_view, Value> (&table)[Size], std::string_view name) {
+  const auto* found = std::ranges::find(table, name, &std::pair<std::string_view, Value>::first);
+  if (found == std::end(table)) throw UnknownCommand();
+  return found->second;
 }
 
 bool HasField(int index) { return (index >= 1 && index <= 7) || (index >= 13 && index <= 33); }
@@ -81,9 +90,7 @@ void Player::Perform(std::string_view line) {
       {"reopen", &Player::Reopen},  {"show", &Player::Show},         {"lcm", &Player::Lcm},
       {"page", &Player::Page},      {"division", &Player::Division},
   };
-  const auto* found = std::ranges::find(commands, command, &std::pair<std::string_view, Command>::first);
-  if (found == std::end(commands)) throw UnknownCommand();
-  (this->*found->second)(rest);
+  (this->*Named(commands, command))(rest);
 }
 
 /// The view of a new screen is the index read at program start. There are no settings then, so it is 0.
@@ -146,21 +153,18 @@ void Player::Click(std::string_view rest) {
   if (control.Name == "Label4" && control.Index >= 0 && control.Index <= 2) {
     return study_->Label4_Click(control.Index);
   }
-  const auto* found = std::ranges::find(handlers, rest, &std::pair<std::string_view, Handler>::first);
-  if (found == std::end(handlers)) throw UnknownCommand();
+  const Handler handler = Named(handlers, rest);
   if ((rest == "AulRad" && !study_->AulRad.Enabled) || (rest == "AulRadd" && !study_->AulRadd.Visible)) {
     out_ << "  not available\n";
     return;
   }
-  (study_.get()->*found->second)();
+  (study_.get()->*handler)();
 }
 
 void Player::PutAnswer(std::string_view rest) {
   static constexpr std::pair<std::string_view, Answer> answers[] = {
       {"Yes", Answer::Yes}, {"No", Answer::No}, {"Cancel", Answer::Cancel}};
-  const auto* found = std::ranges::find(answers, rest, &std::pair<std::string_view, Answer>::first);
-  if (found == std::end(answers)) throw UnknownCommand();
-  boxes_.Answers.push_back(found->second);
+  boxes_.Answers.push_back(Named(answers, rest));
 }
 
 void Player::PutFile(std::string_view rest) {
@@ -192,11 +196,7 @@ void Player::Cat(std::string_view rest) {
 
 void Player::List(std::string_view rest) {
   if (!rest.empty()) throw UnknownCommand();
-  std::vector<std::string> names;
-  for (const auto& entry : fs::directory_iterator(folders_.Folder))
-    names.push_back(entry.path().filename().string());
-  std::ranges::sort(names);
-  for (const std::string& name : names) out_ << "  " << Escaped(name) << '\n';
+  for (const std::string& name : NamesIn(folders_.Folder)) out_ << "  " << Escaped(name) << '\n';
 }
 
 void Player::Reopen(std::string_view rest) {
@@ -254,11 +254,10 @@ void Player::Division(std::string_view rest) {
                                                                     {"maliki", School::Maliki},
                                                                     {"shafii", School::Shafii},
                                                                     {"hanbali", School::Hanbali}};
-  const auto* school =
-      std::ranges::find(schools, TakeWord(rest), &std::pair<std::string_view, School>::first);
+  const School school = Named(schools, TakeWord(rest));
   const bool consent = rest == "consent";
-  if (school == std::end(schools) || (!consent && !rest.empty())) throw UnknownCommand();
-  for (const std::string& line : DivisionLines(ReadDivisionInput(*study_, consent), school->second)) {
+  if (!consent && !rest.empty()) throw UnknownCommand();
+  for (const std::string& line : DivisionLines(ReadDivisionInput(*study_, consent), school)) {
     out_ << "  | " << Escaped(line) << '\n';
   }
 }

@@ -3,7 +3,6 @@
 #include <gtest/gtest.h>
 
 #include <algorithm>
-#include <filesystem>
 #include <sstream>
 #include <string>
 #include <vector>
@@ -63,7 +62,7 @@ class CasePlayer {
   /// Runs the command and returns what the user then reads, without empty lines.
   Lines Run(const std::string& command) {
     if (command == "Message") return Message();
-    if (command == "Files") return Files();
+    if (command == "Files") return NamesIn(folder_.Path());
     if (const std::string division = "Division "; command.starts_with(division)) {
       return DivisionLines(ReadDivisionInput(typed_.Texts()), SchoolOf(command.substr(division.size())));
     }
@@ -96,15 +95,6 @@ class CasePlayer {
       std::ranges::copy(LinesOf(box.Text), std::back_inserter(lines));
     }
     return lines;
-  }
-
-  Lines Files() {
-    Lines names;
-    for (const auto& entry : std::filesystem::directory_iterator(folder_.Path())) {
-      names.push_back(entry.path().filename().string());
-    }
-    std::ranges::sort(names);
-    return names;
   }
 
   /// The lines of the long text between its introduction and its footer.

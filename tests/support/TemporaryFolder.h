@@ -1,11 +1,22 @@
 #pragma once
 
+#include <algorithm>
 #include <cstdlib>
 #include <filesystem>
 #include <stdexcept>
 #include <string>
+#include <vector>
 
 namespace qismora::testing {
+
+/// The names of all that lies in a directory, sorted.
+inline std::vector<std::string> NamesIn(const std::string& folder) {
+  std::vector<std::string> names;
+  for (const auto& entry : std::filesystem::directory_iterator(folder))
+    names.push_back(entry.path().filename().string());
+  std::ranges::sort(names);
+  return names;
+}
 
 /// A new empty directory. The destructor removes it.
 class TemporaryFolder {

@@ -1,6 +1,7 @@
 #pragma once
 
 #include <algorithm>
+#include <cctype>
 #include <fstream>
 #include <stdexcept>
 #include <string>
@@ -79,13 +80,9 @@ inline WorkedCase ReadCase(const std::vector<std::string>& lines) {
 inline std::string AnchorOf(const std::string& heading) {
   std::string anchor;
   for (const char c : Trim(heading.substr(heading.find_first_not_of('#')))) {
-    if (c >= 'A' && c <= 'Z') {
-      anchor += static_cast<char>(c - 'A' + 'a');
-    } else if ((c >= 'a' && c <= 'z') || (c >= '0' && c <= '9') || c == '-' || c == '_') {
-      anchor += c;
-    } else if (c == ' ') {
-      anchor += '-';
-    }
+    const auto sign = static_cast<unsigned char>(c);
+    if (std::isalnum(sign) || c == '-' || c == '_') anchor += static_cast<char>(std::tolower(sign));
+    if (c == ' ') anchor += '-';
   }
   return anchor;
 }
