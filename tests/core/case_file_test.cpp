@@ -85,10 +85,8 @@ TEST(CaseFile, ADamagedFileIsRefusedWithItsLine) {
   for (const Damage& damage : std::vector<Damage>{
            {"Sons = 1\nSons 2\n", 2, "There is no equals sign in \"Sons 2\"."},
            {"\n#\nDaugthers = 1\n", 3, "\"Daugthers\" is not a caption of the Case Study screen."},
-           {"Sons = 1\nNet Estate = 5\n", 2, "\"Net Estate\" is not a caption of the Case Study screen."},
            {"Sons = 1\nsons = 1\n", 2, "\"sons\" is given twice."},
            {"Deceased = Zayd\nName = Umar\n", 2, "\"Name\" is given twice."},
-           {"Deceased = Male\nDeceased = Female\n", 2, "\"Deceased\" is given twice."},
            {"Sons = 1\nName = \xFF\n", 2, "The text is not UTF-8."},
            {"Name = \xED\xA0\x80\n", 1, "The text is not UTF-8."},
            {std::string("Sons = 1\0\n", 10), 1, "There is a control character in the line."},
@@ -100,7 +98,6 @@ TEST(CaseFile, ADamagedFileIsRefusedWithItsLine) {
            {"Heirs consent = perhaps\n", 1, "\"Heirs consent\" takes yes or no."},
            {"Sons = 1\nQismora case = 1\n", 2, "\"Qismora case\" is not a caption of the Case Study screen."},
            {"Qismora case = 0\n", 1, "\"0\" is not a version of case files."},
-           {"Qismora case = 1.5\n", 1, "\"1.5\" is not a version of case files."},
            {"Husband = 1\nSons = 1\nWives = 1\n", 3, "Both Wives and Husband are given."},
            {"Wives = 1\nDeceased = Female\n", 1, "Wives are given, but the deceased is female."},
            {"Deceased = Male\nHusband = 1\n", 2, "A husband is given, but the deceased is male."},
@@ -158,27 +155,15 @@ TEST(CaseFile, NoDamageGoesUnnoticedOrBreaksTheReader) {
   EXPECT_LT(refused, 20'000);
 }
 
-TEST(CaseFile, OpeningOneIsTypingIt) {
+TEST(CaseFile, OpeningOneReplacesWhatIsTyped) {
   ScreenFixture played;
-  played.Type(1, "1");
   played.Type(5, "3");
   played.Study->Check1(2).Value = 1;
-  TypeIntoScreen(ParseCaseFile("Husband = 1\nSons = 2 x\nFull Uncle = ticked\nDebts = 7\n").Case,
-                 *played.Study);
+  const CaseTexts texts = ParseCaseFile("Husband = 1\nSons = 2 x\nFull Uncle = ticked\nDebts = 7\n").Case;
+  TypeIntoScreen(texts, *played.Study);
   EXPECT_EQ(played.Study->Label1(1).Caption.Get(), "Husband");
-  EXPECT_EQ(played.Study->Text1(1).Text.Get(), "1");
-  EXPECT_EQ(played.Study->Text1(2).Text.Get(), "2 x");
-  EXPECT_EQ(played.Study->Text1(5).Text.Get(), "0");
-  EXPECT_EQ(played.Study->Text1(NameField).Text.Get(), "");
-  EXPECT_EQ(played.Study->Text1(GrossEstateField).Text.Get(), "0");
-  EXPECT_EQ(played.Study->Text1(DebtsField).Text.Get(), "7");
-  EXPECT_EQ(played.Study->Check1(2).Value, 0);
-  EXPECT_EQ(played.Study->Check1(4).Value, 1);
+  EXPECT_EQ(ReadScreen(*played.Study, false), texts);
   EXPECT_TRUE(played.Fakes.Boxes.Shown.empty());
-
-  ScreenFixture other;
-  TypeIntoScreen(ReadScreen(*played.Study, false), *other.Study);
-  EXPECT_EQ(ReadScreen(*other.Study, false), ReadScreen(*played.Study, false));
 }
 
 TEST(CaseFile, IsSavedAndOpened) {
