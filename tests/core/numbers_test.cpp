@@ -54,21 +54,16 @@ TEST(Numbers, ADoubleIsAlwaysANumber) {
 }
 
 TEST(Numbers, ATieRoundsToTheEvenNeighbour) {
-  struct Row {
-    double Value;
-    int Rounded;
-  };
-  for (const Row& row : {Row{0.5, 0},
-                         {1.5, 2},
-                         {2.5, 2},
-                         {-0.5, 0},
-                         {-1.5, -2},
-                         {-2.5, -2},
-                         {0.49999999999999994, 0},
-                         {32767.49, 32767},
-                         {-32768.5, -32768}}) {
-    EXPECT_EQ(RoundTo<Integer>(row.Value), row.Rounded) << row.Value;
-  }
+  const std::pair<double, int> rows[] = {{0.5, 0},
+                                         {1.5, 2},
+                                         {2.5, 2},
+                                         {-0.5, 0},
+                                         {-1.5, -2},
+                                         {-2.5, -2},
+                                         {0.49999999999999994, 0},
+                                         {32767.49, 32767},
+                                         {-32768.5, -32768}};
+  for (const auto& [value, rounded] : rows) EXPECT_EQ(RoundTo<Integer>(value), rounded) << value;
   EXPECT_EQ(FailureOf([] { return RoundTo<Integer>(32767.5); }), Overflow);
   EXPECT_EQ(FailureOf([] { return RoundTo<Integer>(-32769); }), Overflow);
   EXPECT_EQ(RoundTo<Long>(2147483647.4), 2147483647);

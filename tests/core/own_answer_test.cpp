@@ -8,6 +8,7 @@
 #include <map>
 #include <optional>
 #include <sstream>
+#include <utility>
 
 #include "screens/OwnAnswer.h"
 #include "support/RandomCases.h"
@@ -20,57 +21,52 @@ using faraid::Kind;
 using testing::TypedCase;
 
 /// The beginning of a line and the heir whom it names.
-struct Label {
-  std::string_view Words;
-  Kind Heir;
-};
+using Label = std::pair<std::string_view, Kind>;
+
+using enum Kind;
 
 // What all heirs of a kind have together.
-constexpr Label sharerLabels[] = {
-    {"WIFE (", Kind::Wives},
-    {"HUSBAND (", Kind::Husband},
-    {"DAUGHTERS (", Kind::Daughters},
-    {"FATHER (Father)", Kind::Father},
-    {"FATHER (Grand Father)", Kind::Grandfather},
-    {"FATHER (Great Grand Father)", Kind::GreatGrandfather},
-    {"MOTHER (", Kind::Mother},
-    {"Son's daughter (", Kind::SonsDaughters},
-    {"Son's Son's daughter (", Kind::SonsSonsDaughters},
-    {"BROTHER (", Kind::FullBrothers},
-    {"SISTER (", Kind::FullSisters},
-    {"Cons. SISTER (", Kind::ConsanguineSisters},
-    {"Cons. BROTHER (", Kind::ConsanguineBrothers},
-    {"Uter. SISTER (", Kind::UterineSisters},
-    {"Uter. BROTHER (", Kind::UterineBrothers},
-};
+constexpr Label sharerLabels[] = {{"WIFE (", Wives},
+                                  {"HUSBAND (", Husband},
+                                  {"DAUGHTERS (", Daughters},
+                                  {"FATHER (Father)", Father},
+                                  {"FATHER (Grand Father)", Grandfather},
+                                  {"FATHER (Great Grand Father)", GreatGrandfather},
+                                  {"MOTHER (", Mother},
+                                  {"Son's daughter (", SonsDaughters},
+                                  {"Son's Son's daughter (", SonsSonsDaughters},
+                                  {"BROTHER (", FullBrothers},
+                                  {"SISTER (", FullSisters},
+                                  {"Cons. SISTER (", ConsanguineSisters},
+                                  {"Cons. BROTHER (", ConsanguineBrothers},
+                                  {"Uter. SISTER (", UterineSisters},
+                                  {"Uter. BROTHER (", UterineBrothers}};
 
 // What one of them has.
-constexpr Label residuaryLabels[] = {
-    {"SONS (", Kind::Sons},
-    {"DAUGHTERS (", Kind::Daughters},
-    {"SON(", Kind::Sons},
-    {"Son's son(", Kind::SonsSons},
-    {"Son's Daughter (", Kind::SonsDaughters},
-    {"Son's Son's son(", Kind::SonsSonsSons},
-    {"SON'S SON(", Kind::SonsSons},
-    {"Son's son's son(", Kind::SonsSonsSons},
-    {"Son_son daughter(", Kind::SonsSonsDaughters},
-    {"FATHER(1/", Kind::Father},
-    {"FATHER(0/1/", Kind::Grandfather},
-    {"FATHER(0/0/1)", Kind::GreatGrandfather},
-    {"Sons Daughter (", Kind::SonsDaughters},
-    {"Equal Son's Son (", Kind::SonsSons},
-    {"Lower Son's Son (", Kind::SonsSonsSons},
-    {"Full Brother (", Kind::FullBrothers},
-    {"Full Sister (", Kind::FullSisters},
-    {"Cons. Brother (", Kind::ConsanguineBrothers},
-    {"Cons. Sister (", Kind::ConsanguineSisters},
-};
+constexpr Label residuaryLabels[] = {{"SONS (", Sons},
+                                     {"DAUGHTERS (", Daughters},
+                                     {"SON(", Sons},
+                                     {"Son's son(", SonsSons},
+                                     {"Son's Daughter (", SonsDaughters},
+                                     {"Son's Son's son(", SonsSonsSons},
+                                     {"SON'S SON(", SonsSons},
+                                     {"Son's son's son(", SonsSonsSons},
+                                     {"Son_son daughter(", SonsSonsDaughters},
+                                     {"FATHER(1/", Father},
+                                     {"FATHER(0/1/", Grandfather},
+                                     {"FATHER(0/0/1)", GreatGrandfather},
+                                     {"Sons Daughter (", SonsDaughters},
+                                     {"Equal Son's Son (", SonsSons},
+                                     {"Lower Son's Son (", SonsSonsSons},
+                                     {"Full Brother (", FullBrothers},
+                                     {"Full Sister (", FullSisters},
+                                     {"Cons. Brother (", ConsanguineBrothers},
+                                     {"Cons. Sister (", ConsanguineSisters}};
 
 template <std::size_t Size>
 std::optional<Kind> HeirOf(const Label (&labels)[Size], const std::string& line) {
-  for (const Label& label : labels) {
-    if (line.starts_with(label.Words)) return label.Heir;
+  for (const auto& [words, heir] : labels) {
+    if (line.starts_with(words)) return heir;
   }
   return std::nullopt;
 }
@@ -100,7 +96,7 @@ Reading ReadText(const std::string& text) {
     if (line.starts_with("RESIDUARIES [ASABA'T]")) {
       residuaries = true;
     } else if (line.find("(For all)") != std::string::npos) {
-      reading.PerHead[Kind::Remainder] = AmountBehind(line, " = ");
+      reading.PerHead[Remainder] = AmountBehind(line, " = ");
     } else if (const auto heir = HeirOf(residuaryLabels, line); residuaries && heir) {
       reading.PerHead[*heir] = AmountBehind(line, ") = ");
     } else if (const auto sharer = HeirOf(sharerLabels, line); !residuaries && sharer) {
@@ -162,7 +158,7 @@ void ExpectSame(const OwnAnswer& own, const Reading& reading, const faraid::Fami
     ASSERT_NEAR(own.Of(kind).Each * heads, together, 1e-9 * std::abs(own.NetEstate)) << CaptionOf(kind);
   }
   ASSERT_NEAR(grandmothers, reading.OfGrandmothers, 0.5 + 1e-9 * std::abs(own.NetEstate));
-  const auto forAll = reading.PerHead.find(Kind::Remainder);
+  const auto forAll = reading.PerHead.find(Remainder);
   ASSERT_NEAR(classII, forAll == reading.PerHead.end() ? 0 : forAll->second,
               0.5 + 1e-9 * std::abs(own.NetEstate));
 }
@@ -190,18 +186,18 @@ TEST(OwnAnswer, DividesTheSixthAmongTheGrandmothersOfTheGroup) {
   played.TypeEstate("1200");
   for (const int field : {17, 18, 19, 20, 21}) played.Type(field, "1");
   const OwnAnswer near = OwnAnswerOf(ReadScreen(*played.Study, false));
-  EXPECT_DOUBLE_EQ(near.Of(Kind::MothersMother).Together, 600);
-  EXPECT_DOUBLE_EQ(near.Of(Kind::FathersMother).Each, 600);
-  EXPECT_EQ(near.Of(Kind::GrandfathersMother).Together, 0);
+  EXPECT_DOUBLE_EQ(near.Of(MothersMother).Together, 600);
+  EXPECT_DOUBLE_EQ(near.Of(FathersMother).Each, 600);
+  EXPECT_EQ(near.Of(GrandfathersMother).Together, 0);
 
   // Beside a grandfather his mother is counted among those who share.
   for (const int field : {17, 19}) played.Type(field, "0");
   played.Type(14, "1");
   const OwnAnswer far = OwnAnswerOf(ReadScreen(*played.Study, false));
-  for (const Kind kind : {Kind::MothersMothersMother, Kind::GrandfathersMother, Kind::FathersMothersMother}) {
+  for (const Kind kind : {MothersMothersMother, GrandfathersMother, FathersMothersMother}) {
     EXPECT_DOUBLE_EQ(far.Of(kind).Together, 200.0 / 3);
   }
-  EXPECT_DOUBLE_EQ(far.Of(Kind::Grandfather).Together, 1000);
+  EXPECT_DOUBLE_EQ(far.Of(Grandfather).Together, 1000);
 }
 
 TEST(OwnAnswer, IsThatOfAFreshStart) {
@@ -216,8 +212,8 @@ TEST(OwnAnswer, IsThatOfAFreshStart) {
   played.Study->Residuaries_Click();
   EXPECT_EQ(played.Record.GrandDaughters, 1);
   const OwnAnswer own = OwnAnswerOf(ReadScreen(*played.Study, false));
-  EXPECT_EQ(own.Of(Kind::SonsDaughters).Together, 0);
-  EXPECT_DOUBLE_EQ(own.Of(Kind::SonsSonsSons).Together, 1200);
+  EXPECT_EQ(own.Of(SonsDaughters).Together, 0);
+  EXPECT_DOUBLE_EQ(own.Of(SonsSonsSons).Together, 1200);
 }
 
 }  // namespace

