@@ -13,7 +13,7 @@ namespace qismora {
 
 namespace {
 
-TEST(Documents, TheWorkedCasesAreTheProgramsOwn) {
+TEST(Documents, TheProgramAnswersTheWorkedCasesAsPrinted) {
   int cases = 0;
   for (const char* folder : {PROJECT_FOLDER "/documents", PROJECT_FOLDER "/docs"}) {
     for (const auto& entry : std::filesystem::directory_iterator(folder)) {

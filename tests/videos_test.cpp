@@ -88,7 +88,7 @@ TEST(MenuVideos, HaveTheLengthsThatTheProgramPlays) {
     EXPECT_EQ(Built(video).size(), lengths.at(video.FileName)) << video.FileName;
 }
 
-// What a viewer would notice: a frame that is no picture, a jump from one frame to the next, a seam where the
+// A viewer would notice a frame that is no picture, a jump from one frame to the next, a seam where the
 // second video follows the first and then itself.
 TEST(MenuVideos, RunWithoutJumpsAndSeams) {
   constexpr double jump = 15;

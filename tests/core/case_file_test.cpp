@@ -42,7 +42,7 @@ TEST(CaseFile, IsReadAsItIsWrittenByHand) {
   EXPECT_EQ(reading.Case.Gender, Male);
 }
 
-TEST(CaseFile, IsWrittenInTheOrderOfTheScreenWithoutWhoIsNotThere) {
+TEST(CaseFile, IsWrittenInTheOrderOfTheScreenWithoutAbsentHeirs) {
   CaseTexts texts;
   texts.Gender = Female;
   texts.Fields[1] = "1";

@@ -36,7 +36,7 @@ bool Concerns(const Differences& differences, Concern of) {
   return std::ranges::any_of(differences.Kinds, [&](const DifferenceKind* kind) { return kind->Of == of; });
 }
 
-/// What a reader of both would say, without the table of kinds.
+/// The differences that a reader of both answers sees.
 struct Seen {
   bool OtherEstate = false;
   bool NoFigures = false;
@@ -75,7 +75,7 @@ Seen Look(const Answered& answered, faraid::School school) {
   return seen;
 }
 
-/// Holds what is named against what a reader sees, in every school, and notes the kinds.
+/// Compares the differences that are named with those that a reader sees, in each school. Collects the kinds.
 void Check(const Answered& answered, std::set<const DifferenceKind*>& named) {
   for (const faraid::School school : faraid::Schools) {
     SCOPED_TRACE("school " + std::to_string(static_cast<int>(school)));
@@ -120,8 +120,8 @@ TEST(Differences, HaveAKindInEverySmallFamily) {
   });
 }
 
-// Two parts to one may by accident be what the fixed share and the residue come to: four sons' daughters have
-// two thirds beside one son's son's son in either way.
+// A fixed share and a residue may happen to have the ratio of two to one: four sons' daughters have two
+// thirds beside one son's son's son under both rules.
 TEST(Differences, AreNoneWhereTwoToOneIsTheFixedShare) {
   using enum Kind;
   std::set<const DifferenceKind*> named;

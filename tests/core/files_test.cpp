@@ -42,7 +42,7 @@ TEST(Files, AFolderThatCannotBeWrittenToIsAFailure) {
   EXPECT_THROW(ReadWholeFile("/proc/none/a.txt"), Failure);
 }
 
-TEST(Files, ALineThatAFullDiskTearsIsTakenBack) {
+TEST(Files, AFullDiskLeavesNoPartOfALine) {
   const TemporaryFolder folder;
   AppendLine(folder.File("log"), "first");
   {
@@ -52,7 +52,7 @@ TEST(Files, ALineThatAFullDiskTearsIsTakenBack) {
   EXPECT_EQ(ReadWholeFile(folder.File("log")), "first\r\n");
 }
 
-/// Everything but an ordinary file that may have a name, under names that say what it is.
+/// Whatever may have a file's name without being an ordinary file.
 struct Obstacles {
   Obstacles() {
     std::ofstream(Folder.File("elsewhere")) << "not ours";
@@ -69,8 +69,8 @@ struct Obstacles {
                                           "second name", "pipe",          "folder"};
 };
 
-// A pipe or a device that is waited for hangs the test.
-TEST(Files, NothingIsWrittenThroughOrReplacedUnaskedAndNothingIsWaitedFor) {
+// The test does not end if the program waits for a pipe or reads a device.
+TEST(Files, LinksPipesDevicesAndFoldersAreRefusedAtOnce) {
   const Obstacles obstacles;
   const std::vector<std::string> before = NamesIn(obstacles.Folder.Path());
   for (const char* name : Obstacles::Names) {
@@ -88,7 +88,7 @@ TEST(Files, NothingIsWrittenThroughOrReplacedUnaskedAndNothingIsWaitedFor) {
   EXPECT_EQ(NamesIn(obstacles.Folder.Path()), before);
 }
 
-TEST(Files, AnAgreedReplacementTakesTheNameAndLeavesWhatALinkPointsTo) {
+TEST(Files, AnAgreedReplacementReplacesALinkAndNotItsTarget) {
   const Obstacles obstacles;
   for (const char* name : {"link", "dangling link", "second name"}) {
     Write(obstacles.Folder.File(name), "new", Replace::Agreed);
@@ -156,7 +156,7 @@ FakeFolders FailingDisk(int good) {
   return disk;
 }
 
-TEST(Files, ADiskThatFailsToWriteThroughLeavesTheEarlierFile) {
+TEST(Files, ADiskErrorLeavesTheEarlierFile) {
   const TemporaryFolder folder;
   Write(folder.File("a.txt"), "earlier");
   for (const int good : {0, 1}) {

@@ -40,7 +40,7 @@ void SaveAll(const TemporaryFolder& folder, int sons) {
 
 bool IsUnfinished(const std::string& name) { return name.starts_with(".report-") && name.ends_with(".part"); }
 
-/// The folder after the kill, held against the one before and the one after a whole run.
+/// Compares the folder after the kill with the one before and the one after a whole run.
 void CheckFolder(const Content& found, const Content& before, const Content& after) {
   for (const auto& [name, text] : found) {
     if (IsUnfinished(name)) continue;

@@ -80,7 +80,7 @@ TEST(NumberText, WhatDoesNotBeginWithANumberIsReadAsNothing) {
   }
 }
 
-TEST(NumberText, EachReadingTakesWhatItShould) {
+TEST(NumberText, IsReadAsAPrefixAndAsAWhole) {
   for (const Row& row : rows) {
     const bool isNumber = row.Strict != none;
     EXPECT_EQ(IsNumber(row.Text), isNumber) << row.Text;
@@ -103,7 +103,7 @@ TEST(NumberText, LongDigitsKeepTheirValue) {
 
 TEST(NumberText, ANumberBeyondTheRangeIsAnOverflow) {
   const std::string texts[] = {"1e309",
-                               "-1e309",
+                               "-1e+309",
                                "1" + std::string(400, '0'),
                                "1e99999999999999999999",
                                "&H" + std::string(300, 'F'),

@@ -1,5 +1,5 @@
-// The answer of the commands as figures is what a user reads in their texts, whatever the family and the
-// estate.
+// The figures of the commands' answer are those that a user reads in their texts, for random families and
+// estates.
 
 #include <gtest/gtest.h>
 
@@ -114,13 +114,13 @@ struct User : testing::ScreenFixture {
     TypeIntoScreen(typed.Texts(), *Study);
     Fakes.Boxes.Answers.assign(1, typed.HeirsConsent ? Answer::Yes : Answer::No);
     Study->Resid_Click();
-    if (Record.AulRaddState == NoAdjustment || WasTold("Overflow")) return;
+    if (Record.AulRaddState == NoAdjustment || WasShown("Overflow")) return;
     Divided = Study->Text3.Text;
     Study->AulRadd_Click();
     AulRaddRefused = Study->Text3.Text.Get() == Divided;
   }
 
-  bool WasTold(std::string_view words) const {
+  bool WasShown(std::string_view words) const {
     for (const auto& box : Fakes.Boxes.Shown) {
       if (box.Text.find(words) != std::string::npos) return true;
     }
@@ -132,9 +132,9 @@ struct User : testing::ScreenFixture {
 };
 
 OwnOutcome OutcomeOf(const User& user, const Reading& reading) {
-  if (user.WasTold("Check for high values")) return OwnOutcome::FigureRefused;
-  if (user.WasTold("No estate wealth")) return OwnOutcome::EstateRefused;
-  if (user.WasTold("Overflow") || user.AulRaddRefused) return OwnOutcome::Failed;
+  if (user.WasShown("Check for high values")) return OwnOutcome::FigureRefused;
+  if (user.WasShown("No estate wealth")) return OwnOutcome::EstateRefused;
+  if (user.WasShown("Overflow") || user.AulRaddRefused) return OwnOutcome::Failed;
   return reading.HasFigures ? OwnOutcome::Figures : OwnOutcome::NoFigures;
 }
 

@@ -42,7 +42,7 @@ class ReportFiles : public ::testing::Test {
   std::vector<SaveOutcome> Outcomes;
 };
 
-TEST_F(ReportFiles, ANameThatIsNoFileNameSavesTheWorkingFileAlone) {
+TEST_F(ReportFiles, AnInvalidNameSavesTheWorkingFileAlone) {
   fs::create_directory(Folder.File("reports"));
   Case.Fakes.Folders.Folder = Folder.File("reports");
   for (const std::string& name : {std::string("../escaped"), std::string("a\\b"), std::string(300, 'x')}) {

@@ -121,7 +121,7 @@ TEST(Screen, BackAndTheCloseButtonShowTheMenu) {
   EXPECT_TRUE(study.Frame5.Visible);
 }
 
-TEST(Screen, SaysWhatIsReadWhereThatIsNotWhatStandsThere) {
+TEST(Screen, ReportsWhatIsReadIfItDiffersFromTheText) {
   const struct {
     int Field;
     const char* Typed;
@@ -148,7 +148,7 @@ TEST(Screen, SaysWhatIsReadWhereThatIsNotWhatStandsThere) {
 }
 
 // A refused estate is lost, and a switch of gender takes the spouse away.
-TEST(Screen, SaysWhichFigureStays) {
+TEST(Screen, ReportsWhichFigureIsKept) {
   ScreenFixture played;
   played.Type(1, "3");
   played.Study->Label1_DblClick(3);

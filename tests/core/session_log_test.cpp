@@ -93,8 +93,8 @@ TEST(SessionLog, ADamagedLogCountsUpToTheDamage) {
   EXPECT_EQ(logged.Run(), 7) << "a line may be of any length, and the last one lack its break";
 }
 
-// Wherever a full disk tears a line: it is closed, no session is glued to it, and no number repeats.
-TEST(SessionLog, ATornLineTakesNoOtherAlong) {
+// A full disk may have cut a line anywhere. The next session has a line of its own, and no number repeats.
+TEST(SessionLog, AnIncompleteLineDamagesNoOther) {
   const std::string whole = Join(SessionLine(Integer(12), noon, later, Long(3725)), CRLF);
   for (std::size_t torn = 1; torn < whole.size(); ++torn) {
     Logged logged;

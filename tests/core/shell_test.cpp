@@ -127,7 +127,7 @@ TEST(MainMenu, EachClickShowsTheNextPictureAndKeepsTheClickedOne) {
   }
 }
 
-TEST(MainMenu, EveryEntryLeadsWhereItSays) {
+TEST(MainMenu, EachEntryOpensItsFormOrDocument) {
   const std::map<int, std::vector<std::string>> ways = {{0, {"QurLaws", "Text5"}},
                                                         {3, {"QurLaws"}},
                                                         {5, {"QurLaws"}},
@@ -154,23 +154,23 @@ TEST(MainMenu, EveryEntryLeadsWhereItSays) {
 
 TEST(Documents, OpeningOneShowsItsPath) {
   Menu menu;
-  const auto told = [&](int number) {
+  const auto messageOf = [&](int number) {
     menu.Fakes.Boxes.Shown.clear();
     OpenDocument(number, menu.Fakes.Ports);
     EXPECT_EQ(menu.Fakes.Boxes.Shown.size(), 1U);
     return menu.Fakes.Boxes.Shown.front();
   };
-  EXPECT_EQ(told(4).Style, BoxStyle::Warning) << "a missing file";
+  EXPECT_EQ(messageOf(4).Style, BoxStyle::Warning) << "a missing file";
   EXPECT_TRUE(menu.Fakes.Viewer.Opened.empty());
   menu.PutDocuments();
-  EXPECT_EQ(told(4).Style, BoxStyle::Information);
+  EXPECT_EQ(messageOf(4).Style, BoxStyle::Information);
   menu.Fakes.Viewer.HasViewer = false;
-  EXPECT_EQ(told(4).Style, BoxStyle::Warning) << "no viewer";
-  EXPECT_TRUE(told(6).Text.ends_with(menu.Folder.File("documents/RelationsEU.pdf")));
+  EXPECT_EQ(messageOf(4).Style, BoxStyle::Warning) << "no viewer";
+  EXPECT_TRUE(messageOf(6).Text.ends_with(menu.Folder.File("documents/RelationsEU.pdf")));
   EXPECT_THROW(OpenDocument(8, menu.Fakes.Ports), Failure);
 }
 
-TEST(Zummy, EachButtonOpensItsDocumentAndNoneTheVerses) {
+TEST(Zummy, EachButtonOpensItsDocument) {
   Menu menu;
   menu.PutDocuments();
   Zummy form(menu.Record, menu.Shell, menu.Fakes.Ports);
@@ -223,7 +223,7 @@ TEST(Animation, TwoVideosTakeTurns) {
   EXPECT_EQ(menu.Fakes.Player.Played, (std::vector<std::string>{second, first, first, second, first, first}));
 }
 
-TEST(Animation, AFileOfAnotherLengthIsNeverPlayedAndAMissingOneIsNoMatter) {
+TEST(Animation, AFileOfAnotherLengthIsNotPlayedAndAMissingOneIgnored) {
   Menu menu;
   menu.PutVideo("brindhaven1.avi", SecondVideoLength + 1);
   InhMain& form = menu.Open();

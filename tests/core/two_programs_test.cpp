@@ -1,5 +1,5 @@
-// Two programs that save at the same moment in the same folder, under the same name. The settings are files
-// of Qt: the tests of the windows cover two programs that share them.
+// Two programs that save at the same moment in the same folder, under the same name. QSettings takes care of
+// the settings, which they share too.
 
 #include <gtest/gtest.h>
 
@@ -36,7 +36,7 @@ void RunTwoPrograms(const std::function<void(int sons)>& round) {
   });
 }
 
-TEST(TwoPrograms, AReportUnderTheSameNameIsThatOfOneOfThem) {
+TEST(TwoPrograms, AReportUnderTheSameNameIsWholeAtEveryMoment) {
   const std::string reports[] = {Alone(1, "zayd.txt"), Alone(2, "zayd.txt")};
   const std::string results[] = {Alone(1, "results.txt"), Alone(2, "results.txt")};
   ASSERT_NE(reports[0], reports[1]);

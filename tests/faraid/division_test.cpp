@@ -60,7 +60,7 @@ Fraction ShareOf(const Division& division, Kind kind) {
   return {};
 }
 
-TEST(EveryDivision, GivesOutTheWholeAndNothingToThoseWhoDoNotTake) {
+TEST(EveryDivision, DistributesTheWholeToThoseWhoTake) {
   ForAllFamilies([](const Family& family, School school) {
     const Division division = Divide(family, school);
     Fraction sum;
@@ -174,7 +174,7 @@ TEST(EveryDivision, IsOneInAllSchoolsWhereTheyDoNotDiffer) {
   });
 }
 
-TEST(EveryDivision, LeavesAGrandfatherHisLeastBesideSiblings) {
+TEST(EveryDivision, GivesAGrandfatherAtLeastASixthBesideSiblings) {
   ForAllFamilies([](const Family& family, School school) {
     const KindSet alive = family.Alive();
     if (alive.Has(Father) || !alive.HasAny(Grandfathers)) return;
@@ -187,7 +187,7 @@ TEST(EveryDivision, LeavesAGrandfatherHisLeastBesideSiblings) {
   });
 }
 
-TEST(EveryDivision, SaysWhy) {
+TEST(EveryDivision, HasAReasonWithASourceForEachHeir) {
   ForAllFamilies([](const Family& family, School school) {
     for (const Row& row : Divide(family, school).Rows) {
       const std::string sentence = English(row.Why);

@@ -15,7 +15,7 @@ TEST(Fraction, IsReducedAndKeepsItsSign) {
   EXPECT_LT(Fraction(-1, 12), 0);
 }
 
-TEST(Fraction, FailsWhereItDoesNotFit) {
+TEST(Fraction, FailsOnOverflow) {
   const Fraction tiny(1, largest);
   EXPECT_THROW(tiny * tiny, std::overflow_error);
   EXPECT_THROW(tiny + Fraction(1, largest - 1), std::overflow_error);
@@ -25,12 +25,12 @@ TEST(Fraction, FailsWhereItDoesNotFit) {
   EXPECT_THROW(Fraction(largest) / Fraction(1, 2), std::overflow_error);
 }
 
-TEST(Fraction, FitsWhereOnlyTheWayIsLarge) {
+TEST(Fraction, FitsIfOnlyIntermediateResultsAreLarge) {
   EXPECT_EQ(Fraction(largest, 3) * Fraction(3, largest), 1);
   EXPECT_LT(Fraction(largest - 2, largest - 1), Fraction(largest - 1, largest));
 }
 
-TEST(Fraction, HasNoDenominatorOfNothing) {
+TEST(Fraction, RefusesADenominatorOfZero) {
   EXPECT_THROW(Fraction(1, 0), std::domain_error);
   EXPECT_THROW(Fraction(1, -2), std::domain_error);
   EXPECT_THROW(Fraction(1, 2) / 0, std::domain_error);

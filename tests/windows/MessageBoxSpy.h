@@ -18,7 +18,7 @@ class MessageBoxSpy : public QObject {
   void Leave() { watches_ = false; }
   void Watch() { watches_ = true; }
 
-  /// A message box that has this button is left by it.
+  /// Presses this button of each message box that has it.
   void Press(QMessageBox::StandardButton button) { press_ = button; }
 
   /// The texts recorded so far.

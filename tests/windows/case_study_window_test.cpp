@@ -240,7 +240,7 @@ class CaseStudyWindowTest : public QObject {
   }
 
   // Whatever the fields contain, a command ends and the window keeps working.
-  void OddTexts() {
+  void UnusualTexts() {
     fixture_->Boxes.Press(QMessageBox::No);
     for (const QString& text : {QString(400, '9'), QString::fromUtf8("عبد الله ٣"), QString::fromUtf8("👪👪"),
                                 QString(QChar(0xD83D)), QString("<b>1</b>&amp;")}) {
@@ -375,9 +375,9 @@ class CaseStudyWindowTest : public QObject {
     const std::string folder = qismora::SystemFolders().Reports();
     fixture_->Open();
     QVERIFY(QDir::setCurrent(before));
-    auto* told = fixture_->Find<QLabel>("StatusBar1.Panel2");
-    QVERIFY(told->toolTip().endsWith(QString::fromStdString(folder)));
-    QCOMPARE(told->accessibleName(), told->toolTip());
+    auto* panel = fixture_->Find<QLabel>("StatusBar1.Panel2");
+    QVERIFY(panel->toolTip().endsWith(QString::fromStdString(folder)));
+    QCOMPARE(panel->accessibleName(), panel->toolTip());
     QCOMPARE(QString::fromStdString(folder),
              QStandardPaths::writableLocation(QStandardPaths::DocumentsLocation));
     QVERIFY(QFileInfo(QString::fromStdString(folder)).isWritable());

@@ -85,7 +85,7 @@ QRect PlaceIn(const QImage& picture, const QWidget* widget) {
   return QRect(corner * scale, widget->size() * scale).intersected(picture.rect());
 }
 
-/// The colour within a widget that there is most of; a gradient counts as one.
+/// The most frequent colour within a widget; a gradient counts as one.
 QColor BackgroundOf(const QImage& picture, const QRect& place) {
   constexpr QRgb alike = 0xFFF0F0F0;
   QHash<QRgb, int> counts;
@@ -101,14 +101,14 @@ QColor BackgroundOf(const QImage& picture, const QRect& place) {
   return most;
 }
 
-/// Whether it shows nothing but one colour.
+/// Whether all pixels have the same colour.
 bool IsPlain(const QImage& picture) {
   QImage plain = picture;
   plain.fill(picture.pixelColor(0, 0));
   return picture == plain;
 }
 
-/// How many pixels changed so much that it cannot be overlooked.
+/// How many pixels changed so much that a user sees it.
 int PlainChanges(const QImage& one, const QImage& other) {
   int changes = 0;
   for (int y = 0; y < one.height(); ++y) {
@@ -207,8 +207,8 @@ class ComfortTest : public QObject {
     }
   }
 
-  // What only keys do: enter the menu bar, go back although two entries share a mnemonic, go to the answer.
-  void keysLeadEverywhere() {
+  // Only keys do this: enter the menu bar, go back although two entries share a mnemonic, go to the answer.
+  void everythingIsReachedByKeys() {
     study_->activateWindow();
     QVERIFY(QTest::qWaitForWindowActive(study_));
     auto* field = Find(study_, "Text1(2)");
@@ -299,7 +299,7 @@ class ComfortTest : public QObject {
     QCOMPARE(study_->size(), size);
 
     auto* net = Find<QLineEdit>(study_, "Text1(29)");
-    // Where a digit reaches to and dots do not.
+    // A digit reaches here, and dots do not.
     const QRect upperEnd(net->width() - 12, 4, 8, net->height() / 2 - 4);
     net->setText(QStringLiteral("8"));
     QVERIFY(!IsPlain(net->grab(upperEnd).toImage()));

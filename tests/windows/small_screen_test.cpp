@@ -21,7 +21,7 @@ namespace {
 
 constexpr QSize advisedScreen{800, 600};
 
-// The second has the taller lines: a row of the form needs three pixels more.
+// Noto Sans has taller lines: a row of the form needs three pixels more.
 constexpr const char* usualFont = "DejaVu Sans";
 constexpr const char* tallFont = "Noto Sans";
 
