@@ -2,7 +2,10 @@
 
 #include <algorithm>
 #include <array>
-#include <span>
+#include <optional>
+#include <utility>
+
+#include "screens/YieldLines.h"
 
 namespace qismora {
 
@@ -14,7 +17,19 @@ using faraid::KindSet;
 constexpr int generations = 3;
 constexpr int rowCount = 2 * generations + 1;
 constexpr int deceasedRow = generations;
-constexpr int mostClassIIRows = 4;
+
+/// Where no arrangement is narrow enough, so much height is worth one more of width.
+constexpr int costOfWidth = 3;
+
+/// How brothers and sisters and class II stand beside the deceased.
+struct Arrangement {
+  /// Sisters beside their brothers, or below them.
+  bool SistersBeside;
+  int MostClassIIRows;
+};
+
+// From the lowest to the narrowest.
+constexpr Arrangement arrangements[] = {{true, 3}, {true, 4}, {true, 6}, {false, 6}, {false, 12}};
 
 /// An ascendant, and the places in the table of his or her own parents.
 struct Ascendant {
@@ -72,29 +87,58 @@ struct End {
 
 class Layout {
  public:
-  Layout(const DivisionView& view, const TreeMetrics& metrics) : view_(view), m_(metrics) {
-    for (const auto* lines : {&view.Takers, &view.Others}) {
-      for (const DivisionLine& line : *lines) {
-        if (line.Heir() != Kind::Remainder) alive_ = alive_ | line.Heir();
-      }
+  Layout(const DivisionView& view, const TreeMetrics& metrics, const Arrangement& arrangement)
+      : view_(&view), m_(metrics), arrangement_(arrangement) {
+    for (const DivisionLine& line : view.Takers) {
+      if (line.Heir() != Kind::Remainder) taking_ = taking_ | line.Heir();
     }
-  }
-
-  FamilyTree Make() {
+    alive_ = taking_;
+    for (const DivisionLine& line : view.Others) alive_ = alive_ | line.Heir();
     Add({TreeNode::Role::Deceased, Kind::Remainder, -m_.DeceasedWidth / 2, 0, m_.DeceasedWidth,
-         m_.NodeHeight},
+         m_.DeceasedHeight},
         0, deceasedRow);
     AddAscendants();
     AddDescendants();
     AddSiblings();
     AddSpouse();
     AddClassII();
-    return Finish();
+  }
+
+  int Width() const {
+    const auto [left, right] = Sides();
+    return right - left;
+  }
+  /// Whether it needs less space where there is so much across.
+  bool IsBetter(const Layout& other, int widest) const {
+    const int excess = std::max(0, Width() - widest);
+    const int othersExcess = std::max(0, other.Width() - widest);
+    if ((excess == 0) != (othersExcess == 0)) return excess == 0;
+    return Height() + costOfWidth * excess < other.Height() + costOfWidth * othersExcess;
+  }
+  int Height() const {
+    int height = 0;
+    for (const int half : halfHeights_) height += half > 0 ? 2 * half + m_.RowGap : 0;
+    return height;
+  }
+
+  FamilyTree Finish() {
+    FamilyTree tree;
+    PlaceRows(tree);
+    // The deceased stays the first.
+    std::ranges::sort(tree.Nodes.begin() + 1, tree.Nodes.end(), [](const TreeNode& a, const TreeNode& b) {
+      return std::pair(a.Y, a.X) < std::pair(b.Y, b.X);
+    });
+    AddYields(tree);
+    DrawYieldLines(tree, m_.Gap, m_.RowGap, lanes_);
+    return tree;
   }
 
  private:
   int Step() const { return m_.NodeWidth + m_.Gap; }
-  int GridStep() const { return m_.NodeHeight + m_.Gap; }
+  int HeightOf(Kind heir) const { return taking_.Has(heir) ? m_.NodeHeight : m_.OtherHeight; }
+  int GridStep(KindSet heirs) const {
+    return (taking_.HasAny(heirs) ? m_.NodeHeight : m_.OtherHeight) + m_.Gap;
+  }
 
   void Add(TreeNode node, int middle, int row) {
     node.Y = middle - node.Height / 2;
@@ -103,7 +147,8 @@ class Layout {
     half = std::max(half, std::max(-node.Y, node.Y + node.Height));
   }
   void AddHeir(Kind heir, int centre, int row, int middle = 0) {
-    Add({TreeNode::Role::Heir, heir, centre - m_.NodeWidth / 2, 0, m_.NodeWidth, m_.NodeHeight}, middle, row);
+    Add({TreeNode::Role::Heir, heir, centre - m_.NodeWidth / 2, 0, m_.NodeWidth, HeightOf(heir)}, middle,
+        row);
   }
   void AddLink(int centre, int row) {
     Add({TreeNode::Role::Link, Kind::Remainder, centre - m_.Link / 2, 0, m_.Link, m_.Link}, 0, row);
@@ -206,23 +251,27 @@ class Layout {
     }
   }
 
-  // One row for each kind of kinship; the whole hangs from a line that leaves above the deceased.
+  // One row for each kind of kinship, or for each kind of heir; the whole hangs from a line that leaves above
+  // the deceased.
   void AddSiblings() {
     const int edge = -m_.DeceasedWidth / 2 - m_.Gap;
     const int spine = edge - m_.Gap / 2;
     const int nearest = spine - m_.Gap - m_.NodeWidth / 2;
-    int count = 0;
-    for (const Descent& pair : siblings) count += alive_.HasAny(pair.Male | pair.Female) ? 1 : 0;
-    int line = 0;
+    std::vector<std::vector<Kind>> rows;
     for (const Descent& pair : siblings) {
-      std::vector<Kind> heirs;
+      std::vector<Kind> row;
       for (const Kind heir : {pair.Female, pair.Male}) {
-        if (alive_.Has(heir)) heirs.push_back(heir);
+        if (!alive_.Has(heir)) continue;
+        if (!row.empty() && !arrangement_.SistersBeside) rows.push_back(std::exchange(row, {}));
+        row.push_back(heir);
       }
-      if (heirs.empty()) continue;
-      const int middle = MiddleOf(line++, count);
+      if (!row.empty()) rows.push_back(row);
+    }
+    const int count = static_cast<int>(rows.size());
+    for (int i = 0; i < count; ++i) {
+      const int middle = MiddleOf(i, count, GridStep(faraid::Siblings));
       int x = nearest;
-      for (const Kind heir : heirs) {
+      for (const Kind heir : rows[static_cast<std::size_t>(i)]) {
         AddHeir(heir, x, deceasedRow, middle);
         x -= Step();
       }
@@ -230,7 +279,7 @@ class Layout {
     }
   }
 
-  int MiddleOf(int line, int count) const { return (2 * line - count + 1) * GridStep() / 2; }
+  static int MiddleOf(int line, int count, int step) { return (2 * line - count + 1) * step / 2; }
 
   void Hang(int spine, int end, int middle) {
     AddLine({{0, deceasedRow},
@@ -255,12 +304,12 @@ class Layout {
     for (const Kind heir : faraid::ClassII& alive_) heirs.push_back(heir);
     if (heirs.empty()) return;
     const int count = static_cast<int>(heirs.size());
-    const int columns = (count + mostClassIIRows - 1) / mostClassIIRows;
+    const int columns = (count + arrangement_.MostClassIIRows - 1) / arrangement_.MostClassIIRows;
     const int rows = (count + columns - 1) / columns;
     const int spine = right_ + m_.Gap / 2;
     const int nearest = spine + m_.Gap + m_.NodeWidth / 2;
     for (int i = 0; i < count; ++i) {
-      const int middle = MiddleOf(i / columns, rows);
+      const int middle = MiddleOf(i / columns, rows, GridStep(faraid::ClassII));
       const int x = nearest + i % columns * Step();
       AddHeir(heirs[static_cast<std::size_t>(i)], x, deceasedRow, middle);
       if (i % columns == columns - 1 || i == count - 1) Hang(spine, x, middle);
@@ -269,13 +318,28 @@ class Layout {
 
   bool IsUsed(int row) const { return halfHeights_[static_cast<std::size_t>(row)] > 0; }
 
-  FamilyTree Finish() {
+  bool Excludes() const {
+    return std::ranges::any_of(view_->Others, [](const DivisionLine& line) { return Yields(line); });
+  }
+  static bool Yields(const DivisionLine& line) {
+    return line.Law.As == faraid::Standing::Excluded && line.Law.Excluder != Kind::Remainder;
+  }
+
+  /// The lines of those who yield run around the outermost nodes too.
+  int Margin() const { return Excludes() ? m_.Gap : 0; }
+
+  std::pair<int, int> Sides() const {
     int left = 0;
     int right = 0;
     for (const Placed& placed : placed_) {
       left = std::min(left, placed.Node.X);
       right = std::max(right, placed.Node.X + placed.Node.Width);
     }
+    return {left - Margin(), right + Margin()};
+  }
+
+  void PlaceRows(FamilyTree& tree) {
+    const auto [left, right] = Sides();
     // What hangs from the line above the deceased needs its space though there are no parents.
     const bool hangs = alive_.HasAny(faraid::Siblings | faraid::ClassII);
     const bool parents = IsUsed(deceasedRow - 1);
@@ -285,11 +349,12 @@ class Layout {
       const auto r = static_cast<std::size_t>(row);
       if (!IsUsed(row)) continue;
       middles[r] = y + halfHeights_[r];
+      if (y > 0) lanes_.push_back(y - m_.RowGap / 2);
       y += 2 * halfHeights_[r] + m_.RowGap;
     }
-    FamilyTree tree;
     tree.Width = right - left;
-    tree.Height = y - m_.RowGap;
+    tree.Height = y - m_.RowGap + Margin();
+    lanes_.push_back(y - m_.RowGap + Margin() / 2);
     for (Placed& placed : placed_) {
       placed.Node.X -= left;
       placed.Node.Y += middles[static_cast<std::size_t>(placed.Row)];
@@ -300,12 +365,6 @@ class Layout {
       for (const End& end : ends) line.push_back({end.X - left, Height(end, middles)});
       tree.Lines.push_back(std::move(line));
     }
-    // The deceased stays the first.
-    std::ranges::sort(tree.Nodes.begin() + 1, tree.Nodes.end(), [](const TreeNode& a, const TreeNode& b) {
-      return std::pair(a.Y, a.X) < std::pair(b.Y, b.X);
-    });
-    AddYields(tree);
-    return tree;
   }
 
   int Height(const End& end, const std::array<int, rowCount>& middles) const {
@@ -315,9 +374,9 @@ class Layout {
       case End::Edge::Middle:
         return middles[row] + end.Offset;
       case End::Edge::Above:
-        return top - m_.RowGap / 3;
+        return top - m_.RowGap / 4;
       case End::Edge::FarAbove:
-        return top - 2 * m_.RowGap / 3;
+        return top - 3 * m_.RowGap / 4;
     }
     return 0;
   }
@@ -327,25 +386,41 @@ class Layout {
       return static_cast<std::size_t>(std::ranges::find(tree.Nodes, heir, &TreeNode::Heir) -
                                       tree.Nodes.begin());
     };
-    for (const DivisionLine& line : view_.Others) {
-      if (line.Law.As != faraid::Standing::Excluded || line.Law.Excluder == Kind::Remainder) continue;
-      tree.Yields.push_back({find(line.Heir()), find(line.Law.Excluder)});
+    for (const DivisionLine& line : view_->Others) {
+      if (Yields(line)) tree.Yields.push_back({find(line.Heir()), find(line.Law.Excluder), {}, {}});
     }
   }
 
-  const DivisionView& view_;
+  const DivisionView* view_;
   TreeMetrics m_;
+  Arrangement arrangement_;
+  KindSet taking_;
   KindSet alive_;
   std::vector<Placed> placed_;
   std::vector<std::vector<End>> lines_;
   std::array<int, rowCount> halfHeights_{};
   int right_ = 0;
+  /// The heights between the rows at which the lines of those who yield may run.
+  std::vector<int> lanes_;
 };
 
 }  // namespace
 
-FamilyTree LayOutFamily(const DivisionView& view, const TreeMetrics& metrics) {
-  return Layout(view, metrics).Make();
+FamilyTree LayOutFamily(const DivisionView& view, std::span<const TreeMetrics> sizes, int widest) {
+  std::optional<Layout> best;
+  std::size_t chosen = 0;
+  for (std::size_t i = 0; i < sizes.size(); ++i) {
+    for (const Arrangement& arrangement : arrangements) {
+      Layout layout(view, sizes[i], arrangement);
+      const bool isBetter = !best || layout.IsBetter(*best, widest);
+      if (!isBetter) continue;
+      best.emplace(std::move(layout));
+      chosen = i;
+    }
+  }
+  FamilyTree tree = best ? best->Finish() : FamilyTree();
+  tree.Sizes = chosen;
+  return tree;
 }
 
 }  // namespace qismora

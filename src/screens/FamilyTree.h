@@ -1,5 +1,6 @@
 #pragma once
 
+#include <span>
 #include <vector>
 
 #include "screens/DivisionView.h"
@@ -10,7 +11,10 @@ namespace qismora {
 struct TreeMetrics {
   int NodeWidth = 150;
   int NodeHeight = 44;
+  /// The height of an heir who receives nothing.
+  int OtherHeight = 44;
   int DeceasedWidth = 110;
+  int DeceasedHeight = 44;
   int Gap = 16;
   int RowGap = 34;
   /// The side of a link.
@@ -48,6 +52,10 @@ using TreeLine = std::vector<TreePoint>;
 struct TreeYield {
   std::size_t From = 0;
   std::size_t To = 0;
+  /// From the edge of the one node to the edge of the other.
+  TreeLine Line;
+  /// The beginning of it, up to where it joins the line of another one who yields to the same heir.
+  TreeLine Alone;
 };
 
 /// The family as a picture from 0, 0 to its width and height: ascendants above the deceased, those of the
@@ -60,9 +68,14 @@ struct FamilyTree {
   std::vector<TreeYield> Yields;
   int Width = 0;
   int Height = 0;
+  /// The sizes that were chosen, by their place among those given.
+  std::size_t Sizes = 0;
 };
 
-/// Lays out all who are alive. No two nodes overlap, whatever the family.
-FamilyTree LayOutFamily(const DivisionView& view, const TreeMetrics& metrics);
+/// Lays out all who are alive. No two nodes overlap, whatever the family. Brothers and sisters and class II
+/// stand in as many rows, and the nodes have those of the sizes given, with which the tree is lowest without
+/// being wider than it should be. Where nothing is narrow enough, it is neither much wider nor much higher
+/// than it must be.
+FamilyTree LayOutFamily(const DivisionView& view, std::span<const TreeMetrics> sizes, int widest);
 
 }  // namespace qismora

@@ -122,7 +122,7 @@ void ExpectApart(const FamilyTree& tree, const TreeMetrics& metrics) {
 // Every kind that is alive has one node of its own, and those who are excluded a line to whom they yield.
 TEST(FamilyTree, NodesNeverOverlapWhateverTheFamily) {
   std::mt19937 random(7);
-  const TreeMetrics sizes[] = {{}, {300, 90, 20, 8, 12, 6}, {40, 20, 300, 16, 34, 8}};
+  const TreeMetrics sizes[] = {{}, {300, 90, 70, 20, 30, 8, 12, 6}, {40, 20, 16, 300, 20, 16, 34, 8}};
   for (int run = 0; run < 3000; ++run) {
     CaseTexts texts;
     const auto density = 1 + random() % 6;
@@ -138,7 +138,7 @@ TEST(FamilyTree, NodesNeverOverlapWhateverTheFamily) {
     }
     const DivisionView view = ViewDivision(texts, static_cast<School>(run % 4));
     const TreeMetrics& metrics = sizes[run % 3];
-    const FamilyTree tree = LayOutFamily(view, metrics);
+    const FamilyTree tree = LayOutFamily(view, {&metrics, 1}, static_cast<int>(random() % 2000));
     ASSERT_NO_FATAL_FAILURE(ExpectApart(tree, metrics));
     const auto heirs = std::ranges::count(tree.Nodes, TreeNode::Role::Heir, &TreeNode::What);
     ASSERT_EQ(static_cast<std::size_t>(heirs), alive);

@@ -278,7 +278,8 @@ std::unique_ptr<QTextDocument> DivisionDocument::SetIn(QPagedPaintDevice& device
           .arg(points * 1.6)
           .arg(points * 1.15));
   document->documentLayout()->setPaintDevice(&device);
-  auto* tree = new PaperTree(view_, Paper::tr("The family"), font, document.get());
+  const QSizeF place = device.pageLayout().paintRect(QPageLayout::Point).size();
+  auto* tree = new PaperTree(view_, Paper::tr("The family"), font, place.width(), document.get());
   document->documentLayout()->registerHandler(PaperTree::Type, tree);
   document->setHtml(Html());
   // Else each paragraph would have the direction of its first letter.
@@ -289,7 +290,6 @@ std::unique_ptr<QTextDocument> DivisionDocument::SetIn(QPagedPaintDevice& device
   all.mergeBlockFormat(turned);
   QSizeF page = device.pageLayout().paintRectPixels(device.logicalDpiX()).size();
   page.rheight() -= 2 * pointsOfFooter * device.logicalDpiY() / 72;
-  tree->SetWidest(page.width());
   document->setPageSize(page);
 
   QTextCursor cursor = document->find(QString(QChar(QChar::ObjectReplacementCharacter)));

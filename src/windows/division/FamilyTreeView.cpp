@@ -6,25 +6,22 @@
 #include <QPainterPath>
 #include <algorithm>
 
-#include "windows/division/DivisionWords.h"
 #include "windows/division/Patterns.h"
-#include "windows/platform/Utf8.h"
 #include "windows/style/Colours.h"
 
 namespace qismora {
 
 namespace {
 
-constexpr int padding = 8;
 constexpr int linePadding = 5;
 constexpr int keyWidth = 6;
-constexpr int leastWidth = 96;
 constexpr int margin = 6;
 constexpr qreal roundness = 4;
 constexpr double faint = 0.45;
-constexpr double veryFaint = 0.62;
 constexpr int stacked = 3;
-constexpr qreal leastScale = 0.7;
+constexpr qreal arrow = 6;
+constexpr WrittenTree::Spacing spacing = {
+    .AcrossText = 11, .DownText = linePadding, .LeastWidth = 96, .Gap = 16, .RowGap = 34, .Link = 8};
 
 }  // namespace
 
@@ -35,93 +32,54 @@ FamilyTreeView::FamilyTreeView(QWidget* parent) : QWidget(parent) {
 }
 
 void FamilyTreeView::Show(const DivisionView& view) {
-  view_ = view;
-  words_.clear();
-  deceased_ = ToQt(view.Name).trimmed();
-  if (deceased_.isEmpty()) deceased_ = tr("Deceased");
-  for (const auto* lines : {&view_.Takers, &view_.Others}) {
-    for (const DivisionLine& line : *lines) {
-      const faraid::Row& row = line.Law;
-      QString name = words::Heir(row.Heir, row.Heads);
-      if (row.Heads > 1) name = tr("%1 %2").arg(words::Number(row.Heads), name);
-      QString receives =
-          row.As == faraid::Standing::Excluded ? words::YieldsTo(row) : words::StandingOf(row.As);
-      if (line.Takes()) {
-        receives = words::Share(row.Share) + QStringLiteral(" · ") + words::Amount(line.Amount.Together);
-      }
-      words_.insert(static_cast<int>(row.Heir), {name, receives, line.Takes(), row.Heads});
-    }
-  }
+  tree_ = WrittenTree(view);
   LayOut();
 }
 
-void FamilyTreeView::LayOut() {
-  int width = leastWidth;
-  for (const Words& words : std::as_const(words_)) {
-    for (const QString& text : {words.Name, words.Receives}) {
-      width = std::max(width, fontMetrics().horizontalAdvance(text) + 2 * padding + keyWidth);
-    }
-  }
-  TreeMetrics metrics;
-  metrics.NodeWidth = width;
-  metrics.NodeHeight = 2 * fontMetrics().height() + 2 * linePadding;
-  metrics.DeceasedWidth = std::max(leastWidth, fontMetrics().horizontalAdvance(deceased_) + 4 * padding);
-  tree_ = LayOutFamily(view_, metrics);
+int FamilyTreeView::PlaceWidth() const {
+  return (parentWidget() == nullptr ? width() : parentWidget()->width()) - 2 * margin;
+}
 
+void FamilyTreeView::LayOut() {
+  laidOutFor_ = PlaceWidth();
+  tree_.LayOut(font(), spacing, laidOutFor_);
   QStringList sentences;
-  for (const TreeNode& node : tree_.Nodes) {
+  for (const TreeNode& node : tree_.Tree().Nodes) {
     if (node.What != TreeNode::Role::Heir) continue;
-    const Words& words = words_[static_cast<int>(node.Heir)];
-    sentences.append(words.Name + QStringLiteral(": ") + words.Receives);
+    const TreeText& text = tree_.Of(node);
+    sentences.append(text.Name + QStringLiteral(": ") + text.Receives);
   }
-  setAccessibleDescription(
-      tr("%1, and in the picture from the top: %2").arg(deceased_, sentences.join(QStringLiteral("; "))));
+  setAccessibleDescription(tr("%1, and in the picture from the top: %2")
+                               .arg(tree_.Deceased(), sentences.join(QStringLiteral("; "))));
   updateGeometry();
   update();
 }
 
-void FamilyTreeView::FitPlace() {
-  if (parentWidget() == nullptr) return;
-  const QSizeF place = parentWidget()->size();
-  const qreal across = place.width() / (tree_.Width + 2 * margin);
-  const qreal down = place.height() / (tree_.Height + 2 * margin);
-  // What has to be scrolled down in any case need not be small.
-  const qreal fitting = down < leastScale ? across : std::min(across, down);
-  if (const qreal scale = std::clamp(fitting, leastScale, 1.0); !qFuzzyCompare(scale, scale_)) {
-    scale_ = scale;
-    updateGeometry();
-  }
+void FamilyTreeView::resizeEvent(QResizeEvent*) {
+  if (laidOutFor_ != PlaceWidth()) LayOut();
 }
-
-void FamilyTreeView::resizeEvent(QResizeEvent*) { FitPlace(); }
 
 QSize FamilyTreeView::sizeHint() const {
-  return QSize(tree_.Width + 2 * margin, tree_.Height + 2 * margin) * scale_;
+  return QSize(tree_.Tree().Width, tree_.Tree().Height) + QSize(2 * margin, 2 * margin);
 }
 
-// In the measure of the tree, before it is scaled.
 QPoint FamilyTreeView::Origin() const {
-  const int place = static_cast<int>(width() / scale_);
-  return {std::max(margin, (place - tree_.Width) / 2), margin};
-}
-
-QRect FamilyTreeView::InWidget(const QRect& place) const {
-  return QRectF(QPointF(place.topLeft()) * scale_, QSizeF(place.size()) * scale_).toAlignedRect();
+  return {std::max(margin, (width() - tree_.Tree().Width) / 2), margin};
 }
 
 QPointF FamilyTreeView::Mirrored(const TreePoint& point) const {
-  const int x = layoutDirection() == Qt::RightToLeft ? tree_.Width - point.X : point.X;
+  const int x = layoutDirection() == Qt::RightToLeft ? tree_.Tree().Width - point.X : point.X;
   return QPointF(Origin() + QPoint(x, point.Y)) + QPointF(0.5, 0.5);
 }
 
 QRect FamilyTreeView::RectOf(const TreeNode& node) const {
-  const int x = layoutDirection() == Qt::RightToLeft ? tree_.Width - node.X - node.Width : node.X;
+  const int x = layoutDirection() == Qt::RightToLeft ? tree_.Tree().Width - node.X - node.Width : node.X;
   return {Origin() + QPoint(x, node.Y), QSize(node.Width, node.Height)};
 }
 
 QRect FamilyTreeView::PlaceOf(faraid::Kind heir) const {
-  for (const TreeNode& node : tree_.Nodes) {
-    if (node.What == TreeNode::Role::Heir && node.Heir == heir) return InWidget(RectOf(node));
+  for (const TreeNode& node : tree_.Tree().Nodes) {
+    if (node.What == TreeNode::Role::Heir && node.Heir == heir) return RectOf(node);
   }
   return {};
 }
@@ -133,10 +91,9 @@ void FamilyTreeView::Choose(faraid::Kind heir) {
 void FamilyTreeView::paintEvent(QPaintEvent*) {
   QPainter painter(this);
   painter.setRenderHint(QPainter::Antialiasing);
-  painter.scale(scale_, scale_);
-  DrawYields(painter);
   DrawLines(painter);
-  for (const TreeNode& node : tree_.Nodes) DrawNode(painter, node);
+  DrawYields(painter);
+  for (const TreeNode& node : tree_.Tree().Nodes) DrawNode(painter, node);
 }
 
 void FamilyTreeView::DrawLines(QPainter& painter) const {
@@ -144,31 +101,42 @@ void FamilyTreeView::DrawLines(QPainter& painter) const {
   painter.setPen(
       QPen(Between(text, palette().color(QPalette::Window), IsBlackAndWhite(palette()) ? 0 : faint), 1.2));
   painter.setBrush(Qt::NoBrush);
-  for (const TreeLine& line : tree_.Lines) {
-    QPolygonF points;
-    for (const TreePoint& point : line) points.append(Mirrored(point));
-    painter.drawPolyline(points);
+  // As one path, since lines that are drawn over each other would be bolder.
+  QPainterPath path;
+  for (const TreeLine& line : tree_.Tree().Lines) {
+    path.moveTo(Mirrored(line.front()));
+    for (const TreePoint& point : line) path.lineTo(Mirrored(point));
   }
+  painter.drawPath(path);
 }
 
-// Curves, since the lines of the family run straight.
+// Dashed, since the lines of the family are not. That of the chosen heir is whole and in full strength.
 void FamilyTreeView::DrawYields(QPainter& painter) const {
   const QColor text = palette().color(QPalette::WindowText);
   const QColor window = palette().color(QPalette::Window);
-  for (const TreeYield& yield : tree_.Yields) {
-    const TreeNode& from = tree_.Nodes[yield.From];
-    const TreeNode& to = tree_.Nodes[yield.To];
-    const bool emphasised = chosen_ == from.Heir;
-    const double pale = emphasised || IsBlackAndWhite(palette()) ? 0 : veryFaint;
-    painter.setPen(QPen(Between(text, window, pale), emphasised ? 2 : 1.2, Qt::DashLine));
+  const QColor pale = Readable(Between(text, window, IsBlackAndWhite(palette()) ? 0 : faint), window, 3);
+  const auto draw = [&](const TreeLine& line, const QPen& pen) {
+    QPolygonF points;
+    for (const TreePoint& point : line) points.append(Mirrored(point));
+    painter.setPen(pen);
     painter.setBrush(Qt::NoBrush);
-    const QPointF start = Mirrored(from.Centre());
-    const QPointF end = Mirrored(to.Centre());
-    const QPointF bend(0, (end.y() - start.y()) / 2);
-    QPainterPath path(start);
-    path.cubicTo(start + bend, end - bend, end);
-    painter.drawPath(path);
+    painter.drawPolyline(points);
+  };
+  for (const TreeYield& yield : tree_.Tree().Yields) {
+    draw(yield.Alone, QPen(pale, 1, Qt::DashLine));
+    DrawArrow(painter, yield.Line, pale);
   }
+  for (const TreeYield& yield : tree_.Tree().Yields) {
+    if (tree_.Tree().Nodes[yield.From].Heir != chosen_) continue;
+    draw(yield.Line, QPen(text, 2, Qt::DashLine));
+    DrawArrow(painter, yield.Line, text);
+  }
+}
+
+void FamilyTreeView::DrawArrow(QPainter& painter, const TreeLine& line, const QColor& colour) const {
+  painter.setPen(Qt::NoPen);
+  painter.setBrush(colour);
+  painter.drawPolygon(ArrowAt(Mirrored(line.back()), Mirrored(line[line.size() - 2]), arrow));
 }
 
 void FamilyTreeView::DrawNode(QPainter& painter, const TreeNode& node) const {
@@ -184,10 +152,10 @@ void FamilyTreeView::DrawNode(QPainter& painter, const TreeNode& node) const {
     painter.setBrush(palette().base());
     painter.drawRoundedRect(rect, rect.height() / 2, rect.height() / 2);
     painter.setPen(palette().color(QPalette::Text));
-    return painter.drawText(rect, Qt::AlignCenter | Qt::TextSingleLine, deceased_);
+    return DrawText(painter, node, rect);
   }
 
-  const Words& words = words_[static_cast<int>(node.Heir)];
+  const TreeText& words = tree_.Of(node);
   const bool emphasised = chosen_ == node.Heir;
   const QColor base = palette().color(words.Takes ? QPalette::Base : QPalette::Window);
   const QColor own = ColourOf(node.Heir, palette());
@@ -211,11 +179,9 @@ void FamilyTreeView::DrawNode(QPainter& painter, const TreeNode& node) const {
     painter.drawRoundedRect(rect, roundness, roundness);
   }
   painter.setPen(words.Takes ? palette().color(QPalette::Text) : pale);
-  const qreal half = rect.height() / 2;
-  const QRectF upper = rect.adjusted(keyWidth + 2, linePadding, -2, -half);
-  const QRectF lower = rect.adjusted(keyWidth + 2, half, -2, -linePadding);
-  painter.drawText(upper, Qt::AlignCenter | Qt::TextSingleLine, words.Name);
-  painter.drawText(lower, Qt::AlignCenter | Qt::TextSingleLine, words.Receives);
+  const int key = words.Takes ? keyWidth : 0;
+  const bool rightToLeft = layoutDirection() == Qt::RightToLeft;
+  DrawText(painter, node, rect.adjusted(rightToLeft ? 0 : key, 0, rightToLeft ? -key : 0, 0));
   if (emphasised && hasFocus()) {
     painter.setPen(QPen(palette().color(QPalette::Highlight), 2));
     painter.setBrush(Qt::NoBrush);
@@ -223,9 +189,13 @@ void FamilyTreeView::DrawNode(QPainter& painter, const TreeNode& node) const {
   }
 }
 
+void FamilyTreeView::DrawText(QPainter& painter, const TreeNode& node, const QRectF& place) const {
+  painter.drawText(place, Qt::AlignCenter, tree_.LinesIn(node).join(QLatin1Char('\n')));
+}
+
 void FamilyTreeView::mousePressEvent(QMouseEvent* event) {
-  for (const TreeNode& node : tree_.Nodes) {
-    if (node.What != TreeNode::Role::Heir || !InWidget(RectOf(node)).contains(event->pos())) continue;
+  for (const TreeNode& node : tree_.Tree().Nodes) {
+    if (node.What != TreeNode::Role::Heir || !RectOf(node).contains(event->pos())) continue;
     Choose(node.Heir);
     if (Chosen) Chosen(node.Heir);
   }
@@ -246,7 +216,7 @@ void FamilyTreeView::keyPressEvent(QKeyEvent* event) {
 
 void FamilyTreeView::Step(int by) {
   QList<faraid::Kind> heirs;
-  for (const TreeNode& node : tree_.Nodes) {
+  for (const TreeNode& node : tree_.Tree().Nodes) {
     if (node.What == TreeNode::Role::Heir) heirs.append(node.Heir);
   }
   if (heirs.isEmpty()) return;

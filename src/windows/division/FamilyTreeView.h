@@ -1,16 +1,16 @@
 #pragma once
 
 #include <QCoreApplication>
-#include <QHash>
 #include <QWidget>
 #include <functional>
 
-#include "screens/FamilyTree.h"
+#include "windows/division/TreeTexts.h"
 
 namespace qismora {
 
 /// The family as a tree: each heir with name, heads, share and amount; those who are excluded are paler, with
-/// a dashed line to whom they yield. A click or the arrow keys choose an heir.
+/// a dashed line to whom they yield. Text keeps the size of the font: a tree that is wider than its place
+/// becomes higher. A click or the arrow keys choose an heir.
 class FamilyTreeView : public QWidget {
   Q_DECLARE_TR_FUNCTIONS(FamilyTreeView)
 
@@ -35,31 +35,22 @@ class FamilyTreeView : public QWidget {
   bool event(QEvent* event) override;
 
  private:
-  struct Words {
-    QString Name;
-    QString Receives;
-    bool Takes = false;
-    int Heads = 0;
-  };
-
   void LayOut();
-  void FitPlace();
+  int PlaceWidth() const;
   QPoint Origin() const;
   QRect RectOf(const TreeNode& node) const;
   void DrawLines(QPainter& painter) const;
   void DrawYields(QPainter& painter) const;
   void DrawNode(QPainter& painter, const TreeNode& node) const;
+  void DrawText(QPainter& painter, const TreeNode& node, const QRectF& place) const;
+  void DrawArrow(QPainter& painter, const TreeLine& line, const QColor& colour) const;
   void Step(int by);
-  QRect InWidget(const QRect& place) const;
   /// Mirrored in a language that is written from the right.
   QPointF Mirrored(const TreePoint& point) const;
 
-  DivisionView view_;
-  FamilyTree tree_;
-  QHash<int, Words> words_;
-  QString deceased_;
-  /// A tree that is larger than its place is drawn smaller, as far as it can be read.
-  qreal scale_ = 1;
+  WrittenTree tree_;
+  /// The width for which it is laid out.
+  int laidOutFor_ = 0;
   faraid::Kind chosen_ = faraid::Kind::Remainder;
 };
 

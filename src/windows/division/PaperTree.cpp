@@ -6,107 +6,84 @@
 #include <QTextDocument>
 #include <algorithm>
 
-#include "windows/division/DivisionWords.h"
-#include "windows/platform/Utf8.h"
+#include "windows/division/Languages.h"
 
 namespace qismora {
 
 namespace {
 
-/// The tree is laid out in points and its text is so high, however the paper is divided.
-constexpr int pointsOfText = 8;
 constexpr int pointsPerInch = 72;
-
-QStringList LinesOf(const DivisionView& view, const TreeNode& node) {
-  if (node.What == TreeNode::Role::Deceased) {
-    const QString name = ToQt(view.Name).trimmed();
-    return {name.isEmpty() ? words::Deceased() : name};
-  }
-  const DivisionLine* line = view.Find(node.Heir);
-  if (line == nullptr) return {};
-  const bool counted = faraid::MostOf(node.Heir) > 1;
-  const QString name = words::Heir(node.Heir, line->Law.Heads);
-  const QString heads = counted ? name + QLatin1Char(' ') + words::Number(line->Law.Heads) : name;
-  if (line->Takes()) {
-    return {heads,
-            words::Share(line->Law.Share) + QStringLiteral(" · ") + words::Amount(line->Amount.Together)};
-  }
-  const QString yields = words::YieldsTo(line->Law);
-  return {heads, yields.isEmpty() ? words::StandingOf(line->Law.As) : yields};
-}
-
-bool Takes(const DivisionView& view, const TreeNode& node) {
-  const DivisionLine* line = view.Find(node.Heir);
-  return line == nullptr || line->Takes();
-}
-
-/// The nodes are as large as the longest text in them.
-TreeMetrics MetricsFor(const DivisionView& view, const QFont& font) {
-  const QFontMetricsF metrics(font);
-  TreeMetrics sizes;
-  double widest = 0;
-  for (const faraid::Row& row : view.Division.Rows) {
-    for (const QString& text : LinesOf(view, {.What = TreeNode::Role::Heir, .Heir = row.Heir})) {
-      widest = std::max(widest, metrics.horizontalAdvance(text));
-    }
-  }
-  const double deceased =
-      metrics.horizontalAdvance(LinesOf(view, {.What = TreeNode::Role::Deceased}).front());
-  sizes.NodeWidth = static_cast<int>(widest) + 10;
-  sizes.DeceasedWidth = std::clamp(static_cast<int>(deceased) + 16, 50, 140);
-  sizes.NodeHeight = static_cast<int>(2 * metrics.lineSpacing()) + 6;
-  sizes.Gap = 8;
-  sizes.RowGap = 18;
-  sizes.Link = 4;
-  return sizes;
-}
+/// The tree is laid out in points and its text is so high; a tree that is too wide takes the smaller size.
+constexpr int textSizes[] = {8, 7};
+constexpr double arrow = 4;
+constexpr WrittenTree::Spacing spacing = {
+    .AcrossText = 4, .DownText = 2, .LeastWidth = 50, .Gap = 8, .RowGap = 18, .Link = 4};
 
 }  // namespace
 
-PaperTree::PaperTree(const DivisionView& view, const QString& title, const QFont& font, QObject* parent)
-    : QObject(parent), view_(view), title_(title), font_(font) {
-  font_.setPixelSize(pointsOfText);
-  tree_ = LayOutFamily(view, MetricsFor(view, font_));
+PaperTree::PaperTree(const DivisionView& view, const QString& title, const QFont& font, double widest,
+                     QObject* parent)
+    : QObject(parent), tree_(view), title_(title), font_(font), widest_(widest) {
+  for (const int size : textSizes) {
+    font_.setPixelSize(size);
+    tree_.LayOut(font_, spacing, static_cast<int>(widest));
+    if (Size().width() <= widest) break;
+  }
   titleHeight_ = 2 * QFontMetricsF(font_).lineSpacing();
 }
 
 /// Of the picture in points, its title included.
-QSizeF PaperTree::Size() const { return {tree_.Width + 2.0, tree_.Height + 2.0 + titleHeight_}; }
+QSizeF PaperTree::Size() const {
+  return {tree_.Tree().Width + 2.0, tree_.Tree().Height + 2.0 + titleHeight_};
+}
 
 QSizeF PaperTree::intrinsicSize(QTextDocument* document, int, const QTextFormat&) {
   const QPaintDevice* device = document->documentLayout()->paintDevice();
   const double unit = device == nullptr ? 1 : double(device->logicalDpiX()) / pointsPerInch;
-  const QSizeF size = Size() * unit;
-  return widest_ > 0 && size.width() > widest_ ? size * (widest_ / size.width()) : size;
+  return Size() * unit * std::min(1.0, widest_ / Size().width());
 }
 
 QRectF PaperTree::PlaceOf(const TreeNode& node) const {
   const bool mirrored = CurrentDirection() == Qt::RightToLeft;
-  return QRectF(mirrored ? tree_.Width - node.X - node.Width : node.X, node.Y, node.Width, node.Height);
+  return QRectF(mirrored ? tree_.Tree().Width - node.X - node.Width : node.X, node.Y, node.Width,
+                node.Height);
 }
 
 QPointF PaperTree::PlaceOf(const TreePoint& point) const {
-  return QPointF(CurrentDirection() == Qt::RightToLeft ? tree_.Width - point.X : point.X, point.Y);
+  return QPointF(CurrentDirection() == Qt::RightToLeft ? tree_.Tree().Width - point.X : point.X, point.Y);
 }
 
 void PaperTree::DrawNode(QPainter& painter, const TreeNode& node) const {
   const QRectF place = PlaceOf(node);
-  const bool takes = Takes(view_, node);
   if (node.What == TreeNode::Role::Link) {
     painter.fillRect(place, Qt::black);
     return;
   }
+  const bool deceased = node.What == TreeNode::Role::Deceased;
+  const bool takes = deceased || tree_.Of(node).Takes;
   painter.setPen(QPen(Qt::black, takes ? 1 : 0.6, takes ? Qt::SolidLine : Qt::DashLine));
   painter.setBrush(Qt::white);
-  const double round = node.What == TreeNode::Role::Deceased ? place.height() / 2 : 3;
+  const double round = deceased ? place.height() / 2 : 3;
   painter.drawRoundedRect(place, round, round);
-  const QStringList lines = LinesOf(view_, node);
-  for (qsizetype i = 0; i < lines.size(); ++i) {
-    const double height = place.height() / static_cast<double>(lines.size());
-    const QRectF row(place.left() + 2, place.top() + static_cast<double>(i) * height, place.width() - 4,
-                     height);
-    const QString fitting = QFontMetricsF(font_).elidedText(lines[i], Qt::ElideRight, row.width());
-    painter.drawText(row, Qt::AlignCenter, fitting);
+  painter.drawText(place, Qt::AlignCenter, tree_.LinesIn(node).join(QLatin1Char('\n')));
+}
+
+void PaperTree::DrawLine(QPainter& painter, const TreeLine& line) const {
+  QPolygonF points;
+  for (const TreePoint& point : line) points.append(PlaceOf(point));
+  painter.drawPolyline(points);
+}
+
+void PaperTree::DrawYields(QPainter& painter) const {
+  constexpr QColor grey(80, 80, 80);
+  for (const TreeYield& yield : tree_.Tree().Yields) {
+    painter.setPen(QPen(grey, 0.5, Qt::DashLine));
+    painter.setBrush(Qt::NoBrush);
+    DrawLine(painter, yield.Alone);
+    painter.setPen(Qt::NoPen);
+    painter.setBrush(grey);
+    const std::size_t last = yield.Line.size() - 1;
+    painter.drawPolygon(ArrowAt(PlaceOf(yield.Line[last]), PlaceOf(yield.Line[last - 1]), arrow));
   }
 }
 
@@ -120,12 +97,9 @@ void PaperTree::drawObject(QPainter* painter, const QRectF& place, QTextDocument
   painter->setPen(QPen(Qt::black, 0.6));
   painter->drawText(QRectF(0, 0, Size().width(), titleHeight_), Qt::AlignHCenter | Qt::AlignTop, title_);
   painter->translate(1, titleHeight_ + 1);
-  for (const TreeLine& line : tree_.Lines) {
-    QPolygonF points;
-    for (const TreePoint& point : line) points.append(PlaceOf(point));
-    painter->drawPolyline(points);
-  }
-  for (const TreeNode& node : tree_.Nodes) DrawNode(*painter, node);
+  for (const TreeLine& line : tree_.Tree().Lines) DrawLine(*painter, line);
+  DrawYields(*painter);
+  for (const TreeNode& node : tree_.Tree().Nodes) DrawNode(*painter, node);
   painter->restore();
 }
 

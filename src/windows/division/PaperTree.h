@@ -2,14 +2,15 @@
 
 #include <QTextObjectInterface>
 
-#include "screens/FamilyTree.h"
+#include "windows/division/TreeTexts.h"
 
 class QPainter;
 
 namespace qismora {
 
 /// The family tree as an object of a text document, drawn in black and white: whoever is excluded has a
-/// dashed frame. It is drawn as lines and text, so that paper has it at its full resolution.
+/// dashed frame and a dashed line to whom he or she yields. It is drawn as lines and text, so that paper has
+/// it at its full resolution.
 class PaperTree : public QObject, public QTextObjectInterface {
   Q_OBJECT
   Q_INTERFACES(QTextObjectInterface)
@@ -18,10 +19,9 @@ class PaperTree : public QObject, public QTextObjectInterface {
   /// The number of the object's type in the document.
   static constexpr int Type = QTextFormat::UserObject + 1;
 
-  PaperTree(const DivisionView& view, const QString& title, const QFont& font, QObject* parent);
-
-  /// The tree is scaled down where it is wider than this, in the units of the layout.
-  void SetWidest(double width) { widest_ = width; }
+  /// Laid out for so many points across.
+  PaperTree(const DivisionView& view, const QString& title, const QFont& font, double widest,
+            QObject* parent);
 
   QSizeF intrinsicSize(QTextDocument* document, int position, const QTextFormat& format) override;
   void drawObject(QPainter* painter, const QRectF& place, QTextDocument* document, int position,
@@ -29,15 +29,16 @@ class PaperTree : public QObject, public QTextObjectInterface {
 
  private:
   QSizeF Size() const;
+  void DrawLine(QPainter& painter, const TreeLine& line) const;
+  void DrawYields(QPainter& painter) const;
   void DrawNode(QPainter& painter, const TreeNode& node) const;
   QRectF PlaceOf(const TreeNode& node) const;
   QPointF PlaceOf(const TreePoint& point) const;
 
-  const DivisionView& view_;
+  WrittenTree tree_;
   QString title_;
   QFont font_;
   double titleHeight_ = 0;
-  FamilyTree tree_;
   double widest_ = 0;
 };
 

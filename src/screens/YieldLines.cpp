@@ -1,0 +1,241 @@
+#include "screens/YieldLines.h"
+
+#include <algorithm>
+#include <cstdint>
+#include <cstdlib>
+#include <limits>
+#include <queue>
+
+namespace qismora {
+
+namespace {
+
+// In pixels of detour.
+constexpr int costOfTurn = 20;
+constexpr int costOfCrossing = 150;
+/// Each pixel along a line of the family.
+constexpr int costAlong = 20;
+
+/// Lanes so near to each other are one.
+constexpr int nearness = 2;
+
+/// A part of a line of the family that runs straight.
+struct Stretch {
+  int At = 0;
+  int From = 0;
+  int To = 0;
+};
+
+/// The crossings of lanes, with the shortest ways from each to the heirs to whom others yield.
+class Grid {
+ public:
+  Grid(const FamilyTree& tree, int gap, int rowGap, const std::vector<int>& lanes) : tree_(tree) {
+    ys_ = lanes;
+    for (const TreeNode& node : tree.Nodes) {
+      if (node.What == TreeNode::Role::Link) continue;
+      for (const int x : {-gap / 2, node.Width / 4, node.Width - node.Width / 4, node.Width + gap / 2})
+        xs_.push_back(node.X + x);
+      for (const int y : {node.Height / 4, node.Height - node.Height / 4}) ys_.push_back(node.Y + y);
+      for (const int y : {node.Y - gap / 2, node.Y + node.Height + gap / 2}) {
+        // Between rows, the lanes given are enough.
+        const bool between = std::ranges::any_of(lanes, [&](int l) { return std::abs(l - y) <= rowGap / 2; });
+        if (!between) ys_.push_back(y);
+      }
+    }
+    Tidy(xs_, tree.Width);
+    Tidy(ys_, tree.Height);
+    FindNodes();
+    FindCosts();
+  }
+
+  /// Finds the ways from every crossing to a node.
+  void LeadTo(std::size_t target) {
+    cost_.assign(2 * Count(), far);
+    next_.assign(2 * Count(), nowhere);
+    joined_.assign(2 * Count(), false);
+    for (std::size_t cell = 0; cell < Count(); ++cell) {
+      if (nodes_[cell] != static_cast<int>(target)) continue;
+      for (const std::size_t axis : {across, down}) {
+        cost_[2 * cell + axis] = 0;
+        open_.push({0, 2 * cell + axis});
+      }
+    }
+    while (!open_.empty()) {
+      const auto [cost, state] = open_.top();
+      open_.pop();
+      if (cost == cost_[state]) Spread(state, target);
+    }
+  }
+
+  /// The way from a node to the one to which it was led last. Its beginning alone, if it is the first to go
+  /// there.
+  void Walk(std::size_t from, TreeYield& yield, int shift) {
+    std::size_t state = nowhere;
+    for (std::size_t cell = 0; cell < Count(); ++cell) {
+      if (nodes_[cell] != static_cast<int>(from)) continue;
+      for (const std::size_t axis : {across, down}) {
+        const std::size_t candidate = 2 * cell + axis;
+        if (next_[candidate] != nowhere && (state == nowhere || cost_[candidate] < cost_[state]))
+          state = candidate;
+      }
+    }
+    if (state == nowhere) return;
+    bool alone = true;
+    for (; state != nowhere; state = next_[state]) {
+      const TreePoint point = {xs_[state / 2 % xs_.size()] + shift, ys_[state / 2 / xs_.size()] + shift};
+      Append(yield.Line, point);
+      if (alone) Append(yield.Alone, point);
+      if (joined_[state]) alone = false;
+      joined_[state] = true;
+    }
+    const bool whole = alone;
+    Clip(yield.Line[0], yield.Line[1], tree_.Nodes[from]);
+    yield.Alone[0] = yield.Line[0];
+    const std::size_t last = yield.Line.size() - 1;
+    Clip(yield.Line[last], yield.Line[last - 1], tree_.Nodes[yield.To]);
+    if (whole) yield.Alone = yield.Line;
+  }
+
+ private:
+  static constexpr std::size_t across = 0;
+  static constexpr std::size_t down = 1;
+  static constexpr std::size_t nowhere = std::numeric_limits<std::size_t>::max();
+  static constexpr int far = std::numeric_limits<int>::max();
+  static constexpr int nobody = -1;
+
+  std::size_t Count() const { return xs_.size() * ys_.size(); }
+
+  static void Tidy(std::vector<int>& lanes, int most) {
+    std::erase_if(lanes, [most](int lane) { return lane < 0 || lane > most; });
+    std::ranges::sort(lanes);
+    const auto rest =
+        std::ranges::unique(lanes, [](int before, int lane) { return lane - before <= nearness; });
+    lanes.erase(rest.begin(), rest.end());
+  }
+
+  void FindNodes() {
+    nodes_.assign(Count(), nobody);
+    for (std::size_t n = 0; n < tree_.Nodes.size(); ++n) {
+      const TreeNode& node = tree_.Nodes[n];
+      if (node.What == TreeNode::Role::Link) continue;
+      const auto inside = [](const std::vector<int>& lanes, int from, int size) {
+        return std::pair(std::ranges::lower_bound(lanes, from) - lanes.begin(),
+                         std::ranges::upper_bound(lanes, from + size) - lanes.begin());
+      };
+      const auto [left, right] = inside(xs_, node.X, node.Width);
+      const auto [top, bottom] = inside(ys_, node.Y, node.Height);
+      for (auto y = top; y < bottom; ++y) {
+        for (auto x = left; x < right; ++x)
+          nodes_[static_cast<std::size_t>(y) * xs_.size() + static_cast<std::size_t>(x)] =
+              static_cast<int>(n);
+      }
+    }
+  }
+
+  // What it costs to go from each crossing to the next one, to the right and downwards.
+  void FindCosts() {
+    std::vector<Stretch> stretches[2];
+    for (const TreeLine& line : tree_.Lines) {
+      for (std::size_t i = 1; i < line.size(); ++i) {
+        const TreePoint& a = line[i - 1];
+        const TreePoint& b = line[i];
+        if (a.Y == b.Y) stretches[across].push_back({a.Y, std::min(a.X, b.X), std::max(a.X, b.X)});
+        if (a.X == b.X) stretches[down].push_back({a.X, std::min(a.Y, b.Y), std::max(a.Y, b.Y)});
+      }
+    }
+    for (const std::size_t axis : {across, down}) {
+      const std::vector<int>& along = axis == across ? xs_ : ys_;
+      const std::vector<int>& other = axis == across ? ys_ : xs_;
+      steps_[axis].assign(Count(), 0);
+      for (std::size_t o = 0; o < other.size(); ++o) {
+        for (std::size_t i = 0; i + 1 < along.size(); ++i) {
+          int cost = along[i + 1] - along[i];
+          for (const Stretch& line : stretches[axis]) {
+            const int shared = std::min(along[i + 1], line.To) - std::max(along[i], line.From);
+            if (shared > 0 && std::abs(line.At - other[o]) <= 2 * nearness) cost += costAlong * shared;
+          }
+          for (const Stretch& line : stretches[1 - axis]) {
+            if (line.At > along[i] && line.At <= along[i + 1] && line.From <= other[o] && other[o] <= line.To)
+              cost += costOfCrossing;
+          }
+          steps_[axis][axis == across ? o * xs_.size() + i : i * xs_.size() + o] = cost;
+        }
+      }
+    }
+  }
+
+  // To the four neighbours. A way ends where it comes to a node.
+  void Spread(std::size_t state, std::size_t target) {
+    const std::size_t cell = state / 2;
+    if (nodes_[cell] != nobody && nodes_[cell] != static_cast<int>(target)) return;
+    const std::size_t x = cell % xs_.size();
+    const std::size_t y = cell / xs_.size();
+    if (x > 0) Go(state, cell - 1, across, steps_[across][cell - 1]);
+    if (x + 1 < xs_.size()) Go(state, cell + 1, across, steps_[across][cell]);
+    if (y > 0) Go(state, cell - xs_.size(), down, steps_[down][cell - xs_.size()]);
+    if (y + 1 < ys_.size()) Go(state, cell + xs_.size(), down, steps_[down][cell]);
+  }
+  void Go(std::size_t from, std::size_t cell, std::size_t axis, int step) {
+    const std::size_t state = 2 * cell + axis;
+    const int cost = cost_[from] + step + (from % 2 == axis ? 0 : costOfTurn);
+    if (cost >= cost_[state]) return;
+    cost_[state] = cost;
+    next_[state] = from;
+    open_.push({cost, state});
+  }
+
+  // A point that continues the last two in a straight line takes the place of the last.
+  static void Append(TreeLine& line, const TreePoint& point) {
+    if (line.size() >= 2) {
+      const TreePoint& a = line[line.size() - 2];
+      const TreePoint& b = line.back();
+      if ((a.X == b.X && b.X == point.X) || (a.Y == b.Y && b.Y == point.Y)) line.pop_back();
+    }
+    line.push_back(point);
+  }
+
+  // The end of a line, from within a node to the edge at which the line leaves it.
+  static void Clip(TreePoint& end, const TreePoint& next, const TreeNode& node) {
+    if (end.Y == next.Y) end.X = next.X < end.X ? node.X : node.X + node.Width;
+    if (end.X == next.X) end.Y = next.Y < end.Y ? node.Y : node.Y + node.Height;
+  }
+
+  struct Open {
+    int Cost;
+    std::size_t State;
+    bool operator<(const Open& other) const { return Cost > other.Cost; }
+  };
+
+  const FamilyTree& tree_;
+  std::vector<int> xs_;
+  std::vector<int> ys_;
+  /// The node around each crossing.
+  std::vector<int> nodes_;
+  std::vector<int> steps_[2];
+  // Of each crossing, for a way that goes on across or down.
+  std::vector<int> cost_;
+  std::vector<std::size_t> next_;
+  std::vector<bool> joined_;
+  std::priority_queue<Open> open_;
+};
+
+}  // namespace
+
+void DrawYieldLines(FamilyTree& tree, int gap, int rowGap, const std::vector<int>& lanes) {
+  if (tree.Yields.empty()) return;
+  Grid grid(tree, gap, rowGap, lanes);
+  std::vector<std::size_t> targets;
+  for (const TreeYield& yield : tree.Yields) {
+    if (std::ranges::find(targets, yield.To) == targets.end()) targets.push_back(yield.To);
+  }
+  // Lines to different heirs that run in the same lane lie beside each other.
+  const int shifts[] = {0, gap / 4, -gap / 4};
+  for (std::size_t i = 0; i < targets.size(); ++i) {
+    grid.LeadTo(targets[i]);
+    for (TreeYield& yield : tree.Yields) {
+      if (yield.To == targets[i]) grid.Walk(yield.From, yield, shifts[i % std::size(shifts)]);
+    }
+  }
+}
+
+}  // namespace qismora

@@ -1,0 +1,14 @@
+#pragma once
+
+#include <vector>
+
+#include "screens/FamilyTree.h"
+
+namespace qismora {
+
+/// Draws a line from each heir who yields to the heir who excludes him or her, between the nodes. Lines to
+/// the same heir join on their way. They cross the lines of the family as little as can be, and never run
+/// along them. Beside nodes they keep half a gap away, between rows they run at the heights given.
+void DrawYieldLines(FamilyTree& tree, int gap, int rowGap, const std::vector<int>& lanes);
+
+}  // namespace qismora

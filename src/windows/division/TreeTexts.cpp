@@ -1,0 +1,143 @@
+#include "windows/division/TreeTexts.h"
+
+#include <QFontMetricsF>
+#include <algorithm>
+#include <cmath>
+
+#include "windows/division/DivisionWords.h"
+#include "windows/platform/Utf8.h"
+
+namespace qismora {
+
+namespace {
+
+constexpr double deceasedInNodes = 1.2;
+constexpr int mostLinesOfDeceased = 3;
+const QString between = QStringLiteral(" · ");
+
+/// In two at the blank next to the middle, share and amount apart; in one where there is no blank.
+QStringList Halves(const QString& text) {
+  if (text.contains(between)) return text.split(between);
+  qsizetype best = -1;
+  for (qsizetype i = 0; i < text.size(); ++i) {
+    if (text[i] != QLatin1Char(' ')) continue;
+    if (best < 0 || std::abs(2 * i - text.size()) < std::abs(2 * best - text.size())) best = i;
+  }
+  if (best < 0) return {text};
+  return {text.left(best), text.mid(best + 1)};
+}
+
+class Ruler {
+ public:
+  explicit Ruler(const QFont& font) : metrics_(font) {}
+
+  int Width(const QString& text) const {
+    return static_cast<int>(std::ceil(metrics_.horizontalAdvance(text)));
+  }
+  int Height(qsizetype lines) const {
+    return static_cast<int>(std::ceil(metrics_.lineSpacing() * static_cast<double>(lines)));
+  }
+  /// As many words in each line as have room; what has no room in the last one is left out.
+  QStringList Lines(const QString& text, int width, int most) const {
+    QStringList lines;
+    for (const QString& word : text.split(QLatin1Char(' '), Qt::SkipEmptyParts)) {
+      const QString longer = lines.isEmpty() ? word : lines.back() + QLatin1Char(' ') + word;
+      if (!lines.isEmpty() && (Width(longer) <= width || lines.size() == most)) {
+        lines.back() = longer;
+      } else {
+        lines.append(word);
+      }
+    }
+    for (QString& line : lines) line = metrics_.elidedText(line, Qt::ElideRight, width);
+    return lines;
+  }
+
+ private:
+  QFontMetricsF metrics_;
+};
+
+}  // namespace
+
+WrittenTree::WrittenTree(const DivisionView& view) : view_(view) {
+  deceased_ = ToQt(view.Name).simplified();
+  if (deceased_.isEmpty()) deceased_ = words::Deceased();
+  for (const auto* lines : {&view.Takers, &view.Others}) {
+    for (const DivisionLine& line : *lines) {
+      const faraid::Row& row = line.Law;
+      QString name = words::Heir(row.Heir, row.Heads);
+      if (row.Heads > 1) name = words::Number(row.Heads) + QLatin1Char(' ') + name;
+      QString receives = words::YieldsTo(row);
+      if (line.Takes()) {
+        receives = words::Share(row.Share) + between + words::Amount(line.Amount.Together);
+      } else if (receives.isEmpty()) {
+        receives = words::StandingOf(row.As);
+      }
+      texts_.insert(static_cast<int>(row.Heir), {name, receives, line.Takes(), row.Heads});
+    }
+  }
+}
+
+void WrittenTree::LayOut(const QFont& font, const Spacing& spacing, int widest) {
+  TreeMetrics sizes[2];
+  Lines lines[2];
+  for (const bool broken : {false, true}) lines[broken] = Write(font, spacing, broken, sizes[broken]);
+  tree_ = LayOutFamily(view_, sizes, widest);
+  lines_ = lines[tree_.Sizes];
+}
+
+WrittenTree::Lines WrittenTree::Write(const QFont& font, const Spacing& spacing, bool broken,
+                                      TreeMetrics& metrics) const {
+  Lines written;
+  const Ruler ruler(font);
+  int width = spacing.LeastWidth - 2 * spacing.AcrossText;
+  for (const TreeText& text : std::as_const(texts_)) {
+    for (const QString& whole : {text.Name, text.Receives}) {
+      for (const QString& part : broken ? Halves(whole) : QStringList{whole}) {
+        width = std::max(width, ruler.Width(part));
+      }
+    }
+  }
+  qsizetype mostOfTakers = 2;
+  qsizetype mostOfOthers = 2;
+  for (auto text = texts_.cbegin(); text != texts_.cend(); ++text) {
+    QStringList lines;
+    for (const QString& whole : {text->Name, text->Receives}) {
+      lines += broken && ruler.Width(whole) > width ? Halves(whole) : QStringList{whole};
+    }
+    qsizetype& most = text->Takes ? mostOfTakers : mostOfOthers;
+    most = std::max(most, lines.size());
+    written.Heirs.insert(text.key(), lines);
+  }
+  const int widestDeceased = static_cast<int>(deceasedInNodes * width);
+  written.Deceased = ruler.Lines(deceased_, widestDeceased, mostLinesOfDeceased);
+  int deceased = spacing.LeastWidth / 2;
+  for (const QString& line : std::as_const(written.Deceased))
+    deceased = std::max(deceased, ruler.Width(line));
+
+  metrics.NodeWidth = width + 2 * spacing.AcrossText;
+  metrics.NodeHeight = ruler.Height(mostOfTakers) + 2 * spacing.DownText;
+  metrics.OtherHeight = ruler.Height(mostOfOthers) + spacing.DownText;
+  metrics.DeceasedWidth = deceased + 4 * spacing.AcrossText;
+  metrics.DeceasedHeight =
+      ruler.Height(std::max<qsizetype>(2, written.Deceased.size())) + 2 * spacing.DownText;
+  metrics.Gap = spacing.Gap;
+  metrics.RowGap = spacing.RowGap;
+  metrics.Link = spacing.Link;
+  return written;
+}
+
+QStringList WrittenTree::LinesIn(const TreeNode& node) const {
+  if (node.What == TreeNode::Role::Link) return {};
+  return node.What == TreeNode::Role::Deceased ? lines_.Deceased
+                                               : lines_.Heirs.value(static_cast<int>(node.Heir));
+}
+
+QPolygonF ArrowAt(const QPointF& end, const QPointF& from, qreal size) {
+  const QPointF way = end - from;
+  const qreal length = std::max(1.0, std::hypot(way.x(), way.y()));
+  const QPointF back = -way / length * size;
+  const QPointF aside = QPointF(back.y(), -back.x()) / 2;
+  return QPolygonF({end, end + back + aside, end + back - aside});
+}
+
+}  // namespace qismora
