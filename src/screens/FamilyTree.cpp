@@ -26,10 +26,15 @@ struct Arrangement {
   /// Sisters beside their brothers, or below them.
   bool SistersBeside;
   int MostClassIIRows;
+  /// Below the deceased, beside the line of the descendants.
+  bool SpouseBelow;
 };
 
 // From the lowest to the narrowest.
-constexpr Arrangement arrangements[] = {{true, 3}, {true, 4}, {true, 6}, {false, 6}, {false, 12}};
+constexpr Arrangement arrangements[] = {
+    {true, 3, false},  {true, 4, false}, {true, 6, false},
+    {false, 6, false}, {false, 6, true}, {false, 12, true},
+};
 
 /// An ascendant, and the places in the table of his or her own parents.
 struct Ascendant {
@@ -290,12 +295,22 @@ class Layout {
   }
 
   void AddSpouse() {
-    right_ = m_.DeceasedWidth / 2 + m_.Gap;
+    const int edge = m_.DeceasedWidth / 2 + m_.Gap;
+    right_ = edge;
     for (const Kind spouse : faraid::Spouses& alive_) {
-      const int centre = right_ + m_.Gap + m_.NodeWidth / 2;
-      AddHeir(spouse, centre, deceasedRow);
-      AddLine({{0, deceasedRow}, {centre, deceasedRow}});
-      right_ = centre + m_.NodeWidth / 2 + m_.Gap;
+      const bool below = arrangement_.SpouseBelow;
+      const int left = below ? m_.Gap : edge + m_.Gap;
+      const int middle = below ? (m_.DeceasedHeight + HeightOf(spouse)) / 2 + m_.Gap : 0;
+      AddHeir(spouse, left + m_.NodeWidth / 2, deceasedRow, middle);
+      right_ = std::max(right_, left + m_.NodeWidth + m_.Gap);
+      if (below) {
+        AddLine({{0, deceasedRow},
+                 {edge, deceasedRow},
+                 {edge, deceasedRow, End::Edge::Middle, middle},
+                 {left + m_.NodeWidth / 2, deceasedRow, End::Edge::Middle, middle}});
+      } else {
+        AddLine({{0, deceasedRow}, {left + m_.NodeWidth / 2, deceasedRow}});
+      }
     }
   }
 

@@ -31,6 +31,8 @@ class Paper {
 };
 
 constexpr double pointsOfFooter = 8;
+/// Per cent: fonts of Naskh have room between the lines for marks that no sentence of the paper has.
+constexpr double lineHeightOfNaskh = 80;
 
 QFont PaperFont(double points) {
   QFont font = FontOfLanguage(QGuiApplication::font());
@@ -52,9 +54,12 @@ enum class Side { Start, End };
 QString Cell(const QString& words, Side side = Side::Start, const char* tag = "td", int percent = 0) {
   const bool left = (side == Side::Start) == (CurrentDirection() == Qt::LeftToRight);
   const QString width = percent == 0 ? QString() : QStringLiteral("width=\"%1%\"").arg(percent);
-  return QStringLiteral("<%1 %4 align=\"%2\" style=\"mso-number-format:'\\@'\">%3</%1>")
-      .arg(QLatin1String(tag), left ? QStringLiteral("left") : QStringLiteral("right"), Escaped(words),
-           width);
+  const QString wrap = side == Side::End && !words.contains(QLatin1Char(' '))
+                           ? QStringLiteral("; white-space: nowrap")
+                           : QString();
+  return QStringLiteral("<%1 %4 align=\"%2\" style=\"mso-number-format:'\\@'%5\">%3</%1>")
+      .arg(QLatin1String(tag), left ? QStringLiteral("left") : QStringLiteral("right"), Escaped(words), width,
+           wrap);
 }
 
 QString Row(QStringList cells, Order order = Order::FromTheLeft) {
@@ -62,6 +67,8 @@ QString Row(QStringList cells, Order order = Order::FromTheLeft) {
     std::reverse(cells.begin(), cells.end());
   return QStringLiteral("<tr>%1</tr>").arg(cells.join(QString()));
 }
+
+QString Head(const QString& row) { return QStringLiteral("<thead>%1</thead>").arg(row); }
 
 QString TableOf(const QString& rows, bool ruled) {
   const QString direction =
@@ -78,9 +85,9 @@ constexpr struct {
   Side Where;
   int Percent;
 } columns[] = {
-    {Column::Heir, Side::Start, 15}, {Column::Heads, Side::End, 7},     {Column::Share, Side::End, 8},
-    {Column::Parts, Side::End, 8},   {Column::Together, Side::End, 14}, {Column::Each, Side::End, 14},
-    {Column::Why, Side::Start, 22},  {Column::Source, Side::Start, 12},
+    {Column::Heir, Side::Start, 14}, {Column::Heads, Side::End, 6},     {Column::Share, Side::End, 7},
+    {Column::Parts, Side::End, 7},   {Column::Together, Side::End, 12}, {Column::Each, Side::End, 15},
+    {Column::Why, Side::Start, 27},  {Column::Source, Side::Start, 12},
 };
 
 QString CellText(Column column, const DivisionLine& line) {
@@ -177,8 +184,8 @@ QString DivisionDocument::Facts() const {
   const QString name = ToQt(view_.Name).simplified();
   const QString gender = view_.Gender == Male ? Paper::tr("a man") : Paper::tr("a woman");
   const auto fact = [](const QString& caption, const QString& value) {
-    return Row({QStringLiteral("<td width=\"25%\"><b>%1</b></td>").arg(Escaped(caption)),
-                QStringLiteral("<td width=\"75%\">%1</td>").arg(Escaped(value))});
+    return Row({QStringLiteral("<td width=\"30%\"><b>%1</b></td>").arg(Escaped(caption)),
+                QStringLiteral("<td width=\"70%\">%1</td>").arg(Escaped(value))});
   };
   return TableOf(
       fact(words::Deceased(),
@@ -191,10 +198,9 @@ QString DivisionDocument::Facts() const {
 QString DivisionDocument::Estate() const {
   QString rows;
   for (const words::EstateLine& line : words::EstateLines(view_)) {
-    rows += Row({Cell(line.Caption, Side::Start, "td", 60), Cell(line.Amount, Side::End, "td", 40)});
+    rows += Row({Cell(line.Caption, Side::Start, "td", 50), Cell(line.Amount, Side::End, "td", 50)});
   }
-  return Tag("h3", Paper::tr("The estate")) + TableOf(rows, true) + Paragraph(words::BequestNotice(view_)) +
-         Paragraph(words::ExampleNotice(view_));
+  return Tag("h3", Paper::tr("The estate")) + TableOf(rows, true);
 }
 
 QString DivisionDocument::Notice() const {
@@ -213,10 +219,10 @@ QString DivisionDocument::Table(Order order) const {
     for (const auto& column : columns) cells.append(cellOf(column));
     return Row(cells, order);
   };
-  QString rows = row([&](const auto& column) {
+  QString rows = Head(row([&](const auto& column) {
     return Cell(words::Heading(column.Which, view_.Division.CorrectedBase), column.Where, "th",
                 column.Percent);
-  });
+  }));
   for (const DivisionLine& line : view_.Takers) {
     rows += row([&](const auto& column) { return Cell(CellText(column.Which, line), column.Where); });
   }
@@ -232,11 +238,41 @@ QString DivisionDocument::OthersTable(Order order) const {
       cells.append(cellOf(column));
     return Row(cells, order);
   };
-  QString rows = row([](Column column) { return Cell(words::Heading(column, 0), Side::Start, "th"); });
+  QString rows = Head(row([](Column column) { return Cell(words::Heading(column, 0), Side::Start, "th"); }));
   for (const DivisionLine& line : view_.Others) {
     rows += row([&](Column column) { return Cell(CellText(column, line)); });
   }
   return Tag("h3", Paper::tr("Alive, and receive nothing")) + TableOf(rows, true);
+}
+
+// Who stand for the same reason stand in one row.
+QString DivisionDocument::OthersByReason() const {
+  struct Group {
+    const DivisionLine* First;
+    QStringList Names;
+  };
+  QList<Group> groups;
+  for (const DivisionLine& line : view_.Others) {
+    const QString name = words::Heir(line.Heir(), line.Law.Heads);
+    const QString heads = line.Law.Heads > 1 ? words::Number(line.Law.Heads) + QLatin1Char(' ') + name : name;
+    const auto same = std::ranges::find_if(groups, [&](const Group& group) {
+      return CellText(Column::Why, *group.First) == CellText(Column::Why, line) &&
+             CellText(Column::Source, *group.First) == CellText(Column::Source, line);
+    });
+    if (same == groups.end()) {
+      groups.append({&line, {heads}});
+    } else {
+      same->Names.append(heads);
+    }
+  }
+  QString rows = Head(Row({Cell(words::Heading(Column::Heir, 0), Side::Start, "th", 50),
+                           Cell(words::Heading(Column::Why, 0), Side::Start, "th", 30),
+                           Cell(words::Heading(Column::Source, 0), Side::Start, "th", 20)}));
+  for (const Group& group : std::as_const(groups)) {
+    rows += Row({Cell(group.Names.join(words::ListSeparator())), Cell(CellText(Column::Why, *group.First)),
+                 Cell(CellText(Column::Source, *group.First))});
+  }
+  return groups.isEmpty() ? QString() : TableOf(rows, true);
 }
 
 QString DivisionDocument::Signatures() const {
@@ -250,21 +286,37 @@ QString DivisionDocument::Signatures() const {
   return TableOf(rows, false);
 }
 
-QString DivisionDocument::Html() const {
-  const QString tree =
-      QStringLiteral("<p align=\"center\">%1</p>").arg(QChar(QChar::ObjectReplacementCharacter));
-  return Tag("h2", Paper::tr("Division of an estate")) + Facts() + Estate() +
-         Tag("h3", Paper::tr("The division")) + Tag("p", words::Headline(view_)) + Notice() +
-         Table(Order::FromTheLeft) + Paragraph(words::Bases(view_.Division)) +
-         OthersTable(Order::FromTheLeft) + tree +
-         Paragraph(
-             Paper::tr("Computed by %1 from the figures above. This paper is no judgment of a court and no "
-                       "fatwa: ask a scholar before the estate is divided.")
-                 .arg(words::SchoolLaw(view_.School))) +
-         Signatures();
+QString DivisionDocument::Html(Break where) const {
+  const auto opening = [where](const char* tag, Break here) {
+    return QStringLiteral("<%1%2>").arg(
+        QLatin1String(tag),
+        where == here ? QStringLiteral(" style=\"page-break-before: always\"") : QString());
+  };
+  const QString estate =
+      Row({QStringLiteral("<td width=\"52%\">%1</td>").arg(Facts()), QStringLiteral("<td width=\"4%\"></td>"),
+           QStringLiteral("<td width=\"44%\">%1</td>").arg(Estate())});
+  QString html = Tag("h2", Paper::tr("Division of an estate")) + TableOf(estate, false) +
+                 Paragraph(words::BequestNotice(view_)) + Paragraph(words::ExampleNotice(view_)) +
+                 Tag("h3", Paper::tr("The division")) + Tag("p", words::Headline(view_)) + Notice() +
+                 Table(Order::FromTheLeft) + Paragraph(words::Bases(view_.Division));
+  if (!view_.Others.empty()) {
+    html += opening("h3", Break::BeforeOthers) + Escaped(Paper::tr("Alive, and receive nothing")) +
+            QStringLiteral("</h3>") + OthersByReason();
+  }
+  const bool alone = where == Break::BeforeTreeAlone;
+  const QString tree = opening("p align=\"center\"", alone ? where : Break::BeforeTree) +
+                       QChar(QChar::ObjectReplacementCharacter) + QStringLiteral("</p>");
+  const QString end =
+      Paragraph(
+          Paper::tr("Computed by %1 from the figures above. This paper is no judgment of a court and no "
+                    "fatwa: ask a scholar before the estate is divided.")
+              .arg(words::SchoolLaw(view_.School))) +
+      Signatures();
+  return html + (alone ? end + tree : tree + end);
 }
 
-std::unique_ptr<QTextDocument> DivisionDocument::SetIn(QPagedPaintDevice& device, double points) const {
+std::unique_ptr<QTextDocument> DivisionDocument::SetIn(QPagedPaintDevice& device, double points,
+                                                       Break where) const {
   auto document = std::make_unique<QTextDocument>();
   const QFont font = PaperFont(points);
   document->setDefaultFont(font);
@@ -278,15 +330,18 @@ std::unique_ptr<QTextDocument> DivisionDocument::SetIn(QPagedPaintDevice& device
           .arg(points * 1.6)
           .arg(points * 1.15));
   document->documentLayout()->setPaintDevice(&device);
-  const QSizeF place = device.pageLayout().paintRect(QPageLayout::Point).size();
-  auto* tree = new PaperTree(view_, Paper::tr("The family"), font, place.width(), document.get());
+  QSizeF place = device.pageLayout().paintRect(QPageLayout::Point).size();
+  place.rheight() -= 3 * pointsOfFooter;
+  auto* tree = new PaperTree(view_, Paper::tr("The family"), font, place, document.get());
   document->documentLayout()->registerHandler(PaperTree::Type, tree);
-  document->setHtml(Html());
+  document->setHtml(Html(where));
   // Else each paragraph would have the direction of its first letter.
   QTextCursor all(document.get());
   all.select(QTextCursor::Document);
   QTextBlockFormat turned;
   turned.setLayoutDirection(CurrentDirection());
+  if (CurrentDirection() == Qt::RightToLeft)
+    turned.setLineHeight(lineHeightOfNaskh, QTextBlockFormat::ProportionalHeight);
   all.mergeBlockFormat(turned);
   QSizeF page = device.pageLayout().paintRectPixels(device.logicalDpiX()).size();
   page.rheight() -= 2 * pointsOfFooter * device.logicalDpiY() / 72;
@@ -296,20 +351,32 @@ std::unique_ptr<QTextDocument> DivisionDocument::SetIn(QPagedPaintDevice& device
   QTextCharFormat object;
   object.setObjectType(PaperTree::Type);
   cursor.insertText(QString(QChar(QChar::ObjectReplacementCharacter)), object);
+  QTextBlockFormat whole;
+  whole.setLineHeight(0, QTextBlockFormat::SingleHeight);
+  cursor.mergeBlockFormat(whole);
   return document;
 }
 
-void DivisionDocument::Print(QPagedPaintDevice& device) const {
-  // Rather one page in smaller text than two, but never too small to be read with ease.
-  constexpr struct {
-    double Points;
-    int Pages;
-  } attempts[] = {{10, 1}, {9, 1}, {8.5, 1}, {10, 2}, {9, 2}, {8, 2}, {7, 2}, {6, 2}};
-  std::unique_ptr<QTextDocument> document;
-  for (const auto& attempt : attempts) {
-    document = SetIn(device, attempt.Points);
-    if (document->pageCount() <= attempt.Pages) break;
+// Rather one page in smaller text than two, but never too small to be read with ease. Where there are two,
+// the first ends between two parts, so that no table is broken and the signatures stand below the tree.
+std::unique_ptr<QTextDocument> DivisionDocument::SetIn(QPagedPaintDevice& device) const {
+  constexpr double sizesOfOne[] = {10, 9, 8.5, 8};
+  constexpr double sizesOfTwo[] = {10, 9, 8, 7};
+  for (const double points : sizesOfOne) {
+    auto document = SetIn(device, points, Break::None);
+    if (document->pageCount() == 1) return document;
   }
+  for (const double points : sizesOfTwo) {
+    for (const Break where : {Break::BeforeTree, Break::BeforeOthers, Break::BeforeTreeAlone}) {
+      auto document = SetIn(device, points, where);
+      if (document->pageCount() == 2) return document;
+    }
+  }
+  return SetIn(device, sizesOfTwo[std::size(sizesOfTwo) - 1], Break::BeforeTree);
+}
+
+void DivisionDocument::Print(QPagedPaintDevice& device) const {
+  const std::unique_ptr<QTextDocument> document = SetIn(device);
   QPainter painter(&device);
   const int pages = document->pageCount();
   const QSizeF size = document->pageSize();

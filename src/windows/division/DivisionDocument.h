@@ -38,14 +38,19 @@ class DivisionDocument {
   enum class Order { FromTheLeft, AsRead };
 
  private:
-  /// The text in a font of so many points, laid out for the device.
-  std::unique_ptr<QTextDocument> SetIn(QPagedPaintDevice& device, double points) const;
-  QString Html() const;
+  /// The part with which a second page begins. A tree that needs a page stands after the signatures.
+  enum class Break { None, BeforeOthers, BeforeTree, BeforeTreeAlone };
+
+  /// The text laid out for the device, in one or two pages.
+  std::unique_ptr<QTextDocument> SetIn(QPagedPaintDevice& device) const;
+  std::unique_ptr<QTextDocument> SetIn(QPagedPaintDevice& device, double points, Break where) const;
+  QString Html(Break where) const;
   QString Facts() const;
   QString Estate() const;
   QString Notice() const;
   QString Table(Order order) const;
   QString OthersTable(Order order) const;
+  QString OthersByReason() const;
   QString Signatures() const;
 
   DivisionView view_;

@@ -396,8 +396,7 @@ QString ExampleNotice(const DivisionView& view) {
     if (std::ranges::count(view.Examples, index) > 0) names.append(Words::tr(estateFields[i].Name));
   }
   if (names.isEmpty()) return {};
-  return Words::tr("Still the example with which Case Study opens: %1.")
-      .arg(names.join(Words::tr(", ", "between the items of a list")));
+  return Words::tr("Still the example with which Case Study opens: %1.").arg(names.join(ListSeparator()));
 }
 
 QString Heading(Column column, std::int64_t correctedBase) {
@@ -425,6 +424,8 @@ QString Heading(Column column, std::int64_t correctedBase) {
 }
 
 QString Sum() { return Words::tr("Sum"); }
+
+QString ListSeparator() { return Words::tr(", ", "between the items of a list"); }
 
 QString NoticeHeading() { return Words::tr("The commands of Case Study answer otherwise."); }
 

@@ -83,6 +83,8 @@ enum class Column { Heir, Heads, Share, Parts, Together, Each, Why, Source, Case
 /// The heading; of Parts with its base: "of 27".
 QString Heading(Column column, std::int64_t correctedBase);
 QString Sum();
+/// Between the items of a list.
+QString ListSeparator();
 
 // The commands of Case Study
 

@@ -13,23 +13,25 @@ namespace qismora {
 namespace {
 
 constexpr int pointsPerInch = 72;
-/// The tree is laid out in points and its text is so high; a tree that is too wide takes the smaller size.
+/// The tree is laid out in points and its text is so high; a tree that is too large takes the smaller size.
 constexpr int textSizes[] = {8, 7};
+/// Of a page.
+constexpr double highest = 0.6;
 constexpr double arrow = 4;
 constexpr WrittenTree::Spacing spacing = {
     .AcrossText = 4, .DownText = 2, .LeastWidth = 50, .Gap = 8, .RowGap = 18, .Link = 4};
 
 }  // namespace
 
-PaperTree::PaperTree(const DivisionView& view, const QString& title, const QFont& font, double widest,
+PaperTree::PaperTree(const DivisionView& view, const QString& title, const QFont& font, const QSizeF& page,
                      QObject* parent)
-    : QObject(parent), tree_(view), title_(title), font_(font), widest_(widest) {
+    : QObject(parent), tree_(view), title_(title), font_(font), page_(page) {
   for (const int size : textSizes) {
     font_.setPixelSize(size);
-    tree_.LayOut(font_, spacing, static_cast<int>(widest));
-    if (Size().width() <= widest) break;
+    titleHeight_ = 2 * QFontMetricsF(font_).lineSpacing();
+    tree_.LayOut(font_, spacing, static_cast<int>(page.width()) - 2);
+    if (Size().width() <= page.width() && Size().height() <= highest * page.height()) break;
   }
-  titleHeight_ = 2 * QFontMetricsF(font_).lineSpacing();
 }
 
 /// Of the picture in points, its title included.
@@ -40,7 +42,7 @@ QSizeF PaperTree::Size() const {
 QSizeF PaperTree::intrinsicSize(QTextDocument* document, int, const QTextFormat&) {
   const QPaintDevice* device = document->documentLayout()->paintDevice();
   const double unit = device == nullptr ? 1 : double(device->logicalDpiX()) / pointsPerInch;
-  return Size() * unit * std::min(1.0, widest_ / Size().width());
+  return Size() * unit * std::min({1.0, page_.width() / Size().width(), page_.height() / Size().height()});
 }
 
 QRectF PaperTree::PlaceOf(const TreeNode& node) const {

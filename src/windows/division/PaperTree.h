@@ -19,8 +19,8 @@ class PaperTree : public QObject, public QTextObjectInterface {
   /// The number of the object's type in the document.
   static constexpr int Type = QTextFormat::UserObject + 1;
 
-  /// Laid out for so many points across.
-  PaperTree(const DivisionView& view, const QString& title, const QFont& font, double widest,
+  /// Laid out for a page of so many points.
+  PaperTree(const DivisionView& view, const QString& title, const QFont& font, const QSizeF& page,
             QObject* parent);
 
   QSizeF intrinsicSize(QTextDocument* document, int position, const QTextFormat& format) override;
@@ -39,7 +39,7 @@ class PaperTree : public QObject, public QTextObjectInterface {
   QString title_;
   QFont font_;
   double titleHeight_ = 0;
-  double widest_ = 0;
+  QSizeF page_;
 };
 
 }  // namespace qismora
