@@ -673,6 +673,10 @@
 <context>
     <name>Paper</name>
     <message>
+        <source>The heirs consent to bequests of more than a third.</source>
+        <translation>أجاز الورثة ما زاد على الثلث من الوصايا.</translation>
+    </message>
+    <message>
         <source>Division</source>
         <translation>قسمة التركة</translation>
     </message>

@@ -673,6 +673,10 @@
 <context>
     <name>Paper</name>
     <message>
+        <source>The heirs consent to bequests of more than a third.</source>
+        <translation>ورثاء تہائی سے زیادہ کی وصیت پر راضی ہیں۔</translation>
+    </message>
+    <message>
         <source>Division</source>
         <translation>تقسیمِ ترکہ</translation>
     </message>

@@ -48,13 +48,14 @@ QString Tag(const char* tag, const QString& words) {
 
 QString Paragraph(const QString& words) { return words.isEmpty() ? QString() : Tag("p", words); }
 
-enum class Side { Start, End };
+enum class Side { Start, Figures };
 
-/// A cell. Figures stand at the end of the line; the fractions among them are no dates for a spreadsheet.
+/// A cell. The fractions among the figures are no dates for a spreadsheet. Figures stand below each other
+/// with their last digits, in Arabic and Urdu too, where numbers run from the left as well.
 QString Cell(const QString& words, Side side = Side::Start, const char* tag = "td", int percent = 0) {
-  const bool left = (side == Side::Start) == (CurrentDirection() == Qt::LeftToRight);
+  const bool left = side == Side::Start && CurrentDirection() == Qt::LeftToRight;
   const QString width = percent == 0 ? QString() : QStringLiteral("width=\"%1%\"").arg(percent);
-  const QString wrap = side == Side::End && !words.contains(QLatin1Char(' '))
+  const QString wrap = side == Side::Figures && !words.contains(QLatin1Char(' '))
                            ? QStringLiteral("; white-space: nowrap")
                            : QString();
   return QStringLiteral("<%1 %4 align=\"%2\" style=\"mso-number-format:'\\@'%5\">%3</%1>")
@@ -85,9 +86,10 @@ constexpr struct {
   Side Where;
   int Percent;
 } columns[] = {
-    {Column::Heir, Side::Start, 14}, {Column::Heads, Side::End, 6},     {Column::Share, Side::End, 7},
-    {Column::Parts, Side::End, 7},   {Column::Together, Side::End, 12}, {Column::Each, Side::End, 15},
-    {Column::Why, Side::Start, 27},  {Column::Source, Side::Start, 12},
+    {Column::Heir, Side::Start, 13},       {Column::Heads, Side::Figures, 6},
+    {Column::Share, Side::Figures, 7},     {Column::Parts, Side::Figures, 8},
+    {Column::Together, Side::Figures, 12}, {Column::Each, Side::Figures, 15},
+    {Column::Why, Side::Start, 27},        {Column::Source, Side::Start, 12},
 };
 
 QString CellText(Column column, const DivisionLine& line) {
@@ -198,9 +200,16 @@ QString DivisionDocument::Facts() const {
 QString DivisionDocument::Estate() const {
   QString rows;
   for (const words::EstateLine& line : words::EstateLines(view_)) {
-    rows += Row({Cell(line.Caption, Side::Start, "td", 50), Cell(line.Amount, Side::End, "td", 50)});
+    rows += Row({Cell(line.Caption, Side::Start, "td", 50), Cell(line.Amount, Side::Figures, "td", 50)});
   }
   return Tag("h3", Paper::tr("The estate")) + TableOf(rows, true);
+}
+
+// Those who sign it must read what they consent to.
+QString DivisionDocument::Consent() const {
+  return view_.Estate.HeirsConsent && view_.ConsentMatters()
+             ? Paper::tr("The heirs consent to bequests of more than a third.")
+             : QString();
 }
 
 QString DivisionDocument::Notice() const {
@@ -296,9 +305,10 @@ QString DivisionDocument::Html(Break where) const {
       Row({QStringLiteral("<td width=\"52%\">%1</td>").arg(Facts()), QStringLiteral("<td width=\"4%\"></td>"),
            QStringLiteral("<td width=\"44%\">%1</td>").arg(Estate())});
   QString html = Tag("h2", Paper::tr("Division of an estate")) + TableOf(estate, false) +
-                 Paragraph(words::BequestNotice(view_)) + Paragraph(words::ExampleNotice(view_)) +
-                 Tag("h3", Paper::tr("The division")) + Tag("p", words::Headline(view_)) + Notice() +
-                 Table(Order::FromTheLeft) + Paragraph(words::Bases(view_.Division));
+                 Paragraph(words::BequestNotice(view_)) + Paragraph(Consent()) +
+                 Paragraph(words::ExampleNotice(view_)) + Tag("h3", Paper::tr("The division")) +
+                 Tag("p", words::Headline(view_)) + Notice() + Table(Order::FromTheLeft) +
+                 Paragraph(words::Bases(view_.Division));
   if (!view_.Others.empty()) {
     html += opening("h3", Break::BeforeOthers) + Escaped(Paper::tr("Alive, and receive nothing")) +
             QStringLiteral("</h3>") + OthersByReason();
@@ -326,7 +336,7 @@ std::unique_ptr<QTextDocument> DivisionDocument::SetIn(QPagedPaintDevice& device
   document->setDefaultTextOption(direction);
   document->setDefaultStyleSheet(
       QStringLiteral("h2 { font-size: %1pt; margin: 0 0 4px 0 } h3 { font-size: %2pt; margin: 6px 0 2px 0 } "
-                     "p { margin: 3px 0 3px 0 } ul { margin: 2px 0 2px 0 }")
+                     "p { margin: 3px 0 4px 0 } ul { margin: 2px 0 2px 0 }")
           .arg(points * 1.6)
           .arg(points * 1.15));
   document->documentLayout()->setPaintDevice(&device);

@@ -47,6 +47,7 @@ class DivisionDocument {
   QString Html(Break where) const;
   QString Facts() const;
   QString Estate() const;
+  QString Consent() const;
   QString Notice() const;
   QString Table(Order order) const;
   QString OthersTable(Order order) const;
