@@ -5,8 +5,10 @@
 #include <QCoreApplication>
 #include <QFileInfo>
 #include <QGuiApplication>
+#include <QImage>
 #include <QMimeData>
 #include <QPageSize>
+#include <QPaintEngine>
 #include <QPainter>
 #include <QPdfWriter>
 #include <QSaveFile>
@@ -31,12 +33,15 @@ class Paper {
 };
 
 constexpr double pointsOfFooter = 8;
+constexpr double dotsOfPreview = 150;  // to the inch
+constexpr double metresPerInch = 0.0254;
 /// Per cent: fonts of Naskh have room between the lines for marks that no sentence of the paper has.
 constexpr double lineHeightOfNaskh = 80;
 
 QFont PaperFont(double points) {
   QFont font = FontOfLanguage(QGuiApplication::font());
   font.setPointSizeF(points);
+  font.setHintingPreference(QFont::PreferNoHinting);  // as wide in a preview as on paper
   return font;
 }
 
@@ -50,17 +55,21 @@ QString Paragraph(const QString& words) { return words.isEmpty() ? QString() : T
 
 enum class Side { Start, Figures };
 
-/// A cell. The fractions among the figures are no dates for a spreadsheet. Figures stand below each other
-/// with their last digits, in Arabic and Urdu too, where numbers run from the left as well.
-QString Cell(const QString& words, Side side = Side::Start, const char* tag = "td", int percent = 0) {
+/// A cell. Figures stand below each other with their last digits, in Arabic and Urdu too, where numbers run
+/// from the left as well.
+QString Cell(const QString& words, Side side = Side::Start, const char* tag = "td", int percent = 0,
+             const QString& attributes = {}) {
   const bool left = side == Side::Start && CurrentDirection() == Qt::LeftToRight;
-  const QString width = percent == 0 ? QString() : QStringLiteral("width=\"%1%\"").arg(percent);
-  const QString wrap = side == Side::Figures && !words.contains(QLatin1Char(' '))
-                           ? QStringLiteral("; white-space: nowrap")
-                           : QString();
-  return QStringLiteral("<%1 %4 align=\"%2\" style=\"mso-number-format:'\\@'%5\">%3</%1>")
-      .arg(QLatin1String(tag), left ? QStringLiteral("left") : QStringLiteral("right"), Escaped(words), width,
-           wrap);
+  const bool isNumber = side == Side::Figures && !words.contains(QLatin1Char(' '));
+  // A spreadsheet that reads HTML would read 1/6 as a date, unless it is told that it is a text.
+  const bool isFraction = isNumber && words.contains(QLatin1Char('/'));
+  return QStringLiteral("<%1 align=\"%2\"%3%4%5>%6</%1>")
+      .arg(QLatin1String(tag), left ? QStringLiteral("left") : QStringLiteral("right"),
+           percent == 0 ? QString() : QStringLiteral(" width=\"%1%\"").arg(percent),
+           isNumber ? QStringLiteral(" style=\"white-space: nowrap%1\"")
+                          .arg(isFraction ? QStringLiteral("; mso-number-format:'\\@'") : QString())
+                    : QString(),
+           isFraction ? QStringLiteral(" sdnum=\"0;0;@\"") : attributes, Escaped(words));
 }
 
 QString Row(QStringList cells, Order order = Order::FromTheLeft) {
@@ -133,31 +142,52 @@ QString SumText(Column column, const DivisionView& view) {
   }
 }
 
-/// A spreadsheet computes with this: a fraction is a formula, an amount has a point and no groups.
-QString SpreadsheetText(Column column, const DivisionLine& line) {
-  const faraid::Fraction& share = line.Law.Share;
+/// The number that a figure stands for, with a point and no groups; empty where there is none or more than
+/// one.
+QString NumberOf(Column column, const DivisionLine& line) {
   const auto hundredths = [](faraid::Hundredths amount) {
     return QStringLiteral("%1.%2").arg(amount / 100).arg(amount % 100, 2, 10, QLatin1Char('0'));
   };
   switch (column) {
     case Column::Heads:
-      return QString::number(line.Law.Heads);
-    case Column::Share:
-      return share.Den() == 1 ? QString::number(share.Num())
-                              : QStringLiteral("=%1/%2").arg(share.Num()).arg(share.Den());
+      return line.Heir() == faraid::Kind::Remainder ? QString() : QString::number(line.Law.Heads);
     case Column::Parts:
       return QString::number(line.Parts);
     case Column::Together:
       return hundredths(line.Amount.Together);
     case Column::Each:
       if (line.Amount.HeadsWithOneMore == line.Law.Heads) return hundredths(line.Amount.Each + 1);
-      return line.Amount.HeadsWithOneMore == 0 ? hundredths(line.Amount.Each) : CellText(column, line);
+      return line.Amount.HeadsWithOneMore == 0 ? hundredths(line.Amount.Each) : QString();
     default:
-      return CellText(column, line);
+      return {};
   }
 }
 
-void DrawPage(QPainter& painter, const QTextDocument& document, int page, const QSizeF& size) {
+/// What a spreadsheet that reads text computes with: a share is a formula, since it would read 1/6 as a date,
+/// and amounts have the decimal separator of the desktop, as the spreadsheet has.
+QString SpreadsheetText(Column column, const DivisionLine& line) {
+  const faraid::Fraction& share = line.Law.Share;
+  if (column == Column::Share) {
+    return share.Den() == 1 ? QString::number(share.Num())
+                            : QStringLiteral("=%1/%2").arg(share.Num()).arg(share.Den());
+  }
+  QString number = NumberOf(column, line);
+  if (QLocale::system().decimalPoint() == QLatin1String(","))
+    number.replace(QLatin1Char('.'), QLatin1Char(','));
+  return number.isEmpty() ? CellText(column, line) : number;
+}
+
+/// What a spreadsheet that reads HTML goes by instead of the words, whatever their digits.
+QString ForSpreadsheets(Column column, const DivisionLine& line) {
+  const QString number = NumberOf(column, line);
+  return number.isEmpty() ? QString() : QStringLiteral(" x:num=\"%1\" sdval=\"%1\"").arg(number);
+}
+
+/// Below the text of a page, for a device of so many dots per inch.
+double FooterHeight(int dots) { return 2 * pointsOfFooter * dots / 72; }
+
+void DrawPage(QPainter& painter, const QTextDocument& document, int page, const QString& foot) {
+  const QSizeF size = document.pageSize();
   painter.save();
   painter.translate(0, -page * size.height());
   QAbstractTextDocumentLayout::PaintContext context;
@@ -166,6 +196,29 @@ void DrawPage(QPainter& painter, const QTextDocument& document, int page, const 
   painter.setClipRect(context.clip);
   document.documentLayout()->draw(&painter, context);
   painter.restore();
+  painter.setFont(PaperFont(pointsOfFooter));
+  painter.setPen(Qt::black);
+  painter.setLayoutDirection(CurrentDirection());
+  const double height = FooterHeight(painter.device()->logicalDpiY());
+  painter.drawText(QRectF(0, size.height(), size.width(), height), Qt::AlignHCenter | Qt::AlignBottom, foot);
+}
+
+/// What a device shows within its margins.
+QImage PictureOf(const QTextDocument& document, int page, const QString& foot,
+                 const QPagedPaintDevice& device) {
+  const int dots = device.logicalDpiX();
+  const double scale = dotsOfPreview / dots;
+  QImage image((QSizeF(device.pageLayout().paintRectPixels(dots).size()) * scale).toSize(),
+               QImage::Format_Grayscale8);
+  // So that fonts have the sizes that they have on the device.
+  image.setDotsPerMeterX(qRound(dots / metresPerInch));
+  image.setDotsPerMeterY(qRound(dots / metresPerInch));
+  image.fill(Qt::white);
+  QPainter painter(&image);
+  painter.setRenderHints(QPainter::Antialiasing | QPainter::TextAntialiasing);
+  painter.scale(scale, scale);
+  DrawPage(painter, document, page, foot);
+  return image;
 }
 
 }  // namespace
@@ -233,7 +286,9 @@ QString DivisionDocument::Table(Order order) const {
                 column.Percent);
   }));
   for (const DivisionLine& line : view_.Takers) {
-    rows += row([&](const auto& column) { return Cell(CellText(column.Which, line), column.Where); });
+    rows += row([&](const auto& column) {
+      return Cell(CellText(column.Which, line), column.Where, "td", 0, ForSpreadsheets(column.Which, line));
+    });
   }
   rows += row([&](const auto& column) { return Cell(SumText(column.Which, view_), column.Where, "th"); });
   return TableOf(rows, true);
@@ -354,7 +409,7 @@ std::unique_ptr<QTextDocument> DivisionDocument::SetIn(QPagedPaintDevice& device
     turned.setLineHeight(lineHeightOfNaskh, QTextBlockFormat::ProportionalHeight);
   all.mergeBlockFormat(turned);
   QSizeF page = device.pageLayout().paintRectPixels(device.logicalDpiX()).size();
-  page.rheight() -= 2 * pointsOfFooter * device.logicalDpiY() / 72;
+  page.rheight() -= FooterHeight(device.logicalDpiY());
   document->setPageSize(page);
 
   QTextCursor cursor = document->find(QString(QChar(QChar::ObjectReplacementCharacter)));
@@ -388,17 +443,22 @@ std::unique_ptr<QTextDocument> DivisionDocument::SetIn(QPagedPaintDevice& device
 void DivisionDocument::Print(QPagedPaintDevice& device) const {
   const std::unique_ptr<QTextDocument> document = SetIn(device);
   QPainter painter(&device);
+  // A preview keeps what is painted as a QPicture, which forgets that a text runs from the right and moves
+  // its signs and blanks. It gets the picture of a page instead.
+  const bool isPreview = device.paintEngine()->type() == QPaintEngine::Picture;
+  painter.setRenderHint(QPainter::SmoothPixmapTransform, isPreview);
   const int pages = document->pageCount();
-  const QSizeF size = document->pageSize();
   for (int page = 0; page < pages; ++page) {
     if (page > 0) device.newPage();
-    DrawPage(painter, *document, page, size);
-    painter.setFont(PaperFont(pointsOfFooter));
-    painter.setPen(Qt::black);
-    painter.setLayoutDirection(CurrentDirection());
-    const QRectF foot(0, size.height(), size.width(), 2 * pointsOfFooter * device.logicalDpiY() / 72);
-    painter.drawText(foot, Qt::AlignHCenter | Qt::AlignBottom,
-                     Paper::tr("Qismora - page %1 of %2").arg(words::Number(page + 1), words::Number(pages)));
+    const QString foot =
+        Paper::tr("Qismora - page %1 of %2").arg(words::Number(page + 1), words::Number(pages));
+    if (isPreview) {
+      const QImage image = PictureOf(*document, page, foot, device);
+      painter.drawImage(
+          QRectF(QPointF(0, 0), device.pageLayout().paintRectPixels(device.logicalDpiX()).size()), image);
+    } else {
+      DrawPage(painter, *document, page, foot);
+    }
   }
 }
 

@@ -16,12 +16,14 @@ extern "C" Q_DECL_EXPORT void ShowQismoraPrintDialog(QWidget* window, const Prin
   printer.setPageMargins(QMarginsF(margin, margin, margin, margin), QPageLayout::Millimeter);
   if (preview) {
     QPrintPreviewDialog dialog(&printer, window);
+    if (window != nullptr) dialog.setLayoutDirection(window->layoutDirection());
     QObject::connect(&dialog, &QPrintPreviewDialog::paintRequested, &dialog,
                      [&job](QPrinter* pages) { job.Paint(*pages); });
     dialog.exec();
     return;
   }
   QPrintDialog dialog(&printer, window);
+  if (window != nullptr) dialog.setLayoutDirection(window->layoutDirection());
   if (dialog.exec() == QDialog::Accepted) job.Paint(printer);
 }
 
