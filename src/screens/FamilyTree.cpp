@@ -345,7 +345,7 @@ class Layout {
 
   std::pair<int, int> Sides() const {
     int left = 0;
-    int right = 0;
+    int right = arrangement_.SpouseBelow ? m_.DeceasedWidth / 2 + m_.Gap : 0;
     for (const Placed& placed : placed_) {
       left = std::min(left, placed.Node.X);
       right = std::max(right, placed.Node.X + placed.Node.Width);

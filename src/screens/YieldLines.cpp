@@ -29,7 +29,8 @@ struct Stretch {
 /// The crossings of lanes, with the shortest ways from each to the heirs to whom others yield.
 class Grid {
  public:
-  Grid(const FamilyTree& tree, int gap, int rowGap, const std::vector<int>& lanes) : tree_(tree) {
+  Grid(const FamilyTree& tree, int gap, int rowGap, const std::vector<int>& lanes)
+      : tree_(tree), shift_(gap / 4) {
     ys_ = lanes;
     for (const TreeNode& node : tree.Nodes) {
       if (node.What == TreeNode::Role::Link) continue;
@@ -54,7 +55,7 @@ class Grid {
     next_.assign(2 * Count(), nowhere);
     joined_.assign(2 * Count(), false);
     for (std::size_t cell = 0; cell < Count(); ++cell) {
-      if (nodes_[cell] != static_cast<int>(target)) continue;
+      if (nodes_[cell] != static_cast<int>(target) || !isInner_[cell]) continue;
       for (const std::size_t axis : {across, down}) {
         cost_[2 * cell + axis] = 0;
         open_.push({0, 2 * cell + axis});
@@ -69,10 +70,11 @@ class Grid {
 
   /// The way from a node to the one to which it was led last. Its beginning alone, if it is the first to go
   /// there.
-  void Walk(std::size_t from, TreeYield& yield, int shift) {
+  void Walk(std::size_t from, TreeYield& yield, int side) {
+    const int shift = side * shift_;
     std::size_t state = nowhere;
     for (std::size_t cell = 0; cell < Count(); ++cell) {
-      if (nodes_[cell] != static_cast<int>(from)) continue;
+      if (nodes_[cell] != static_cast<int>(from) || !isInner_[cell]) continue;
       for (const std::size_t axis : {across, down}) {
         const std::size_t candidate = 2 * cell + axis;
         if (next_[candidate] != nowhere && (state == nowhere || cost_[candidate] < cost_[state]))
@@ -115,22 +117,24 @@ class Grid {
 
   void FindNodes() {
     nodes_.assign(Count(), nobody);
+    isInner_.assign(Count(), false);
     for (std::size_t n = 0; n < tree_.Nodes.size(); ++n) {
       const TreeNode& node = tree_.Nodes[n];
       if (node.What == TreeNode::Role::Link) continue;
-      const auto inside = [](const std::vector<int>& lanes, int from, int size) {
-        return std::pair(std::ranges::lower_bound(lanes, from) - lanes.begin(),
-                         std::ranges::upper_bound(lanes, from + size) - lanes.begin());
-      };
-      const auto [left, right] = inside(xs_, node.X, node.Width);
-      const auto [top, bottom] = inside(ys_, node.Y, node.Height);
-      for (auto y = top; y < bottom; ++y) {
-        for (auto x = left; x < right; ++x)
-          nodes_[static_cast<std::size_t>(y) * xs_.size() + static_cast<std::size_t>(x)] =
-              static_cast<int>(n);
+      for (std::size_t y = 0; y < ys_.size(); ++y) {
+        const int inY = Depth(ys_[y], node.Y, node.Height);
+        if (inY < -shift_) continue;
+        for (std::size_t x = 0; x < xs_.size(); ++x) {
+          const int in = std::min(inY, Depth(xs_[x], node.X, node.Width));
+          if (in < -shift_) continue;
+          nodes_[y * xs_.size() + x] = static_cast<int>(n);
+          isInner_[y * xs_.size() + x] = in >= shift_;
+        }
       }
     }
   }
+  /// How far a lane is within a node, from its nearer edge; negative outside.
+  static int Depth(int lane, int from, int size) { return std::min(lane - from, from + size - lane); }
 
   // What it costs to go from each crossing to the next one, to the right and downwards.
   void FindCosts() {
@@ -164,16 +168,20 @@ class Grid {
     }
   }
 
-  // To the four neighbours. A way ends where it comes to a node.
+  // To the four neighbours; in a node straight on, and not through one to which no way leads.
   void Spread(std::size_t state, std::size_t target) {
     const std::size_t cell = state / 2;
-    if (nodes_[cell] != nobody && nodes_[cell] != static_cast<int>(target)) return;
     const std::size_t x = cell % xs_.size();
     const std::size_t y = cell / xs_.size();
-    if (x > 0) Go(state, cell - 1, across, steps_[across][cell - 1]);
-    if (x + 1 < xs_.size()) Go(state, cell + 1, across, steps_[across][cell]);
-    if (y > 0) Go(state, cell - xs_.size(), down, steps_[down][cell - xs_.size()]);
-    if (y + 1 < ys_.size()) Go(state, cell + xs_.size(), down, steps_[down][cell]);
+    const auto go = [&](std::size_t to, std::size_t axis, int step) {
+      const int node = nodes_[cell];
+      if (node != nobody && state % 2 != axis) return;
+      if (node == nobody || node == static_cast<int>(target) || node == nodes_[to]) Go(state, to, axis, step);
+    };
+    if (x > 0) go(cell - 1, across, steps_[across][cell - 1]);
+    if (x + 1 < xs_.size()) go(cell + 1, across, steps_[across][cell]);
+    if (y > 0) go(cell - xs_.size(), down, steps_[down][cell - xs_.size()]);
+    if (y + 1 < ys_.size()) go(cell + xs_.size(), down, steps_[down][cell]);
   }
   void Go(std::size_t from, std::size_t cell, std::size_t axis, int step) {
     const std::size_t state = 2 * cell + axis;
@@ -207,10 +215,14 @@ class Grid {
   };
 
   const FamilyTree& tree_;
+  /// How far lines to different heirs lie beside each other in one lane.
+  int shift_;
   std::vector<int> xs_;
   std::vector<int> ys_;
   /// The node around each crossing.
   std::vector<int> nodes_;
+  /// Whether it is so far within that a line in the lane ends at the node's edge.
+  std::vector<bool> isInner_;
   std::vector<int> steps_[2];
   // Of each crossing, for a way that goes on across or down.
   std::vector<int> cost_;
@@ -228,12 +240,11 @@ void DrawYieldLines(FamilyTree& tree, int gap, int rowGap, const std::vector<int
   for (const TreeYield& yield : tree.Yields) {
     if (std::ranges::find(targets, yield.To) == targets.end()) targets.push_back(yield.To);
   }
-  // Lines to different heirs that run in the same lane lie beside each other.
-  const int shifts[] = {0, gap / 4, -gap / 4};
+  constexpr int sides[] = {0, 1, -1};
   for (std::size_t i = 0; i < targets.size(); ++i) {
     grid.LeadTo(targets[i]);
     for (TreeYield& yield : tree.Yields) {
-      if (yield.To == targets[i]) grid.Walk(yield.From, yield, shifts[i % std::size(shifts)]);
+      if (yield.To == targets[i]) grid.Walk(yield.From, yield, sides[i % std::size(sides)]);
     }
   }
 }

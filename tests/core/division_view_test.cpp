@@ -119,11 +119,41 @@ void ExpectApart(const FamilyTree& tree, const TreeMetrics& metrics) {
   }
 }
 
+bool IsOnEdge(const TreePoint& point, const TreeNode& node) {
+  const bool inside = point.X >= node.X && point.X <= node.X + node.Width && point.Y >= node.Y &&
+                      point.Y <= node.Y + node.Height;
+  return inside && (point.X == node.X || point.X == node.X + node.Width || point.Y == node.Y ||
+                    point.Y == node.Y + node.Height);
+}
+
+bool Touches(const TreeNode& node, const TreePoint& a, const TreePoint& b) {
+  return std::max(a.X, b.X) >= node.X && std::min(a.X, b.X) <= node.X + node.Width &&
+         std::max(a.Y, b.Y) >= node.Y && std::min(a.Y, b.Y) <= node.Y + node.Height;
+}
+
+// The line leads from the one to the other, straight or square, and past all others.
+void ExpectLeads(const FamilyTree& tree, const TreeYield& yield) {
+  ASSERT_GE(yield.Line.size(), 2U);
+  ASSERT_TRUE(IsOnEdge(yield.Line.front(), tree.Nodes[yield.From]));
+  ASSERT_TRUE(IsOnEdge(yield.Line.back(), tree.Nodes[yield.To]));
+  ASSERT_EQ(yield.Alone.front().X, yield.Line.front().X);
+  ASSERT_EQ(yield.Alone.front().Y, yield.Line.front().Y);
+  for (std::size_t i = 1; i < yield.Line.size(); ++i) {
+    const TreePoint& a = yield.Line[i - 1];
+    const TreePoint& b = yield.Line[i];
+    ASSERT_TRUE(a.X == b.X || a.Y == b.Y);
+    for (std::size_t n = 0; n < tree.Nodes.size(); ++n) {
+      if (n == yield.From || n == yield.To || tree.Nodes[n].What == TreeNode::Role::Link) continue;
+      ASSERT_FALSE(Touches(tree.Nodes[n], a, b)) << "through node " << n;
+    }
+  }
+}
+
 // Every kind that is alive has one node of its own, and those who are excluded a line to whom they yield.
 TEST(FamilyTree, NodesNeverOverlapWhateverTheFamily) {
   std::mt19937 random(7);
   const TreeMetrics sizes[] = {{}, {300, 90, 70, 20, 30, 8, 12, 6}, {40, 20, 16, 300, 20, 16, 34, 8}};
-  for (int run = 0; run < 3000; ++run) {
+  for (int run = 0; run < 1500; ++run) {
     CaseTexts texts;
     const auto density = 1 + random() % 6;
     std::size_t alive = 0;
@@ -143,8 +173,27 @@ TEST(FamilyTree, NodesNeverOverlapWhateverTheFamily) {
     const auto heirs = std::ranges::count(tree.Nodes, TreeNode::Role::Heir, &TreeNode::What);
     ASSERT_EQ(static_cast<std::size_t>(heirs), alive);
     ASSERT_EQ(tree.Nodes[0].What, TreeNode::Role::Deceased);
-    for (const TreeYield& yield : tree.Yields) ASSERT_LT(yield.To, tree.Nodes.size());
+    for (const TreeYield& yield : tree.Yields) ASSERT_NO_FATAL_FAILURE(ExpectLeads(tree, yield)) << run;
   }
+}
+
+// All heirs stand in a wide tree where there is room, in a narrow one where there is not, and the sizes that
+// are narrower are taken when the others do not fit.
+TEST(FamilyTree, GrowsDownWhereThereIsNoRoomAcross) {
+  CaseTexts texts;
+  for (std::size_t i = 1; i < faraid::KindCount; ++i) texts = WithHeads(texts, static_cast<Kind>(i), 1);
+  const DivisionView view = ViewDivision(texts, School::Hanafi);
+  TreeMetrics narrow;
+  narrow.NodeWidth = 90;
+  narrow.OtherHeight = 60;
+  const TreeMetrics sizes[] = {{}, narrow};
+  const FamilyTree wide = LayOutFamily(view, sizes, 2000);
+  const FamilyTree high = LayOutFamily(view, sizes, 800);
+  EXPECT_EQ(wide.Sizes, 0U);
+  EXPECT_EQ(high.Sizes, 1U);
+  EXPECT_LE(wide.Width, 2000);
+  EXPECT_LE(high.Width, 800);
+  EXPECT_GT(high.Height, wide.Height);
 }
 
 }  // namespace

@@ -55,10 +55,6 @@ void FamilyTreeView::LayOut() {
   update();
 }
 
-void FamilyTreeView::resizeEvent(QResizeEvent*) {
-  if (laidOutFor_ != PlaceWidth()) LayOut();
-}
-
 QSize FamilyTreeView::sizeHint() const {
   return QSize(tree_.Tree().Width, tree_.Tree().Height) + QSize(2 * margin, 2 * margin);
 }
@@ -229,7 +225,15 @@ void FamilyTreeView::Step(int by) {
 bool FamilyTreeView::event(QEvent* event) {
   if (event->type() == QEvent::FontChange || event->type() == QEvent::LayoutDirectionChange) LayOut();
   if (event->type() == QEvent::FocusIn || event->type() == QEvent::FocusOut) update();
+  if (event->type() == QEvent::ParentChange && parentWidget() != nullptr)
+    parentWidget()->installEventFilter(this);
   return QWidget::event(event);
+}
+
+// A tree that is wider than its place keeps its own size while the place changes.
+bool FamilyTreeView::eventFilter(QObject* watched, QEvent* event) {
+  if (watched == parentWidget() && event->type() == QEvent::Resize && laidOutFor_ != PlaceWidth()) LayOut();
+  return QWidget::eventFilter(watched, event);
 }
 
 }  // namespace qismora
