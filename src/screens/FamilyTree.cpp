@@ -21,6 +21,9 @@ constexpr int deceasedRow = generations;
 /// Where no arrangement is narrow enough, so much height is worth one more of width.
 constexpr int costOfWidth = 3;
 
+/// Of class II, the further ones stand beside the descendants.
+constexpr int mostRowsBeside = 6;
+
 /// How brothers and sisters and class II stand beside the deceased.
 struct Arrangement {
   /// Sisters beside their brothers, or below them.
@@ -121,9 +124,14 @@ class Layout {
     return Height() + costOfWidth * excess < other.Height() + costOfWidth * othersExcess;
   }
   int Height() const {
-    int height = 0;
-    for (const int half : halfHeights_) height += half > 0 ? 2 * half + m_.RowGap : 0;
-    return height;
+    int y = 0;
+    int lowest = 0;
+    for (int row = 0; row < rowCount; ++row) {
+      const int half = halfHeights_[static_cast<std::size_t>(row)];
+      if (row == deceasedRow) lowest = y + half + lowest_;
+      if (half > 0) y += 2 * half + m_.RowGap;
+    }
+    return std::max(y - m_.RowGap, lowest);
   }
 
   FamilyTree Finish() {
@@ -148,6 +156,11 @@ class Layout {
   void Add(TreeNode node, int middle, int row) {
     node.Y = middle - node.Height / 2;
     placed_.push_back({node, row});
+    const bool isBesideDescendants = middle > mostRowsBeside * GridStep(faraid::ClassII) / 2;
+    if (isBesideDescendants) {
+      lowest_ = std::max(lowest_, node.Y + node.Height);
+      return;
+    }
     int& half = halfHeights_[static_cast<std::size_t>(row)];
     half = std::max(half, std::max(-node.Y, node.Y + node.Height));
   }
@@ -321,10 +334,15 @@ class Layout {
     const int count = static_cast<int>(heirs.size());
     const int columns = (count + arrangement_.MostClassIIRows - 1) / arrangement_.MostClassIIRows;
     const int rows = (count + columns - 1) / columns;
+    if (rows > mostRowsBeside) {
+      for (const Placed& placed : placed_) {
+        if (placed.Row > deceasedRow) right_ = std::max(right_, placed.Node.X + placed.Node.Width);
+      }
+    }
     const int spine = right_ + m_.Gap / 2;
     const int nearest = spine + m_.Gap + m_.NodeWidth / 2;
     for (int i = 0; i < count; ++i) {
-      const int middle = MiddleOf(i / columns, rows, GridStep(faraid::ClassII));
+      const int middle = MiddleOf(i / columns, std::min(rows, mostRowsBeside), GridStep(faraid::ClassII));
       const int x = nearest + i % columns * Step();
       AddHeir(heirs[static_cast<std::size_t>(i)], x, deceasedRow, middle);
       if (i % columns == columns - 1 || i == count - 1) Hang(spine, x, middle);
@@ -368,8 +386,9 @@ class Layout {
       y += 2 * halfHeights_[r] + m_.RowGap;
     }
     tree.Width = right - left;
-    tree.Height = y - m_.RowGap + Margin();
-    lanes_.push_back(y - m_.RowGap + Margin() / 2);
+    const int bottom = std::max(y - m_.RowGap, middles[deceasedRow] + lowest_);
+    tree.Height = bottom + Margin();
+    lanes_.push_back(bottom + Margin() / 2);
     for (Placed& placed : placed_) {
       placed.Node.X -= left;
       placed.Node.Y += middles[static_cast<std::size_t>(placed.Row)];
@@ -415,6 +434,8 @@ class Layout {
   std::vector<std::vector<End>> lines_;
   std::array<int, rowCount> halfHeights_{};
   int right_ = 0;
+  /// What stands beside the descendants ends so far below the middle of the deceased.
+  int lowest_ = 0;
   /// The heights between the rows at which the lines of those who yield may run.
   std::vector<int> lanes_;
 };

@@ -19,7 +19,7 @@ constexpr int textSizes[] = {8, 7};
 constexpr double highest = 0.6;
 constexpr double arrow = 4;
 constexpr WrittenTree::Spacing spacing = {
-    .AcrossText = 4, .DownText = 2, .LeastWidth = 50, .Gap = 8, .RowGap = 18, .Link = 4};
+    .AcrossText = 4, .DownText = 2, .LeastWidth = 50, .Gap = 6, .RowGap = 16, .Link = 4};
 
 }  // namespace
 
@@ -39,10 +39,16 @@ QSizeF PaperTree::Size() const {
   return {tree_.Tree().Width + 2.0, tree_.Tree().Height + 2.0 + titleHeight_};
 }
 
+double PaperTree::Scale() const {
+  return std::min({1.0, page_.width() / Size().width(), page_.height() / Size().height()});
+}
+
+double PaperTree::TextSize() const { return font_.pixelSize() * Scale(); }
+
 QSizeF PaperTree::intrinsicSize(QTextDocument* document, int, const QTextFormat&) {
   const QPaintDevice* device = document->documentLayout()->paintDevice();
   const double unit = device == nullptr ? 1 : double(device->logicalDpiX()) / pointsPerInch;
-  return Size() * unit * std::min({1.0, page_.width() / Size().width(), page_.height() / Size().height()});
+  return Size() * unit * Scale();
 }
 
 QRectF PaperTree::PlaceOf(const TreeNode& node) const {

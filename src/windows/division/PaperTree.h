@@ -23,12 +23,17 @@ class PaperTree : public QObject, public QTextObjectInterface {
   PaperTree(const DivisionView& view, const QString& title, const QFont& font, const QSizeF& page,
             QObject* parent);
 
+  /// In points, as it is printed.
+  double TextSize() const;
+
   QSizeF intrinsicSize(QTextDocument* document, int position, const QTextFormat& format) override;
   void drawObject(QPainter* painter, const QRectF& place, QTextDocument* document, int position,
                   const QTextFormat& format) override;
 
  private:
   QSizeF Size() const;
+  /// A tree that is larger than a page is drawn smaller.
+  double Scale() const;
   void DrawLine(QPainter& painter, const TreeLine& line) const;
   void DrawYields(QPainter& painter) const;
   void DrawNode(QPainter& painter, const TreeNode& node) const;
