@@ -286,6 +286,7 @@ class Layout {
       if (!row.empty()) rows.push_back(row);
     }
     const int count = static_cast<int>(rows.size());
+    std::vector<std::pair<int, int>> hanging;
     for (int i = 0; i < count; ++i) {
       const int middle = MiddleOf(i, count, GridStep(faraid::Siblings));
       int x = nearest;
@@ -293,18 +294,24 @@ class Layout {
         AddHeir(heir, x, deceasedRow, middle);
         x -= Step();
       }
-      Hang(spine, x + Step(), middle);
+      hanging.emplace_back(x + Step(), middle);
     }
+    Hang(spine, hanging);
   }
 
   static int MiddleOf(int line, int count, int step) { return (2 * line - count + 1) * step / 2; }
 
-  void Hang(int spine, int end, int middle) {
+  /// Each row hangs from a line that goes down beside them; a row is its end and its middle.
+  void Hang(int spine, const std::vector<std::pair<int, int>>& rows) {
+    if (rows.empty()) return;
     AddLine({{0, deceasedRow},
              {0, deceasedRow, End::Edge::Above},
              {spine, deceasedRow, End::Edge::Above},
-             {spine, deceasedRow, End::Edge::Middle, middle},
-             {end, deceasedRow, End::Edge::Middle, middle}});
+             {spine, deceasedRow, End::Edge::Middle, rows.back().second}});
+    for (const auto& [end, middle] : rows) {
+      AddLine(
+          {{spine, deceasedRow, End::Edge::Middle, middle}, {end, deceasedRow, End::Edge::Middle, middle}});
+    }
   }
 
   void AddSpouse() {
@@ -341,12 +348,14 @@ class Layout {
     }
     const int spine = right_ + m_.Gap / 2;
     const int nearest = spine + m_.Gap + m_.NodeWidth / 2;
+    std::vector<std::pair<int, int>> hanging;
     for (int i = 0; i < count; ++i) {
       const int middle = MiddleOf(i / columns, std::min(rows, mostRowsBeside), GridStep(faraid::ClassII));
       const int x = nearest + i % columns * Step();
       AddHeir(heirs[static_cast<std::size_t>(i)], x, deceasedRow, middle);
-      if (i % columns == columns - 1 || i == count - 1) Hang(spine, x, middle);
+      if (i % columns == columns - 1 || i == count - 1) hanging.emplace_back(x, middle);
     }
+    Hang(spine, hanging);
   }
 
   bool IsUsed(int row) const { return halfHeights_[static_cast<std::size_t>(row)] > 0; }

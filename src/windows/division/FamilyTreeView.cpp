@@ -95,7 +95,7 @@ void FamilyTreeView::paintEvent(QPaintEvent*) {
 void FamilyTreeView::DrawLines(QPainter& painter) const {
   const QColor text = palette().color(QPalette::WindowText);
   painter.setPen(
-      QPen(Between(text, palette().color(QPalette::Window), IsBlackAndWhite(palette()) ? 0 : faint), 1.2));
+      QPen(Between(text, palette().color(QPalette::Window), IsBlackAndWhite(palette()) ? 0 : faint), 1));
   painter.setBrush(Qt::NoBrush);
   // As one path, since lines that are drawn over each other would be bolder.
   QPainterPath path;
