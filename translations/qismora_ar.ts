@@ -233,14 +233,6 @@
         <translation>شجرة العائلة</translation>
     </message>
     <message>
-        <source>Deceased</source>
-        <translation>الميت</translation>
-    </message>
-    <message>
-        <source>%1 %2</source>
-        <translation>%2 %1</translation>
-    </message>
-    <message>
         <source>%1, and in the picture from the top: %2</source>
         <translation>%1، وفي الصورة من الأعلى: %2</translation>
     </message>
@@ -983,6 +975,11 @@
 </context>
 <context>
     <name>Words</name>
+    <message>
+        <source>%1 %2</source>
+        <comment>heads of an heir: 2 daughters</comment>
+        <translation>%2 %1</translation>
+    </message>
     <message>
         <source>the %1</source>
         <translation>%1</translation>

@@ -233,14 +233,6 @@
         <translation>شجرۂ نسب</translation>
     </message>
     <message>
-        <source>Deceased</source>
-        <translation>میت</translation>
-    </message>
-    <message>
-        <source>%1 %2</source>
-        <translation>%1 %2</translation>
-    </message>
-    <message>
         <source>%1, and in the picture from the top: %2</source>
         <translation>%1، اور تصویر میں اوپر سے: %2</translation>
     </message>
@@ -983,6 +975,11 @@
 </context>
 <context>
     <name>Words</name>
+    <message>
+        <source>%1 %2</source>
+        <comment>heads of an heir: 2 daughters</comment>
+        <translation>%1 %2</translation>
+    </message>
     <message>
         <source>the %1</source>
         <translation>%1</translation>

@@ -317,8 +317,7 @@ QString DivisionDocument::OthersByReason() const {
   };
   QList<Group> groups;
   for (const DivisionLine& line : view_.Others) {
-    const QString name = words::Heir(line.Heir(), line.Law.Heads);
-    const QString heads = line.Law.Heads > 1 ? words::Number(line.Law.Heads) + QLatin1Char(' ') + name : name;
+    const QString heads = words::CountedHeir(line.Heir(), line.Law.Heads);
     const auto same = std::ranges::find_if(groups, [&](const Group& group) {
       return CellText(Column::Why, *group.First) == CellText(Column::Why, line) &&
              CellText(Column::Source, *group.First) == CellText(Column::Source, line);

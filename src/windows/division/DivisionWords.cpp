@@ -216,6 +216,11 @@ QString Heir(Kind kind, int heads) {
   return Translated("Heirs", heads > 1 && names.Several != nullptr ? names.Several : names.One);
 }
 
+QString CountedHeir(Kind kind, int heads) {
+  const QString name = Heir(kind, heads);
+  return heads > 1 ? Words::tr("%1 %2", "heads of an heir: 2 daughters").arg(Number(heads), name) : name;
+}
+
 QString OneHeir(Kind kind) { return Translated("HeirsInSentences", NamesOf(kind).InSentence); }
 
 QString Deceased() { return Words::tr("The deceased"); }

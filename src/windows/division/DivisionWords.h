@@ -16,6 +16,8 @@ namespace qismora::words {
 
 /// "Wife" or "Wives"; "Remainder" for what no heir takes.
 QString Heir(faraid::Kind kind, int heads);
+/// "2 Daughters"; one head alone is not counted.
+QString CountedHeir(faraid::Kind kind, int heads);
 /// The heir as a reason or a line of a family tree names one: "full brother".
 QString OneHeir(faraid::Kind kind);
 /// The field of Case Study in the current language, after the caption of it that an UnreadableField has.

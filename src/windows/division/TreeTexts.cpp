@@ -64,8 +64,7 @@ WrittenTree::WrittenTree(const DivisionView& view) : view_(view) {
   for (const auto* lines : {&view.Takers, &view.Others}) {
     for (const DivisionLine& line : *lines) {
       const faraid::Row& row = line.Law;
-      QString name = words::Heir(row.Heir, row.Heads);
-      if (row.Heads > 1) name = words::Number(row.Heads) + QLatin1Char(' ') + name;
+      const QString name = words::CountedHeir(row.Heir, row.Heads);
       QString receives = words::YieldsTo(row);
       if (line.Takes()) {
         receives = words::Share(row.Share) + between + words::Amount(line.Amount.Together);
