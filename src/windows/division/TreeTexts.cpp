@@ -77,21 +77,25 @@ WrittenTree::WrittenTree(const DivisionView& view) : view_(view) {
 }
 
 void WrittenTree::LayOut(const QFont& font, const Spacing& spacing, int widest) {
-  TreeMetrics sizes[2];
-  Lines lines[2];
-  for (const bool broken : {false, true}) lines[broken] = Write(font, spacing, broken, sizes[broken]);
+  constexpr Broken choices[] = {Broken::None, Broken::NotReasons, Broken::All};
+  TreeMetrics sizes[std::size(choices)];
+  Lines lines[std::size(choices)];
+  for (std::size_t i = 0; i < std::size(choices); ++i) lines[i] = Write(font, spacing, choices[i], sizes[i]);
   tree_ = LayOutFamily(view_, sizes, widest);
   lines_ = lines[tree_.Sizes];
 }
 
-WrittenTree::Lines WrittenTree::Write(const QFont& font, const Spacing& spacing, bool broken,
+WrittenTree::Lines WrittenTree::Write(const QFont& font, const Spacing& spacing, Broken broken,
                                       TreeMetrics& metrics) const {
   Lines written;
   const Ruler ruler(font);
+  const auto mayBreak = [broken](const TreeText& text, const QString& whole) {
+    return broken == Broken::All || (broken == Broken::NotReasons && (text.Takes || whole == text.Name));
+  };
   int width = spacing.LeastWidth - 2 * spacing.AcrossText;
   for (const TreeText& text : std::as_const(texts_)) {
     for (const QString& whole : {text.Name, text.Receives}) {
-      for (const QString& part : broken ? Halves(whole) : QStringList{whole}) {
+      for (const QString& part : mayBreak(text, whole) ? Halves(whole) : QStringList{whole}) {
         width = std::max(width, ruler.Width(part));
       }
     }
@@ -101,7 +105,7 @@ WrittenTree::Lines WrittenTree::Write(const QFont& font, const Spacing& spacing,
   for (auto text = texts_.cbegin(); text != texts_.cend(); ++text) {
     QStringList lines;
     for (const QString& whole : {text->Name, text->Receives}) {
-      lines += broken && ruler.Width(whole) > width ? Halves(whole) : QStringList{whole};
+      lines += mayBreak(*text, whole) && ruler.Width(whole) > width ? Halves(whole) : QStringList{whole};
     }
     qsizetype& most = text->Takes ? mostOfTakers : mostOfOthers;
     most = std::max(most, lines.size());

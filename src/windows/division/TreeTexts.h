@@ -51,7 +51,9 @@ class WrittenTree {
     QStringList Deceased;
     QHash<int, QStringList> Heirs;
   };
-  Lines Write(const QFont& font, const Spacing& spacing, bool broken, TreeMetrics& metrics) const;
+  /// Which texts may be broken in two: none, all but the reasons of those who receive nothing, or all.
+  enum class Broken { None, NotReasons, All };
+  Lines Write(const QFont& font, const Spacing& spacing, Broken broken, TreeMetrics& metrics) const;
 
   DivisionView view_;
   FamilyTree tree_;
