@@ -71,7 +71,7 @@ class Grid {
   /// The way from a node to the one to which it was led last. Its beginning alone, if it is the first to go
   /// there.
   void Walk(std::size_t from, TreeYield& yield, int side) {
-    const int shift = side * shift_;
+    const int shift = side * shift_ / 2;
     std::size_t state = nowhere;
     for (std::size_t cell = 0; cell < Count(); ++cell) {
       if (nodes_[cell] != static_cast<int>(from) || !isInner_[cell]) continue;
@@ -110,9 +110,9 @@ class Grid {
   static void Tidy(std::vector<int>& lanes, int most) {
     std::erase_if(lanes, [most](int lane) { return lane < 0 || lane > most; });
     std::ranges::sort(lanes);
-    const auto rest =
-        std::ranges::unique(lanes, [](int before, int lane) { return lane - before <= nearness; });
-    lanes.erase(rest.begin(), rest.end());
+    lanes.erase(std::unique(lanes.begin(), lanes.end(),
+                            [](int before, int lane) { return lane - before <= nearness; }),
+                lanes.end());
   }
 
   void FindNodes() {
@@ -240,7 +240,7 @@ void DrawYieldLines(FamilyTree& tree, int gap, int rowGap, const std::vector<int
   for (const TreeYield& yield : tree.Yields) {
     if (std::ranges::find(targets, yield.To) == targets.end()) targets.push_back(yield.To);
   }
-  constexpr int sides[] = {0, 1, -1};
+  constexpr int sides[] = {0, 2, -2, 1, -1};
   for (std::size_t i = 0; i < targets.size(); ++i) {
     grid.LeadTo(targets[i]);
     for (TreeYield& yield : tree.Yields) {

@@ -19,7 +19,6 @@
 #include "windows/print/PrintDialogs.h"
 
 using namespace qismora;
-using faraid::Kind;
 using faraid::School;
 
 namespace {
