@@ -81,7 +81,11 @@ class Grid {
           state = candidate;
       }
     }
-    if (state == nowhere) return;
+    if (state == nowhere) {
+      // There is always a way around; but better a line across others than none.
+      yield.Line = yield.Alone = {tree_.Nodes[from].Centre(), tree_.Nodes[yield.To].Centre()};
+      return;
+    }
     bool alone = true;
     for (; state != nowhere; state = next_[state]) {
       const TreePoint point = {xs_[state / 2 % xs_.size()] + shift, ys_[state / 2 / xs_.size()] + shift};

@@ -191,6 +191,7 @@ class DivisionWindowTest : public QObject {
     tree->setFocus();
     QTest::keyClick(tree, Qt::Key_Right);
     QCOMPARE(Find<QTableView>("DivisionTable")->currentIndex().row(), Row("Father"));
+    QVERIFY(tree->accessibleName().contains(QStringLiteral("Father: 1/6")));
     QTest::keyClick(tree, Qt::Key_Right);
     QCOMPARE(Find<QTableView>("DivisionTable")->currentIndex().row(), Row("Son"));
   }

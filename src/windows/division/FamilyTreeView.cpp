@@ -23,6 +23,8 @@ constexpr qreal arrow = 6;
 constexpr WrittenTree::Spacing spacing = {
     .AcrossText = 11, .DownText = linePadding, .LeastWidth = 96, .Gap = 16, .RowGap = 34, .Link = 8};
 
+QString SentenceOf(const TreeText& text) { return text.Name + QStringLiteral(": ") + text.Receives; }
+
 }  // namespace
 
 FamilyTreeView::FamilyTreeView(QWidget* parent) : QWidget(parent) {
@@ -45,14 +47,25 @@ void FamilyTreeView::LayOut() {
   tree_.LayOut(font(), spacing, laidOutFor_);
   QStringList sentences;
   for (const TreeNode& node : tree_.Tree().Nodes) {
-    if (node.What != TreeNode::Role::Heir) continue;
-    const TreeText& text = tree_.Of(node);
-    sentences.append(text.Name + QStringLiteral(": ") + text.Receives);
+    if (node.What == TreeNode::Role::Heir) sentences.append(SentenceOf(tree_.Of(node)));
   }
   setAccessibleDescription(tr("%1, and in the picture from the top: %2")
                                .arg(tree_.Deceased(), sentences.join(QStringLiteral("; "))));
+  SayChosen();
   updateGeometry();
   update();
+}
+
+// While the keys lead through the tree, its name ends with the heir that they have come to, so that a screen
+// reader says who it is.
+void FamilyTreeView::SayChosen() {
+  const bool led = window()->focusWidget() == this;
+  QString name = tr("Family tree");
+  for (const TreeNode& node : tree_.Tree().Nodes) {
+    if (led && node.What == TreeNode::Role::Heir && node.Heir == chosen_)
+      name += QStringLiteral(": ") + SentenceOf(tree_.Of(node));
+  }
+  setAccessibleName(name);
 }
 
 QSize FamilyTreeView::sizeHint() const {
@@ -81,7 +94,9 @@ QRect FamilyTreeView::PlaceOf(faraid::Kind heir) const {
 }
 
 void FamilyTreeView::Choose(faraid::Kind heir) {
-  if (std::exchange(chosen_, heir) != heir) update();
+  if (std::exchange(chosen_, heir) == heir) return;
+  SayChosen();
+  update();
 }
 
 void FamilyTreeView::paintEvent(QPaintEvent*) {
@@ -224,7 +239,10 @@ void FamilyTreeView::Step(int by) {
 
 bool FamilyTreeView::event(QEvent* event) {
   if (event->type() == QEvent::FontChange || event->type() == QEvent::LayoutDirectionChange) LayOut();
-  if (event->type() == QEvent::FocusIn || event->type() == QEvent::FocusOut) update();
+  if (event->type() == QEvent::FocusIn || event->type() == QEvent::FocusOut) {
+    SayChosen();
+    update();
+  }
   if (event->type() == QEvent::ParentChange && parentWidget() != nullptr)
     parentWidget()->installEventFilter(this);
   return QWidget::event(event);

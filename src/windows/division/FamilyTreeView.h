@@ -4,7 +4,7 @@
 #include <QWidget>
 #include <functional>
 
-#include "windows/division/TreeTexts.h"
+#include "windows/division/WrittenTree.h"
 
 namespace qismora {
 
@@ -45,6 +45,7 @@ class FamilyTreeView : public QWidget {
   void DrawText(QPainter& painter, const TreeNode& node, const QRectF& place) const;
   void DrawArrow(QPainter& painter, const TreeLine& line, const QColor& colour) const;
   void Step(int by);
+  void SayChosen();
   /// Mirrored in a language that is written from the right.
   QPointF Mirrored(const TreePoint& point) const;
 

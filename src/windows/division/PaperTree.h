@@ -2,7 +2,7 @@
 
 #include <QTextObjectInterface>
 
-#include "windows/division/TreeTexts.h"
+#include "windows/division/WrittenTree.h"
 
 class QPainter;
 

@@ -1,4 +1,4 @@
-#include "windows/division/TreeTexts.h"
+#include "windows/division/WrittenTree.h"
 
 #include <QFontMetricsF>
 #include <algorithm>
