@@ -7,7 +7,8 @@ namespace qismora {
 
 namespace {
 
-/// The lead bytes of one row begin sequences of so many bytes, of which the second lies between the two.
+/// A well-formed sequence: the range of its first byte, its length, and the range of its second byte. All
+/// further bytes are from 80 to BF.
 struct Sequence {
   unsigned char FirstLead;
   unsigned char LastLead;
@@ -22,8 +23,9 @@ constexpr Sequence sequences[] = {
     {0xF0, 0xF0, 4, 0x90, 0xBF}, {0xF1, 0xF3, 4, 0x80, 0xBF}, {0xF4, 0xF4, 4, 0x80, 0x8F},
 };
 
-/// How many bytes the first character takes, 0 where it is none.
-std::size_t BytesOfFirst(std::string_view text) {
+}  // namespace
+
+std::size_t FirstCharacterLength(std::string_view text) {
   const auto byte = [&](std::size_t i) { return static_cast<unsigned char>(text[i]); };
   for (const Sequence& row : sequences) {
     if (byte(0) < row.FirstLead || byte(0) > row.LastLead) continue;
@@ -37,8 +39,6 @@ std::size_t BytesOfFirst(std::string_view text) {
   return 0;
 }
 
-}  // namespace
-
 std::size_t FindInvalidUtf8(std::string_view text) {
   std::size_t at = 0;
   while (at < text.size()) {
@@ -51,7 +51,7 @@ std::size_t FindInvalidUtf8(std::string_view text) {
         continue;
       }
     }
-    const std::size_t bytes = BytesOfFirst(text.substr(at));
+    const std::size_t bytes = FirstCharacterLength(text.substr(at));
     if (bytes == 0) return at;
     at += bytes;
   }

@@ -9,11 +9,13 @@
 #include <span>
 #include <stdexcept>
 
+#include "base/Encoding.h"
+
 namespace qismora {
 
 namespace {
 
-// Each writes at the end of what is written already, and returns the new end.
+// Each writes its argument from the given place on and returns the place after it.
 
 char* PutWhole(char* end, std::int64_t number) {
   constexpr std::ptrdiff_t mostCharacters = 20;
@@ -88,10 +90,10 @@ std::string TwoDigits(int number) {
 
 namespace {
 
-// Letters whose other case is more than one letter; all others change one by one.
+// Characters whose other case is more than one character; all others change one by one.
 struct Spelling {
-  char32_t Letter;
-  std::string_view Words;
+  char32_t Character;
+  std::string_view Changed;
 };
 constexpr Spelling upperSpellings[] = {
     {U'ß', "SS"}, {U'ŉ', "ʼN"}, {U'ǰ', "J̌"},   {U'ΐ', "Ϊ́"},   {U'ΰ', "Ϋ́"},  {U'և', "ԵՒ"},
@@ -100,28 +102,16 @@ constexpr Spelling upperSpellings[] = {
 };
 constexpr Spelling lowerSpellings[] = {{U'İ', "i̇"}};
 
-// One letter read from the text, and its length in bytes. A byte that is not UTF-8 is kept as it is.
-struct Letter {
-  char32_t Code = 0;
-  std::size_t Bytes = 1;
-  bool Valid = false;
-};
-
-Letter FirstLetter(std::string_view text) {
-  const auto byte = [&](std::size_t i) { return static_cast<unsigned char>(text[i]); };
-  const unsigned char lead = byte(0);
-  if (lead < 0x80) return {lead, 1, true};
-  const std::size_t bytes = lead >= 0xF0 ? 4 : lead >= 0xE0 ? 3 : lead >= 0xC2 ? 2 : 0;
-  if (bytes == 0 || bytes > text.size()) return {};
-  auto code = static_cast<char32_t>(lead & (0xFF >> (bytes + 1)));
-  for (std::size_t i = 1; i < bytes; ++i) {
-    if ((byte(i) & 0xC0) != 0x80) return {};
-    code = (code << 6) | (byte(i) & 0x3F);
-  }
-  return {code, bytes, true};
+/// The number of a character in UTF-8.
+char32_t CodeOf(std::string_view character) {
+  const auto lead = static_cast<unsigned char>(character.front());
+  if (character.size() == 1) return lead;
+  auto code = static_cast<char32_t>(lead & (0xFF >> (character.size() + 1)));
+  for (const char c : character.substr(1)) code = (code << 6) | (static_cast<unsigned char>(c) & 0x3F);
+  return code;
 }
 
-void AppendLetter(std::string& text, char32_t code) {
+void AppendCharacter(std::string& text, char32_t code) {
   const auto tail = [&](int shift) { text += static_cast<char>(0x80 | ((code >> shift) & 0x3F)); };
   if (code < 0x80) {
     text += static_cast<char>(code);
@@ -140,7 +130,7 @@ void AppendLetter(std::string& text, char32_t code) {
   }
 }
 
-const std::ctype<wchar_t>& Letters() {
+const std::ctype<wchar_t>& Unicode() {
   static const std::locale unicode = [] {
     try {
       return std::locale("C.UTF-8");
@@ -151,22 +141,26 @@ const std::ctype<wchar_t>& Letters() {
   return std::use_facet<std::ctype<wchar_t>>(unicode);
 }
 
+/// A byte that is not UTF-8 is kept.
 template <class OneByOne>
 std::string ChangeCase(std::string_view text, std::span<const Spelling> spellings, OneByOne change) {
   std::string changed;
   changed.reserve(text.size());
   while (!text.empty()) {
-    const Letter letter = FirstLetter(text);
-    const auto* spelling = std::ranges::find(spellings.data(), spellings.data() + spellings.size(),
-                                             letter.Code, &Spelling::Letter);
-    if (!letter.Valid) {
+    const std::size_t length = FirstCharacterLength(text);
+    if (length == 0) {
       changed += text.front();
-    } else if (spelling != spellings.data() + spellings.size()) {
-      changed += spelling->Words;
-    } else {
-      AppendLetter(changed, static_cast<char32_t>(change(static_cast<wchar_t>(letter.Code))));
+      text.remove_prefix(1);
+      continue;
     }
-    text.remove_prefix(letter.Bytes);
+    const char32_t code = CodeOf(text.substr(0, length));
+    const auto spelling = std::ranges::find(spellings, code, &Spelling::Character);
+    if (spelling != spellings.end()) {
+      changed += spelling->Changed;
+    } else {
+      AppendCharacter(changed, static_cast<char32_t>(change(static_cast<wchar_t>(code))));
+    }
+    text.remove_prefix(length);
   }
   return changed;
 }
@@ -174,11 +168,11 @@ std::string ChangeCase(std::string_view text, std::span<const Spelling> spelling
 }  // namespace
 
 std::string UpperCase(std::string_view text) {
-  return ChangeCase(text, upperSpellings, [](wchar_t letter) { return Letters().toupper(letter); });
+  return ChangeCase(text, upperSpellings, [](wchar_t character) { return Unicode().toupper(character); });
 }
 
 std::string LowerCase(std::string_view text) {
-  return ChangeCase(text, lowerSpellings, [](wchar_t letter) { return Letters().tolower(letter); });
+  return ChangeCase(text, lowerSpellings, [](wchar_t character) { return Unicode().tolower(character); });
 }
 
 std::string WithoutEnd(std::string_view text, int characters) {
