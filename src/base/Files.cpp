@@ -76,7 +76,7 @@ bool Lock(int file) {
   return false;
 }
 
-/// What closes the last line of an open file of this size, if it lacks its end.
+/// The line break that the last line of an open file of this size lacks.
 std::string_view MissingEnd(int file, off_t size) {
   char last = '\n';
   if (size > 0 && pread(file, &last, 1, size - 1) != 1) throw FileFailure(EIO);

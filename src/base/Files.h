@@ -45,7 +45,7 @@ class InputFile {
  public:
   explicit InputFile(const std::string& path);
 
-  /// Reads up to so many bytes; fewer only at the end of the file.
+  /// Reads this many bytes; fewer only at the end of the file. Returns how many.
   std::size_t Read(char* to, std::size_t size);
 
  private:
@@ -61,9 +61,9 @@ bool FileExists(const std::string& path);
 /// The length in bytes. A missing file is the failure 53.
 Long FileLength(const std::string& path);
 
-/// Adds a line to the end of an ordinary file without a second name; a missing file is created. Programs that
-/// add to the same file at the same time do not break each other's lines. A line that is incomplete because
-/// the disk is full is removed; if that fails, it is ended before the next line.
+/// Adds a line to the end of an ordinary file that has no second name (hard link); a missing file is created.
+/// Programs that add to the same file at the same time do not break each other's lines. A line that is
+/// incomplete because the disk is full is removed; if that fails, it is ended before the next line.
 void AppendLine(const std::string& path, std::string_view line);
 
 /// Whether the text is a name within a directory: without a separator of any platform, not "." or "..".

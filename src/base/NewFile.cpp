@@ -47,16 +47,16 @@ void RemoveStrays(const std::string& folder) {
   }
 }
 
-/// Takes the lock of a file that was just made; false when a program that cleans up was quicker.
-bool Hold(int file) {
+/// Locks a file that was just made; false if another program has removed it as a stray in between.
+bool LockNew(int file) {
   if (flock(file, LOCK_EX | LOCK_NB) != 0 && errno == EWOULDBLOCK) return false;
   struct stat found = {};
   return fstat(file, &found) == 0 && found.st_nlink > 0;
 }
 
-/// The object that has the name, unless the name is free or a link that is replaced. Fails if it may not be
-/// replaced.
-std::optional<struct stat> Earlier(const std::string& path, Replace replace) {
+/// The file that will be replaced; nothing if the name is free or is a link that will be replaced. Fails if
+/// it may not be replaced.
+std::optional<struct stat> FileToReplace(const std::string& path, Replace replace) {
   struct stat found = {};
   if (lstat(path.c_str(), &found) != 0) {
     if (errno == ENOENT) return std::nullopt;
@@ -75,8 +75,9 @@ std::optional<struct stat> Earlier(const std::string& path, Replace replace) {
   return found;
 }
 
-/// If the group cannot be kept, no other group gets its permissions.
-void HandOnPermissions(int file, const struct stat& earlier) {
+/// Gives the file the owner and the permissions of the earlier one. If the group cannot be kept, no other
+/// group gets its permissions.
+void CopyPermissions(int file, const struct stat& earlier) {
   mode_t mode = earlier.st_mode & (S_IRWXU | S_IRWXG | S_IRWXO);
   constexpr auto same = static_cast<uid_t>(-1);
   if (fchown(file, earlier.st_uid, earlier.st_gid) != 0 && fchown(file, same, earlier.st_gid) != 0) {
@@ -99,14 +100,14 @@ NewFile::~NewFile() {
 
 // A file that replaces a private one is private from its first byte.
 void NewFile::Create() {
-  const mode_t mode = Earlier(path_, replace_) ? 0600 : 0666;
+  const mode_t mode = FileToReplace(path_, replace_) ? 0600 : 0666;
   for (bool held = false; !held;) {
     const std::string name = Join(prefix, std::to_string(std::random_device()()), suffix);
     const std::string path = (fs::path(folder_) / name).string();
     Descriptor file(open(path.c_str(), O_WRONLY | O_CREAT | O_EXCL | O_CLOEXEC, mode));
     if (file.Get() < 0 && errno == EEXIST) continue;
     if (file.Get() < 0) throw FileFailure(errno);
-    held = Hold(file.Get());
+    held = LockNew(file.Get());
     if (!held) continue;
     file_ = std::move(file);
     unfinished_ = path;
@@ -117,7 +118,7 @@ void NewFile::Create() {
 // unchanged; after it, the saved file survives a power failure.
 void NewFile::Commit(std::string_view content) {
   WriteAll(file_.Get(), content);
-  if (const auto earlier = Earlier(path_, replace_)) HandOnPermissions(file_.Get(), *earlier);
+  if (const auto earlier = FileToReplace(path_, replace_)) CopyPermissions(file_.Get(), *earlier);
   places_.WriteThrough(unfinished_);
   places_.WriteThrough(folder_);
   TakeName();
@@ -132,7 +133,7 @@ void NewFile::TakeName() {
     if (errno != EINVAL && errno != ENOSYS) throw FileFailure(errno);
   }
 #endif
-  Earlier(path_, replace_);
+  FileToReplace(path_, replace_);
   if (rename(unfinished_.c_str(), path_.c_str()) != 0) throw FileFailure(errno);
 }
 

@@ -52,7 +52,7 @@ std::size_t NumberLength(std::string_view text, bool withCommas) {
     any = digits() || any;
   }
   if (!any) return 0;
-  // The letter of an exponent belongs to the number only with a digit of its own.
+  // The E of an exponent belongs to the number only if a digit follows.
   const std::size_t end = at;
   if (here("eE")) {
     ++at;

@@ -7,22 +7,20 @@
 
 namespace qismora {
 
-/// The validity test of a typed number, on the whole text: blanks; a sign or none; digits, with commas
-/// behind the first one; a point and digits or none; an exponent or none; blanks. Or a hexadecimal or
-/// octal number, &H or &O, without a sign.
+/// Whether the whole text is a number, with or without blanks around it. Optional are a sign, commas after
+/// the first digit, a point with decimals, and an exponent. A hexadecimal (&H) or octal (&O) number has no
+/// sign.
 bool IsNumber(std::string_view text);
 
-/// The prefix parser: skips blanks, takes as much as forms a number from the left and stops at the
-/// first character that cannot continue it; 0 for a text that is no number. A comma is no
-/// continuation: 1,000 gives 1. Beyond the range of a Double it is the overflow failure.
+/// The number at the start of the text, after any blanks: the longest prefix that forms one, or 0. A comma
+/// ends it: 1,000 gives 1. A number beyond the range of a Double is the overflow failure.
 Double ParsePrefix(std::string_view text);
 
-/// The two-stage reading of a field: nothing where the text fails the validity test, otherwise the value of
-/// the prefix parser.
+/// Reads a field: nothing if the whole text is not a number (IsNumber), otherwise the value of ParsePrefix.
 std::optional<Double> ReadNumber(std::string_view text);
 
-/// The strict conversion: takes what the validity test takes, the separators left out, so that 1,000
-/// gives 1000. Any other text is the type failure.
+/// The value of a text that is a number (IsNumber), without its commas: 1,000 gives 1000. Any other text is
+/// the type failure.
 Double ParseStrict(std::string_view text);
 
 }  // namespace qismora

@@ -10,8 +10,7 @@
 
 namespace qismora {
 
-/// A signed whole number of fixed width. What leaves its range is the overflow failure, raised at the
-/// operation that leaves it; it never wraps.
+/// A signed whole number of fixed width. A result beyond its range is the overflow failure and never wraps.
 template <std::signed_integral Stored>
 class Whole {
  public:
@@ -29,7 +28,7 @@ class Whole {
   friend constexpr Whole operator-(Whole a, Whole b) { return Whole(a.Value() - b.Value()); }
   friend constexpr Whole operator*(Whole a, Whole b) { return Whole(a.Value() * b.Value()); }
 
-  // Plain numbers of the source take part as numbers of the same width: 2 * Sons is an Integer.
+  // A literal has the width of the other operand: 2 * Sons is an Integer.
   friend constexpr Whole operator+(Whole a, int b) { return a + Whole(b); }
   friend constexpr Whole operator-(Whole a, int b) { return a - Whole(b); }
   friend constexpr Whole operator*(Whole a, int b) { return a * Whole(b); }

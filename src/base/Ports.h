@@ -7,8 +7,8 @@
 
 namespace qismora {
 
-// The ports through which the core reaches the outside world. Each has one real implementation in the windows
-// and one fake for tests.
+// The ports through which the core reaches the operating system. Each has one real implementation in
+// windows/platform/ and one fake for tests in tests/support/.
 
 struct DateTime {
   int Year = 0;
@@ -28,13 +28,14 @@ class Clock {
   virtual DateTime Now() = 0;
 };
 
+/// The icon and the buttons of a message box, and the button that was pressed.
 enum class BoxStyle { Plain, Information, Warning, Critical };
 enum class BoxButtons { Ok, YesNo, YesNoCancel, SaveDiscardCancel };
 enum class Answer { Ok, Yes, No, Cancel, Save, Discard };
 
-/// Thrown by a message box that ended without an answer: with the program, the desktop session or the
-/// display. Nobody has agreed to anything, so the command that asked is abandoned. It is not a Failure, so
-/// that no handler of a rule catches it.
+/// Thrown by a message box that ended without an answer, because the program, the desktop session or the
+/// display ended. Nobody has agreed to anything, so the command that asked is abandoned. It is not a Failure,
+/// so no handler for failures catches it.
 class Unanswered : public std::exception {
  public:
   const char* what() const noexcept override { return "a message box ended unanswered"; }
@@ -50,18 +51,18 @@ class MessageBoxes {
   void Inform(BoxStyle style, const std::string& text) { Show(style, BoxButtons::Ok, text); }
 };
 
-/// The common dialogs that ask for the path of a file. No value if the user cancels.
+/// The dialogs that ask for the path of a file to save or to open. No value if the user cancels.
 class SaveDialog {
  public:
   virtual ~SaveDialog() = default;
   virtual std::optional<std::string> AskPath(const std::string& suggestedName, const std::string& filter) = 0;
 
-  /// Which case file to open; the dialog begins in this folder.
+  /// The path of a case file to open. The dialog starts in this folder.
   virtual std::optional<std::string> AskCaseToOpen(const std::string& folder) {
     static_cast<void>(folder);
     return std::nullopt;
   }
-  /// Under which path to save a case. The dialog asks about replacing a file.
+  /// The path under which to save a case. The dialog asks before a file is replaced.
   virtual std::optional<std::string> AskCaseToSave(const std::string& suggestedPath) {
     static_cast<void>(suggestedPath);
     return std::nullopt;
@@ -101,7 +102,7 @@ class DocumentViewer {
   virtual bool Open(const std::string& path) = 0;
 };
 
-/// A player of videos. It shows nothing if it cannot play.
+/// Plays videos. It shows nothing if it cannot play.
 class VideoPlayer {
  public:
   virtual ~VideoPlayer() = default;

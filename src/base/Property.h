@@ -9,8 +9,7 @@
 
 namespace qismora {
 
-/// One property of a control. It calls its listener when it has changed; a window listens, most tests do
-/// not.
+/// One property of a control. It calls its listeners when it has changed. Windows listen; most tests do not.
 template <class Value>
 class Property {
  public:
