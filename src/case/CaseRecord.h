@@ -33,8 +33,9 @@ struct ApplicationLayer {
   Integer ConsBrothers;
   Integer UterineSisters;
   Integer UterineBrothers;
-  // The males who share the residue with son's daughters. Loading a case without such daughters leaves
-  // them alone, so they may hold the counts of an earlier case.
+  // The males who share the residue with son's daughters: "equal" ones are son's sons, "lower" ones are son's
+  // son's sons. Loading a case without such daughters does not change them, so they may hold the counts of an
+  // earlier case.
   Integer AsabaGrandSons;
   Integer AsabaGtGrandSons;
 
@@ -120,9 +121,9 @@ inline constexpr int SurplusToClassII = 33;
 
 /// What lives as long as the Case Study screen.
 struct ScreenLayer {
-  /// The loading of the case stopped on a hard failure. Whoever reads it as true sets it back.
+  /// A hard failure has stopped the loading of the case. The code that reads it as true resets it.
   bool InputFailed = false;
-  /// A run of several rules has loaded the case, so that their wrappers do not.
+  /// A run of several rules has loaded the case, so their wrappers do not load it again.
   bool CaseLoaded = false;
   /// The full report is being made: the sufficiency test shows no message.
   bool ReportToFile = false;
@@ -151,7 +152,7 @@ struct ScreenLayer {
   // The class II residuaries, by their check boxes.
   Array<Integer, 11> ClassIIFlag;
   Array<Double, 11> ClassIIAmount;
-  /// A sentence that names the taker, for a report that may want it. None shows it.
+  /// A sentence that names the taker. No report shows it.
   std::string ClassIINarrative;
   std::string ClassIIText;
 

@@ -24,11 +24,11 @@ inline constexpr int NetEstateField = 29;
 inline constexpr int Male = 0;
 inline constexpr int Female = 1;
 
-/// What the commands report on their way to whoever watches. Nothing of the law depends on it.
+/// What the commands report while they run. No rule depends on it.
 struct CaseWatch {
   /// A load has read the whole case.
   std::function<void()> LoadCompleted;
-  /// A message has stopped a load, or a failure a command that takes it without one.
+  /// A load was stopped by a message, or a command by a failure that it handles without a message.
   std::function<void(const std::string& reason)> Stopped;
   /// The residue has been distributed.
   std::function<void()> Distributed;

@@ -13,7 +13,7 @@ void ClearResults(CaseRecord& c, CaseScreen& screen) {
   for (Double* amount : {&c.Residue, &c.SonAmount, &c.DaughterResidue, &c.SonsDaughterResidue,
                          &c.EqualSonsSonResidue, &c.LowerSonsSonResidue, &c.FullBrotherResidue,
                          &c.FullSisterResidue, &c.ConsBrotherResidue, &c.ConsSisterResidue,
-                         // of each male ascendant and each true grandmother
+                         // the amounts of each male ascendant and each true grandmother
                          &c.FatherAmount, &c.GrandFatherAmount, &c.GtGrandFatherAmount,
                          &c.FathersMotherAmount, &c.GrandFathersMotherAmount, &c.FathersGrandMotherAmount,
                          &c.MothersMotherAmount, &c.MothersMothersMotherAmount}) {

@@ -5,9 +5,9 @@
 
 namespace qismora {
 
-/// Clears what a run of the rules leaves, before the next one. SonsSonsDaughterShare, ConsBrotherShare,
-/// EachWifeShare, FatherResidue, ClassIIResidue and ResidueUnit survive it, and so do the counts, the estate
-/// and the outcome of the sufficiency test: each is replaced only when its own step runs.
+/// Clears the results of the previous run of the rules. Some values stay until the step that sets them runs
+/// again: SonsSonsDaughterShare, ConsBrotherShare, EachWifeShare, FatherResidue, ClassIIResidue, ResidueUnit,
+/// the counts, the estate and the outcome of the sufficiency test.
 void ClearResults(CaseRecord& c, CaseScreen& screen);
 
 }  // namespace qismora

@@ -36,7 +36,8 @@ inline bool IsAlive(const CaseRecord& c, HeirKind heir) {
   return c.*Heirs[heir].Count > 0;
 }
 
-// Exactly none. After a refused count a field may be negative, which is neither one nor none.
+// Exactly none. A refused count stays in the record and may be negative: that is neither none here nor alive
+// above.
 
 inline bool HasNoMaleDescendant(const CaseRecord& c) {
   return c.Sons == 0 && c.GrandSons == 0 && c.GtGrandSons == 0;

@@ -10,8 +10,8 @@ namespace {
 
 enum class Grade { Soft, Hard };
 
-/// A kind of heir: where its count is typed and stored, the most that is accepted, the message about a
-/// count outside the limits, and whether the field then takes the focus.
+/// A kind of heir: the field of its count, where the count is stored, the largest count that is accepted, the
+/// message about a count outside the limits, and whether the field then takes the focus.
 struct CountRow {
   int Field;
   Integer CaseRecord::*Count;
@@ -64,7 +64,7 @@ Integer Converted(Double typed, Integer) { return RoundTo<Integer>(typed); }
 Long Converted(Double typed, Long) { return RoundTo<Long>(typed); }
 Double Converted(Double typed, Double) { return typed; }
 
-/// Text that is no number leaves the stored value as it is: an empty field is not a zero.
+/// A text that is not a number does not change the stored value: an empty field is not a zero.
 template <class Number>
 void ReadField(const CaseScreen& screen, int index, Number& field) {
   if (const std::optional<Double> typed = ReadNumber(screen.Text1(index).Text.Get())) {
@@ -78,8 +78,8 @@ void Refuse(const CaseScreen& screen, BoxStyle style, const std::string& message
   if (screen.Watch.Stopped) screen.Watch.Stopped(message);
 }
 
-/// Reads and checks one count; false when it is refused. The check looks at the stored count, so that a
-/// stale one is checked as well.
+/// Reads and checks one count; false if it is refused. The stored count is checked, so a stale one is checked
+/// as well.
 bool ReadCount(CaseRecord& c, CaseScreen& screen, const CountRow& row, Grade grade = Grade::Soft) {
   Integer& count = c.*row.Count;
   ReadField(screen, row.Field, count);
@@ -90,8 +90,9 @@ bool ReadCount(CaseRecord& c, CaseScreen& screen, const CountRow& row, Grade gra
   return false;
 }
 
-/// A will may take a third of what the deceased left (report of Sad ibn Abi Waqqas). More needs the
-/// consent of the heirs, which is asked for at each load; without it the will is cut down to the third.
+/// Wills may take a third of the gross estate (the limit of a third: report of Sad ibn Abi Waqqas). More
+/// needs the consent of the heirs. Each load asks for it. If the answer is No, the wills are reduced to the
+/// third.
 void AskAboutWills(CaseRecord& c, CaseScreen& screen, Double third) {
   const Answer answer = screen.System.Boxes.Show(
       BoxStyle::Warning, BoxButtons::YesNo,
@@ -107,8 +108,8 @@ void AskAboutWills(CaseRecord& c, CaseScreen& screen, Double third) {
   screen.Text1(WillsField).Text = F(c.Wills);
 }
 
-/// Reads the estate and what is paid from it before the heirs; returns the message about a refused figure,
-/// or null. The debts are compared with the gross estate alone, not with what the funeral left of it.
+/// Reads the estate and what is paid from it before the heirs. Returns the message about a refused figure, or
+/// null. The debts are compared with the gross estate alone, not with what the funeral expenses leave.
 const char* ReadEstate(CaseRecord& c, CaseScreen& screen) {
   ReadField(screen, GrossEstateField, c.GrossEstate);
   if (c.GrossEstate < 0) return "No estate wealth for inheritance.";

@@ -2,8 +2,8 @@
 
 namespace qismora {
 
-/// The indices of Res: one for each way of being a residuary. The rule of an heir sets the flag, the
-/// residuary distribution serves the first class that its chain of tests finds.
+/// The indices of Res: one for each way of being a residuary. The rule of an heir sets the flag. The
+/// residuary distribution gives the residue to the first class that its chain of tests finds.
 enum ResiduaryFlag {
   SonsAlone = 0,                                // set by the distribution itself
   SonsWithDaughters = 1,                        // by the daughters

@@ -8,8 +8,8 @@ namespace qismora {
 /// fills the result panel.
 using Rule = void (*)(CaseRecord&, CaseScreen&);
 
-/// The way from a command to one rule: loads the case unless a run has done so, turns a hard failure into the
-/// text "INPUT ERROR", and calls the rule.
+/// The wrapper through which a command calls a rule. It loads the case unless a run has done so. After a hard
+/// failure it shows the text "INPUT ERROR" and does not call the rule.
 template <Rule ShareOf>
 void RunSharer(CaseRecord& c, CaseScreen& screen) {
   if (!c.CaseLoaded) LoadCase(c, screen);

@@ -4,9 +4,9 @@
 #include "case/Shares.h"
 #include "case/narratives/SpouseTexts.h"
 
-// The spouse takes a fixed share beside everybody; a descendant halves it. The two rules differ in the place
-// of the fraction and of a line break, and the text on great grandchildren reads the fraction from the slot
-// for a wife only. Readers of the reports know both forms.
+// The spouse always takes a fixed share; a descendant halves it. The texts of the two rules differ in the
+// places of the fraction and of a line break. The text about great grandchildren takes the fraction from the
+// slot for a wife only. Fixed wording; do not correct.
 
 namespace qismora {
 

@@ -4,10 +4,10 @@
 #include "rules/Collaterals.h"
 #include "rules/Rules.h"
 
-// Half siblings on the father's side. A full brother or two full sisters exclude the sister; beside one full
-// sister she completes the two thirds with a sixth, even where a consanguine brother is alive. The brother's
-// rule does not look at the full brothers and sisters at all, and beside female descendants it sets no flag:
-// only the flag that his sister sets can serve him then.
+// Half siblings on the father's side. A full brother or two full sisters exclude the sister. Beside one full
+// sister she completes the two thirds with a sixth, even if a consanguine brother is alive. The brother's
+// rule does not look at full brothers and sisters. Beside female descendants it sets no flag; he then takes
+// only if his sister's rule sets one.
 
 namespace qismora {
 

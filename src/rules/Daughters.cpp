@@ -3,8 +3,8 @@
 #include "case/narratives/DaughterTexts.h"
 #include "rules/Rules.h"
 
-// Only a son makes daughters residuaries; a son's son beside them does not. NoDaughterText ends in "NIL" of
-// its own, so that the word stands twice beside sons.
+// Only a son makes daughters residuaries; a son's son does not. NoDaughterText already ends in "NIL", so
+// beside sons the word appears twice. Fixed wording; do not correct.
 
 namespace qismora {
 
@@ -12,7 +12,7 @@ namespace {
 
 constexpr std::string_view residuaryEnd = "\tRESIDUARY (ASABA')";
 
-/// The words of a son's standing. His amount exists only after the residue is divided.
+/// The narrative of the nearest male descendants. Their amount exists only after the residue is divided.
 std::string SonReport(CaseRecord& c) {
   if (!HasMaleDescendant(c)) {
     c.SonAmount = 0;

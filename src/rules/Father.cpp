@@ -3,8 +3,8 @@
 #include "case/narratives/FatherTexts.h"
 #include "rules/Rules.h"
 
-// Father, grandfather and great grandfather are never three heirs: the nearest of them who is alive is the
-// ultimate father and has one share. The narrative of a sharer shows his fraction twice.
+// Father, grandfather and great grandfather are one heir: the nearest of them who is alive is the ultimate
+// father. The narrative of a sharer shows his fraction twice. Fixed wording; do not correct.
 
 namespace qismora {
 
@@ -30,7 +30,7 @@ void SetUltimateFather(CaseRecord& c) {
 
 void ShareOfFather(CaseRecord& c, CaseScreen& screen) {
   using enum FatherWithSonsText;
-  // First for the name in the narrative, last so that the final amount reaches his slot.
+  // Called here for the name in the narrative, and at the end to copy the final amount into his slot.
   SetUltimateFather(c);
   screen.Label2.Caption = "Ultimate FATHER'S SHARE";
   if (!HasMaleAscendant(c)) {

@@ -5,14 +5,14 @@
 #include "rules/Rules.h"
 
 // A male descendant or ascendant excludes both. Female descendants do not: the brother and the sister take
-// the residue beside them. What is added on the amount of each sister is shown on the screen and does not
-// enter her report; the brother's text ends in his fraction and hers does not.
+// the residue beside them. The screen adds the amount of each sister to her report; the report itself lacks
+// it. The brother's text ends in his fraction and hers does not. Fixed wording; do not correct.
 
 namespace qismora {
 
 namespace {
 
-/// What the screen shows behind the report of a sister who is a sharer.
+/// What the screen shows after the report of a sister who is a sharer.
 std::string SharerAddition(const CaseRecord& c) {
   if (c.FullSisters > 1) {
     return Join("\r\nSince number of Full Sisters is ", c.FullSisters, ". So each sister will get:\r\n\r\n\t",

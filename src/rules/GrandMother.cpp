@@ -5,10 +5,10 @@
 #include "case/narratives/GrandMotherTexts.h"
 #include "rules/Rules.h"
 
-// Five kinds of female ascendant above the parents form one heir. One procedure decides the amount, another
-// who makes up the group; they disagree where the father is alive beside his mother and a maternal great
-// grandmother, and where a grandfather is alive beside paternal great grandmothers. Both are kept, and so are
-// the texts on a living father where he is dead.
+// Five kinds of female ascendant above the parents are one heir, the true grandmother. One procedure decides
+// the amount, another who makes up the group. They disagree in two cases: the father is alive beside his
+// mother and a maternal great grandmother, or a grandfather is alive beside paternal great grandmothers.
+// Beside a grandfather some texts speak of a living father. Both are required behaviour.
 
 namespace qismora {
 
@@ -71,21 +71,21 @@ void ShareOfGrandMother(CaseRecord& c, CaseScreen& screen) {
 
 namespace {
 
-// The kinds by their initials: MM mother's mother, MMM her mother, FM father's mother, FFM the father's
-// father's mother, FMM the father's grandmother.
+// The kinds by their initials: MM is the mother's mother, MMM her mother, FM the father's mother, FFM the
+// father's father's mother, FMM the father's mother's mother.
 enum Kind { MM = 1, MMM = 2, FM = 4, FFM = 8, FMM = 16 };
 
-/// A combination that forms the group where all its kinds are alive, and the slot that takes the whole
-/// amount.
+/// A combination of kinds that forms the group if all of them are alive, its name, and the slot that takes
+/// the whole amount.
 struct GroupRow {
   int Kinds;
   const char* Name;
   Double CaseRecord::*Slot;
 };
 
-// The nearer grandmothers exclude the great grandmothers; between the great grandmothers none excludes
-// another. A combined group puts the sum in the slot of its first-named woman, and FMM+MMM in the slot of FFM
-// though no FFM is alive.
+// The nearer grandmothers exclude the great grandmothers; no great grandmother excludes another (the
+// Companions). A combined group puts its sum into the slot of its first-named woman. FMM+MMM uses the slot of
+// FFM, though no FFM is alive.
 constexpr GroupRow withoutParents[] = {
     {FM | MM, "FM+MM", &CaseRecord::FathersMotherAmount},
     {FM, "FM", &CaseRecord::FathersMotherAmount},
@@ -99,14 +99,15 @@ constexpr GroupRow withoutParents[] = {
     {MMM, "MMM", &CaseRecord::MothersMothersMotherAmount},
 };
 
-// Beside the father only the mother's side is left; MM goes to the slot of the father's mother.
+// The father excludes his own side, so only the mother's side is left. MM uses the slot of the father's
+// mother.
 constexpr GroupRow besideFather[] = {
     {MM, "MM", &CaseRecord::FathersMotherAmount},
     {MMM, "MMM", &CaseRecord::MothersMothersMotherAmount},
 };
 
 struct KindRow {
-  Kind Letter;
+  Kind Initials;
   Integer CaseRecord::*Count;
 };
 constexpr KindRow kinds[] = {
@@ -115,18 +116,18 @@ constexpr KindRow kinds[] = {
     {FMM, &CaseRecord::FathersGrandMother},
 };
 
-/// The women of the kinds together.
+/// How many women the kinds have together.
 Integer WomenOf(const CaseRecord& c, int wanted) {
   Integer women;
   for (const KindRow& kind : kinds) {
-    if ((wanted & kind.Letter) != 0) women += c.*kind.Count;
+    if ((wanted & kind.Initials) != 0) women += c.*kind.Count;
   }
   return women;
 }
 
 void TakeFirstGroup(CaseRecord& c, std::span<const GroupRow> rows) {
   int alive = 0;
-  for (const KindRow& kind : kinds) alive |= c.*kind.Count > 0 ? kind.Letter : 0;
+  for (const KindRow& kind : kinds) alive |= c.*kind.Count > 0 ? kind.Initials : 0;
   for (const GroupRow& row : rows) {
     if ((row.Kinds & alive) != row.Kinds) continue;
     c.GrandMotherGroup = row.Name;

@@ -3,16 +3,16 @@
 #include "case/narratives/MotherTexts.h"
 #include "rules/Rules.h"
 
-// The mother never takes as a residuary. Her third of the remainder calls the spouse's rule, which leaves its
-// own heading on the screen; it stays there, over the mother's narrative. Consanguine and uterine brothers
-// and sisters count against her, though the list in her narrative shows the full ones only.
+// The mother is never a residuary. The third of the remainder calls the spouse's rule, whose heading then
+// stays on the screen above the mother's narrative. Brothers and sisters of every kind reduce her share; the
+// list in her narrative shows only the full ones.
 
 namespace qismora {
 
 namespace {
 
-/// Two brothers or sisters of any kind. Both sums are always made, so that counts out of range are an
-/// overflow.
+/// Whether two or more brothers or sisters of any kind are alive. Both sums are always computed: counts that
+/// are too large must overflow.
 bool HasTwoSiblings(const CaseRecord& c) {
   const Integer full = c.FullSisters + c.FullBrothers;
   const Integer all =
@@ -21,9 +21,10 @@ bool HasTwoSiblings(const CaseRecord& c) {
          c.ConsSisters > 1 || c.UterineBrothers > 1 || c.UterineSisters > 1;
 }
 
-/// One third of the estate less the spouse's amount, which is rounded to a whole number for it.
+/// One third of what the spouse leaves (ruling of Umar, al-Umariyyatan). The spouse's amount is rounded to a
+/// whole number first.
 void TakeThirdOfRemainder(CaseRecord& c, CaseScreen& screen) {
-  // Where both counts were positive, the wives would win.
+  // If both counts were positive, the wives would decide.
   HeirKind spouse = HusbandHeir;
   if (c.Husband > 0) {
     ShareOfHusband(c, screen);

@@ -5,14 +5,15 @@
 
 namespace qismora {
 
-// The rules of all heirs but the spouses. Each decides the standing of one kind from the counts, stores
-// amount, fraction and report, and fills the result panel. Behind each stands its source of law.
+// The rules of all heirs except the spouses, each with its source of law. A rule decides the standing of one
+// kind of heir from the counts, stores its amount, fraction and report, and fills the result panel.
 
 /// The daughters' share: one half for one, two thirds for more, the residue beside sons (Quran 4:11; two
 /// thirds for exactly two by the report of Jabir on the daughters of Sad).
 void ShareOfDaughters(CaseRecord& c, CaseScreen& screen);
 
-/// Explains that a son, a son's son or a son's son's son takes as residuary (Quran 4:11); fixes no amount.
+/// Explains that the nearest male descendant is a residuary (Quran 4:11; consensus for a son's descendants).
+/// It sets no amount, except 0 if none is alive.
 void ShareOfSon(CaseRecord& c, CaseScreen& screen);
 
 /// The share of the ultimate father, who is the nearest living male ascendant: one sixth beside a male
@@ -28,7 +29,7 @@ void ShareOfFather(CaseRecord& c, CaseScreen& screen);
 void ShareOfMother(CaseRecord& c, CaseScreen& screen);
 
 /// The share of all true grandmothers together: one sixth (report of al-Mughira for one, of Ubada for two who
-/// share it), or nothing beside the mother and where the father excludes his own side.
+/// share it). The mother excludes all of them (consensus), the father those of his own side (the Companions).
 void ShareOfGrandMother(CaseRecord& c, CaseScreen& screen);
 /// Names who makes up the group of grandmothers, counts the women, and copies GrandMotherShare into the slot
 /// of one of them. More women than an Integer holds are the overflow failure.
@@ -43,30 +44,33 @@ void ShareOfSonsDaughter(CaseRecord& c, CaseScreen& screen);
 /// reads the flag SonsDaughterWithLowerSonsSon and must run after ShareOfSonsDaughter.
 void ShareOfSonsSonsDaughter(CaseRecord& c, CaseScreen& screen);
 
-/// The full brother: excluded, or a residuary; he never has a fixed share (Quran 4:176).
+/// The full brother: excluded, or a residuary without a fixed share (Quran 4:176; beside female descendants
+/// "what remains goes to the nearest male", report of Ibn Abbas).
 void ShareOfFullBrother(CaseRecord& c, CaseScreen& screen);
 
 /// The full sister: excluded, a residuary beside a brother (Quran 4:176) or female descendants (report of Ibn
 /// Masud), or else a sharer of one half or two thirds (Quran 4:176).
 void ShareOfFullSister(CaseRecord& c, CaseScreen& screen);
 
-/// The consanguine sister: as the full sister, with the full brothers and sisters before her (Quran 4:176);
-/// one sixth beside exactly one full sister (consensus, on the model of the son's daughter beside one
+/// The consanguine sister: like the full sister, after the full brothers and sisters (Quran 4:176). Beside
+/// exactly one full sister she has one sixth (consensus, by analogy with the son's daughter beside one
 /// daughter).
 void ShareOfConsSister(CaseRecord& c, CaseScreen& screen);
 
-/// The consanguine brother: excluded, or a residuary (Quran 4:176).
+/// The consanguine brother: excluded, or a residuary like the full brother and on the same sources.
 void ShareOfConsBrother(CaseRecord& c, CaseScreen& screen);
 
 /// The uterine sister: one sixth alone, or the sisters' part of the one third that uterine brothers and
-/// sisters share per head (Quran 4:12). Counts whose triple sum is beyond an Integer are the overflow
-/// failure.
+/// sisters share per head (Quran 4:12). Any descendant and any male ascendant excludes her: the verse gives
+/// to them only if the deceased leaves neither (kalala). Three times their number beyond an Integer is the
+/// overflow failure.
 void ShareOfUterineSister(CaseRecord& c, CaseScreen& screen);
 
-/// The uterine brother, as the sister.
+/// The uterine brother: like the sister, on the same source.
 void ShareOfUterineBrother(CaseRecord& c, CaseScreen& screen);
 
-// The wrapper of each rule: a command reaches the rule through it. Only the daughters are reached without it.
+// The wrapper of each rule, through which commands call it. A caller that has loaded the case may call the
+// rule itself.
 
 inline constexpr Rule RunWife = RunSharer<ShareOfWife>;
 inline constexpr Rule RunHusband = RunSharer<ShareOfHusband>;

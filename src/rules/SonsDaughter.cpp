@@ -2,10 +2,10 @@
 #include "case/narratives/SonsDaughterTexts.h"
 #include "rules/Rules.h"
 
-// The son's daughters stand in the daughters' place where no daughter is alive, complete their two thirds
-// beside one, and are excluded by two. A son's son of their own line makes them residuaries, before a lower
-// one does. Some narratives end in the markers "Res(15)" and "Res(18)" or in the word "True": readers see
-// them, and they stay. Only the row of the lower son's son alone stores no fraction.
+// The son's daughters take the daughters' place if no daughter is alive, complete the two thirds beside one,
+// and are excluded by two. A son's son ("equal", of their own generation) makes them residuaries, else a
+// son's son's son ("lower"). Some narratives end in "Res(15)", "Res(18)" or "True". Fixed wording; do not
+// correct. The row of a lower son's son without a daughter or a son's son's daughter stores no fraction.
 
 namespace qismora {
 
@@ -39,7 +39,7 @@ void ShareOfSonsDaughter(CaseRecord& c, CaseScreen& screen) {
     c.Res(SonsDaughterWithLowerSonsSon) = true;
     Report(c, SonsDaughterHeir, SonsDaughterResiduaryTexts[WithLowerSonsSon], CRLF);
   } else {
-    // The flag is for the level below; the son's daughters stay sharers.
+    // The flag is for the son's son's daughters; the son's daughters stay sharers.
     if (c.GtGrandSons > 0) c.Res(SonsSonsDaughterWithSonsSonsSon) = true;
     if (c.GrandDaughters == 1) {
       Take(c, SonsDaughterHeir, 1, 2);

@@ -3,20 +3,20 @@
 #include "case/narratives/SonsSonsDaughterTexts.h"
 #include "rules/Rules.h"
 
-// One level below the son's daughters. Beside a daughter and a son's son's son she is a residuary whose
-// narrative is empty. Two or more son's daughters exclude her even beside a son's son's son.
+// One generation below the son's daughters. Beside a daughter and a son's son's son she is a residuary with
+// an empty narrative. Two or more son's daughters exclude her even beside a son's son's son.
 
 namespace qismora {
 
 namespace {
 
-/// Her amount survives a clear, so it is set to 0 here.
-void StandAsResiduary(CaseRecord& c) {
+/// ClearResults does not clear her amount, so it is set to 0 here.
+void BecomeResiduary(CaseRecord& c, ResiduaryFlag flag) {
   TakeNothing(c, SonsSonsDaughterHeir);
-  c.Res(SonsSonsDaughterWithSonsSonsSon) = true;
+  c.Res(flag) = true;
 }
 
-/// What each of them takes; the word each is spelt in two ways.
+/// The amount of each. The texts spell "each" in two ways. Fixed wording; do not correct.
 std::string EachShare(const CaseRecord& c, const char* each) {
   return Join("\r\n\r\nNumber of Son's son's daughter being ", c.GtGrandDaughters, ", Share of ", each,
               " Son's son's daughter will be:\r\n\r\n\t", F(c.SonsSonsDaughterShare / c.GtGrandDaughters));
@@ -24,8 +24,8 @@ std::string EachShare(const CaseRecord& c, const char* each) {
 
 }  // namespace
 
-/// The son's daughter sets the flag SonsDaughterWithLowerSonsSon without a daughter only where no son's son's
-/// daughter is alive, so that a whole run does not come to the second and third row.
+/// A run does not reach the second and third row: without a daughter, the son's daughters set the flag
+/// SonsDaughterWithLowerSonsSon only if no son's son's daughter is alive.
 void ShareOfSonsSonsDaughter(CaseRecord& c, CaseScreen& screen) {
   using enum SonsSonsDaughterText;
   screen.Label2.Caption = "GRANDSON'S DAUGHTER SHARE";
@@ -37,8 +37,7 @@ void ShareOfSonsSonsDaughter(CaseRecord& c, CaseScreen& screen) {
   } else if (c.Res(SonsDaughterWithLowerSonsSon) && c.Daughters == 0 && c.GtGrandSons <= 0) {
     // Share, fraction and report stay as they were.
   } else if (c.Res(SonsDaughterWithLowerSonsSon) && c.Daughters == 0) {
-    TakeNothing(c, SonsSonsDaughterHeir);
-    c.Res(SonsSonsDaughterBesideSonsDaughter) = true;
+    BecomeResiduary(c, SonsSonsDaughterBesideSonsDaughter);
     c.Res(SonsDaughterWithLowerSonsSon) = false;
     Report(c, SonsSonsDaughterHeir, "Re-Write", emptyText);
   } else if (c.Sons > 0 || c.GrandSons > 0) {
@@ -48,14 +47,14 @@ void ShareOfSonsSonsDaughter(CaseRecord& c, CaseScreen& screen) {
     TakeNothing(c, SonsSonsDaughterHeir);
     Report(c, SonsSonsDaughterHeir, SonsSonsDaughterTexts[ExcludedByDaughterAndSonsDaughter]);
   } else if (c.Daughters > 0 && c.GtGrandSons > 0) {
-    StandAsResiduary(c);
+    BecomeResiduary(c, SonsSonsDaughterWithSonsSonsSon);
     Report(c, SonsSonsDaughterHeir, emptyText);
   } else if (c.Daughters > 0) {
     Take(c, SonsSonsDaughterHeir, 1, 6);
     Report(c, SonsSonsDaughterHeir, SonsSonsDaughterTexts[SixthBesideDaughter], TAB,
            AmountLine(c, SonsSonsDaughterHeir), EachShare(c, "each"));
   } else if (c.GrandDaughters == 1 && c.GtGrandSons > 0) {
-    StandAsResiduary(c);
+    BecomeResiduary(c, SonsSonsDaughterWithSonsSonsSon);
     Report(c, SonsSonsDaughterHeir, SonsSonsDaughterTexts[ResiduaryBesideSonsDaughter]);
   } else if (c.GrandDaughters == 1) {
     Take(c, SonsSonsDaughterHeir, 1, 6);
@@ -66,7 +65,7 @@ void ShareOfSonsSonsDaughter(CaseRecord& c, CaseScreen& screen) {
     Report(c, SonsSonsDaughterHeir, SonsSonsDaughterTexts[ExcludedBySonsDaughters], "  ",
            FractionOf(c, SonsSonsDaughterHeir));
   } else if (c.GtGrandSons > 0) {
-    StandAsResiduary(c);
+    BecomeResiduary(c, SonsSonsDaughterWithSonsSonsSon);
     Report(c, SonsSonsDaughterHeir, SonsSonsDaughterTexts[ResiduaryWithSonsSonsSon]);
   } else if (c.GtGrandDaughters == 1) {
     Take(c, SonsSonsDaughterHeir, 1, 2);

@@ -3,10 +3,10 @@
 #include "case/narratives/UterineTexts.h"
 #include "rules/Rules.h"
 
-// Half siblings on the mother's side are never residuaries. One alone takes a sixth, more share a third per
-// head, male and female alike. Any descendant and any male ascendant excludes them. The two rules mirror each
-// other and differ in a few words, which is why each stands by itself: the brother's group text says "each"
-// though its figure is the group's.
+// Half siblings on the mother's side are never residuaries. One alone takes a sixth; more share a third per
+// head, male and female alike. Any descendant and any male ascendant excludes them. The two rules differ in a
+// few words, so each is written out: the brothers' text says "each", though its figure is that of all of
+// them.
 
 namespace qismora {
 

@@ -44,7 +44,8 @@ inline constexpr NarrativeTable<SonWithDaughtersText, 2> SonWithDaughtersTexts =
      "In presence of Daughter(s), daughter(s) also become Residuary (Asaba') with son(s).\r\n\r\n"},
 }};
 
-// What daughters and sons say of their residue; each is followed by RESIDUARY (ASABA').
+// The sentences about the residue of daughters and sons. NoSonText is followed by "NIL", the others except
+// the opening by "RESIDUARY (ASABA')".
 inline constexpr std::string_view DaughterResiduaryOpening =
     "In the case under examination, the deceased has left the following:\r\n\r\n";
 

@@ -2,7 +2,7 @@
 
 #include <string_view>
 
-// What stands over and under a distribution. The name of the deceased goes behind each opening.
+// The texts before and after a distribution. The name of the deceased follows each opening.
 // Fixed wording; do not correct.
 
 namespace qismora {

@@ -2,7 +2,7 @@
 
 #include "case/narratives/NarrativeTable.h"
 
-// The sentences of the ultimate father: pieces that go around his name.
+// The sentences of the ultimate father, in pieces around his name.
 // Fixed wording; do not correct.
 
 namespace qismora {

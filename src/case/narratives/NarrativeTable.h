@@ -5,8 +5,8 @@
 
 namespace qismora {
 
-/// The fixed texts of a rule, each under the entry that says what it is. No other index fits, and rows that
-/// do not stand in the order of the entries do not compile. No rule shows an entry whose name is Unshown.
+/// The fixed texts of a rule, indexed by an enumeration that says what each text states. Rows that are not in
+/// the order of the enumeration do not compile. No rule shows an entry whose name begins with Unshown.
 template <class Entry, std::size_t Size>
 class NarrativeTable {
  public:

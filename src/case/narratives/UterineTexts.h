@@ -54,7 +54,7 @@ inline constexpr NarrativeTable<UterineSisterText, 9> UterineSisterTexts = {{
      "(1/6) i.e."},
 }};
 
-// Of the words "one third (1/6)" in the last entry the figure is right.
+// The last entry says "one third (1/6)"; the figure is right. Fixed wording; do not correct.
 enum class UterineBrotherText {
   LeftExcluders,
   Excluded,
