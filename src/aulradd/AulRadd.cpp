@@ -6,8 +6,8 @@
 #include "base/Text.h"
 #include "case/ResiduaryFlags.h"
 
-// Aul scales every sharer down where the shares exceed the estate; Radd scales them up where no residuary
-// takes the surplus, and the spouse keeps the plain share.
+// Aul reduces every share in proportion if the shares exceed the estate. Radd increases them in proportion if
+// no residuary takes the surplus; the spouse keeps the plain share.
 
 namespace qismora {
 
@@ -36,7 +36,7 @@ constexpr const char* residuaryMessages[] = {
     "Son's Son's son is Residuary (Asaba') with Son's daughter (SSS+SD).",
 };
 
-/// Whether a class I residuary is in the way; the user may ask who it is.
+/// Whether a class I residuary takes the residue, so that no doctrine applies. The user may ask who it is.
 bool AskAboutResiduary(const CaseRecord& c, CaseScreen& screen) {
   int i = SonsAlone;
   for (; i <= SonsDaughterWithLowerSonsSon; ++i) {
@@ -48,9 +48,8 @@ bool AskAboutResiduary(const CaseRecord& c, CaseScreen& screen) {
     if (answer == Answer::Yes) screen.System.Boxes.Inform(BoxStyle::Information, residuaryMessages[i]);
     return true;
   }
-  // The loop ends before the flag of the class II heirs, so nobody sees this text. It stays with its test as
-  // a part of the program's vocabulary: showing it would add a message to every surplus that goes to class
-  // II.
+  // The loop ends before the flag of class II, so this message is never shown. Showing it would add a message
+  // to every surplus that goes to class II. Fixed wording; do not correct.
   if (i == ClassIITicked) {
     screen.System.Boxes.Inform(
         BoxStyle::Information,
@@ -70,7 +69,8 @@ void ApplyDoctrine(CaseRecord& c, CaseScreen& screen) {
   if (!classified && AskAboutResiduary(c, screen)) return;
   if (c.TotalQShares == 0) return;
 
-  // Nothing reads the four excess products; their overflow ends the command before any text is built.
+  // Nothing reads the four excess values, but an overflow of theirs ends the command before any text is
+  // built.
   c.AulFactor = c.Residue / c.TotalQShares + 1.0;
   c.AulExcessNum = c.QSharesNum * c.ResidueNum - c.QSharesDen * c.ResidueNum;
   c.AulExcessDen = c.QSharesNum * c.ResidueNum;

@@ -5,9 +5,10 @@
 
 namespace qismora {
 
-/// The Aul/ Radd command: works on the state that the last sufficiency test left, rewrites the fractions and
-/// shows the adjusted distribution. No amount field changes. No failure leaves it. Aul rests on the agreement
-/// of the Companions under Umar; Radd on the doctrine of Ali and most Companions, who leave the spouse out.
+/// The Aul/ Radd command: applies the doctrine that the last sufficiency test has found, rewrites the
+/// fractions and shows the adjusted distribution. The amounts of the record do not change. No failure leaves
+/// it. Aul rests on the agreement of the Companions under Umar, Radd on the doctrine of Ali and most
+/// Companions, who exclude the spouse from it.
 void RunAulRadd(CaseRecord& c, CaseScreen& screen);
 
 }  // namespace qismora

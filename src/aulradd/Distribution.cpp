@@ -8,7 +8,7 @@ namespace qismora {
 
 namespace {
 
-/// How the line of an heir begins.
+/// The beginning of the line of an heir.
 struct HeirLine {
   HeirKind Heir;
   std::string_view Label;
@@ -43,8 +43,8 @@ void AddSummaryLine(CaseRecord& c, const HeirLine& line) {
   add(line.Label, c.*Heirs[line.Heir].Count);
 }
 
-/// The adjusted distribution shows no other ultimate father than the father, though a grandfather's amount is
-/// in the total.
+/// The adjusted distribution has no line for an ultimate father other than the father, though a grandfather's
+/// amount is in the total.
 void AddAdjustedLine(CaseRecord& c, const HeirLine& line, Double factor) {
   if (!IsAlive(c, line.Heir) || (line.Heir == FatherHeir && c.Father <= 0)) return;
   const auto add = [&](const auto&... head) {
@@ -56,15 +56,15 @@ void AddAdjustedLine(CaseRecord& c, const HeirLine& line, Double factor) {
   add(line.Label, c.*Heirs[line.Heir].Count);
 }
 
-/// Aul reduces the spouse with all others. Radd leaves the spouse the plain share and raises all others. With
-/// no residue the spouse has no line at all.
+/// Aul reduces the spouse's share like all others. Radd leaves it and increases all others. Without a residue
+/// the spouse has no line.
 void AddSpouseLines(CaseRecord& c) {
   if (c.Residue == 0) return;
   for (const HeirLine& line : spouseLines) AddAdjustedLine(c, line, c.Residue < 0 ? c.AulFactor : 1);
   if (c.Residue > 0) c.AulFactor = c.RaddFactor;
 }
 
-/// What follows the explanation in every distribution: the net estate and the lines of the sharers.
+/// The part after the explanation in every distribution: the net estate and the lines of the sharers.
 std::string SharersBlock(CaseRecord& c) {
   if (c.SharerLines.empty()) c.SharerLines = "NO Quranic Heir Found\r\n";
   return Join("Net Estate Wealth = ", F(c.NetEstate), "\r\n\r\nQURANIC SHARERS (Zawil-Farooz):\r\n",

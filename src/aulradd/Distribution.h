@@ -5,11 +5,11 @@
 
 namespace qismora {
 
-/// The plain distribution of the sharers, which the residuaries' lines follow; fills SummaryText.
+/// Writes the plain distribution of the sharers to SummaryText. The lines of the residuaries follow it.
 void BuildSharerSummary(CaseRecord& c, const CaseScreen& screen);
 
-/// The distributions after Aul, in SummaryText, and after Radd, in RaddText, with the factors and fractions
-/// as they stand. The adjusted amounts exist only in these texts.
+/// Writes the distribution after Aul to SummaryText and the one after Radd to RaddText, from the factors and
+/// fractions of the record. The adjusted amounts exist only in these texts.
 void BuildAulRaddTexts(CaseRecord& c, const CaseScreen& screen);
 
 }  // namespace qismora

@@ -12,7 +12,7 @@ Integer LargestEntry(const CaseRecord& c) {
   return largest;
 }
 
-/// Divides by the candidate all entries that it divides, if they are two or more.
+/// Divides all entries that the candidate divides by it, if there are two or more.
 bool StrikeOut(CaseRecord& c, int candidate) {
   const auto divisible = [&](int i) { return c.LcmDen(i).Value() % candidate == 0; };
   int count = 0;

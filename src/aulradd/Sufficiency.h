@@ -5,9 +5,10 @@
 
 namespace qismora {
 
-/// Whether the shares fit the estate: sums the amounts, computes the residue, and decides between no
-/// adjustment, Aul, Aul beside residuaries, Radd, and a surplus for a class II residuary. The decision is
-/// made on the amounts by exact comparison with zero, never on the fractions.
+/// Decides whether the shares fit the estate. It adds up the amounts, computes the residue, and chooses
+/// between no adjustment, Aul, Aul beside residuaries, Radd, and a surplus for a class II residuary. The
+/// amounts decide, by exact comparison with zero, never the fractions. Without a full report it shows a
+/// message about Aul or Radd.
 void SufficiencyTest(CaseRecord& c, CaseScreen& screen);
 
 }  // namespace qismora

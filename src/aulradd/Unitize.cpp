@@ -39,7 +39,7 @@ void Unitize(CaseRecord& c) {
   c.ResidueDen = ToInteger(c.LcmResult);
 }
 
-/// Every sharer over the sum of all units: Aul, and Radd without a spouse.
+/// The new denominator is the sum of all units: Aul, and Radd without a spouse.
 void PutOverUnitTotal(CaseRecord& c) {
   for (int k = 0; k < c.LcmCount; ++k) {
     const int heir = static_cast<int>(c.ActiveHeir(k).Value());
@@ -48,9 +48,9 @@ void PutOverUnitTotal(CaseRecord& c) {
   }
 }
 
-/// Radd beside a spouse, who is the first active heir and keeps the share: what he or she leaves is divided
-/// in proportion to the other shares. The spouse's scaled fraction is stored in the wife's slot even where it
-/// is a husband's; his own slot keeps the plain fraction.
+/// Radd beside a spouse, who is the first active heir and keeps the share. What the spouse leaves is divided
+/// in proportion to the other shares. The spouse's scaled fraction goes to the wife's slot, even if it is the
+/// husband's; his own slot keeps the plain fraction.
 void DivideBesideSpouse(CaseRecord& c) {
   c.LcmCount -= Integer(1);
   for (int i = 0; i < c.LcmCount; ++i) {

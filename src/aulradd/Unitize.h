@@ -5,13 +5,13 @@
 
 namespace qismora {
 
-/// Brings the fractions of all sharers to one denominator, which gives the fraction of their sum and of the
-/// residue. An overflow ends it silently, another failure with a message; what was stored by then stays, all
-/// else is that of the run before.
+/// Brings the fractions of all sharers to one denominator, and stores the fractions of their sum and of the
+/// residue. An overflow ends it silently, any other failure with a message. What it has not yet stored then
+/// keeps the values of the previous run.
 void UnitizeShares(CaseRecord& c, CaseScreen& screen);
 
-/// Rewrites the fractions of the sharers after Aul or Radd. Any failure ends it silently, with the fractions
-/// half rewritten.
+/// Rewrites the fractions of the sharers after Aul or Radd. Any failure ends it silently; the remaining
+/// fractions are not rewritten.
 void ReviseFractions(CaseRecord& c);
 
 }  // namespace qismora

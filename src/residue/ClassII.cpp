@@ -35,7 +35,7 @@ void NameClassIIHeir(CaseRecord& c) {
   for (int i = 0; i < c.ClassIIFlag.Size; ++i) {
     if (c.ClassIIFlag(i) <= 0) continue;
     const ClassIIRow& row = ClassIIRows[static_cast<std::size_t>(i)];
-    // The consanguine brother's son has his amount in the place of the full brother's son, so that the
+    // The amount of the consanguine brother's son is stored in the place of the full brother's son, so the
     // first figure of his sentence is 0.
     const int place = i == 1 ? 0 : i;
     c.ClassIIAmount(place) = ParseStrict(F(c.Residue));

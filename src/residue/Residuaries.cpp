@@ -33,7 +33,7 @@ void RunAllSharers(CaseRecord& c, CaseScreen& screen) {
 }
 
 void RunResiduaries(CaseRecord& c, CaseScreen& screen) {
-  // A full report has counted its load already.
+  // A full report loads the case twice and counts it once.
   if (c.ReportToFile) c.ExecCount -= Long(1);
   screen.Frame5.Visible = false;
   ShowLongText(screen, true);

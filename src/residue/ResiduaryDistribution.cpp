@@ -8,29 +8,29 @@
 #include "case/narratives/DistributionTexts.h"
 #include "residue/ClassII.h"
 
-// Who takes the residue is one long chain of tests: the first that holds writes the report and ends it, so
-// that exactly one class of residuaries is served. A positive residue beside a male descendant stays in the
-// first block; everybody else, and every other residue, goes through the second.
+// One long chain of tests decides who takes the residue. The first test that holds writes the report and ends
+// the chain, so exactly one class of residuaries takes. Beside a male descendant a positive residue goes
+// through the first block (GiveToDescendants), everything else through the second (GiveToOthers).
 //
-// Amounts are per head, though a line shows the group's count. In each step the amounts are stored first,
-// then the fractions are made, then the text is written: where an Integer overflow ends the command, what was
-// stored by then stands.
+// Amounts are per head, though a line shows the count of the group. Each step stores the amounts first, then
+// makes the fractions, then writes the text. If an Integer overflow ends the command, what is stored by then
+// stays.
 
 namespace qismora {
 
 namespace {
 
-/// One part of the residue's fraction, when it is divided into units.
+/// The fraction of one unit, if the residue is divided into this many units.
 Fraction UnitFraction(const CaseRecord& c, Integer units) { return {c.ResidueNum, units * c.ResidueDen}; }
 
-/// Two such parts: a male counts two units.
+/// The fraction of two units, which a male takes.
 Fraction DoubleFraction(const CaseRecord& c, Integer units) {
   return {2 * c.ResidueNum, units * c.ResidueDen};
 }
 
 Double TwiceResidue(const CaseRecord& c) { return c.Residue + c.Residue; }
 
-/// The residue's own fraction, undivided.
+/// The fraction of the whole residue.
 Fraction ResidueFraction(const CaseRecord& c) { return {c.ResidueNum, c.ResidueDen}; }
 
 /// A line of the report: label and count, the amount of one head, the fraction.
@@ -42,7 +42,7 @@ std::string FatherLine(const CaseRecord& c) {
   return Join("FATHER(", c.Father, "/", c.GrandFather, "/", c.GtGrandFather, ") = ", F(c.FatherResidue));
 }
 
-/// The sharers' distribution and, behind it, what the residuaries take.
+/// The distribution of the sharers, followed by what the residuaries take.
 template <class... Pieces>
 void WriteReport(CaseRecord& c, const Pieces&... pieces) {
   Write(c.ResiduaryReport, c.SummaryText, pieces...);
@@ -59,20 +59,20 @@ void GiveToOneKind(CaseRecord& c, const char* label, Integer heads, Double CaseR
 
 // --- Descendants -------------------------------------------------------------------------------------------
 
-/// Stores the amounts of a son of the serving line and of the daughter beside him.
-void DivideBetween(CaseRecord& c, Integer units) {
+/// Stores the amounts of one male descendant and of one female beside him.
+void StoreSonAndDaughter(CaseRecord& c, Integer units) {
   c.SonAmount = TwiceResidue(c) / units;
   c.DaughterResidue = c.Residue / units;
 }
 
 void GiveToSonsAndDaughters(CaseRecord& c) {
   const Integer units = 2 * c.Sons + c.Daughters;
-  DivideBetween(c, units);
+  StoreSonAndDaughter(c, units);
   WriteReport(c, Line("SONS (", c.Sons, c.SonAmount, DoubleFraction(c, units)), CRLF,
               Line("DAUGHTERS (", c.Daughters, c.DaughterResidue, UnitFraction(c, units)), twoLineBreaks);
 }
 
-/// Sons of one line alone; the flag says that they took the residue.
+/// Males of one generation alone; the flag says that they took the residue.
 void GiveToMalesAlone(CaseRecord& c, const char* label, Integer males, ResiduaryFlag flag) {
   GiveToOneKind(c, label, males, &CaseRecord::SonAmount, twoLineBreaks);
   c.Res(flag) = true;
@@ -80,20 +80,20 @@ void GiveToMalesAlone(CaseRecord& c, const char* label, Integer males, Residuary
 
 void GiveToSonsSonsAndSonsDaughters(CaseRecord& c) {
   const Integer units = 2 * c.AsabaGrandSons + c.GrandDaughters;
-  DivideBetween(c, units);
+  StoreSonAndDaughter(c, units);
   WriteReport(c, Line("Son's son(", c.GrandSons, c.SonAmount, DoubleFraction(c, units)), CRLF,
               Line("Son's Daughter (", c.GrandDaughters, c.DaughterResidue, UnitFraction(c, units)),
               twoLineBreaks);
 }
 
-void GiveToLowerSonsAndSonsDaughters(CaseRecord& c) {
+void GiveToLowerSonsSonsAndSonsDaughters(CaseRecord& c) {
   const Integer units = 2 * c.AsabaGtGrandSons + c.GrandDaughters;
-  DivideBetween(c, units);
+  StoreSonAndDaughter(c, units);
   WriteReport(c, Line("Son's Daughter (", c.GrandDaughters, c.DaughterResidue, UnitFraction(c, units)), CRLF,
               Line("Son's Son's son(", c.GtGrandSons, c.SonAmount, DoubleFraction(c, units)), twoLineBreaks);
 }
 
-void GiveToLowestLine(CaseRecord& c) {
+void GiveToGreatGrandChildren(CaseRecord& c) {
   const Integer units = 2 * c.GtGrandSons + c.GtGrandDaughters;
   c.SonAmount = TwiceResidue(c) / units;
   const Fraction son = DoubleFraction(c, units);
@@ -102,16 +102,17 @@ void GiveToLowestLine(CaseRecord& c) {
               Line("Son_son daughter(", c.GtGrandDaughters, c.SonAmount / 2, daughter), CRLF);
 }
 
-/// A male descendant takes a positive residue, the nearest line first, each line's female partner beside him.
+/// Male descendants take a positive residue, the nearest generation first, together with the females whom
+/// they make residuaries (Quran 4:11).
 void GiveToDescendants(CaseRecord& c) {
   if (c.Res(SonsWithDaughters)) return GiveToSonsAndDaughters(c);
   if (c.Sons > 0) return GiveToMalesAlone(c, "SON(", c.Sons, SonsAlone);
   if (c.Res(SonsDaughterWithSonsSonBesideDaughters) || c.Res(SonsDaughterWithSonsSon)) {
     return GiveToSonsSonsAndSonsDaughters(c);
   }
-  if (c.Res(SonsDaughterWithLowerSonsSon)) return GiveToLowerSonsAndSonsDaughters(c);
+  if (c.Res(SonsDaughterWithLowerSonsSon)) return GiveToLowerSonsSonsAndSonsDaughters(c);
   if (c.GrandSons > 0) return GiveToMalesAlone(c, "SON'S SON(", c.GrandSons, SonsSonsAlone);
-  if (c.Res(SonsSonsDaughterWithSonsSonsSon)) return GiveToLowestLine(c);
+  if (c.Res(SonsSonsDaughterWithSonsSonsSon)) return GiveToGreatGrandChildren(c);
   if (c.Res(SonsSonsDaughterBesideSonsDaughter)) return;
   if (c.GtGrandSons > 0) return GiveToMalesAlone(c, "Son's son's son(", c.GtGrandSons, SonsSonsSonsAlone);
 }
@@ -123,8 +124,8 @@ void GiveToFather(CaseRecord& c) {
   WriteReport(c, FatherLine(c), " ", ResidueFraction(c), twoLineBreaks);
 }
 
-/// The father as sharer and residuary. His total is right only where the residue stands over the common
-/// denominator: its numerator is added as it stands.
+/// The father as sharer and residuary. His total fraction is right only if the residue has the common
+/// denominator already: its numerator is added without scaling.
 void GiveToFatherBesideHisSixth(CaseRecord& c) {
   c.FatherResidue = c.Residue;
   if (c.AulRaddState == AulBesideResiduary) return;
@@ -150,8 +151,8 @@ void GiveToEqualSonsSons(CaseRecord& c) {
               Line("Equal Son's Son (", c.AsabaGrandSons, c.EqualSonsSonResidue, son), twoLineBreaks);
 }
 
-/// The son's daughters beside son's sons, or else beside lower ones. The fraction of the lower son's son is
-/// made with the count of the equal ones, though that is zero here.
+/// The son's daughters beside son's sons, or else beside son's son's sons. The fraction of the latter is made
+/// with the count of the son's sons, though that is zero here.
 void GiveToSonsDaughters(CaseRecord& c) {
   if (c.AsabaGrandSons > 0) return GiveToEqualSonsSons(c);
   if (c.AsabaGtGrandSons == 0) return;
@@ -236,7 +237,7 @@ void GiveToClassII(CaseRecord& c) {
 }
 
 /// The ultimate father, the son's daughters, the full and then the consanguine brothers and sisters, class
-/// II, nobody. No test looks at the residue. A flag whose counts do not hold lets the chain go on.
+/// II, nobody. No test looks at the residue. If the counts contradict a flag, the chain continues.
 void GiveToOthers(CaseRecord& c) {
   if (c.Res(FatherAsResiduary)) return GiveToFather(c);
   if (c.Res(FatherAsSharerAndResiduary)) return GiveToFatherBesideHisSixth(c);
