@@ -15,7 +15,8 @@ Fraction TwoToOne(const Heirs& heirs, KindSet takers, const Fraction& share, Kin
   return share * Fraction(PartsOfHead(takers, kind), Parts(heirs, takers));
 }
 
-/// A full brother leaves the consanguine siblings nothing, and they are then no takers. Rule of Zayd.
+/// Beside a full brother the consanguine siblings are excluded, so they are not among the takers. Rule of
+/// Zayd.
 Fraction FullSiblingsFirst(const Heirs& heirs, const Allotment& allotment, Kind kind) {
   const KindSet full = allotment.Takers & FullSiblings;
   const KindSet consanguine = allotment.Takers & ConsanguineSiblings;

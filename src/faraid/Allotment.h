@@ -8,7 +8,7 @@
 
 namespace faraid {
 
-/// As what an heir takes.
+/// As what an heir takes, or why an heir takes nothing.
 enum class Standing : std::uint8_t {
   Sharer,
   Residuary,
@@ -21,12 +21,13 @@ enum class Standing : std::uint8_t {
 
 /// How those who take a share together divide it.
 enum class Manner : std::uint8_t {
-  /// All heads alike.
+  /// Every head the same.
   Alike,
-  /// Men two parts, women one, where both take.
+  /// Men two parts and women one, if both take.
   TwoToOne,
-  /// Siblings beside a grandfather: full sisters up to 1/2 or 2/3 of the whole first, then the consanguine
-  /// siblings; within each two to one.
+  /// Siblings beside a grandfather: first the full sisters, up to 1/2 or 2/3 of the whole, then the
+  /// consanguine
+  /// siblings; two to one within each.
   FullSiblingsFirst,
 };
 
@@ -48,14 +49,14 @@ inline constexpr Fraction Quarter{1, 4};
 inline constexpr Fraction Sixth{1, 6};
 inline constexpr Fraction Eighth{1, 8};
 
-/// What the allotments come to together.
+/// The sum of the allotments.
 Fraction Total(const Allotments& allotments);
 
-/// The parts of the takers: men two and women one where both take, else the heads.
+/// The number of parts of the takers: two for a man and one for a woman if both take, else one per head.
 int Parts(const Survivors& survivors, KindSet takers);
 
-/// What full sisters beside a grandfather take of the whole at most before consanguine siblings: the share
-/// that they would have had without him. Rule of Zayd.
+/// The most that full sisters beside a grandfather take of the whole before consanguine siblings: the share
+/// that they would have without him. Rule of Zayd.
 Fraction MostOfFullSisters(const Survivors& survivors);
 
 /// What one head of a kind among the takers receives of an allotment.

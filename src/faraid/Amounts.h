@@ -17,9 +17,9 @@ struct Amount {
 
 using Amounts = List<Amount, KindCount + 1>;
 
-/// Divides a net estate that is not negative, by largest remainder: each head's amount is rounded down, and
-/// the hundredths that are left go one each to the heads that lost most, of equals to the first in the order
-/// of the lines. The amounts, one for each line, sum to the net estate.
+/// Divides a net estate, which is not negative, by the largest remainder method: each head's amount is
+/// rounded down, and the remaining hundredths go one each to the heads that lost most (of equal ones, to the
+/// first lines). The amounts, one for each line, add up to the net estate.
 Amounts AmountsOf(const Division& division, Hundredths net);
 
 }  // namespace faraid

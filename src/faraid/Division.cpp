@@ -14,7 +14,7 @@ namespace faraid {
 
 namespace {
 
-/// Shares as they are given, and who divides what they leave.
+/// The shares before Awl and Radd, and who divides what they leave.
 struct Claims {
   Allotments Shares;
   Allotment Residue{};
@@ -32,8 +32,8 @@ Claims ClaimsOf(const Heirs& heirs) {
   return claims;
 }
 
-/// What siblings beside a grandfather take together counts as one share, as do those of the grandmothers and
-/// of the uterine siblings: each is one allotment.
+/// The base (asl). Heirs who take a share together, such as the grandmothers or the uterine siblings, count
+/// as one allotment.
 std::int64_t BaseOf(const Heirs& heirs, const Claims& claims) {
   if (claims.Shares.IsEmpty()) return Parts(heirs, claims.Residue.Takers);
   std::int64_t base = 1;
@@ -41,7 +41,7 @@ std::int64_t BaseOf(const Heirs& heirs, const Claims& claims) {
   return base;
 }
 
-/// The reason of one kind that takes of an allotment.
+/// The reason of one of the kinds that take an allotment.
 Reason WhyOf(const Heirs& heirs, const Allotment& allotment, Kind kind) {
   if (allotment.Why.Code != ReasonCode::Open) return allotment.Why;
   return allotment.Divided == Manner::FullSiblingsFirst ? WhyBesideGrandfather(heirs, allotment, kind)
@@ -54,7 +54,8 @@ Reason WhyNothingIsLeft(const Allotment& allotment) {
           .Ground = besideGrandfather ? allotment.Why.Ground : Source::ReportOfIbnAbbas};
 }
 
-/// Female lines and consanguine sisters whose share others have used up and whom no man makes residuary.
+/// Female descendants and consanguine sisters whose two thirds others have taken, and whom no man makes
+/// residuary.
 Reason WhyTwoThirdsAreTaken(Kind kind) {
   return {.Code = ReasonCode::TwoThirdsAreTaken,
           .Ground = FemaleDescendants.Has(kind) ? Source::Quran4_11 : Source::Quran4_176};

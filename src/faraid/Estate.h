@@ -10,7 +10,7 @@ using Hundredths = std::int64_t;
 /// The largest amount that an estate may name: 999,999,999,999,999.99.
 inline constexpr Hundredths MostHundredths = 99'999'999'999'999'999;
 
-/// What the deceased left and what is paid before the heirs; no amount is below 0 or above the most.
+/// What the deceased left and what is paid before the heirs. Amounts are from 0 to MostHundredths.
 struct Estate {
   Hundredths Gross = 0;
   Hundredths Funeral = 0;
@@ -23,9 +23,9 @@ struct Estate {
 /// What is left to the heirs.
 struct Settlement {
   Hundredths Net = 0;
-  /// What expenses and debts lack; then nothing is divided.
+  /// By how much funeral expenses and debts exceed the estate; then nothing is divided.
   Hundredths Shortfall = 0;
-  /// What the bequests may take at most.
+  /// The most that the bequests may take.
   Hundredths BequestLimit = 0;
   /// What they take.
   Hundredths Bequests = 0;

@@ -17,8 +17,8 @@ bool FathersMotherExcludesMothersSide(const Survivors& s) {
 
 bool GrandfatherExcludesSiblings(const Survivors& s) { return !s.Law.GrandfatherSharesWithSiblings; }
 
-/// A sister beside a brother of her own kind is residuary through him: then he excludes, not she. Beside a
-/// grandfather who shares with them she excludes nobody.
+/// A sister beside a brother of her own kind is residuary through him; then he excludes others, not she.
+/// Beside a grandfather who shares with siblings she excludes nobody.
 bool FullSisterIsResiduary(const Survivors& s) {
   return s.Has(FemaleDescendants) && !s.Has(FullBrothers) && !GrandfatherShares(s);
 }
@@ -33,8 +33,8 @@ struct Row {
   Source Ground;
 };
 
-// For each kind the first row that fits names who excludes; within a row it is the first in the order of
-// kinds.
+// For each kind, the first row that applies names who excludes it. If several of a row are alive, it is the
+// first in the order of the kinds.
 constexpr Row table[] = {
     {SonsSons | SonsDaughters, Sons, InEverySchool, Source::Consensus},
     {SonsSonsSons | SonsSonsDaughters, Sons | SonsSons, InEverySchool, Source::Consensus},
@@ -60,7 +60,7 @@ constexpr Row table[] = {
     {ClassII, FullSisters, FullSisterIsResiduary, Source::ReportOfIbnMasud},
     {ClassII, ConsanguineSisters, ConsanguineSisterIsResiduary, Source::ReportOfIbnMasud},
     {ClassII, ConsanguineBrothers, InEverySchool, Source::ReportOfIbnAbbas},
-    // Each by those before it in the order of succession.
+    // Each is excluded by the first in the order of succession.
     {ClassII, ClassII, InEverySchool, Source::ReportOfIbnAbbas},
 };
 

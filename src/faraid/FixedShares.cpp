@@ -10,8 +10,8 @@ using enum Source;
 
 bool BesideSharingGrandfather(const Heirs& h) { return GrandfatherShares(h); }
 
-/// Husband, mother or grandmother and two uterine siblings leave the full siblings nothing, and a full
-/// brother is among these. Second ruling of Umar.
+/// The husband, the mother or a grandmother, and two uterine siblings leave nothing to the full siblings,
+/// among whom is a brother. They then share the third of the uterine siblings (second ruling of Umar).
 bool IsMushtaraka(const Heirs& h) {
   return h.Law.FullSiblingsShareUterineThird && h.Has(Husband) && h.Entitled.HasAny(Mother | Grandmothers) &&
          h.Entitled.Has(FullBrothers) && h.CountEntitled(UterineSiblings) >= 2;
@@ -31,8 +31,8 @@ constexpr Fraction noShare;
 constexpr Fraction thirdOfWhatHusbandLeaves = Third * (1 - Half);
 constexpr Fraction thirdOfWhatWivesLeave = Third * (1 - Quarter);
 
-// For each heir the first row that fits decides. Several kinds in one row take its share together. No share:
-// a residuary, or one whose two thirds are taken.
+// For each heir the first row that applies decides. Several kinds in one row take its share together. An heir
+// with noShare is a residuary, or one whose two thirds others have taken.
 constexpr Row table[] = {
     {Husband, Quarter, Beside<Descendants>, BecauseOfDescendants, Descendants, Quran4_12},
     {Husband, Half, Always, WithoutDescendants, Nobody, Quran4_12},
@@ -89,7 +89,7 @@ constexpr Row table[] = {
     {UterineSiblings, Third, Always, UterineTogether, Nobody, Quran4_12},
 };
 
-/// The first of those whom the reason may name that is alive, or else the first.
+/// The heir whom the reason names: the first one alive of those it may name, or else the first.
 Kind Named(const Heirs& heirs, KindSet named) {
   if (named.IsEmpty()) return Remainder;
   const KindSet alive = named & heirs.Alive;

@@ -4,8 +4,9 @@
 
 namespace faraid {
 
-/// The fixed shares (furud) of those who inherit, al-Umariyyatan and al-Mushtaraka among them. A grandfather
-/// who shares with siblings and these siblings are left out.
+/// The fixed shares (furud) of those who inherit, including al-Umariyyatan and al-Mushtaraka, but not those
+/// of a grandfather who shares with siblings, nor of these siblings. The table in the source file names the
+/// source of each row.
 Allotments FixedShares(const Heirs& heirs);
 
 }  // namespace faraid

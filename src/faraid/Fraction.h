@@ -39,7 +39,7 @@ class Fraction {
   friend constexpr Fraction operator-(const Fraction& a, const Fraction& b) {
     return a + Fraction(-b.num_, b.den_);
   }
-  /// Reduced crosswise before it is multiplied, so that no figure is larger than it must be.
+  /// Reduced crosswise before the multiplication, so that it overflows as late as possible.
   friend constexpr Fraction operator*(const Fraction& a, const Fraction& b) {
     const std::int64_t first = std::gcd(a.num_, b.den_);
     const std::int64_t second = std::gcd(b.num_, a.den_);
@@ -48,7 +48,7 @@ class Fraction {
     product.den_ = Product(a.den_ / second, b.den_ / first);
     return product;
   }
-  /// A divisor that is not above 0 throws std::domain_error: no share is divided by less.
+  /// A divisor that is not above 0 throws std::domain_error.
   friend constexpr Fraction operator/(const Fraction& a, const Fraction& b) {
     return a * Fraction(b.den_, b.num_);
   }
@@ -56,7 +56,7 @@ class Fraction {
  private:
   [[noreturn]] static void Overflow() { throw std::overflow_error("a fraction does not fit 64 bits"); }
 
-  // The lowest number has no counterpart above zero, so it is none of ours.
+  // The lowest 64-bit number has no positive counterpart, so it is not allowed.
   static constexpr std::int64_t Fitting(std::int64_t number) {
     if (number == std::numeric_limits<std::int64_t>::min()) Overflow();
     return number;

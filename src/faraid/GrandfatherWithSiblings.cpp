@@ -15,9 +15,9 @@ bool IsAkdariyya(const Heirs& h) {
          h.Has(FullSisters | ConsanguineSisters) && !h.Has(Descendants);
 }
 
-/// Without the grandfather two uterine siblings would have a third and these siblings, as residuaries,
-/// nothing; so he who excludes the uterine siblings takes that third. A full sister without a brother would
-/// have had a fixed share. Ruling of Malik.
+/// Without the grandfather, two uterine siblings would have a third and these siblings, as residuaries,
+/// nothing. He excludes the uterine siblings, so he takes that third (ruling of Malik). A full sister without
+/// a brother would have a fixed share, so it does not apply to her.
 bool IsMalikiyya(const Heirs& h) {
   const bool onlyResiduaries = h.Has(FullBrothers) || (h.Has(ConsanguineBrothers) && !h.Has(FullSisters));
   return h.Law.GrandfatherTakesForSiblings && h.Has(Husband) && h.Entitled.HasAny(Mother | Grandmothers) &&
@@ -31,8 +31,8 @@ struct Choice {
   ReasonCode Why;
 };
 
-/// The best of sharing the remainder as a brother, and of what is his in any case: beside other sharers a
-/// third of the remainder or a sixth of the whole, else a third of the whole. Of equal ones the first.
+/// The largest of these: sharing the remainder as a brother, a third of the remainder, a sixth of the whole.
+/// Of equal ones the first. Without other sharers the third of the remainder is a third of the whole.
 Choice BestBesideSiblings(const Fraction& asBrother, bool besideSharers, const Fraction& remainder) {
   Choice best = {asBrother, Standing::Residuary, ReasonCode::SharesAsBrother};
   const Choice others[] = {
@@ -46,15 +46,15 @@ Choice BestBesideSiblings(const Fraction& asBrother, bool besideSharers, const F
   return best;
 }
 
-/// All siblings by the father are counted together against him (mu'adda), also consanguine ones who then take
-/// nothing: men two parts, women one.
+/// His part if he shares as a brother. All full and consanguine siblings count against him, including
+/// consanguine ones who then take nothing (mu'adda): men two parts, women one.
 Fraction PartAsBrother(const Heirs& h, KindSet grandfather, const Fraction& remainder) {
   const Allotment shared = {
       .Takers = grandfather | (h.Alive & SiblingsByFather), .Share = remainder, .Divided = Manner::TwoToOne};
   return SharePerHead(h, shared, grandfather.First());
 }
 
-/// What the grandfather takes where it is not al-Akdariyya; the first that fits.
+/// What the grandfather takes outside al-Akdariyya. The first condition that holds decides.
 Choice ShareOfGrandfather(const Heirs& h, KindSet grandfather, bool besideSharers,
                           const Fraction& remainder) {
   if (IsMalikiyya(h)) return {remainder, Standing::Residuary, ReasonCode::Malikiyya};

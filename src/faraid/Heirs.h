@@ -5,7 +5,7 @@
 
 namespace faraid {
 
-/// Who survives the deceased, before one school. The conditions of the law are asked of it by their names.
+/// Who survives the deceased, and the law of the school that divides. The tables ask it for their conditions.
 struct Survivors {
   Survivors(const Family& family, const SchoolLaw& law) : Counts(family), Law(law), Alive(family.Alive()) {}
 
@@ -16,12 +16,12 @@ struct Survivors {
   bool Has(KindSet kinds) const { return Alive.HasAny(kinds); }
   int Count(KindSet kinds) const {
     int count = 0;
-    for (const Kind kind : kinds& Alive) count += Counts[kind];
+    for (const Kind kind : Alive& kinds) count += Counts[kind];
     return count;
   }
 };
 
-/// The survivors and those of them who inherit or may inherit: heirs in this school whom nobody excludes.
+/// The survivors, and those of them who are entitled: heirs in this school whom nobody excludes.
 struct Heirs : Survivors {
   Heirs(const Survivors& survivors, KindSet entitled) : Survivors(survivors), Entitled(entitled) {}
 
@@ -30,14 +30,14 @@ struct Heirs : Survivors {
   int CountEntitled(KindSet kinds) const { return Count(kinds & Entitled); }
 };
 
-/// The nearest grandfather stands beside siblings by the father and shares with them: there is neither father
-/// nor male descendant. Rule of Zayd.
+/// Whether a grandfather shares with full or consanguine siblings: there is neither a father nor a male
+/// descendant (rule of Zayd).
 inline bool GrandfatherShares(const Survivors& s) {
   return s.Law.GrandfatherSharesWithSiblings && s.Has(Grandfathers) && s.Has(SiblingsByFather) &&
          !s.Has(MaleDescendants | Kind::Father);
 }
 
-// Conditions of the tables of the law.
+// Conditions for the rows of the tables.
 
 using Condition = bool (*)(const Heirs&);
 
@@ -61,7 +61,7 @@ bool One(const Heirs& h) {
   return h.CountEntitled(Kinds) == 1;
 }
 
-/// Two or more heads survive, though they be excluded.
+/// Two or more heads survive, even if they are excluded.
 template <KindSet Kinds>
 bool TwoOrMore(const Heirs& h) {
   return h.Count(Kinds) >= 2;

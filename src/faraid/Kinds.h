@@ -6,9 +6,9 @@
 
 namespace faraid {
 
-/// The kinds of heir, in the order in which a division lists them. Grandchildren are the children of sons,
-/// and so on downwards. A grandfather is the father's father, a great-grandfather the father's father's
-/// father.
+/// The kinds of heir, in the order in which a division lists them. Grandchildren are the children of sons
+/// only, and great-grandchildren those of son's sons. A grandfather is the father's father, a
+/// great-grandfather the father's father's father.
 enum class Kind : std::uint8_t {
   Wives,
   Husband,
@@ -46,11 +46,11 @@ enum class Kind : std::uint8_t {
   ConsanguineUnclesSonsSon,
   FullUnclesSonsSonsSon,
   ConsanguineUnclesSonsSonsSon,
-  /// No heir: what none of the heirs takes.
+  /// Not an heir: what none of the heirs takes.
   Remainder,
 };
 
-/// How many kinds of heir there are; the remainder is none.
+/// How many kinds of heir there are, without the remainder.
 inline constexpr std::size_t KindCount = static_cast<std::size_t>(Kind::Remainder);
 
 /// A set of kinds. Its order is that of the kinds.

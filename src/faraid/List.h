@@ -5,7 +5,7 @@
 
 namespace faraid {
 
-/// A short list without memory of its own. Adding beyond the most throws std::out_of_range.
+/// A list of limited size that allocates no memory. Adding beyond the limit throws std::out_of_range.
 template <class Item, std::size_t Most>
 class List {
  public:

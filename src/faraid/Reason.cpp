@@ -7,7 +7,7 @@ namespace faraid {
 
 namespace {
 
-/// An heir in a sentence.
+/// The name of an heir in a sentence.
 struct Name {
   std::string_view Article;
   std::string_view Noun;

@@ -9,7 +9,7 @@
 
 namespace faraid {
 
-/// What a decision rests on.
+/// The source of law on which a decision rests.
 enum class Source : std::uint8_t {
   None,
   Quran4_11,
@@ -34,7 +34,7 @@ enum class Source : std::uint8_t {
 
 /// Why an heir receives what he or she receives. English() has the sentence of each.
 enum class ReasonCode : std::uint8_t {
-  /// Takers of one share have different reasons: decided for each kind.
+  /// Decided later for each kind, because the takers of one allotment have different reasons.
   Open,
   // Fixed shares
   BecauseOfDescendants,
@@ -83,25 +83,26 @@ enum class ReasonCode : std::uint8_t {
 /// What happened to a fixed share after it was given.
 enum class Change : std::uint8_t { None, Awl, Radd };
 
-/// What a father or grandfather who is both sharer and residuary finds beyond his sixth.
+/// What is left for a father or grandfather who is sharer and residuary, beyond his sixth.
 enum class Beyond : std::uint8_t { NoResiduary, TheResidue, Nothing };
 
-/// A ratio as it is written: 3/27 stays 3/27.
+/// A ratio that is not reduced: 3/27 stays 3/27.
 struct Ratio {
   std::int64_t Num = 0;
   std::int64_t Den = 1;
   constexpr bool operator==(const Ratio&) const = default;
 };
 
-/// The reason of one line of a division as data, for any language.
+/// The reason of one row of a division, as data for any language.
 struct Reason {
   ReasonCode Code = ReasonCode::Open;
   Source Ground = Source::None;
-  /// The heir whom the sentence names: who excludes, who stands beside.
+  /// The heir whom the sentence names, such as the one who excludes.
   Kind Named = Kind::Remainder;
   Beyond Sixth = Beyond::NoResiduary;
   Change Changed = Change::None;
-  /// The share that the sentence names, before Awl and Radd; of all kinds together who take it together.
+  /// The share that the sentence names, before Awl and Radd. If several kinds take it together, it is that of
+  /// all.
   Fraction Share{};
   /// The share after Awl, over the raised base, or after Radd, reduced.
   Ratio After{};
@@ -109,9 +110,9 @@ struct Reason {
   constexpr bool operator==(const Reason&) const = default;
 };
 
-/// The pattern of a sentence, in which these stand for what the reason holds: {share} the share, {left} "what
-/// is left" or "the whole", {a heir} the heir who is named with an article, {heir} the same without one, and
-/// {descendants} "children" or "children of sons".
+/// The pattern of a sentence with these placeholders: {share} is the share, {left} "what is left" or "the
+/// whole", {a heir} the named heir with an article, {heir} the same without one, {descendants} "children" or
+/// "children of sons".
 std::string_view Pattern(ReasonCode code);
 
 /// The source in words: "Quran 4:12".

@@ -13,12 +13,12 @@ struct Row {
   Source Ground;
 };
 
-// The first row of which anyone inherits takes all that is left: its men, if it names any, and with them its
-// women who have no fixed share; or its women alone.
+// The first row that applies takes all that is left. A row that names men needs one of them; its women
+// without a fixed share take with him. In a row without men the women take alone.
 constexpr Row table[] = {
     {Sons, Daughters, Always, Source::Quran4_11},
     {SonsSons, SonsDaughters, Always, Source::Quran4_11},
-    // He also takes along the sons' daughters above him, where they would otherwise have nothing.
+    // He also makes son's daughters above him residuaries, if they would otherwise have nothing.
     {SonsSonsSons, SonsDaughters | SonsSonsDaughters, Always, Source::Quran4_11},
     {Father, Nobody, Always, Source::Quran4_11},
     {Grandfathers, Nobody, Always, Source::Consensus},

@@ -10,28 +10,28 @@ namespace faraid {
 
 enum class School : std::uint8_t { Hanafi, Maliki, Shafii, Hanbali };
 
-/// The points in which the schools differ. All else is common to the four.
+/// The points in which the schools differ. Everything else is common to the four.
 struct SchoolLaw {
   School Name;
   /// Rule of Zayd: a grandfather shares with full and consanguine siblings. Otherwise he excludes them, as
   /// Abu Bakr ruled.
   bool GrandfatherSharesWithSiblings;
-  /// Al-Malikiyya: he takes what siblings would not have had without him.
+  /// Al-Malikiyya: a grandfather takes what the siblings would not have had without him.
   bool GrandfatherTakesForSiblings;
-  /// Al-Mushtaraka, second ruling of Umar: full siblings share the third of the uterine ones.
+  /// Al-Mushtaraka (second ruling of Umar): full siblings share the third of the uterine siblings.
   bool FullSiblingsShareUterineThird;
-  /// Grandmothers who are no heirs.
+  /// Grandmothers who are not heirs.
   KindSet NotHeirs;
   /// Father and grandfather exclude the grandmothers who are related through them.
   bool FathersExcludeGrandmothers;
-  /// The father's mother excludes the mother's mother's mother, and does so though the father excludes her.
+  /// The father's mother excludes the mother's mother's mother; the second: even if the father excludes her.
   bool NearerOfFathersSideExcludes;
   bool ExcludedNearerExcludes;
-  /// Where the remainder goes beside a spouse alone.
+  /// Where the remainder goes if the spouse is the only heir.
   ReasonCode RemainderBesideSpouse;
 };
 
-/// The table of differences, one row a school.
+/// The table of differences, one row for each school.
 inline constexpr std::array<SchoolLaw, 4> SchoolLaws = {{
     {.Name = School::Hanafi,
      .GrandfatherSharesWithSiblings = false,
@@ -60,7 +60,7 @@ inline constexpr std::array<SchoolLaw, 4> SchoolLaws = {{
      .NearerOfFathersSideExcludes = false,
      .ExcludedNearerExcludes = false,
      .RemainderBesideSpouse = ReasonCode::KindredThenTreasury},
-    // Here no father excludes a grandmother, so that an excluded nearer one does not arise.
+    // Here no father excludes a grandmother, so ExcludedNearerExcludes has no effect.
     {.Name = School::Hanbali,
      .GrandfatherSharesWithSiblings = true,
      .GrandfatherTakesForSiblings = false,
