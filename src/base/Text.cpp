@@ -88,6 +88,21 @@ std::string TwoDigits(int number) {
   return digits;
 }
 
+bool AreDigits(std::string_view text) {
+  return !text.empty() && text.find_first_not_of("0123456789") == std::string_view::npos;
+}
+
+std::string_view Trimmed(std::string_view text, std::string_view blanks) {
+  const std::size_t first = text.find_first_not_of(blanks);
+  if (first == std::string_view::npos) return {};
+  return text.substr(first, text.find_last_not_of(blanks) - first + 1);
+}
+
+void AppendHex(std::string& text, unsigned char byte) {
+  constexpr std::string_view digits = "0123456789abcdef";
+  text.append({digits[byte >> 4], digits[byte & 15]});
+}
+
 namespace {
 
 // Characters whose other case is more than one character; all others change one by one.

@@ -69,6 +69,15 @@ std::string GeneralNumber(Double value);
 /// A number of at least two digits: 7 gives "07".
 std::string TwoDigits(int number);
 
+/// Whether the text consists of the digits 0 to 9 alone, and of at least one.
+bool AreDigits(std::string_view text);
+
+/// The text without the given blanks at its start and its end.
+std::string_view Trimmed(std::string_view text, std::string_view blanks);
+
+/// Appends a byte as two hexadecimal digits.
+void AppendHex(std::string& text, unsigned char byte);
+
 /// The text in upper or lower case, by the rules of Unicode.
 std::string UpperCase(std::string_view text);
 std::string LowerCase(std::string_view text);

@@ -20,6 +20,8 @@ inline constexpr int FuneralField = 26;
 inline constexpr int DebtsField = 27;
 inline constexpr int WillsField = 28;
 inline constexpr int NetEstateField = 29;
+/// The fields of the estate that the user types.
+inline constexpr std::array EstateFieldIndexes = {GrossEstateField, FuneralField, DebtsField, WillsField};
 
 inline constexpr int Male = 0;
 inline constexpr int Female = 1;

@@ -3,14 +3,11 @@
 #include <array>
 #include <charconv>
 
-#include "screens/HeirFields.h"
-
 namespace qismora::divide {
 
 namespace {
 
 using faraid::School;
-using faraid::Standing;
 
 constexpr std::array<std::string_view, 4> words = {"hanafi", "maliki", "shafii", "hanbali"};
 constexpr std::array<std::string_view, 4> names = {"Hanafi", "Maliki", "Shafi'i", "Hanbali"};
@@ -35,26 +32,6 @@ const AnswerFormat& FormatOf(const Options& options) {
       break;
   }
   return TableFormat;
-}
-
-void AppendStanding(std::string& text, const faraid::Row& row) {
-  if (row.Heir == faraid::Kind::Remainder) return Append(text, "remainder");
-  switch (row.As) {
-    case Standing::Sharer:
-      return Append(text, "sharer");
-    case Standing::Residuary:
-      return Append(text, "residuary");
-    case Standing::SharerAndResiduary:
-      return Append(text, "sharer and residuary");
-    case Standing::Excluded:
-      return Append(text, "excluded by ", CaptionOf(row.Excluder));
-    case Standing::TwoThirdsTaken:
-      return Append(text, "two thirds are taken");
-    case Standing::NotAnHeir:
-      return Append(text, "not an heir in this school");
-    case Standing::NothingLeft:
-      return Append(text, "nothing is left");
-  }
 }
 
 EachAmount EachOf(const faraid::Row& row, const faraid::Amount& amount) {

@@ -9,7 +9,9 @@
 #include "faraid/Amounts.h"
 #include "faraid/Division.h"
 #include "faraid/Estate.h"
+#include "screens/Captions.h"
 #include "screens/Differences.h"
+#include "screens/DivisionText.h"
 #include "screens/OwnAnswer.h"
 
 namespace qismora::divide {
@@ -20,70 +22,67 @@ struct SchoolDivision {
   faraid::Division Division;
   /// One for each row of the division.
   faraid::Amounts Amounts;
-  /// From the answer of the commands, where that is asked for.
+  /// How it differs from the answer of the commands, with the option --compare.
   Differences Differs;
 };
 
-/// One family divided. The schools' rows are of the same heirs; a remainder may stand in some schools alone.
+/// The answer for one family. All schools have rows of the same heirs; only some may have a remainder.
 struct Answer {
   std::string_view Id;
   std::string_view Name;
   faraid::Estate Estate;
   faraid::Settlement Settlement;
-  /// Empty where expenses and debts exceed the estate.
+  /// Empty if funeral expenses and debts exceed the estate.
   std::vector<SchoolDivision> Schools;
-  /// What the commands of Case Study answer, where that is asked for.
+  /// The answer of the commands of Case Study, with the option --compare.
   std::optional<OwnAnswer> Commands;
-  /// Where expenses and debts exceed the estate, in what the commands differ.
+  /// How the commands differ if funeral expenses and debts exceed the estate.
   Differences Differs;
 };
 
-/// How answers are written: what stands before all of them, one of them, and what stands behind.
+/// How answers are written: the text before all of them, each answer, and the text after all of them.
 struct AnswerFormat {
   void (*Begin)(const Options& options, std::string& text);
-  /// The first is true for the first answer of all.
+  /// The parameter first is true for the first answer of the program.
   void (*Write)(const Answer& answer, const Options& options, bool first, std::string& text);
   void (*End)(std::string& text);
 };
 
 const AnswerFormat& FormatOf(const Options& options);
 
-// For people; comma separated values, a line for each heir and school; JSON, an object for each family.
+// A table for people; CSV with a line for each heir and school; JSON with an object for each family.
 extern const AnswerFormat TableFormat;
 extern const AnswerFormat CsvFormat;
 extern const AnswerFormat JsonFormat;
 extern const AnswerFormat JsonLinesFormat;
 
-/// As what an heir takes, or why nothing: "sharer", "excluded by Father".
-void AppendStanding(std::string& text, const faraid::Row& row);
-
-/// As the command line has it: "shafii"; and as people read it: "Shafi'i".
+/// The school on the command line, "shafii", and in a text, "Shafi'i".
 std::string_view WordOf(faraid::School school);
 std::string_view NameOf(faraid::School school);
 
-/// What the heads of one row receive each: a part of them may receive one hundredth more.
+/// What each head of a row receives; some heads may receive one hundredth more.
 struct EachAmount {
   faraid::Hundredths Amount = 0;
   int HeadsWithOneMore = 0;
 };
 EachAmount EachOf(const faraid::Row& row, const faraid::Amount& amount);
 
-/// 0 where no heir takes anything, as the base.
+/// The corrected base; like the base, 0 if no heir takes anything.
 std::int64_t CorrectedBaseOf(const faraid::Division& division);
 
-/// Pieces one behind the other, without a text of their own.
+/// Appends the pieces without a temporary text.
 template <class... Pieces>
 void Append(std::string& text, const Pieces&... pieces) {
   (text.append(pieces), ...);
 }
 void AppendNumber(std::string& text, std::int64_t number);
-/// With a point and two decimals.
+/// Appends an amount with a point and two decimals.
 void AppendAmount(std::string& text, faraid::Hundredths amount);
-/// An amount of the commands, rounded to two decimals.
+/// Appends an amount of the commands, rounded to two decimals.
 void AppendAmount(std::string& text, double amount);
 /// "figures", "no figures", "figure refused", "estate refused", "failed".
 std::string_view WordsOf(OwnOutcome outcome);
-/// A whole number without a denominator, else as 1/8.
+/// Appends a fraction as 1/8, a whole number without a denominator.
 void AppendFraction(std::string& text, const faraid::Fraction& fraction);
 
 }  // namespace qismora::divide

@@ -1,13 +1,12 @@
 #include <array>
 
 #include "divide/Answers.h"
-#include "screens/HeirFields.h"
 
 namespace qismora::divide {
 
 namespace {
 
-// Fractions stand as two whole numbers: a spreadsheet reads 1/8 as a date.
+// A fraction is two columns of whole numbers, because a spreadsheet would read 1/8 as a date.
 constexpr std::array<std::string_view, 17> columns = {
     "id",
     "school",
@@ -43,7 +42,7 @@ class Line {
     AppendNumber(text_, number);
     text_ += separator_;
   }
-  /// A base that is not there is an empty field.
+  /// No base is an empty field.
   void Base(std::int64_t base) {
     if (base > 0) AppendNumber(text_, base);
     text_ += separator_;
@@ -52,15 +51,13 @@ class Line {
     Number(fraction.Num());
     Number(fraction.Den());
   }
-  void Amount(faraid::Hundredths amount) {
+  /// Takes hundredths, or an amount of the commands.
+  template <class Value>
+  void Amount(Value amount) {
     AppendAmount(text_, amount);
     text_ += separator_;
   }
-  void CommandsAmount(double amount) {
-    AppendAmount(text_, amount);
-    text_ += separator_;
-  }
-  /// Words that may hold anything.
+  /// Quotes the words if they need it.
   void Quoted(std::string_view words) {
     const char special[] = {separator_, '"', '\r', '\n'};
     const bool padded = words.starts_with(' ') || words.ends_with(' ');
@@ -96,16 +93,16 @@ void Begin(const Options& options, std::string& text) {
   line.End();
 }
 
-/// What the commands answer for one heir, or for nobody where nothing is left to divide.
+/// The answer of the commands for the heir of a row; without a row, nothing is left to divide.
 void WriteCommands(const OwnAnswer& commands, const Differences& differences, const faraid::Row* row,
                    Line& line) {
   line.Words(WordsOf(commands.Outcome));
-  line.CommandsAmount(commands.NetEstate);
+  line.Amount(commands.NetEstate);
   const bool hasAmount =
       row != nullptr && commands.Outcome == OwnOutcome::Figures && row->Heir != faraid::Kind::Remainder;
   if (hasAmount) {
-    line.CommandsAmount(commands.Of(row->Heir).Together);
-    line.CommandsAmount(commands.Of(row->Heir).Each);
+    line.Amount(commands.Of(row->Heir).Together);
+    line.Amount(commands.Of(row->Heir).Each);
   } else {
     line.Words({});
     line.Words({});
@@ -148,7 +145,7 @@ void WriteRow(const Answer& answer, const SchoolDivision& school, std::size_t in
   line.End();
 }
 
-/// A family for whom nothing is left has one line, so that it is not missed.
+/// A family for whom nothing is left has one line, so that no family is missing.
 void WriteShortfall(const Answer& answer, const Options& options, std::string& text) {
   const char separator = SeparatorOf(options);
   Line line(text, separator);
@@ -158,7 +155,7 @@ void WriteShortfall(const Answer& answer, const Options& options, std::string& t
       text.append("nothing to divide: short by ");
       line.Amount(answer.Settlement.Shortfall);
     } else if (columns[i] == "net_estate" || columns[i] == "bequests_paid") {
-      line.Amount(0);
+      line.Amount(faraid::Hundredths{0});
     } else {
       line.Words({});
     }

@@ -15,40 +15,36 @@ namespace {
 constexpr std::string_view byteOrderMark = "\xEF\xBB\xBF";
 constexpr std::array separators = {',', ';', '\t'};
 
-std::string_view Trimmed(std::string_view text) {
-  const std::size_t first = text.find_first_not_of(" \t");
-  if (first == std::string_view::npos) return {};
-  return text.substr(first, text.find_last_not_of(" \t") - first + 1);
-}
+constexpr std::string_view blanks = " \t";
 
 /// The first line that is neither blank nor a comment of a case file.
-std::string_view FirstLine(Window& window) {
+std::string_view FirstLine(InputBuffer& input) {
   while (true) {
-    std::string_view text = window.Text();
+    std::string_view text = input.Text();
     while (!text.empty()) {
       const std::size_t end = text.find('\n');
-      const std::string_view line = Trimmed(text.substr(0, end));
+      const std::string_view line = Trimmed(text.substr(0, end), blanks);
       if (end == std::string_view::npos) break;
       if (!line.empty() && line != "\r" && !line.starts_with('#')) return line;
       text.remove_prefix(end + 1);
     }
-    if (text.size() > RecordReader::MostBytes || !window.Fill()) return Trimmed(text);
+    if (text.size() > RecordReader::MostBytes || !input.Fill()) return Trimmed(text, blanks);
   }
 }
 
-bool IsCaseFile(Window& window) { return FirstLine(window).find('=') != std::string_view::npos; }
+bool IsCaseFile(InputBuffer& input) { return FirstLine(input).find('=') != std::string_view::npos; }
 
-/// The separator that stands most often in the header.
+/// The separator that the header has most often.
 char DetectSeparator(std::string_view header) {
   return *std::ranges::max_element(separators, {}, [&](char c) { return std::ranges::count(header, c); });
 }
 
-/// The captions of a header that is given on the command line, without their quotation marks.
+/// The captions of a header from the command line, without quotation marks.
 std::vector<std::string_view> SplitHeader(std::string_view header, char separator) {
   std::vector<std::string_view> captions;
   while (true) {
     const std::size_t end = header.find(separator);
-    std::string_view caption = Trimmed(header.substr(0, end));
+    std::string_view caption = Trimmed(header.substr(0, end), blanks);
     if (caption.size() > 1 && caption.starts_with('"') && caption.ends_with('"')) {
       caption = caption.substr(1, caption.size() - 2);
     }
@@ -68,7 +64,7 @@ void ReadFields(const CaseTexts& texts, InputFamily& family) {
 
 bool IsId(std::string_view caption) { return caption == "id" || caption == "Id" || caption == "ID"; }
 
-/// What the columns of a table are for.
+/// The meaning of the columns of a table.
 class Columns {
  public:
   /// From the header row.
@@ -76,7 +72,7 @@ class Columns {
           const InputEvents& events) {
     std::vector<std::string> unknown;
     for (const std::string_view caption : captions) {
-      const std::string words(Trimmed(caption));
+      const std::string words(Trimmed(caption, blanks));
       const std::optional<Entry> entry = FindEntry(words);
       if (IsId(words)) {
         Add({Use::Id, {}, words}, line);
@@ -84,7 +80,7 @@ class Columns {
         Add({Use::Entry, *entry, words}, line);
       } else if (ignoreUnknown || words.empty()) {
         Add({Use::Nothing, {}, words}, line);
-        if (!words.empty()) events.PassedOver(line, Join("The column \"", words, "\" is passed over."));
+        if (!words.empty()) events.Skipped(line, Join("The column \"", words, "\" is passed over."));
       } else {
         unknown.push_back(words);
       }
@@ -95,11 +91,11 @@ class Columns {
     }
   }
 
-  /// Puts the case of a row together; false where the row has not as many fields as the header.
+  /// Builds the case of a row; false if the row does not have as many fields as the header.
   bool Read(const std::vector<std::string_view>& fields, InputFamily& family) {
     const bool tooMany =
         std::any_of(fields.begin() + static_cast<std::ptrdiff_t>(std::min(fields.size(), columns_.size())),
-                    fields.end(), [](std::string_view field) { return !Trimmed(field).empty(); });
+                    fields.end(), [](std::string_view field) { return !Trimmed(field, blanks).empty(); });
     if (tooMany || fields.size() < columns_.size()) {
       family.Faults.push_back(Join("The row has ", static_cast<int>(fields.size()),
                                    " fields, and the header ", static_cast<int>(columns_.size()), "."));
@@ -108,8 +104,8 @@ class Columns {
     entries_.Clear();
     for (std::size_t i = 0; i < columns_.size(); ++i) {
       const Column& column = columns_[i];
-      const std::string_view value = Trimmed(fields[i]);
-      if (value.empty() || column.For == Use::Nothing) continue;  // an empty field is as no field
+      const std::string_view value = Trimmed(fields[i], blanks);
+      if (value.empty() || column.For == Use::Nothing) continue;  // an empty field is not given
       if (column.For == Use::Id) {
         family.Id = value;
       } else if (const auto fault = entries_.Set(column.Meaning, value)) {
@@ -150,22 +146,22 @@ class Columns {
   CaseEntries entries_;
 };
 
-/// Some programs write "sep=;" as the first line of a table. The separator, or 0.
-char NamedSeparator(Window& window) {
+/// The separator that the first line of the table names, "sep=;", as some programs write it; else 0.
+char NamedSeparator(InputBuffer& input) {
   constexpr std::string_view begin = "sep=";
   constexpr std::size_t length = begin.size() + 2;  // with the separator and the end of the line
-  // No more is waited for than is needed.
-  while (window.Text().size() < length && begin.starts_with(window.Text().substr(0, begin.size())) &&
-         window.Fill()) {
+  // It waits for no more input than it needs.
+  while (input.Text().size() < length && begin.starts_with(input.Text().substr(0, begin.size())) &&
+         input.Fill()) {
   }
-  const std::string_view text = window.Text();
+  const std::string_view text = input.Text();
   const bool isNamed = text.size() >= length && text.starts_with(begin) &&
                        (text[5] == '\r' || text[5] == '\n') &&
                        std::ranges::find(separators, text[4]) != separators.end();
   return isNamed ? text[4] : '\0';
 }
 
-/// What is no text at all, but comes from a spreadsheet.
+/// Refuses files of spreadsheets that are not text.
 void RefuseWorkbooks(std::string_view begin) {
   if (begin.starts_with("PK\x03\x04") || begin.starts_with("\xD0\xCF\x11\xE0")) {
     throw InputFault{0, "This is the workbook of a spreadsheet. Save the table as CSV UTF-8."};
@@ -175,13 +171,13 @@ void RefuseWorkbooks(std::string_view begin) {
   }
 }
 
-void ReadTable(Window& window, const Options& options, std::int64_t& number, const InputEvents& events) {
-  const char named = NamedSeparator(window);
+void ReadTable(InputBuffer& input, const Options& options, std::int64_t& number, const InputEvents& events) {
+  const char named = NamedSeparator(input);
   char separator = options.Separator != 0 ? options.Separator : named;
   if (separator == 0) {
-    separator = DetectSeparator(options.Columns.empty() ? FirstLine(window) : options.Columns);
+    separator = DetectSeparator(options.Columns.empty() ? FirstLine(input) : options.Columns);
   }
-  RecordReader rows(window, separator);
+  RecordReader rows(input, separator);
   if (named != 0) rows.Next();
   const auto columns = [&]() -> Columns {
     if (!options.Columns.empty())
@@ -199,7 +195,7 @@ void ReadTable(Window& window, const Options& options, std::int64_t& number, con
     family.Line = rows.Line();
     family.Faults.clear();
     if (rows.Fault() == RecordFault::None) {
-      if (!read.Read(rows.Fields(), family)) rows.Distrust();
+      if (!read.Read(rows.Fields(), family)) rows.RestartAtSecondLine();
     } else {
       family.Faults.emplace_back(English(rows.Fault()));
     }
@@ -207,12 +203,12 @@ void ReadTable(Window& window, const Options& options, std::int64_t& number, con
   }
 }
 
-void ReadCase(Window& window, const std::string& id, const InputEvents& events) {
-  while (window.Text().size() <= MostBytesOfCaseFile && window.Fill()) {
+void ReadCase(InputBuffer& input, const std::string& id, const InputEvents& events) {
+  while (input.Text().size() <= MostBytesOfCaseFile && input.Fill()) {
   }
-  const CaseFileReading file = ParseCaseFile(window.Text());
+  const CaseFileReading file = ParseCaseFile(input.Text());
   for (const CaseLine& line : file.Unknown) {
-    events.PassedOver(line.Number, Join("\"", line.Text, "\" is of a newer version and is passed over."));
+    events.Skipped(line.Number, Join("\"", line.Text, "\" is of a newer version and is passed over."));
   }
   InputFamily family;
   family.Id = id;
@@ -228,19 +224,19 @@ void ReadCase(Window& window, const std::string& id, const InputEvents& events) 
 }  // namespace
 
 void ReadFamilies(Source& source, const Options& options, std::int64_t& number, const InputEvents& events) {
-  Window window(source);
-  while (window.Text().size() < 4 && window.Fill()) {
+  InputBuffer input(source);
+  while (input.Text().size() < 4 && input.Fill()) {
   }
-  RefuseWorkbooks(window.Text());
-  if (window.Text().starts_with(byteOrderMark)) window.Skip(byteOrderMark.size());
+  RefuseWorkbooks(input.Text());
+  if (input.Text().starts_with(byteOrderMark)) input.Skip(byteOrderMark.size());
   const bool detects = options.Input == InputKind::Detected && options.Columns.empty();
-  if (options.Input == InputKind::Case || (detects && NamedSeparator(window) == 0 && IsCaseFile(window))) {
+  if (options.Input == InputKind::Case || (detects && NamedSeparator(input) == 0 && IsCaseFile(input))) {
     std::string id = source.Path();
     if (id == "-") id = std::to_string(number);
     ++number;
-    ReadCase(window, id, events);
+    ReadCase(input, id, events);
   } else {
-    ReadTable(window, options, number, events);
+    ReadTable(input, options, number, events);
   }
 }
 

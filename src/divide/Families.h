@@ -14,33 +14,33 @@ namespace qismora::divide {
 
 /// One family of the input: a row of a table, or a case file.
 struct InputFamily {
-  /// From the column id, or the name of the case file; else the number of the family.
+  /// The text of the column "id", or the path of the case file; else the number of the family.
   std::string_view Id;
-  /// The line that it begins in, from 1.
+  /// The line in which it begins, from 1.
   std::int64_t Line = 0;
-  /// What stands in the fields, and what is read from it; only where there are no faults.
+  /// The texts of the fields and what is read from them; valid only without faults.
   const CaseTexts* Texts = nullptr;
   DivisionInput Input;
-  /// Each is a sentence.
+  /// What is wrong, each in a sentence.
   std::vector<std::string> Faults;
 };
 
-/// Raised where nothing of a source can be read: a header that names an unknown column, a broken case file.
+/// Thrown if nothing of a source can be read, for example because its header names an unknown column.
 struct InputFault {
-  /// 0 where it is no line's.
+  /// 0 if it concerns no line.
   std::int64_t Line = 0;
   std::string Sentence;
 };
 
-/// What happens to what is read.
+/// Called while a source is read.
 struct InputEvents {
   std::function<void(const InputFamily&)> Family;
-  /// What is passed over, in a sentence.
-  std::function<void(std::int64_t line, const std::string& sentence)> PassedOver;
+  /// What was skipped, in a sentence.
+  std::function<void(std::int64_t line, const std::string& sentence)> Skipped;
 };
 
-/// Reads all families of a source, each as soon as it is there, with memory that does not grow. The number is
-/// that of the next family and is carried on.
+/// Reads all families of a source, each as soon as it is available. The memory does not grow with the source.
+/// The number is that of the next family; it is increased for each one.
 void ReadFamilies(Source& source, const Options& options, std::int64_t& number, const InputEvents& events);
 
 }  // namespace qismora::divide

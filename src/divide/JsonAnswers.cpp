@@ -1,15 +1,13 @@
+#include "base/Text.h"
 #include "divide/Answers.h"
-#include "screens/HeirFields.h"
 
-// Amounts and fractions are texts: a reader that makes binary floating point of its numbers would falsify
-// them.
+// Amounts and fractions are texts, because many readers of JSON turn numbers into binary floating point.
 
 namespace qismora::divide {
 
 namespace {
 
 void AppendText(std::string& json, std::string_view text) {
-  constexpr std::string_view hexDigits = "0123456789abcdef";
   json += '"';
   for (const char c : text) {
     const auto byte = static_cast<unsigned char>(c);
@@ -17,7 +15,7 @@ void AppendText(std::string& json, std::string_view text) {
       json.append({'\\', c});
     } else if (byte < 0x20) {
       Append(json, "\\u00");
-      json.append({hexDigits[byte >> 4], hexDigits[byte & 15]});
+      AppendHex(json, byte);
     } else {
       json += c;
     }
@@ -46,19 +44,14 @@ void NullMember(std::string& json, std::string_view key) {
   Append(json, "null,");
 }
 
-/// A base that is not there is null.
+/// No base is null.
 void BaseMember(std::string& json, std::string_view key, std::int64_t base) {
   base > 0 ? NumberMember(json, key, base) : NullMember(json, key);
 }
 
-void AmountMember(std::string& json, std::string_view key, faraid::Hundredths amount) {
-  Key(json, key);
-  json += '"';
-  AppendAmount(json, amount);
-  Append(json, "\",");
-}
-
-void AmountMember(std::string& json, std::string_view key, double amount) {
+/// Takes hundredths, or an amount of the commands.
+template <class Value>
+void AmountMember(std::string& json, std::string_view key, Value amount) {
   Key(json, key);
   json += '"';
   AppendAmount(json, amount);
@@ -72,13 +65,13 @@ void FractionMember(std::string& json, std::string_view key, const faraid::Fract
   Append(json, "\",");
 }
 
-/// Closes an object or an array that is a member or an item.
+/// Closes an object or an array, followed by a comma.
 void Close(std::string& json, char bracket) {
   if (json.back() == ',') json.pop_back();
   json.append({bracket, ','});
 }
 
-/// What the commands of Case Study answer for all heirs together.
+/// The outcome of the commands of Case Study.
 void AppendCommands(std::string& json, const OwnAnswer& commands) {
   Key(json, "commands");
   json += '{';

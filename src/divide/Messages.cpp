@@ -3,19 +3,19 @@
 #include <iostream>
 
 #include "base/Encoding.h"
+#include "base/Text.h"
 
 namespace qismora::divide {
 
 namespace {
 
-/// No control character of an input reaches the terminal.
+/// Escapes control characters, so that no input controls the terminal.
 std::string Plain(std::string_view text) {
-  constexpr std::string_view hexDigits = "0123456789abcdef";
   std::string plain;
   for (std::size_t i = 0; i < text.size(); ++i) {
-    const auto byte = static_cast<unsigned char>(text[i]);
     if (FindControlCharacter(text.substr(i, 2)) == 0) {
-      plain.append({'\\', 'x', hexDigits[byte >> 4], hexDigits[byte & 15]});
+      plain += "\\x";
+      AppendHex(plain, static_cast<unsigned char>(text[i]));
     } else {
       plain += text[i];
     }

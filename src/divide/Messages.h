@@ -9,10 +9,10 @@
 
 namespace qismora::divide {
 
-/// What the program says on standard error: what is wrong, and how far it is.
+/// The messages on standard error: faults, and the progress.
 class Messages {
  public:
-  /// Progress is shown on a terminal where the answers go elsewhere.
+  /// Progress is shown if standard error is a terminal and standard output is not.
   explicit Messages(bool quiet);
   ~Messages() { TakeAwayProgress(); }
   Messages(const Messages&) = delete;
@@ -20,10 +20,10 @@ class Messages {
 
   /// "qismora-divide: SENTENCE". Control characters are escaped.
   void Say(std::string_view sentence);
-  /// "qismora-divide: PLACE:LINE: SENTENCE"; without a line where it is 0.
+  /// "qismora-divide: PLACE:LINE: SENTENCE", without the line if it is 0.
   void Say(std::string_view place, std::int64_t line, std::string_view sentence);
 
-  /// Is called for each family; the clock is looked at now and then.
+  /// Called for each family. The clock is read only now and then.
   void Progress(const Source& source) {
     ++families_;
     if (showsProgress_ && families_ % 256 == 0) ShowProgress(source);

@@ -30,7 +30,7 @@ bool IsBlank(std::string_view field) { return field.find_first_not_of(' ') == st
 
 bool RecordReader::Next() {
   do {
-    window_.Skip(scanned_);
+    input_.Skip(scanned_);
     line_ += lines_;
     if (!ReadRecord()) return false;
   } while (fault_ == RecordFault::None && std::ranges::all_of(fields_, IsBlank));
@@ -48,7 +48,7 @@ bool RecordReader::ReadRecord() {
   while (!Scan()) {
     if (fault_ != RecordFault::None) return Refuse(fault_);
     if (scanned_ < MostBytes) {
-      if (window_.Fill()) continue;
+      if (input_.Fill()) continue;
       if (scanned_ == 0) return false;
       if (state_ != State::Quoted) {
         EndField(scanned_, true);
@@ -58,7 +58,7 @@ bool RecordReader::ReadRecord() {
     return Refuse(state_ == State::Quoted ? RecordFault::OpenQuotation : RecordFault::TooLong);
   }
   if (fault_ != RecordFault::None) return Refuse(fault_);
-  if (FindInvalidUtf8(window_.Text().substr(0, scanned_)) == std::string_view::npos) {
+  if (FindInvalidUtf8(input_.Text().substr(0, scanned_)) == std::string_view::npos) {
     TakeFields();
   } else {
     fault_ = RecordFault::NotUtf8;
@@ -66,9 +66,9 @@ bool RecordReader::ReadRecord() {
   return true;
 }
 
-/// Goes on through what is in the window; true at the end of the record, with all its fields found.
+/// Scans the input buffer further; true at the end of the record, when all its fields are found.
 bool RecordReader::Scan() {
-  const std::string_view text = window_.Text().substr(0, MostBytes);
+  const std::string_view text = input_.Text().substr(0, MostBytes);
   while (scanned_ < text.size()) {
     const char c = text[scanned_];
     if (c == '\n') ++lines_;
@@ -96,7 +96,7 @@ bool RecordReader::Scan() {
 }
 
 void RecordReader::EndField(std::size_t end, bool ofLine) {
-  const std::string_view text = window_.Text();
+  const std::string_view text = input_.Text();
   if (ofLine && end > field_.Begin && text[end - 1] == '\r') --end;
   if (state_ == State::QuotationEnds) {
     ++field_.Begin;
@@ -107,30 +107,30 @@ void RecordReader::EndField(std::size_t end, bool ofLine) {
   found_.push_back(field_);
 }
 
-/// Passes over the first line of the record; the next record begins behind it.
+/// Skips the first line of the record; the next record begins after it.
 bool RecordReader::Refuse(RecordFault fault) {
   fault_ = fault;
   found_.clear();
-  std::size_t end = window_.Text().find('\n');
+  std::size_t end = input_.Text().find('\n');
   while (end == std::string_view::npos) {
-    window_.Skip(window_.Text().size());
-    if (!window_.Fill()) break;
-    end = window_.Text().find('\n');
+    input_.Skip(input_.Text().size());
+    if (!input_.Fill()) break;
+    end = input_.Text().find('\n');
   }
   scanned_ = end == std::string_view::npos ? 0 : end + 1;
   lines_ = 1;
   return true;
 }
 
-void RecordReader::Distrust() {
+void RecordReader::RestartAtSecondLine() {
   if (lines_ > 1) Refuse(fault_);
 }
 
 void RecordReader::TakeFields() {
   unescaped_.clear();
-  unescaped_.reserve(scanned_);  // so that it stays where it is
+  unescaped_.reserve(scanned_);  // so that it is not moved
   for (const Field& field : found_) {
-    const std::string_view text = window_.Text().substr(field.Begin, field.End - field.Begin);
+    const std::string_view text = input_.Text().substr(field.Begin, field.End - field.Begin);
     if (!field.HasDoubledMarks) {
       fields_.push_back(text);
       continue;

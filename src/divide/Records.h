@@ -9,31 +9,30 @@
 
 namespace qismora::divide {
 
-/// What can be wrong with a record, whatever its fields hold.
+/// What can be wrong with a record, apart from the contents of its fields.
 enum class RecordFault { None, TextBehindQuotation, OpenQuotation, TooLong, NotUtf8 };
 std::string_view English(RecordFault fault);
 
-/// Reads a table by records as RFC 4180 has them: fields between separators, in quotation marks where they
-/// hold separators, line breaks or doubled quotation marks; lines end in LF or CRLF. Records whose fields are
-/// all blank are skipped: spreadsheets write them below their tables. The memory that it takes does not grow
-/// with the table. A record with a wrong quotation is a fault of its first line alone: the reading goes on
-/// with the next line.
+/// Reads the records of a table (RFC 4180). Fields with separators, line breaks or doubled quotation marks
+/// are in quotation marks; lines end in LF or CRLF. Records with blank fields alone are skipped, because
+/// spreadsheets write them below their tables. The memory does not grow with the table. A record with a wrong
+/// quotation is a fault of its first line alone; reading continues with the next line.
 class RecordReader {
  public:
-  RecordReader(Window& window, char separator) : window_(window), separator_(separator) {}
+  RecordReader(InputBuffer& input, char separator) : input_(input), separator_(separator) {}
 
-  /// A longer record is a fault.
+  /// The longest record; a longer one is a fault.
   static constexpr std::size_t MostBytes = 65536;
 
   /// Goes to the next record; false at the end.
   bool Next();
-  /// For a record that cannot be right: if it has several lines, a quotation mark may have opened that should
-  /// not, and the next record begins with its second line.
-  void Distrust();
-  /// Hold until the next call of either. A record with a fault has none.
+  /// Called if a record has the wrong number of fields. If it has several lines, a stray quotation mark may
+  /// have joined them, so the next record starts at its second line.
+  void RestartAtSecondLine();
+  /// The fields, valid until the next call of Next or RestartAtSecondLine. A record with a fault has none.
   const std::vector<std::string_view>& Fields() const { return fields_; }
   RecordFault Fault() const { return fault_; }
-  /// The line that the record begins in, from 1.
+  /// The line in which the record begins, from 1.
   std::int64_t Line() const { return line_; }
 
  private:
@@ -50,9 +49,9 @@ class RecordReader {
   bool Refuse(RecordFault fault);
   void TakeFields();
 
-  Window& window_;
+  InputBuffer& input_;
   char separator_;
-  // The record in work: offsets from the begin of the window.
+  // The current record, as offsets in the input buffer.
   State state_ = State::FieldBegins;
   Field field_{};
   std::vector<Field> found_;

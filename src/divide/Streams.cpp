@@ -39,7 +39,7 @@ std::size_t Source::Read(char* to, std::size_t most) {
   return static_cast<std::size_t>(bytes);
 }
 
-bool Window::Fill() {
+bool InputBuffer::Fill() {
   constexpr std::size_t piece = 65536;
   if (begin_ > 0) {
     std::copy(buffer_.data() + begin_, buffer_.data() + end_, buffer_.data());

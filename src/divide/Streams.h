@@ -17,24 +17,25 @@ struct CannotWrite : std::system_error {
   using std::system_error::system_error;
 };
 
-/// A file or standard input that is read from begin to end. What cannot be opened or read throws CannotRead.
+/// A file or standard input, read from its beginning to its end. A failure to open or read it throws
+/// CannotRead.
 class Source {
  public:
-  /// "-" is standard input. The function is called before each read that would have to wait for its data, so
-  /// that answers do not lie in a buffer meanwhile.
+  /// "-" is standard input. The function is called before each read that has to wait for data, so that
+  /// answers can be written out first.
   Source(const std::string& path, std::function<void()> beforeWaiting);
   ~Source();
   Source(const Source&) = delete;
   Source& operator=(const Source&) = delete;
 
-  /// What is ready, at most so many bytes; 0 at the end.
+  /// Reads what is available, up to this number of bytes. Returns how many; 0 at the end.
   std::size_t Read(char* to, std::size_t most);
 
   const std::string& Path() const { return path_; }
-  /// As it is named in messages.
+  /// The name in messages.
   const std::string& Name() const { return name_; }
   std::uint64_t BytesRead() const { return bytesRead_; }
-  /// The length in bytes, 0 where it is not known.
+  /// The length in bytes, 0 if it is not known.
   std::uint64_t Length() const { return length_; }
 
  private:
@@ -46,15 +47,16 @@ class Source {
   std::uint64_t length_ = 0;
 };
 
-/// The part of a source that is in memory: read at its end, taken at its begin.
-class Window {
+/// The part of a source that is in memory. New bytes are appended at its end, and used ones removed from its
+/// beginning.
+class InputBuffer {
  public:
-  explicit Window(Source& source) : source_(source) {}
+  explicit InputBuffer(Source& source) : source_(source) {}
 
   std::string_view Text() const { return {buffer_.data() + begin_, end_ - begin_}; }
-  /// Reads more behind what is there; false at the end of the source.
+  /// Appends more of the source; false at its end.
   bool Fill();
-  /// Takes bytes from the begin.
+  /// Removes bytes from the beginning.
   void Skip(std::size_t bytes) { begin_ += bytes; }
 
  private:
@@ -64,14 +66,13 @@ class Window {
   std::size_t end_ = 0;
 };
 
-/// Standard output with a buffer. What cannot be written throws CannotWrite.
+/// Standard output with a buffer. A failure to write throws CannotWrite.
 class Sink {
  public:
-  /// Texts are appended here; Wrote is called behind each answer.
+  /// Texts are appended here. FlushIfFull is called after each answer.
   std::string Buffer;
 
-  /// Lets the buffer go when it is full.
-  void Wrote() {
+  void FlushIfFull() {
     if (Buffer.size() >= full) Flush();
   }
   void Flush();

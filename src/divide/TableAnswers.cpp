@@ -2,7 +2,6 @@
 
 #include "base/Encoding.h"
 #include "divide/Answers.h"
-#include "screens/HeirFields.h"
 
 namespace qismora::divide {
 
@@ -10,10 +9,10 @@ namespace {
 
 using faraid::Kind;
 
-/// A table as lines of cells; the columns become as wide as their widest cell.
+/// A table of lines of cells. A column is as wide as its widest cell.
 class TextTable {
  public:
-  /// Figures stand at the right of their column, words at the left.
+  /// The alignment of a column: numbers right, words left.
   enum class Side { Left, Right };
 
   explicit TextTable(std::vector<Side> sides) : sides_(std::move(sides)) {}
@@ -47,28 +46,9 @@ class TextTable {
 
 using Side = TextTable::Side;
 
-std::string AmountText(faraid::Hundredths amount) {
-  std::string text;
-  AppendAmount(text, amount);
-  return text;
-}
-
-std::string FractionText(const faraid::Fraction& fraction) {
-  std::string text;
-  AppendFraction(text, fraction);
-  return text;
-}
-
-std::string EachText(const faraid::Row& row, const faraid::Amount& amount) {
-  const EachAmount each = EachOf(row, amount);
-  std::string text = AmountText(each.Amount);
-  if (each.HeadsWithOneMore > 0) Append(text, " or ", AmountText(each.Amount + 1));
-  return text;
-}
-
 std::string BaseText(std::int64_t base) { return base > 0 ? std::to_string(base) : ""; }
 
-/// No control character of an input or of a message reaches the terminal.
+/// Replaces control characters by blanks, so that no input controls the terminal.
 void AppendPlain(std::string& text, std::string_view words) {
   for (const char c : words) text += FindControlCharacter({&c, 1}) == 0 ? ' ' : c;
 }
@@ -90,7 +70,7 @@ void AppendHead(const Answer& answer, std::string& text) {
   Append(text, "Net estate ", AmountText(settlement.Net));
 }
 
-/// What the commands of Case Study answer for an heir.
+/// The answer of the commands of Case Study for an heir.
 std::string CommandsText(const OwnAnswer& commands, Kind heir) {
   if (heir == Kind::Remainder) return {};
   switch (commands.Outcome) {
@@ -121,14 +101,13 @@ void AppendRefusal(const OwnAnswer& commands, std::string& text) {
   Append(text, "\"\n");
 }
 
-/// What the commands give where they differ in nothing. They may show no figures where no heir receives
-/// anything.
+/// What the commands give if they do not differ. They may show no figures if no heir receives anything.
 std::string_view AgreementOf(const OwnAnswer& commands) {
   return commands.Outcome == OwnOutcome::Figures ? "the same answer."
                                                  : "no figures, and no heir receives anything.";
 }
 
-/// With the place where it is explained.
+/// The sentence of a difference, with the section that explains it.
 std::string SentenceOf(const DifferenceKind& kind) {
   std::string text;
   Append(text, kind.Sentence, " See peculiarities.md#", kind.Section, ".");
@@ -139,8 +118,8 @@ void AppendKinds(const Differences& differences, std::string& text) {
   for (const DifferenceKind* kind : differences.Kinds) Append(text, "  ", SentenceOf(*kind), "\n");
 }
 
-/// Where the division has nothing to divide. The commands may divide all the same, since they read or round
-/// otherwise, or go on below 0.
+/// The answer of the commands if the division has nothing to divide. They may still divide: they read and
+/// round amounts differently, and continue with a negative estate.
 void AppendCommandsOfShortfall(const Answer& answer, std::string& text) {
   const OwnAnswer& commands = *answer.Commands;
   AppendRefusal(commands, text);
@@ -212,14 +191,14 @@ faraid::KindSet KindsOf(const Answer& answer) {
   return kinds;
 }
 
-/// The row of the kind, or as many as there are rows where it has none.
+/// The index of the row of the kind; the number of rows if it has none.
 std::size_t IndexOf(const SchoolDivision& school, Kind kind) {
   const auto& rows = school.Division.Rows;
   return static_cast<std::size_t>(std::ranges::find(rows, kind, &faraid::Row::Heir) - rows.begin());
 }
 
-/// What is said of each school, as "  SUBJECT (Maliki, Shafi'i): WORDS"; schools of which the same is said
-/// are in one line, those without words in none.
+/// Appends a line "  SUBJECT (Maliki, Shafi'i): WORDS" for the words of each school. Schools with the same
+/// words share a line; schools without words have none.
 template <class Saying>
 void AppendBySchool(const Answer& answer, std::string_view subject, Saying wordsOf, std::string& text) {
   std::vector<std::pair<std::string, std::string>> said;  // the words, and the schools
@@ -246,7 +225,7 @@ void AppendReasons(const Answer& answer, Kind kind, std::string& text) {
   AppendBySchool(answer, CaptionOf(kind), why, text);
 }
 
-/// In what the commands differ from each school.
+/// How the commands differ from each school.
 void AppendDifferencesBySchool(const Answer& answer, std::string& text) {
   text += '\n';
   AppendRefusal(*answer.Commands, text);
@@ -275,7 +254,7 @@ constexpr BaseRow baseRows[] = {
     {"Corrected base", &faraid::Division::CorrectedBase},
 };
 
-/// The line of one kind, with its share and amount in each school; a star where the schools differ.
+/// The line of one kind, with its share and amount in each school, and a star if the schools differ.
 std::vector<std::string> CellsOf(const Answer& answer, Kind kind) {
   std::vector<std::string> cells = {std::string(CaptionOf(kind)), ""};
   bool differs = false;

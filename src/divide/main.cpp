@@ -10,13 +10,14 @@ namespace qismora::divide {
 
 namespace {
 
-/// Divides what is read and writes it out, family by family.
+/// One run of the program: divides family by family.
 class Run {
  public:
   explicit Run(const Options& options)
       : options_(options), format_(FormatOf(options)), messages_(options.Quiet), number_(options.First) {}
 
-  ExitStatus All() {
+  /// Reads all sources and writes all answers. Faults go to standard error.
+  ExitStatus DivideAll() {
     try {
       format_.Begin(options_, out_.Buffer);
       for (const std::string& path : options_.Paths) ReadSource(path);
@@ -48,8 +49,8 @@ class Run {
                 }
                 messages_.Progress(source);
               },
-          .PassedOver = [&](std::int64_t line,
-                            const std::string& sentence) { messages_.Say(source.Name(), line, sentence); },
+          .Skipped = [&](std::int64_t line,
+                         const std::string& sentence) { messages_.Say(source.Name(), line, sentence); },
       };
       try {
         ReadFamilies(source, options_, number_, events);
@@ -79,7 +80,7 @@ class Run {
     if (options_.Compare) CompareWithCommands(family);
     format_.Write(answer_, options_, divided_ == 0, out_.Buffer);
     ++divided_;
-    out_.Wrote();
+    out_.FlushIfFull();
   }
 
   void CompareWithCommands(const InputFamily& family) {
@@ -118,5 +119,5 @@ class Run {
 
 int main(int count, char** words) {
   const qismora::divide::Options options = qismora::divide::ReadOptions(count, words);
-  return qismora::divide::Run(options).All();
+  return qismora::divide::Run(options).DivideAll();
 }

@@ -3,6 +3,7 @@
 #include <algorithm>
 #include <array>
 
+#include "residue/ClassII.h"
 #include "screens/HeirFields.h"
 
 namespace qismora {
@@ -33,6 +34,12 @@ constexpr auto captions = [] {
 }  // namespace
 
 std::span<const Caption> Captions() { return captions; }
+
+std::string_view CaptionOf(faraid::Kind kind) {
+  const auto index = static_cast<std::size_t>(kind);
+  if (index < HeirFields.size()) return HeirFields[index].Caption;
+  return kind == faraid::Kind::Remainder ? "Remainder" : ClassIIRows[index - HeirFields.size()].Caption;
+}
 
 std::string_view CaptionOf(int field, bool femaleDeceased) {
   if (field == 1 && femaleDeceased) return CaptionOf(faraid::Kind::Husband);

@@ -16,15 +16,9 @@ namespace {
 
 constexpr std::string_view versionCaption = "Qismora case";
 constexpr std::string_view byteOrderMark = "\xEF\xBB\xBF";
-constexpr int estateFields[] = {GrossEstateField, FuneralField, DebtsField, WillsField};
+constexpr std::string_view blanks = " \t";
 
-std::string_view Trimmed(std::string_view text) {
-  const std::size_t first = text.find_first_not_of(" \t");
-  if (first == std::string_view::npos) return {};
-  return text.substr(first, text.find_last_not_of(" \t") - first + 1);
-}
-
-/// Enough of a text to find it by.
+/// The beginning of a long text.
 std::string Shortened(std::string_view text) {
   constexpr std::size_t most = 60;
   if (text.size() <= most) return std::string(text);
@@ -39,10 +33,9 @@ struct Escape {
   char Meaning;
 };
 constexpr Escape escapes[] = {{'n', '\n'}, {'r', '\r'}, {'t', '\t'}, {'"', '"'}, {'\\', '\\'}};
-constexpr std::string_view hexDigits = "0123456789abcdef";
 
 bool NeedsQuotation(std::string_view value) {
-  return value != Trimmed(value) || value.starts_with('"') ||
+  return value != Trimmed(value, blanks) || value.starts_with('"') ||
          FindControlCharacter(value) != std::string_view::npos;
 }
 
@@ -55,7 +48,8 @@ std::string Quoted(std::string_view value) {
       text.append({'\\', escape->Letter});
     } else if (FindControlCharacter(value.substr(i, 2)) == 0) {
       if (byte == 0xC2) byte = static_cast<unsigned char>(value[++i]);  // U+0080 to U+009F, by their number
-      text.append({'\\', 'x', hexDigits[byte >> 4], hexDigits[byte & 15]});
+      text += "\\x";
+      AppendHex(text, byte);
     } else {
       text += value[i];
     }
@@ -78,6 +72,7 @@ std::optional<std::string> Unquoted(std::string_view quoted) {
       value += escape->Meaning;
       continue;
     }
+    constexpr std::string_view hexDigits = "0123456789abcdef";
     if (quoted[i] != 'x' || i + 2 >= quoted.size()) return std::nullopt;
     const std::size_t high = hexDigits.find(quoted[++i]);
     const std::size_t low = hexDigits.find(quoted[++i]);
@@ -120,7 +115,7 @@ class Parser {
   }
 
   void ReadLine(std::string_view raw) {
-    const std::string_view line = Trimmed(raw);
+    const std::string_view line = Trimmed(raw, blanks);
     if (raw.size() > MostBytesOfCaseLine) return Refuse(CaseFault::LineTooLong);
     if (FindInvalidUtf8(line) != std::string_view::npos) return Refuse(CaseFault::NotUtf8);
     if (FindControlCharacter(line) != std::string_view::npos) return Refuse(CaseFault::ControlCharacter);
@@ -130,8 +125,8 @@ class Parser {
     anyLine_ = true;
     const std::size_t sign = line.find('=');
     if (sign == std::string_view::npos) return SkipOrRefuse(CaseFault::NoEqualsSign, line, line);
-    const std::string_view caption = Trimmed(line.substr(0, sign));
-    const std::string_view value = Trimmed(line.substr(sign + 1));
+    const std::string_view caption = Trimmed(line.substr(0, sign), blanks);
+    const std::string_view value = Trimmed(line.substr(sign + 1), blanks);
     if (first && caption == versionCaption) return ReadVersion(value);
     if (const std::optional<Entry> entry = FindEntry(caption)) return ReadEntry(*entry, caption, value);
     SkipOrRefuse(CaseFault::UnknownCaption, caption, line);
@@ -185,21 +180,19 @@ void AppendEntry(std::string& file, std::string_view caption, std::string_view v
 CaseFileReading ParseCaseFile(std::string_view content) { return Parser().Parse(content); }
 
 std::string WriteCaseFile(const CaseTexts& texts) {
-  const auto field = [&](int index) -> const std::string& {
-    return texts.Fields[static_cast<std::size_t>(index)];
-  };
   std::string file;
   AppendEntry(file, versionCaption, Join(CaseFileVersion));
-  AppendEntry(file, "Name", field(NameField));
+  AppendEntry(file, "Name", texts.Field(NameField));
   AppendEntry(file, "Deceased", texts.Gender == Female ? "Female" : "Male");
   for (const int heir : HeirFieldIndexes) {
-    if (field(heir).empty() || field(heir) == "0") continue;
-    AppendEntry(file, CaptionOf(heir, texts.Gender == Female), field(heir));
+    const std::string& count = texts.Field(heir);
+    if (count.empty() || count == "0") continue;
+    AppendEntry(file, CaptionOf(heir, texts.Gender == Female), count);
   }
   for (std::size_t i = 0; i < ClassIIRows.size(); ++i) {
     if (texts.ClassII[i]) AppendEntry(file, ClassIIRows[i].Caption, "ticked");
   }
-  for (const int index : estateFields) AppendEntry(file, CaptionOf(index, false), field(index));
+  for (const int index : EstateFieldIndexes) AppendEntry(file, CaptionOf(index, false), texts.Field(index));
   if (texts.HeirsConsent) AppendEntry(file, "Heirs consent", "yes");
   return file;
 }

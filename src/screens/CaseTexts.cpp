@@ -17,7 +17,7 @@ constexpr int spouseField = 1;
 
 std::size_t Index(int index) { return static_cast<std::size_t>(index); }
 
-/// The caption in the form in which captions are compared.
+/// The caption in lower case, with single blanks and straight apostrophes, for comparisons.
 std::string Comparable(std::string_view caption) {
   constexpr std::string_view roundApostrophe = "’";
   std::string plain;
@@ -42,7 +42,7 @@ bool CountsNobody(std::string_view text) { return text.find_first_not_of(" 0") =
 struct FaultRow {
   CaseFault Fault;
   const char* Before;
-  const char* Behind;
+  const char* After;
 };
 
 // The quoted caption or line comes between the two.
@@ -67,14 +67,14 @@ constexpr FaultRow faultRows[] = {
 
 CaseTexts::CaseTexts() {
   Fields.fill("0");
-  Fields[Index(NameField)].clear();
+  Field(NameField).clear();
 }
 
 CaseTexts ReadScreen(const CaseScreen& screen, bool heirsConsent) {
   CaseTexts texts;
   for (const Caption& caption : Captions()) {
     if (caption.Index == 0 || caption.Index == NetEstateField) continue;
-    texts.Fields[Index(caption.Index)] = screen.Text1(caption.Index).Text;
+    texts.Field(caption.Index) = screen.Text1(caption.Index).Text;
   }
   for (int i = 0; i < screen.Check1.Size; ++i) texts.ClassII[Index(i)] = screen.Check1(i).Value == 1;
   texts.Gender = screen.Combo1.ListIndex == Female ? Female : Male;
@@ -86,7 +86,7 @@ void TypeIntoScreen(const CaseTexts& texts, CaseScreen& screen) {
   screen.Combo1.ListIndex = texts.Gender;
   for (const Caption& caption : Captions()) {
     if (caption.Index == 0 || caption.Index == NetEstateField) continue;
-    screen.Text1(caption.Index).Text = texts.Fields[Index(caption.Index)];
+    screen.Text1(caption.Index).Text = texts.Field(caption.Index);
   }
   for (int i = 0; i < screen.Check1.Size; ++i) screen.Check1(i).Value = texts.ClassII[Index(i)] ? 1 : 0;
 }
@@ -109,8 +109,8 @@ std::optional<Entry> FindEntry(std::string_view caption) {
 
 std::string English(CaseFault fault, std::string_view what) {
   const FaultRow& row = *std::ranges::find(faultRows, fault, &FaultRow::Fault);
-  if (row.Behind == nullptr) return row.Before;
-  return Join(row.Before, "\"", what, "\"", row.Behind);
+  if (row.After == nullptr) return row.Before;
+  return Join(row.Before, "\"", what, "\"", row.After);
 }
 
 std::optional<int> GenderOf(std::string_view value) {
@@ -123,7 +123,7 @@ std::optional<int> GenderOf(std::string_view value) {
 std::optional<CaseFault> CaseEntries::Set(Entry entry, std::string_view value) {
   switch (entry.Kind) {
     case Kind::Field:
-      (entry.Index == spouseField ? wives_ : texts_.Fields[Index(entry.Index)]) = value;
+      (entry.Index == spouseField ? wives_ : texts_.Field(entry.Index)) = value;
       break;
     case Kind::Husband:
       husband_ = value;
@@ -135,13 +135,13 @@ std::optional<CaseFault> CaseEntries::Set(Entry entry, std::string_view value) {
       break;
     }
     case Kind::Name:
-      texts_.Fields[Index(NameField)] = value;
+      texts_.Field(NameField) = value;
       break;
     case Kind::Deceased:
       if (const std::optional<int> gender = GenderOf(value)) {
         gender_ = gender;
       } else {
-        texts_.Fields[Index(NameField)] = value;
+        texts_.Field(NameField) = value;
       }
       break;
     case Kind::HeirsConsent: {
@@ -161,7 +161,7 @@ std::optional<CaseFault> CaseEntries::Settle() {
   if (wives && gender_ == Female) return CaseFault::WivesOfAWoman;
   if (husband && gender_ == Male) return CaseFault::HusbandOfAMan;
   texts_.Gender = gender_.value_or(husband ? Female : Male);
-  texts_.Fields[Index(spouseField)] = texts_.Gender == Female ? husband_ : wives_;
+  texts_.Field(spouseField) = texts_.Gender == Female ? husband_ : wives_;
   return std::nullopt;
 }
 

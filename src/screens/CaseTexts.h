@@ -20,6 +20,9 @@ struct CaseTexts {
   int Gender = Male;
   bool HeirsConsent = false;
 
+  std::string& Field(int index) { return Fields[static_cast<std::size_t>(index)]; }
+  const std::string& Field(int index) const { return Fields[static_cast<std::size_t>(index)]; }
+
   bool operator==(const CaseTexts&) const = default;
 };
 
@@ -42,8 +45,7 @@ CaseTexts ReadScreen(const CaseScreen& screen, bool heirsConsent);
 /// Types the case into the screen, the gender first. Nothing is run.
 void TypeIntoScreen(const CaseTexts& texts, CaseScreen& screen);
 
-/// What a caption names. It comes before the equals sign in a case file, or is the heading of a column of a
-/// table.
+/// What a caption names. It precedes the equals sign in a case file, or heads a column of a table.
 struct Entry {
   enum class Kind { Field, Husband, ClassII, Name, Deceased, HeirsConsent };
   Kind Kind = Kind::Field;
@@ -56,7 +58,7 @@ struct Entry {
 /// The entry of a caption. Capitals, doubled blanks and the shape of an apostrophe do not matter.
 std::optional<Entry> FindEntry(std::string_view caption);
 
-/// What can be wrong with a case that comes as text, whatever its fields hold.
+/// What can be wrong with a case file or a row of a table, apart from the texts of its fields.
 enum class CaseFault {
   NotUtf8,
   ControlCharacter,
@@ -80,19 +82,20 @@ std::string English(CaseFault fault, std::string_view what);
 /// The gender that "Deceased" gives; nothing where its value is a name.
 std::optional<int> GenderOf(std::string_view value);
 
-/// Puts a case together from its entries, which may come in any order.
+/// Builds a case from its entries, which may come in any order.
 class CaseEntries {
  public:
   /// "Deceased" takes Male or Female as the gender, anything else as the name; class II takes ticked or 1,
   /// and 0 or nothing; the consent of the heirs takes yes or no.
   std::optional<CaseFault> Set(Entry entry, std::string_view value);
 
-  /// The case, once all entries are set: the one field of wives and husband is that of the spouse who is
-  /// named. Without a word on the gender a husband has survived a woman, else the deceased is a man.
+  /// Completes the case when all entries are set. The field that wives and husband share gets the count of
+  /// the right spouse. Without an entry for the gender, the deceased is a woman if a husband is named, else a
+  /// man.
   std::optional<CaseFault> Settle();
   const CaseTexts& Texts() const { return texts_; }
 
-  /// As if nothing had been set; the memory is kept.
+  /// Removes all entries, and keeps the memory for the next case.
   void Clear();
 
  private:

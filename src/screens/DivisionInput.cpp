@@ -1,9 +1,6 @@
 #include "screens/DivisionInput.h"
 
-#include <algorithm>
-
 #include "base/Text.h"
-#include "residue/ClassII.h"
 #include "screens/Captions.h"
 #include "screens/HeirFields.h"
 
@@ -13,16 +10,6 @@ namespace {
 
 constexpr std::size_t mostWholeDigits = 15;  // of 999,999,999,999,999.99
 constexpr std::size_t mostDecimals = 2;
-
-bool AreDigits(std::string_view text) {
-  return !text.empty() && std::ranges::all_of(text, [](char c) { return c >= '0' && c <= '9'; });
-}
-
-std::string_view WithoutBlanks(std::string_view text) {
-  const std::size_t first = text.find_first_not_of(' ');
-  if (first == std::string_view::npos) return {};
-  return text.substr(first, text.find_last_not_of(' ') - first + 1);
-}
 
 /// Whether digits are grouped by commas: a first group of one digit up to the size, then groups of the size,
 /// the last of them of three digits.
@@ -66,7 +53,7 @@ constexpr const char* faultWords[] = {
     " is more than 999,999,999,999,999.99",
 };
 
-/// Reads the fields one after the other and notes those that cannot be read.
+/// Reads the fields of a case and collects those that cannot be read.
 class Fields {
  public:
   explicit Fields(const CaseTexts& texts) : texts_(texts) {}
@@ -81,7 +68,7 @@ class Fields {
   std::vector<UnreadableField> Unreadable;
 
  private:
-  const std::string& Text(int index) const { return texts_.Fields[static_cast<std::size_t>(index)]; }
+  const std::string& Text(int index) const { return texts_.Field(index); }
 
   std::int64_t Noted(std::string_view caption, int index, const FieldReading& reading, int most) {
     if (reading.Fault != FieldFault::None) {
@@ -95,14 +82,8 @@ class Fields {
 
 }  // namespace
 
-std::string_view CaptionOf(faraid::Kind kind) {
-  const auto index = static_cast<std::size_t>(kind);
-  if (index < HeirFields.size()) return HeirFields[index].Caption;
-  return kind == faraid::Kind::Remainder ? "Remainder" : ClassIIRows[index - HeirFields.size()].Caption;
-}
-
 FieldReading ReadHeads(std::string_view text, int most) {
-  text = WithoutBlanks(text);
+  text = Trimmed(text, " ");
   if (!AreDigits(text)) return {0, FieldFault::NotWhole};
   const std::string digits = Digits(text);
   // No field takes more than three digits.
@@ -111,7 +92,7 @@ FieldReading ReadHeads(std::string_view text, int most) {
 }
 
 FieldReading ReadAmount(std::string_view text) {
-  text = WithoutBlanks(text);
+  text = Trimmed(text, " ");
   const std::size_t point = text.find('.');
   const bool hasPoint = point != std::string_view::npos;
   std::string decimals(hasPoint ? text.substr(point + 1) : "0");

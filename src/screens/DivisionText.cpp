@@ -1,8 +1,7 @@
 #include "screens/DivisionText.h"
 
 #include "base/Text.h"
-#include "faraid/Amounts.h"
-#include "screens/HeirFields.h"
+#include "screens/Captions.h"
 
 namespace qismora {
 
@@ -11,32 +10,12 @@ namespace {
 using faraid::Standing;
 
 std::string StandingText(const faraid::Row& row) {
-  switch (row.As) {
-    case Standing::Sharer:
-      return "sharer";
-    case Standing::Residuary:
-      return "residuary";
-    case Standing::SharerAndResiduary:
-      return "sharer and residuary";
-    case Standing::Excluded:
-      return Join("excluded by ", CaptionOf(row.Excluder));
-    case Standing::TwoThirdsTaken:
-      return "two thirds are taken";
-    case Standing::NotAnHeir:
-      return "not an heir in this school";
-    case Standing::NothingLeft:
-      return "nothing is left";
-  }
-  return {};
+  std::string text;
+  AppendStanding(text, row);
+  return text;
 }
 
-std::string EachText(const faraid::Row& row, const faraid::Amount& amount) {
-  if (amount.HeadsWithOneMore == 0) return AmountText(amount.Each);
-  if (amount.HeadsWithOneMore == row.Heads) return AmountText(amount.Each + 1);
-  return Join(AmountText(amount.Each), " or ", AmountText(amount.Each + 1));
-}
-
-/// A class II kind takes as one and has no count.
+/// A class II kind counts as one head, so its line has no count.
 std::string HeirLine(const faraid::Row& row, const faraid::Amount& amount) {
   const std::string share = FractionText(row.Share);
   const std::string together = AmountText(amount.Together);
@@ -86,6 +65,32 @@ std::vector<std::string> DivisionLines(const DivisionInput& input, faraid::Schoo
     lines.push_back(HeirLine(division.Rows[i], amounts[i]));
   }
   return lines;
+}
+
+void AppendStanding(std::string& text, const faraid::Row& row) {
+  if (row.Heir == faraid::Kind::Remainder) return Append(text, "remainder");
+  switch (row.As) {
+    case Standing::Sharer:
+      return Append(text, "sharer");
+    case Standing::Residuary:
+      return Append(text, "residuary");
+    case Standing::SharerAndResiduary:
+      return Append(text, "sharer and residuary");
+    case Standing::Excluded:
+      return Append(text, "excluded by ", CaptionOf(row.Excluder));
+    case Standing::TwoThirdsTaken:
+      return Append(text, "two thirds are taken");
+    case Standing::NotAnHeir:
+      return Append(text, "not an heir in this school");
+    case Standing::NothingLeft:
+      return Append(text, "nothing is left");
+  }
+}
+
+std::string EachText(const faraid::Row& row, const faraid::Amount& amount) {
+  if (amount.HeadsWithOneMore == 0) return AmountText(amount.Each);
+  if (amount.HeadsWithOneMore == row.Heads) return AmountText(amount.Each + 1);
+  return Join(AmountText(amount.Each), " or ", AmountText(amount.Each + 1));
 }
 
 std::string AmountText(faraid::Hundredths amount) {

@@ -3,19 +3,27 @@
 #include <string>
 #include <vector>
 
-#include "faraid/School.h"
+#include "faraid/Amounts.h"
+#include "faraid/Division.h"
 #include "screens/DivisionInput.h"
 
 namespace qismora {
 
-/// The division as plain lines: what is cut of the bequests, the net estate, the bases, and a line for each
-/// heir and the remainder; or what cannot be read, or what the estate lacks.
+/// The division as plain lines: a limit of the bequests, the net estate, the bases, and a line for each heir
+/// and the remainder. If nothing is divided: the fields that cannot be read, or by how much the estate is
+/// short.
 std::vector<std::string> DivisionLines(const DivisionInput& input, faraid::School school);
+
+/// Appends as what an heir takes, or why nothing: "sharer", "excluded by Father".
+void AppendStanding(std::string& text, const faraid::Row& row);
+
+/// What each head of a row receives: "33.33 or 33.34" if some receive a hundredth more.
+std::string EachText(const faraid::Row& row, const faraid::Amount& amount);
 
 /// An amount with two decimals and without grouping: 1234567.80.
 std::string AmountText(faraid::Hundredths amount);
 
-/// A fraction as 3/8, a whole one as 1.
+/// A fraction as 3/8, a whole number without a denominator.
 std::string FractionText(const faraid::Fraction& fraction);
 
 }  // namespace qismora

@@ -53,13 +53,12 @@ void Fill(DivisionView& view, const faraid::Division& division) {
 /// The texts are read once for all schools.
 DivisionView ViewWithoutLines(const CaseTexts& texts, const DivisionInput& input) {
   DivisionView view;
-  view.Name = texts.Fields[NameField];
+  view.Name = texts.Field(NameField);
   view.Gender = texts.Gender;
   view.Unreadable = input.Unreadable;
   view.Estate = input.Estate;
   for (const ExampleFigure& example : ExampleFigures) {
-    if (texts.Fields[static_cast<std::size_t>(example.Index)] == example.Text)
-      view.Examples.push_back(example.Index);
+    if (texts.Field(example.Index) == example.Text) view.Examples.push_back(example.Index);
   }
   if (!view.Unreadable.empty()) return view;
   view.Settlement = faraid::Settle(input.Estate);
@@ -141,7 +140,7 @@ CaseTexts WithHeads(CaseTexts texts, Kind heir, int heads) {
   if (heir == Kind::Remainder) return texts;
   const auto index = static_cast<std::size_t>(heir);
   if (index < HeirFields.size()) {
-    texts.Fields[static_cast<std::size_t>(HeirFields[index].Index)] = std::to_string(heads);
+    texts.Field(HeirFields[index].Index) = std::to_string(heads);
   } else {
     texts.ClassII[index - HeirFields.size()] = heads > 0;
   }

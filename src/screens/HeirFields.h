@@ -7,8 +7,8 @@
 
 namespace qismora {
 
-/// The field in which an heir of the classical law is counted: its index in Text1 and Label1, and its
-/// caption. Wives and husband share one.
+/// The field in which a kind of heir is counted: its index in Text1 and Label1, and its caption. Wives and
+/// husband share one.
 struct HeirField {
   faraid::Kind Heir;
   int Index;
@@ -46,8 +46,5 @@ inline constexpr std::array<HeirField, 23> HeirFields = {{
 constexpr faraid::Kind ClassIIKind(int check) {
   return static_cast<faraid::Kind>(HeirFields.size() + static_cast<std::size_t>(check));
 }
-
-/// The caption of any kind, the class II kinds and "Remainder" among them.
-std::string_view CaptionOf(faraid::Kind kind);
 
 }  // namespace qismora

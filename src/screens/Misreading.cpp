@@ -11,14 +11,8 @@ namespace qismora {
 
 namespace {
 
-bool AreDigits(std::string_view text) {
-  return !text.empty() && std::ranges::all_of(text, [](char c) { return c >= '0' && c <= '9'; });
-}
-
 bool IsPlain(std::string_view text, bool whole) {
-  const std::size_t first = text.find_first_not_of(' ');
-  if (first == std::string_view::npos) return false;
-  text = text.substr(first, text.find_last_not_of(' ') - first + 1);
+  text = Trimmed(text, " ");
   const std::size_t point = whole ? std::string_view::npos : text.find('.');
   if (point == std::string_view::npos) return AreDigits(text);
   return AreDigits(text.substr(0, point)) && AreDigits(text.substr(point + 1));

@@ -256,10 +256,8 @@ OwnAnswer OwnAnswerOf(const CaseTexts& texts) {
   }
   answer.NetEstate = own.Record.NetEstate.Value();
   answer.Refusal = own.Boxes.Refusal;
-  for (const int field : {GrossEstateField, FuneralField, DebtsField, WillsField}) {
-    const std::string& text = texts.Fields[static_cast<std::size_t>(field)];
-    answer.StopsAtComma = answer.StopsAtComma || text.find(',') != std::string::npos;
-  }
+  answer.StopsAtComma = std::ranges::any_of(
+      EstateFieldIndexes, [&](int field) { return texts.Field(field).find(',') != std::string::npos; });
   if (answer.IsDecided()) Shares(own.Record, answer).Read();
   return answer;
 }

@@ -1,5 +1,6 @@
 #include <gtest/gtest.h>
 
+#include "screens/Captions.h"
 #include "screens/DivisionInput.h"
 #include "screens/HeirFields.h"
 #include "support/ScreenFixture.h"

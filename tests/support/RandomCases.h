@@ -6,6 +6,7 @@
 #include <string>
 
 #include "faraid/Families.h"
+#include "screens/Captions.h"
 #include "screens/CaseTexts.h"
 #include "screens/HeirFields.h"
 
