@@ -22,8 +22,9 @@ namespace {
 
 constexpr const char* viewCaptions[] = {"Urd ", "E", "Arabic "};
 
-/// Which rule a double click on a caption runs; field 1 belongs to wives or husband. The daughters are the
-/// only caption whose rule is run without its wrapper, so that the case is loaded once.
+/// The rule that a double click on a caption runs; caption 1 is that of the wives or the husband. The
+/// daughters' rule runs without its wrapper, so that the case is loaded once; for the others it is loaded
+/// twice.
 struct Dispatch {
   int Index;
   Rule Run;
@@ -58,9 +59,17 @@ constexpr int blankCaption = 12;
 
 constexpr int brightestColour = 0xFFFFFF;
 
+void SetHeirs(CaseScreen& screen, const char* count) {
+  for (const int field : HeirFieldIndexes) screen.Text1(field).Text = count;
+}
+
+void UntickClassII(CaseScreen& screen) {
+  for (int i = 0; i < screen.Check1.Size; ++i) screen.Check1(i).Value = 0;
+}
+
 }  // namespace
 
-// An abandoned command must not leave the flag of a running report.
+// An abandoned command must not leave CaseLoaded set.
 template <class Body>
 void CaseStudy::Event(Body body) {
   GuardedEvent(System.Boxes, [&] {
@@ -75,7 +84,7 @@ void CaseStudy::Event(Body body) {
   EventsEnded = EventsEnded + 1;
 }
 
-// The answer is reviewed when the command is over: the load itself writes into fields.
+// The answer is reviewed only after the command, because the load itself writes into fields.
 template <class Body>
 void CaseStudy::Command(AnswerOf what, const std::string& name, Body body) {
   Event([&] {
@@ -103,7 +112,7 @@ CaseStudy::CaseStudy(CaseRecord& record, Ports& ports, int savedLanguage)
   static_cast<ScreenLayer&>(record) = ScreenLayer{};
 
   for (const Caption& caption : Captions()) Label1(caption.Index).Caption = std::string(caption.Words);
-  for (const int field : HeirFieldIndexes) Text1(field).Text = "0";
+  SetHeirs(*this, "0");
   Text1(NameField).Text = "ABDULLAH";
   for (const ExampleFigure& example : ExampleFigures) Text1(example.Index).Text = std::string(example.Text);
   Text1(NetEstateField).Text = "0";
@@ -174,7 +183,6 @@ void CaseStudy::StartCase(const CaseTexts& texts) {
   });
 }
 
-// The links of Frame5 are drawn by the window, and the narrative tables are filled when the program is built.
 void CaseStudy::Form_Load(int savedLanguage) {
   Label13.Caption = Join(record_.ExecCount);
   Comb1_Data();
@@ -188,8 +196,8 @@ void CaseStudy::Comb1_Data() {
   Combo1.ListIndex = Male;
 }
 
-// The switch of gender. Wives and husband exclude each other; the typed text stays and is read at the next
-// load for the other of the two.
+// The gender was switched. Wives and husband exclude each other. The typed count stays, and the next load
+// reads it for the other spouse.
 void CaseStudy::Combo1_Click() {
   const bool male = Combo1.ListIndex == Male;
   Frame1.Caption = Join("Informations of the deceased ", Combo1.Text());
@@ -220,8 +228,8 @@ void CaseStudy::ShowArabicCaptions() {
   Image41(1).Visible = false;
 }
 
-// The choice of view returns the screen to a male deceased. The English view shows the same caption
-// pictures as the Urdu view, without the panels over the class II check boxes.
+// Choosing a view also sets the gender to male. The English view shows the same caption pictures as the Urdu
+// view, without the panels over the class II check boxes.
 void CaseStudy::ChooseView(int index) {
   const bool urdu = index == 0;
   const bool arabic = index == 2;
@@ -248,8 +256,8 @@ void CaseStudy::Label4_Click(int index) {
   Event([&] { ChooseView(index); });
 }
 
-// A double click on a caption: clear the results, load the case, run the wrapper, which loads it again, and
-// the rule.
+// A double click on a caption clears the results, loads the case, and runs the wrapper of the rule, which
+// loads it again.
 void CaseStudy::Label1_DblClick(int index) {
   if (index == 0 || (index >= NameField && index <= NetEstateField)) return;
   const bool computes = index != blankCaption;
@@ -284,7 +292,8 @@ void CaseStudy::Text1_Change(int) {
   ReviewAnswer();
 }
 
-// A refused estate is 0 afterwards, and so is the spouse that a switch of gender takes away.
+// The figure that stays if the text of a field is not read. A refused estate is 0, and so is a spouse after a
+// switch of gender.
 std::string CaseStudy::KeptFigure(int index) const {
   if (index == 1) return Join(Combo1.ListIndex == Male ? record_.Wives : record_.Husband);
   if (index == GrossEstateField) return GeneralNumber(record_.GrossEstate);
@@ -355,7 +364,8 @@ void CaseStudy::SaveResults_Click() {
   Event([&] { SaveResults(*this); });
 }
 
-// The clear command. Each clear steps the colour of the program's name; past the brightest it is green again.
+// The clear command. Each clear changes the colour of the program's name; after the brightest it is green
+// again.
 void CaseStudy::Image2_Click() {
   Event([&] {
     Frame5.Visible = true;
@@ -364,8 +374,8 @@ void CaseStudy::Image2_Click() {
     Text3.Text = "";
     Text2.Text = "";
     Label3.Caption = "";
-    for (const int field : HeirFieldIndexes) Text1(field).Text = "0";
-    for (int i = 0; i < Check1.Size; ++i) Check1(i).Value = 0;
+    SetHeirs(*this, "0");
+    UntickClassII(*this);
     const int next = Label6.ForeColor + 500000;
     Label6.ForeColor = next <= brightestColour ? next : Green;
     answer_.Cleared();
@@ -377,9 +387,8 @@ void CaseStudy::TestValues_Click() {
   Event([&] {
     const bool fill = testValues_;
     testValues_ = !fill;
-    for (const int field : HeirFieldIndexes) Text1(field).Text = fill ? "1" : "0";
-    if (fill) return;
-    for (int i = 0; i < Check1.Size; ++i) Check1(i).Value = 0;
+    SetHeirs(*this, fill ? "1" : "0");
+    if (!fill) UntickClassII(*this);
   });
 }
 
@@ -392,30 +401,28 @@ void CaseStudy::Label13_DblClick() {
 
 void CaseStudy::Label6_Click() {
   Event([&] {
-    if (HideCatalogue) HideCatalogue();
+    Call(HideCatalogue);
     System.Boxes.Inform(BoxStyle::Information, "YOU ARE WORKING ON THIS PROGRAM");
   });
 }
 void CaseStudy::Image38_Click() { Label6_Click(); }
 
 void CaseStudy::About_Click() {
-  Event([&] {
-    if (ShowCatalogue) ShowCatalogue();
-  });
+  Event([&] { Call(ShowCatalogue); });
 }
 
 void CaseStudy::Back_Click() {
   Event([&] {
     Frame5.Visible = true;
-    if (ShowMainMenu) ShowMainMenu();
-    if (Hide) Hide();
+    Call(ShowMainMenu);
+    Call(Hide);
   });
 }
 
 void CaseStudy::Form_QueryUnload() {
   Event([&] {
-    if (Hide) Hide();
-    if (ShowMainMenu) ShowMainMenu();
+    Call(Hide);
+    Call(ShowMainMenu);
   });
 }
 
@@ -434,7 +441,7 @@ void CaseStudy::Image6_MouseMove() { Image6(0).Visible = false; }
 void CaseStudy::Image4_MouseMove() { Image4(0).Visible = false; }
 void CaseStudy::Image7_MouseMove() { Image7(1).Visible = false; }
 
-// Moving on to the frame takes every hover decoration back.
+// When the mouse moves over the frame, all hover decorations end.
 void CaseStudy::Frame111_MouseMove() {
   Image7(1).Visible = true;
   Image4(0).Visible = true;

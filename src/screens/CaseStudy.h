@@ -12,9 +12,9 @@
 
 namespace qismora {
 
-/// The Case Study screen without its window: the controls as plain values, and the handler of every event.
-/// A window shows it and passes events on; a transcript plays it. No failure leaves an event: an unhandled
-/// one is reported with its number in a message box, and the program goes on.
+/// The Case Study screen without its window: the controls as plain values, and the handler of every event. A
+/// window shows it and passes events on; a transcript plays it. No failure leaves an event: an unhandled one
+/// is reported with its number in a message box, and the program continues.
 class CaseStudy : public CaseScreen, public CentredFrame {
  public:
   /// Resets the screen layer of the record and runs the start sequence. The saved language is the first view,
@@ -28,16 +28,16 @@ class CaseStudy : public CaseScreen, public CentredFrame {
   /// Called to hide the screen; it keeps its texts.
   std::function<void()> Hide;
 
-  /// How the load reads the text of Text1(index), if that differs from what the user sees; see Misreading.h.
+  /// How the load reads the text of Text1(index), if it reads something else than the user sees
+  /// (Misreading.h).
   std::string MisreadingOf(int index) const;
-  /// The same for all fields that are read differently, a sentence each with caption and text: Gross Estate
-  /// 18,40,000 is read as 18.
+  /// The same for all fields, each as a sentence: "Gross Estate 18,40,000 is read as 18".
   std::vector<std::string> Misreadings(Grouping grouping) const;
 
-  /// Starts with a case as if the screen and the record were new: nothing of the case before is left, and
-  /// nothing is run. How many executions there were, and the chosen view, stay.
+  /// Starts a case as if the screen and the record were new: nothing of the earlier case stays, and nothing
+  /// is run. Only the number of executions and the chosen view stay.
   void StartCase(const CaseTexts& texts);
-  /// The heirs consent to bequests above the third; it belongs to a case and to no field of the screen.
+  /// Whether the heirs consent to bequests above the third. It belongs to the case, but no field shows it.
   Property<bool> HeirsConsent;
 
   /// How far the answer that is shown can be relied on.
@@ -68,7 +68,7 @@ class CaseStudy : public CaseScreen, public CentredFrame {
   void Image2_Click();
   void TestValues_Click();
 
-  // The view, and what surrounds the case
+  // The view, and the way to other forms
   void Label4_Click(int index);
   void Label13_DblClick();
   void Label6_Click();

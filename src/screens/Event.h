@@ -1,5 +1,7 @@
 #pragma once
 
+#include <functional>
+
 #include "base/Failure.h"
 #include "base/Ports.h"
 #include "base/Text.h"
@@ -7,7 +9,7 @@
 namespace qismora {
 
 /// Runs the body of an event. No failure leaves it: an unhandled one is reported with its number in a plain
-/// message box, and the program goes on. A message box that nobody answers ends the event silently.
+/// message box, and the program continues. A message box without an answer ends the event silently.
 template <class Body>
 void GuardedEvent(MessageBoxes& boxes, Body body) {
   try {
@@ -19,6 +21,11 @@ void GuardedEvent(MessageBoxes& boxes, Body body) {
   } catch (const Unanswered&) {
     return;
   }
+}
+
+/// Calls the function, if there is one.
+inline void Call(const std::function<void()>& function) {
+  if (function) function();
 }
 
 }  // namespace qismora

@@ -10,32 +10,34 @@ namespace qismora {
 
 namespace {
 
-enum class Leads { ToLaws, ToLawsAndText5, ToDocument, ToCaseStudy, Nowhere };
+/// What an entry of the menu opens: a law page, a law page with the focus in its text, a document, Case
+/// Study.
+enum class Target { LawPage, LawPageInFocus, Document, CaseStudy, None };
 
 /// An entry of the menu. The document is the number of its holder.
 struct Entry {
   const char* Caption;
-  Leads To;
+  Target Opens;
   int Document = 0;
 };
 
 constexpr Entry entries[] = {
-    {"Quranic Laws Described", Leads::ToLawsAndText5},
-    {"Rules of Inheritance (.pdf)", Leads::ToDocument, 4},
-    {"Historical Background (.pdf)", Leads::ToDocument, 1},
-    {"Indian Acts Considered", Leads::ToLaws},
-    {"Origin and Development (.pdf)", Leads::ToDocument, 2},
-    {"Exclusion from Inheritance", Leads::ToLaws},
-    {"FIND SHARES - CASE STUDIES", Leads::ToCaseStudy},
-    {"D", Leads::Nowhere},
-    {"Rules of 'Aul' && 'Radd' implied", Leads::ToLawsAndText5},
-    {"Schools of Thoughts (.pdf)", Leads::ToDocument, 3},
-    {"References (.pdf)", Leads::ToDocument, 5},
-    {"Relations Made Easy (.pdf)", Leads::ToDocument, 6},
-    {"Aayaat -e- Meeraas (.pdf)", Leads::ToDocument, 7},
+    {"Quranic Laws Described", Target::LawPageInFocus},
+    {"Rules of Inheritance (.pdf)", Target::Document, 4},
+    {"Historical Background (.pdf)", Target::Document, 1},
+    {"Indian Acts Considered", Target::LawPage},
+    {"Origin and Development (.pdf)", Target::Document, 2},
+    {"Exclusion from Inheritance", Target::LawPage},
+    {"FIND SHARES - CASE STUDIES", Target::CaseStudy},
+    {"D", Target::None},
+    {"Rules of 'Aul' && 'Radd' implied", Target::LawPageInFocus},
+    {"Schools of Thoughts (.pdf)", Target::Document, 3},
+    {"References (.pdf)", Target::Document, 5},
+    {"Relations Made Easy (.pdf)", Target::Document, 6},
+    {"Aayaat -e- Meeraas (.pdf)", Target::Document, 7},
 };
 
-/// The entry that is never shown. While it is selected, every other can be chosen, the last one too.
+/// The entry that is never shown. It is selected while no command runs, so any other entry can be chosen.
 constexpr int restingEntry = 7;
 
 constexpr int lightGreen = 192 + 255 * 0x100 + 192 * 0x10000;
@@ -64,10 +66,6 @@ constexpr const char* disclaimer =
     "as to its suitability for a particular purpose.\r\n\r\n"
     "DOUBLE CLICK TO HIDE THIS DISCLAIMER\r\n\r\n\r\n";
 
-void Call(const std::function<void()>& way) {
-  if (way) way();
-}
-
 }  // namespace
 
 template <class Body>
@@ -75,7 +73,7 @@ void InhMain::Event(Body body) {
   GuardedEvent(ports_.Boxes, body);
 }
 
-/// The animation is only decoration: its failures are not worth a message box.
+/// Runs a part of the animation. It is only decoration, so its failures show no message box.
 template <class Body>
 void InhMain::Decoration(Body body) {
   try {
@@ -114,7 +112,7 @@ void InhMain::Form_Load() {
   videos_.PlaySecondVideo();
 }
 
-// The group goes back to its resting entry, so that the same entry can be chosen again.
+// Afterwards the resting entry is selected, so that the same entry can be chosen again.
 void InhMain::Option1_Click(int index) {
   Event([&] {
     ShowsWaitCursor = true;
@@ -129,17 +127,17 @@ void InhMain::Option1_Click(int index) {
 
 void InhMain::RunEntry(int index) {
   const Entry& entry = entries[index];
-  switch (entry.To) {
-    case Leads::ToLaws:
+  switch (entry.Opens) {
+    case Target::LawPage:
       return Call(ShowQurLaws);
-    case Leads::ToLawsAndText5:
+    case Target::LawPageInFocus:
       Call(ShowQurLaws);
       return Call(FocusText5OfQurLaws);
-    case Leads::ToDocument:
+    case Target::Document:
       return OpenDocument(entry.Document, ports_);
-    case Leads::ToCaseStudy:
+    case Target::CaseStudy:
       return Call(ShowCaseStudy);
-    case Leads::Nowhere:
+    case Target::None:
       return;
   }
 }
@@ -170,7 +168,7 @@ void InhMain::Image3_Click(int index) {
   Event([&] { ShowPicture(index); });
 }
 
-// A click on a picture shows the next one. The setting keeps the picture that was clicked.
+// A click on a picture shows the next one. The setting stores the picture that was clicked.
 void InhMain::ShowPicture(int clicked) {
   Image3(clicked).Visible = false;  // a number that names no picture fails here and is not kept
   const int next = (clicked + 1) % Image3.Size;

@@ -16,8 +16,8 @@ namespace qismora {
 /// for the whole run of the program.
 class InhMain : public CentredFrame {
  public:
-  /// Reads the settings, starts the session and the animation. A failure ends this silently at its step; the
-  /// form opens all the same.
+  /// Reads the settings, and starts the session and the animation. A failure ends this silently; the form
+  /// still opens.
   InhMain(CaseRecord& record, ShellRecord& shell, ShellPorts& ports);
 
   // Called to open the other forms.
@@ -27,7 +27,7 @@ class InhMain : public CentredFrame {
   std::function<void()> ShowZummy;
   std::function<void()> ShowSession;
   std::function<void()> ShowCatalogue;
-  /// Whether the program may end; asks about a changed case. Nothing asks where it is not set.
+  /// Called before the program ends; it asks about a changed case. False keeps the program running.
   std::function<bool()> MayEnd;
   /// Called to hide this form.
   std::function<void()> Hide;

@@ -22,8 +22,8 @@ void QurLaws::Form_Load() {
 
 void QurLaws::Close_Click() {
   GuardedEvent(boxes_, [&] {
-    if (ShowMainMenu) ShowMainMenu();
-    if (Unload) Unload();
+    Call(ShowMainMenu);
+    Call(Unload);
   });
 }
 void QurLaws::Form_Unload() { Close_Click(); }

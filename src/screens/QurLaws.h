@@ -9,8 +9,8 @@
 
 namespace qismora {
 
-/// The form of the law pages without its window. It shows the page of LawPage when it loads. A number without
-/// a page leaves its texts unchanged.
+/// The form of the law pages without its window. It shows the page that LawPage selects. A number without a
+/// page leaves the texts unchanged.
 class QurLaws : public CentredFrame {
  public:
   QurLaws(const ShellRecord& shell, MessageBoxes& boxes);
@@ -19,7 +19,7 @@ class QurLaws : public CentredFrame {
   /// Called to close the form; the next one is loaded again.
   std::function<void()> Unload;
 
-  /// Shows the page of LawPage. The constructor does so; the menu does it again while the form is open.
+  /// Shows the page that LawPage selects. The menu calls it again while the form is open.
   void Form_Load();
 
   void Close_Click();

@@ -30,8 +30,8 @@ void Zummy::cmdLCM_Click() {
 
 void Zummy::Back_Click() {
   GuardedEvent(ports_.Boxes, [&] {
-    if (ShowMainMenu) ShowMainMenu();
-    if (Hide) Hide();
+    Call(ShowMainMenu);
+    Call(Hide);
   });
 }
 

@@ -17,7 +17,7 @@ class Zummy {
 
   std::function<void()> ShowMainMenu;
   std::function<void()> Hide;
-  /// Whether the program may end; asks about a changed case. Nothing asks where it is not set.
+  /// Called before the program ends; it asks about a changed case. False keeps the program running.
   std::function<bool()> MayEnd;
 
   void HistBack_Click();
