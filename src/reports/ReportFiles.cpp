@@ -20,13 +20,13 @@ std::string ReportPath(const CaseScreen& screen, std::string_view name) {
 }
 std::string WorkingFile(const CaseScreen& screen) { return ReportPath(screen, "FullReport"); }
 
-void EndSave(const CaseScreen& screen, const std::string& path, const std::string& reason = "") {
+void ReportSave(const CaseScreen& screen, const std::string& path, const std::string& reason = "") {
   if (screen.System.SaveEnded) screen.System.SaveEnded({path, reason});
 }
 
-/// Runs the second and the third step and writes all three to the working file. A failure leaves in it what
-/// was printed up to then; an abandoned run leaves it as it was. Returns what was written: another program in
-/// the same folder may be writing its own report to the file.
+/// Runs the second and the third step and writes all three to the working file. After a failure the file has
+/// what was printed before it; an abandoned run does not change the file. Returns what was written, because
+/// another program may write its own report to the same file.
 std::string PrintReport(CaseRecord& c, CaseScreen& screen, const std::string& stepOne) {
   NewFile file(screen.System.Places, WorkingFile(screen), Replace::OwnFile);
   std::string report;
@@ -57,17 +57,17 @@ std::string PrintReport(CaseRecord& c, CaseScreen& screen, const std::string& st
 
 void MakeFullReport(CaseRecord& c, CaseScreen& screen) {
   RunSelectedReport(c, screen);
-  // The footer is removed, the line breaks before it are kept. If the load has stopped the run, there is no
-  // text to cut, and that failure ends the command before any file is changed.
+  // The footer is removed, the line breaks before it stay. If the load has stopped the run, there is no
+  // footer, and the failure of WithoutEnd ends the command before any file is changed.
   const std::string stepOne = Join("STEP - 1 (INPUTS & INDIVIDUAL REPORTS):", CRLF, CRLF,
                                    WithoutEnd(screen.Text3.Text.Get(), FooterLength));
   const std::string report = PrintReport(c, screen, stepOne);
-  // A line break comes before each line: the text starts with one and ends without.
+  // The text starts with a line break and does not end with one.
   screen.Text3.Text = Join(CRLF, WithoutEnd(report, 2));
   SaveFullReportFile(screen, report);
 }
 
-/// Whether the user lets the file of that name be replaced.
+/// Whether the user agrees to replace the report of the deceased.
 bool AskToReplaceReport(CaseScreen& screen) {
   return screen.System.Boxes.Show(
              BoxStyle::Warning, BoxButtons::YesNo,
@@ -82,15 +82,14 @@ std::string ShownText(const CaseScreen& screen) {
   return "";
 }
 
-/// Whether the user lets the file of that name be replaced.
+/// Whether the user agrees to replace the file of this name.
 bool AskToReplaceResults(CaseScreen& screen, const std::string& name) {
   return screen.System.Boxes.Show(BoxStyle::Warning, BoxButtons::YesNoCancel,
                                   Join("File with the name ", name, " already exists in the folder.", CRLF,
                                        "Would you like to replace the existing file?")) == Answer::Yes;
 }
 
-/// Saves what is shown under a path of the user's choice. A link that the user chose is followed: he means
-/// the file that it leads to.
+/// Saves the shown text under the path that the user has chosen. A link is followed.
 void SaveShownText(CaseScreen& screen, const std::string& path) {
   const std::size_t separator = path.rfind('/');
   const std::string name = path.substr(separator + 1);
@@ -106,10 +105,10 @@ void SaveShownText(CaseScreen& screen, const std::string& path) {
   }
   WriteSafely(screen.System.Places, exists ? FollowLinks(path) : path,
               Join(screen.Label2.Caption, CRLF, text, CRLF), exists ? Replace::Agreed : Replace::Nothing);
-  EndSave(screen, path);
+  ReportSave(screen, path);
 }
 
-/// Suppresses the messages of the stages during its lifetime.
+/// Suppresses the messages of the steps during its lifetime.
 class ReportingToFile {
  public:
   explicit ReportingToFile(CaseRecord& c) : record_(c) { record_.ReportToFile = true; }
@@ -128,10 +127,10 @@ void CreateSaveFullReport(CaseRecord& c, CaseScreen& screen) {
   try {
     MakeFullReport(c, screen);
   } catch (const FileFailure& failure) {
-    EndSave(screen, WorkingFile(screen), failure.Reason);
+    ReportSave(screen, WorkingFile(screen), failure.Reason);
   } catch (const Failure&) {
     if (screen.Watch.Stopped) screen.Watch.Stopped("The case could not be worked out.");
-    EndSave(screen, WorkingFile(screen), "the case could not be worked out");
+    ReportSave(screen, WorkingFile(screen), "the case could not be worked out");
   }
 }
 
@@ -146,13 +145,13 @@ void SaveFullReportFile(CaseScreen& screen, const std::string& report) {
       WriteSafely(places, path, report, Replace::Nothing);
     } catch (const Failure& failure) {
       if (failure.Number != FileAlreadyExists) throw;
-      if (!AskToReplaceReport(screen)) return EndSave(screen, WorkingFile(screen));
+      if (!AskToReplaceReport(screen)) return ReportSave(screen, WorkingFile(screen));
       WriteSafely(places, path, report, Replace::Agreed);
     }
   } catch (const FileFailure& failure) {
-    return EndSave(screen, path, failure.Reason);
+    return ReportSave(screen, path, failure.Reason);
   }
-  EndSave(screen, path);
+  ReportSave(screen, path);
   screen.System.Boxes.Inform(BoxStyle::Information, Join("Results of ", deceased, " saved successfully."));
 }
 
@@ -167,7 +166,7 @@ void SaveResults(CaseScreen& screen) {
   try {
     SaveShownText(screen, *path);
   } catch (const FileFailure& failure) {
-    EndSave(screen, *path, failure.Reason);
+    ReportSave(screen, *path, failure.Reason);
   }
 }
 

@@ -7,7 +7,7 @@ namespace qismora {
 
 namespace {
 
-/// An heir counts as entered when the reading of its field fails.
+/// Whether the field has a number above 0. If the reading fails, the heir counts as entered.
 template <class Reading>
 bool IsAboveZero(const CaseScreen& screen, int index, Reading read) {
   try {

@@ -18,9 +18,8 @@ namespace {
 
 constexpr int anyGender = -1;
 
-/// A section of a report: its heir, who must be alive to have one in the selected report, its title, the rule
-/// that writes it, the gender of the deceased that it needs, and the texts before and after the
-/// narrative.
+/// A section of a report: its heir, its title, the rule that writes it, the gender of the deceased that it
+/// needs, and the texts before and after the narrative. The selected report has it only if the heir is alive.
 struct SectionRow {
   HeirKind Heir;
   const char* Title;
@@ -47,8 +46,7 @@ constexpr SectionRow sections[] = {
     {UterineBrotherHeir, "UTERINE BROTHER'S SHARE", ShareOfUterineBrother},
 };
 
-/// The sections built so far, each before the earlier ones. Text3 shows them even when a failure ends the
-/// run.
+/// The sections of a report, the last one first. Text3 shows them in the end, even if a failure ends the run.
 class SectionStack {
  public:
   explicit SectionStack(CaseScreen& screen) : screen_(screen) {}
@@ -72,7 +70,7 @@ class SectionStack {
   std::vector<std::string> texts_;
 };
 
-/// The beginning of both commands; false after a hard failure of the load.
+/// Starts both commands: clears and loads. False after a hard failure of the load.
 bool Start(CaseRecord& c, CaseScreen& screen) {
   c.CaseLoaded = true;
   screen.Frame5.Visible = false;
@@ -88,7 +86,7 @@ bool Start(CaseRecord& c, CaseScreen& screen) {
 
 std::string Footer(CaseScreen& screen) { return Join(GeneratedBy(screen.System.Time.Now()), CRLF, CRLF); }
 
-/// Every kind has its section; a spouse whom the deceased cannot have has a bare heading.
+/// Every kind has a section. The section of the spouse whom the deceased cannot have is a heading alone.
 void RunAllSections(CaseRecord& c, CaseScreen& screen) {
   SectionStack stack(screen);
   int number = 0;

@@ -11,7 +11,7 @@ namespace {
 constexpr const char* sharer = "Sharer ";
 constexpr const char* residuary = "Resid (Asaba') ";
 
-/// The entries 34 to 45 of the table belong to the class II check boxes.
+/// The entries of the class II check boxes are those from 34 to 45.
 constexpr int firstClassIICheckBox = 34;
 
 void Enter(CaseRecord& c, int field, Double amount, const char* kind, const std::string& fraction) {
@@ -43,7 +43,7 @@ void EnterSpouse(CaseRecord& c) {
   Enter(c, 1, 0, sharer, "(0/1)");
 }
 
-/// One male ascendant; the plus after the fraction means the residue in addition.
+/// One male ascendant. A plus sign after the fraction means that he also takes the residue.
 void EnterFather(CaseRecord& c, int field, Double amount) {
   const bool takesResidue = c.Res(FatherAsResiduary) || c.Res(FatherAsSharerAndResiduary);
   if (amount > 0 && takesResidue) {
@@ -61,7 +61,7 @@ std::string HeirLine(const CaseRecord& c, const CaseScreen& screen, int field) {
               ")- ", c.SummaryKind(field), c.SummaryFraction(field), CRLF);
 }
 
-/// The grandmothers entered, and one line for the amount of the group: the last of them that has one.
+/// A line for each grandmother entered, and one for the group with the last amount among them.
 std::string GrandMotherLines(const CaseRecord& c, const CaseScreen& screen) {
   std::string lines;
   int kept = 0;
@@ -99,7 +99,7 @@ std::string HeirLines(const CaseRecord& c, const CaseScreen& screen) {
   return lines + ClassIILine(screen);
 }
 
-/// No hint is given where Aul is to be applied beside residuaries.
+/// The hint to apply a doctrine. There is none for Aul beside residuaries.
 const char* DoctrineHint(const CaseRecord& c) {
   if (c.AulRaddState == Radd) return "\r\n\tAPPLY RADD DOCTRINE\r\n\r\n";
   if (c.AulRaddState == Aul) return "\r\n\tAPPLY AUL DOCTRINE\r\n\r\n";

@@ -5,7 +5,7 @@
 
 namespace qismora {
 
-/// Collects amount, standing and fraction of every kind of heir, by the index of the heir's field.
+/// Stores the amount, the standing and the fraction of every kind of heir by the index of its field.
 void FillSummaryTable(CaseRecord& c);
 
 /// Fills SummaryReport: one line for each heir entered, a note, the sum of the shares and the residue.

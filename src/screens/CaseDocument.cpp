@@ -82,7 +82,7 @@ void CaseDocument::Open() {
   });
 }
 
-// The file is read before the question about the case on the screen: for a damaged one nothing is left.
+// The file is read first: a damaged one must not cost the case on the screen.
 bool CaseDocument::OpenFile(const std::string& path) {
   bool opened = false;
   GuardedEvent(ports_.Boxes, [&] {
@@ -148,7 +148,7 @@ bool CaseDocument::MayLeave() {
     const Answer answer = ports_.Boxes.Show(BoxStyle::Warning, BoxButtons::SaveDiscardCancel,
                                             Join(what, CRLF, "Save it before it is closed?"));
     leave = answer == Answer::Discard || (answer == Answer::Save && SaveOrAsk());
-    if (answer == Answer::Discard) kept_ = Texts();  // nobody asks about it again
+    if (answer == Answer::Discard) kept_ = Texts();  // so that nothing asks again
     Review();
   });
   return leave;
@@ -163,7 +163,7 @@ std::vector<std::string> CaseDocument::Recent() const {
   return paths;
 }
 
-// A file that is not there any more is forgotten.
+// A file that no longer exists is removed from the list.
 void CaseDocument::Remember(const std::string& path, bool exists) {
   std::vector<std::string> paths = Recent();
   std::erase(paths, path);

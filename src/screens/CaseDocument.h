@@ -8,22 +8,22 @@
 
 namespace qismora {
 
-/// The case of the Case Study screen as a document: under which file it is kept, whether it has changed
-/// since, and the commands that open and save it. What is changed is not left without a question.
+/// The case of the Case Study screen as a document: its file, whether it has changed since it was saved, and
+/// the commands that open and save it. A changed case is not lost without a question.
 class CaseDocument {
  public:
-  /// The example that a new screen shows counts as kept: it is no work of the user.
+  /// The example that a new screen shows counts as saved, because it is not the user's work.
   CaseDocument(CaseStudy& form, Ports& ports);
 
   // The commands of the menu.
-  /// Empties everything, the estate of the example too.
+  /// Empties all fields, including the example's estate.
   void New();
   void Open();
   void Save();
   void SaveAs();
 
-  /// Opens a case file. A damaged file is refused with the number of its line and changes nothing; lines of a
-  /// newer version are named. False where the file is not open then.
+  /// Opens a case file. A damaged file is refused with the number of the faulty line, and changes nothing.
+  /// Lines of a newer version are skipped and listed. False if the file is not opened.
   bool OpenFile(const std::string& path);
 
   /// Asks about a changed case: Save, Discard or Cancel. True if it may be left.
@@ -32,8 +32,8 @@ class CaseDocument {
   bool IsChanged() const;
   /// The path of the file; empty before there is one.
   const std::string& Path() const { return path_; }
-  /// The name of the file, and whether the case has changed: estate.qismora, changed. Without a file: Not
-  /// saved, or nothing.
+  /// The name of the file, and whether the case has changed: "estate.qismora, changed". Without a file: "Not
+  /// saved" if the case has changed, else empty.
   Property<std::string> Title;
 
   /// The files that were opened or saved last, the latest first.
@@ -55,7 +55,7 @@ class CaseDocument {
   Ports& ports_;
   std::string path_;
   CaseTexts kept_;
-  /// Lines of the file are not known here; saving in its place would lose them.
+  /// The file has lines of a newer version, which saving under its name would lose.
   bool incomplete_ = false;
   bool starting_ = false;
 };

@@ -10,8 +10,8 @@
 
 namespace qismora {
 
-// A case as a readable text file, one "caption = value" a line, as the guides write cases. Lines may come in
-// any order; blank ones and those that begin with # are skipped. The first may be "Qismora case = VERSION".
+// A case as a text file with one "caption = value" per line, as the guides write cases. Lines may come in any
+// order. Blank lines and lines that begin with # are skipped. The first line may be "Qismora case = VERSION".
 
 inline constexpr int CaseFileVersion = 1;
 /// A field of the screen holds up to 32,767 characters, so all that it can hold fits.
@@ -28,31 +28,31 @@ struct CaseLine {
 
 struct CaseFileFault {
   CaseFault Fault = CaseFault::NotUtf8;
-  /// Where, from 1; the text is what the fault's sentence quotes, shortened.
+  /// The number of the line, from 1, and the text that the fault's sentence quotes, shortened.
   CaseLine Line;
 };
 
 struct CaseFileReading {
   CaseTexts Case;
-  /// A damaged file is no case.
+  /// Set if the file is damaged; then there is no case.
   std::optional<CaseFileFault> Fault;
-  /// What a newer version of the program has written and this one skips.
+  /// Lines that a newer version has written and this one skips.
   std::vector<CaseLine> Unknown;
 };
 
 /// Reads the content of a case file. Fields that it does not name are "0", the name is empty.
 CaseFileReading ParseCaseFile(std::string_view content);
 
-/// The content of a file for the case: name, gender, the heirs and class II heirs that are there, and the
-/// estate. A field that is empty counts nobody and is not written.
+/// The content of a file for the case: name, gender, the heirs and class II heirs who are alive, and the
+/// estate. An empty field of an heir is not written.
 std::string WriteCaseFile(const CaseTexts& texts);
 
-/// Reads an ordinary file, also through a link. One that cannot be read is a FileFailure, a missing one the
-/// failure 53.
+/// Reads an ordinary file, also through a link. A missing file is the failure 53, any other that cannot be
+/// read a FileFailure.
 CaseFileReading OpenCaseFile(const std::string& path);
 
-/// Saves a file, whole or not at all, in the place of one that the user has agreed to replace. A link is
-/// followed. What cannot be written is a failure.
+/// Saves a case file completely or not at all. It may replace a file, as the user has agreed; a link is
+/// followed. A file that cannot be written is a failure.
 void SaveCaseFile(Folders& places, const std::string& path, const CaseTexts& texts);
 
 }  // namespace qismora

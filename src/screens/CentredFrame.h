@@ -4,7 +4,7 @@
 
 namespace qismora {
 
-/// The position of `Frame111`, the frame that holds all controls of a form, in its window, in twips.
+/// The position in its window, in twips, of Frame111, which holds all controls of a form.
 struct CentredFrame {
   static constexpr int Width = 12000;
   static constexpr int Height = 9000;
@@ -12,8 +12,8 @@ struct CentredFrame {
   Property<int> Frame111Left;
   Property<int> Frame111Top;
 
-  /// Takes the size of the window in twips. The frame is centred in a maximized window, and in the top left
-  /// corner of any other.
+  /// Takes the size of the window in twips. The frame is in the centre of a maximized window, and in the top
+  /// left corner of any other.
   void Form_Resize(bool maximized, int width, int height) {
     Frame111Left = maximized ? (width - Width) / 2 : 0;
     Frame111Top = maximized ? (height - Height) / 2 : 0;

@@ -24,7 +24,7 @@ using faraid::Kind;
 using faraid::KindSet;
 using enum faraid::Kind;
 
-/// The largest whole number to which the commands round an amount.
+/// The largest number to which the commands can round an amount.
 constexpr double largestLong = 2147483647;
 
 const Family& FamilyOf(const Compared& c) { return c.Input.Family; }
@@ -71,7 +71,7 @@ bool AreBequestsLimitedOtherwise(const Compared& c) {
 
 bool HasNoFigures(const Compared& c) { return c.Own.Outcome == OwnOutcome::NoFigures && c.Own.NetEstate > 0; }
 
-/// Only beside a spouse alone, or where nobody is alive, the division has a remainder.
+/// The division has a remainder only if a spouse or nobody is alive.
 bool IsSpouseAlone(const Compared& c) {
   return HasNoFigures(c) && Has(c, faraid::Spouses) && ShareOf(c.Hanafi, Remainder) > 0;
 }
@@ -83,7 +83,8 @@ bool IsThirdOfRemainder(const Division& division) {
   return mother != nullptr && mother->Why.Code == faraid::ReasonCode::Umariyyatan;
 }
 
-/// The spouse's amount is rounded before the mother takes a third of the remainder, and is too large for it.
+/// Before the mother takes a third of the remainder, the spouse's amount is rounded; here it is too large for
+/// that.
 bool IsSpousesAmountTooLarge(const Compared& c) {
   const Fraction share = ShareOf(c.Hanafi, Husband) + ShareOf(c.Hanafi, Wives);
   return c.Own.Outcome == OwnOutcome::Failed && IsThirdOfRemainder(c.Hanafi) &&
@@ -101,13 +102,13 @@ bool ConsanguineBrotherBesideDaughters(const Compared& c) {
          ShareOf(c.Hanafi, ConsanguineBrothers) > 0;
 }
 
-/// Sons' daughters beside sons' sons' sons, without a nearer man: the commands divide between them two to
-/// one.
+/// Son's daughters beside son's son's sons, without a nearer male descendant. The commands divide between
+/// them two to one.
 bool BesideLowestMan(const Compared& c) {
   return Has(c, SonsDaughters) && Has(c, SonsSonsSons) && !Has(c, Sons | SonsSons);
 }
 
-/// By accident two to one may be what the fixed share and the residue come to.
+/// Fixed share and residue may happen to be two to one.
 bool IsTwoToOne(const Compared& c) {
   return PerHead(c.Hanafi, SonsSonsSons) == Fraction(2) * PerHead(c.Hanafi, SonsDaughters);
 }
@@ -149,7 +150,7 @@ bool SchoolDiffers(const Compared& c) {
       c.Asked.Rows, [&](const faraid::Row& row) { return row.Share != ShareOf(c.Hanafi, row.Heir); });
 }
 
-// Those of the estate stand first, then those in which no amount is shown.
+// First those of the estate, then those without figures, then those of the shares.
 constexpr DifferenceKind kinds[] = {
     {Concern::Estate, "comma", HasComma,                         //
      "The commands read an amount only up to its first comma.",  //
@@ -216,7 +217,7 @@ constexpr DifferenceKind kinds[] = {
 
 double InUnits(faraid::Hundredths amount) { return static_cast<double>(amount) / 100; }
 
-/// The commands compute in binary fractions, which beyond a certain size have no hundredths.
+/// The commands compute in floating point, which has no hundredths in large numbers.
 bool EstateDiffers(const Compared& c) {
   if (c.Own.Outcome == OwnOutcome::FigureRefused || c.Own.Outcome == OwnOutcome::EstateRefused) return true;
   constexpr double halfHundredth = 0.005;
@@ -225,7 +226,7 @@ bool EstateDiffers(const Compared& c) {
   return std::abs(c.Own.NetEstate - InUnits(c.Settled.Net)) > tolerance;
 }
 
-/// Whether the heirs of the line have another part of the commands' net estate than in the division.
+/// Whether the heirs of the row have another part of the net estate in the commands than in the division.
 bool ShareDiffers(const Compared& c, const faraid::Row& row) {
   if (row.Heir == Remainder) return false;
   constexpr double precision = 1e-9;
@@ -258,7 +259,7 @@ Differences Compare(const DivisionInput& input, const OwnAnswer& own, faraid::Sc
     if (takes && lineDiffers) differences.Heirs = differences.Heirs | row.Heir;
     sharesDiffer = sharesDiffer || shareDiffers;
   }
-  // What the commands decide against Hanafi law may by accident be the law of another school.
+  // A share against Hanafi law may agree with the law of another school; there it is no difference.
   const bool askShares =
       sharesDiffer || (school == faraid::School::Hanafi && own.IsDecided() && own.NetEstate > 0);
   for (const DifferenceKind& kind : kinds) {

@@ -12,27 +12,28 @@ namespace qismora {
 
 struct Compared;
 
-/// What a kind of difference concerns.
+/// What a kind of difference concerns: the estate, the lack of figures, or the shares.
 enum class Concern : std::uint8_t { Estate, Figures, Shares };
 
 /// A kind of difference between the answer of the commands and the division.
 struct DifferenceKind {
   Concern Of;
-  /// A short word for other programs. It stays as it is when the sentence changes.
+  /// A name for other programs. It does not change with the sentence.
   std::string_view Id;
-  /// Asked about the estate only where it differs, and about the shares only where they are decided.
+  /// Whether it applies. It is asked about the estate only if that differs, and about the shares only if they
+  /// are decided.
   bool (*When)(const Compared&);
-  /// What happens, for the user.
+  /// What the commands do, for the user.
   std::string_view Sentence;
   /// The heading of its section in docs/peculiarities.md, as a link names it.
   std::string_view Section;
 };
 
-/// All kinds in the order in which they are named. Those of the estate come first: then every line differs.
-/// Several can hold at once.
+/// All kinds, in the order in which they are shown. Several can apply at once. If one of the estate applies,
+/// every line differs.
 std::span<const DifferenceKind> DifferenceKinds();
 
-/// Where the answer of the commands and a division part.
+/// How the answer of the commands differs from a division.
 struct Differences {
   /// The heirs whose lines differ.
   faraid::KindSet Heirs;
@@ -41,14 +42,14 @@ struct Differences {
   bool None() const { return Kinds.IsEmpty(); }
 };
 
-/// Compares the answer of the commands with the division in a school. Fields that cannot be read differ in
-/// nothing: then there is no division.
+/// Compares the answer of the commands with the division in a school. If a field cannot be read, there is no
+/// division and so no difference.
 ///
-/// A line differs where what all heads of the kind have together is not the same part of the net estate, or
-/// where the commands show no amount for an heir who takes something. The amounts of the commands are
-/// compared before they are rounded to whole numbers for their texts. What the commands round before they
-/// compute with it is no difference where it stays below a unit of money: the spouse's amount in the mother's
-/// third of the remainder. The estate differs where the net estates are not the same hundredth.
+/// A line differs if all heads of the kind together have another part of the net estate, or if the commands
+/// show no amount for an heir who takes something. The amounts of the commands are compared before they are
+/// rounded for their texts. One rounding is no difference: that of the spouse's amount in the mother's third
+/// of the remainder, as long as it stays below a unit of money. The estate differs if the net estates are not
+/// equal to the hundredth.
 Differences Compare(const DivisionInput& input, const OwnAnswer& own, faraid::School school);
 
 }  // namespace qismora

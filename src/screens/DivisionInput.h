@@ -10,7 +10,7 @@
 
 namespace qismora {
 
-/// What is wrong with the text of a field; the first that fits.
+/// What is wrong with the text of a field; the first that applies.
 enum class FieldFault { None, NotWhole, TooMany, NotAnAmount, TooManyDecimals, TooMuch };
 
 /// What a field holds: a count, or an amount in hundredths.
@@ -19,10 +19,10 @@ struct FieldReading {
   FieldFault Fault = FieldFault::None;
 };
 
-/// Reads plain digits, blanks around them aside.
+/// Reads a count in plain digits, with or without blanks around them. More than the most is a fault.
 FieldReading ReadHeads(std::string_view text, int most);
 
-/// Reads a plain decimal of at most two decimals and at most faraid::MostHundredths, blanks around it aside.
+/// Reads an amount with at most two decimals, up to faraid::MostHundredths, with or without blanks around it.
 /// The digits before the point may be grouped by commas, as in 1,234,567 or 12,34,567.
 FieldReading ReadAmount(std::string_view text);
 
@@ -32,15 +32,15 @@ struct UnreadableField {
   std::string Text;
   FieldFault Fault = FieldFault::None;
   int Most = 0;
-  /// Of Text1.
+  /// The index in Text1.
   int Index = 0;
 };
 
-/// The fault in English: Sons: "101" is more than 100. The text is quoted as it was typed.
+/// The fault in English, with the text as it was typed: Sons: "101" is more than 100.
 std::string English(const UnreadableField& field);
 
-/// What is to be divided. Nothing is divided while there are unreadable fields; these come in the order of
-/// the screen, the heirs first.
+/// The family and the estate to divide. Nothing is divided if there are unreadable fields, which are in the
+/// order of the screen, the heirs first.
 struct DivisionInput {
   faraid::Family Family;
   faraid::Estate Estate;

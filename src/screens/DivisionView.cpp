@@ -13,7 +13,7 @@ using faraid::Change;
 using faraid::Kind;
 using faraid::Standing;
 
-/// Whether one of the takers takes as a residuary.
+/// Whether a residuary takes something.
 bool HasResiduary(const faraid::Division& division) {
   return std::ranges::any_of(division.Rows, [](const faraid::Row& row) {
     return row.Heir != Kind::Remainder && row.Share > 0 && row.As != Standing::Sharer;
@@ -50,7 +50,7 @@ void Fill(DivisionView& view, const faraid::Division& division) {
   }
 }
 
-/// The texts are read once for all schools.
+/// What is the same for all schools.
 DivisionView ViewWithoutLines(const CaseTexts& texts, const DivisionInput& input) {
   DivisionView view;
   view.Name = texts.Field(NameField);

@@ -37,7 +37,7 @@ enum class DivisionOutcome {
 struct DivisionLine {
   faraid::Row Law;
   faraid::Amount Amount;
-  /// Of the corrected base, all heads together.
+  /// The parts of the corrected base, all heads together.
   std::int64_t Parts = 0;
 
   faraid::Kind Heir() const { return Law.Heir; }
@@ -45,7 +45,7 @@ struct DivisionLine {
   bool operator==(const DivisionLine&) const = default;
 };
 
-/// The line below those who take: the heads, the parts and the money come to this.
+/// The sums of the heads, the parts and the amounts of those who take.
 struct DivisionSum {
   int Heads = 0;
   std::int64_t Parts = 0;
@@ -54,7 +54,7 @@ struct DivisionSum {
   bool operator==(const DivisionSum&) const = default;
 };
 
-/// The division of a case by one school, as the window and the paper show it: values alone, no words.
+/// The division of a case by one school, as the window and the paper show it. It has values, not words.
 struct DivisionView {
   faraid::School School = faraid::School::Hanafi;
   std::string Name;
@@ -77,38 +77,39 @@ struct DivisionView {
   /// The heirs who are alive and receive nothing.
   std::vector<DivisionLine> Others;
 
-  /// The answer of the commands of Case Study, and where it differs. Nothing where nothing is divided, nor
-  /// for a case that is not on the screen.
+  /// The answer of the commands of Case Study, and how it differs. Empty if nothing is divided, and for a
+  /// case that is not on the screen.
   std::optional<OwnAnswer> Own;
   Differences Differs;
 
-  /// There is a table: the family is read, and something or nothing is divided among it.
+  /// Whether there is a table: all fields are read and the estate is not short. The net estate may be 0.
   bool IsDivided() const {
     return Outcome != DivisionOutcome::Unreadable && Outcome != DivisionOutcome::Short;
   }
   /// The bequests exceed what they may take.
   bool BequestsAreCut() const { return Settlement.Bequests < Estate.Bequests; }
-  /// More is left to others than a third of what expenses and debts leave, so that the consent matters.
+  /// The bequests exceed a third of what funeral expenses and debts leave, so the consent of the heirs
+  /// matters.
   bool ConsentMatters() const;
-  /// The line of an heir who is alive, else null.
+  /// The line of an heir who is alive, or of the remainder; else null.
   const DivisionLine* Find(faraid::Kind heir) const;
 };
 
 /// Divides what the texts of a case hold.
 DivisionView ViewDivision(const CaseTexts& texts, faraid::School school);
 
-/// Divides what the fields of the screen hold, and compares with what its commands would answer. Nothing on
-/// the screen changes.
+/// Divides what the fields of the screen hold, and compares it with what the commands would answer. Nothing
+/// on the screen changes.
 DivisionView ViewDivision(const CaseScreen& screen, bool heirsConsent, faraid::School school);
 
 /// The same case in the four schools, in their order.
 using SchoolViews = std::array<DivisionView, 4>;
 SchoolViews ViewFourSchools(const CaseTexts& texts);
 
-/// Whether the schools differ about an heir: in the share, or in the reason of nothing.
+/// Whether the schools differ about an heir, in the share or in its reason.
 bool SchoolsDiffer(const SchoolViews& views, faraid::Kind heir);
 
-/// What an heir receives in one division and in another; nothing where he is not alive in it.
+/// What an heir receives in two divisions. An amount is empty if the heir is not alive in that division.
 struct HeirChange {
   faraid::Kind Heir = faraid::Kind::Remainder;
   std::optional<faraid::Hundredths> Before;
@@ -120,7 +121,7 @@ struct HeirChange {
 /// Every heir of either division, in the order of the division; the remainder last.
 std::vector<HeirChange> ChangesBetween(const DivisionView& before, const DivisionView& now);
 
-/// The case as it would be if so many of these heirs were alive.
+/// The case with another number of these heirs.
 CaseTexts WithHeads(CaseTexts texts, faraid::Kind heir, int heads);
 
 }  // namespace qismora

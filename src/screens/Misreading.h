@@ -6,7 +6,7 @@
 
 namespace qismora {
 
-/// How the load reads a text.
+/// How the load reads the text of a field.
 enum class Reading : std::uint8_t { AsItStands, AsAnotherNumber, NotAtAll, TooLarge };
 
 struct TypedReading {
@@ -15,16 +15,17 @@ struct TypedReading {
   std::string Number;
 };
 
-/// How the load reads a text in the field Text1(index). A comma ends a number. All fields but the gross
-/// estate round to whole numbers and refuse numbers that are too large for their type. A text that is not a
+/// How the load reads a text in the field Text1(index). A comma ends a number. All fields except the gross
+/// estate round to whole numbers, and refuse numbers that are too large for their type. A text that is not a
 /// number is not read.
 TypedReading ReadTyped(std::string_view text, int index);
 
-/// The reading as a sentence, if it differs from what the user sees. Kept names the figure that stays where
-/// nothing is read. Empty for plain digits, and for plain decimals in the gross estate.
+/// The reading as a sentence, if it differs from what the user sees. Plain digits are read as they are, and
+/// plain decimals in the gross estate; then it is empty. If nothing is read, the sentence says that the kept
+/// figure stays.
 std::string Misreading(std::string_view text, int index, std::string_view kept);
 
-/// How people group the digits of an amount: 1,234,567 or, in India and around it, 12,34,567.
+/// How the digits of an amount are grouped: 1,234,567 or, in South Asia, 12,34,567.
 enum class Grouping : std::uint8_t { Thousands, Indian };
 
 /// A number in plain digits with commas between its groups. A number with an exponent stays as it is.

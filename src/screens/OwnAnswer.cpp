@@ -15,21 +15,21 @@ namespace {
 
 using faraid::Kind;
 
-// Nobody is asked, and nothing outside changes.
+// Ports that ask nobody and change nothing.
 
 class NoClock : public Clock {
  public:
   DateTime Now() override { return {}; }
 };
 
-/// Answers the question about the wills and keeps the last message that refuses something.
+/// Answers the question about the wills and keeps the last message that refuses a figure or the estate.
 class SilentBoxes : public MessageBoxes {
  public:
   explicit SilentBoxes(Answer aboutWills) : aboutWills_(aboutWills) {}
 
   Answer Show(BoxStyle style, BoxButtons buttons, const std::string& text) override {
     if (buttons != BoxButtons::Ok) return aboutWills_;
-    // A critical box warns of a net estate below 0, and the run goes on with it.
+    // The critical message warns of a net estate below 0; the run continues.
     if (style == BoxStyle::Critical) return Answer::Ok;
     Refusal = text;
     Refused = style == BoxStyle::Information ? OwnOutcome::EstateRefused : OwnOutcome::FigureRefused;
@@ -37,7 +37,7 @@ class SilentBoxes : public MessageBoxes {
   }
 
   std::string Refusal;
-  /// What the last refusal was of, or a failure.
+  /// What the last message has refused; without one, a failure.
   OwnOutcome Refused = OwnOutcome::Failed;
 
  private:
@@ -61,11 +61,11 @@ class NoFolders : public Folders {
   std::string Application() override { return {}; }
 };
 
-/// A record and a screen in a fresh start, with the case typed in.
+/// A new record and a new screen with the case.
 struct OwnCase {
   explicit OwnCase(const CaseTexts& texts) : Boxes(texts.HeirsConsent ? Answer::Yes : Answer::No) {
     TypeIntoScreen(texts, Screen);
-    // As in the full report, whose steps are these commands: the sufficiency test says nothing.
+    // As in the full report, the sufficiency test shows no message.
     Record.ReportToFile = true;
   }
 
@@ -79,7 +79,7 @@ struct OwnCase {
   CaseScreen Screen{System};
 };
 
-/// Where the record has the count of a kind, its fixed share and the residue of each head.
+/// Where the record has the count of a kind, its fixed share, and the residue per head.
 struct KindFields {
   Kind Heir;
   Integer CaseRecord::*Count;
@@ -89,8 +89,8 @@ struct KindFields {
 
 using C = CaseRecord;
 
-// Father and grandmothers are one heir each for the record, and the sons' lines share one field of the
-// residue.
+// Without the ultimate father and the true grandmother, who are one heir each in the record. The residue of
+// male descendants is in one field for all generations (ReadDescendants).
 constexpr KindFields kindFields[] = {
     {Kind::Wives, &C::Wives, &C::WifeShare},
     {Kind::Husband, &C::Husband, &C::HusbandShare},
@@ -115,7 +115,7 @@ constexpr KindFields fathers[] = {
     {Kind::GreatGrandfather, &C::GtGrandFather},
 };
 
-/// The grandmothers by the short names of which their group is put together.
+/// A grandmother, and her initials in the name of the group.
 struct GrandmotherName {
   std::string_view Name;
   Kind Heir;
@@ -159,7 +159,7 @@ class Shares {
     Add(kind, heads, each.Value() * static_cast<double>(heads.Value()));
   }
 
-  /// A fixed share as the last text shows it. Radd leaves the spouse the plain share.
+  /// A fixed share as the last text shows it, after Aul or Radd. Radd leaves the spouse the plain share.
   double Adjusted(Kind kind, Double share) const {
     const bool plain = answer_.Applied == Doctrine::NotApplied ||
                        (answer_.Applied == Doctrine::RaddApplied && faraid::Spouses.Has(kind));
@@ -174,7 +174,7 @@ class Shares {
     }
   }
 
-  /// The women of the group divide its one amount.
+  /// The women of the group share its amount equally.
   void ReadGrandmothers() {
     if (c_.GrandMotherCount <= 0) return;
     const double each =
@@ -204,8 +204,8 @@ class Shares {
     }
   }
 
-  /// The nearest male line that the distribution serves, and the women beside it, each of whom has half of
-  /// what a man has.
+  /// The male descendants who take the residue, and the women beside them, who have half of what a man has.
+  /// The conditions are those of the residuary distribution.
   void ReadDescendants() {
     if (c_.Res(SonsWithDaughters)) return Give(Kind::Sons, Kind::Daughters);
     if (c_.Sons > 0) return Give(Kind::Sons);
@@ -228,13 +228,13 @@ class Shares {
   OwnAnswer& answer_;
 };
 
-/// Presses the two commands and says what they end in.
+/// Runs the two commands and returns their outcome.
 OwnOutcome Run(OwnCase& own, OwnAnswer& answer) {
   CaseRecord& c = own.Record;
   RunResiduaries(c, own.Screen);
   if (!own.Boxes.Refusal.empty()) return own.Boxes.Refused;
   if (c.AulRaddState == NoAdjustment) {
-    // Whoever takes, the text goes on where the lines of the sharers end.
+    // If a residuary takes, the report begins with the text of the sharers.
     return c.ResiduaryReport.starts_with(c.SummaryText) ? OwnOutcome::Figures : OwnOutcome::NoFigures;
   }
   own.Screen.Label2.Caption = "";

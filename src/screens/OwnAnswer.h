@@ -9,11 +9,13 @@
 
 namespace qismora {
 
-/// What the commands of Case Study show in the end.
+// The program's own answer: that of the commands of Case Study, beside which the division stands.
+
+/// What the commands finally show.
 enum class OwnOutcome : std::uint8_t {
   /// An amount for every heir who has a line.
   Figures,
-  /// A closing sentence, or nothing: the fixed shares use up the estate exactly, or a spouse is alone.
+  /// Only a closing sentence or nothing: the fixed shares use up the estate exactly, or a spouse is alone.
   NoFigures,
   /// A message that refuses a figure as too large.
   FigureRefused,
@@ -26,8 +28,8 @@ enum class OwnOutcome : std::uint8_t {
 /// The doctrine by which the last text divides.
 enum class Doctrine : std::uint8_t { NotApplied, AulApplied, RaddApplied };
 
-/// What a kind of heir finally has: all heads together, and each. The amounts are not rounded; the texts show
-/// whole numbers.
+/// What a kind of heir finally receives: all heads together, and each. The amounts are not rounded, though
+/// the texts show whole numbers.
 struct OwnShare {
   double Together = 0;
   double Each = 0;
@@ -37,13 +39,13 @@ struct OwnShare {
 struct OwnAnswer {
   OwnOutcome Outcome = OwnOutcome::NoFigures;
   Doctrine Applied = Doctrine::NotApplied;
-  /// The net estate as the commands compute it: below 0 where more is paid from it than there is, and 0 where
-  /// it is refused.
+  /// The net estate as the commands compute it: below 0 if more is paid from it than there is, 0 if it is
+  /// refused.
   double NetEstate = 0;
-  /// A comma ends the reading of an amount.
+  /// An amount has a comma, where the commands stop reading.
   bool StopsAtComma = false;
-  /// By the number of the kind. An heir without a line in the last text has nothing. Without figures, what
-  /// the rules decided and Execute Selected shows; nothing where the estate is refused or the run failed.
+  /// By the number of the kind. An heir without a line in the last text has nothing. If no figures are shown,
+  /// these are the shares that the rules decided. Empty if the estate is refused or the run failed.
   std::array<OwnShare, faraid::KindCount> Shares{};
   /// The message that refuses a figure or the estate.
   std::string Refusal;
@@ -53,9 +55,9 @@ struct OwnAnswer {
   const OwnShare& Of(faraid::Kind kind) const { return Shares[static_cast<std::size_t>(kind)]; }
 };
 
-/// What the commands would answer to the case in a fresh start. It runs them on a record and a screen of its
-/// own: no message appears, no file is written and no execution counts. The question about the wills is
-/// answered with Yes where the heirs consent, else with No.
+/// What the commands would answer to the case in a newly started program. It runs them on a separate record
+/// and screen: no message appears, no file is written, and no execution is counted. The question about the
+/// wills is answered with Yes if the heirs consent, else with No.
 OwnAnswer OwnAnswerOf(const CaseTexts& texts);
 
 }  // namespace qismora

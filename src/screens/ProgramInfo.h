@@ -15,7 +15,7 @@ struct ProgramFacts {
   std::vector<std::string> Libraries;
 };
 
-/// A fact of the program catalogue: a heading and what there is to say.
+/// A row of the program catalogue.
 struct InfoRow {
   std::string Heading;
   std::string Text;

@@ -37,8 +37,8 @@ void Session::Open() {
   });
 }
 
-// The newest session comes first, and the last row is empty. Until a row is selected, the selected line shows
-// the number of the newest session with the times of the oldest.
+// The newest session comes first, and the last row is empty. Until a row is selected, Label2 shows the number
+// of the newest session with the times of the oldest. This is required behaviour.
 void Session::FillGrid() {
   SessionTable table = ReadSessionLog(ports_);
   TotalSeconds = table.TotalSeconds;
@@ -71,7 +71,7 @@ void Session::MSFlexGrid1_Click(int row, int col) {
   });
 }
 
-// The second picture comes while the mouse is over the form, and goes while it is over the picture.
+// The second picture is shown while the mouse is over the form, and hidden while it is over the picture.
 void Session::Form_MouseMove() { Image1(1).Visible = true; }
 void Session::Image1_MouseMove() { Image1(1).Visible = false; }
 

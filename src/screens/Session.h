@@ -20,7 +20,7 @@ struct Grid {
   /// The current cell.
   int Row = 0;
   int Col = 0;
-  /// Called when the rows have been filled again.
+  /// Called after the rows have been filled.
   std::function<void()> Filled;
 };
 
@@ -55,7 +55,8 @@ class Session {
   ShellPorts& ports_;
 };
 
-/// The heading of a column of the grid, and the text that its width is measured by. All are centred.
+/// A column of the grid: its heading, the text from which its width is measured, and the unit in its first
+/// row.
 struct SessionColumn {
   const char* Heading;
   const char* Width;

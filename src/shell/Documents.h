@@ -23,8 +23,8 @@ inline constexpr std::array<Document, 7> Documents = {{
     {7, "Aayaat -e- Meeraas", "Aayaat -e- Meeraas.pdf"},
 }};
 
-/// Opens a document in the platform's viewer. It cannot be known whether a viewer appears, so a message box
-/// shows the path in any case. A number without a document is the subscript failure.
+/// Opens a document in the platform's viewer. The program cannot know whether a viewer appears, so a message
+/// box always shows the path. A number without a document is the subscript failure.
 void OpenDocument(int number, ShellPorts& ports);
 
 }  // namespace qismora

@@ -8,7 +8,7 @@ namespace qismora {
 
 namespace {
 
-// The pages, one entry a line. Fixed wording; do not correct.
+// The pages, one entry per line. Fixed wording; do not correct.
 
 constexpr std::string_view quranicLaws[] = {
     "   Note: The following rules have been extracted from the HOLY QURAN, vide",
@@ -252,7 +252,7 @@ constexpr std::string_view aulRadd[] = {
     "NOW, it will be seen that the sum ra1+ra2+ra3+...+ran will come to ONE.",
 };
 
-/// A page starts with a line break and ends with some.
+/// A page starts with a line break and ends with the given number of them.
 std::string PageText(std::string_view firstLine, std::span<const std::string_view> lines, int breaksAtEnd) {
   std::string text = Join(CRLF, firstLine);
   for (const std::string_view line : lines) text += Join(CRLF, line);
@@ -272,7 +272,7 @@ std::string AulRaddPage() {
   return PageText(UpperCase("Implementing the Doctrine of 'Aul' and 'Radd':"), aulRadd, 6);
 }
 
-// No entry of the main menu leads to the wills: its number 2 opens a document. The page is kept complete.
+// No entry of the main menu opens the wills: number 2 opens a document. The page is required all the same.
 constexpr LawPageRow rows[] = {
     {0, "QURANIC LAWS OF INHERITANCE", QuranicLaws}, {2, "WILLS DESCRIBED IN BRIEF", WillsPage},
     {3, "INDIAN ACTS COSIDERED", IndianActsPage},    {5, "EXCLUSION RULES OF INHERITANCE", ExclusionPage},

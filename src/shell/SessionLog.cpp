@@ -16,8 +16,8 @@ namespace qismora {
 
 namespace {
 
-// A line is written in zones of 14 columns. With a date of 19 characters the two dates begin in the columns
-// 15 and 43, the length in column 71: so the loader, which cuts at fixed positions, finds each whole.
+// A line is written in zones of 14 columns. The dates have 19 characters, so they begin in the columns 15 and
+// 43, and the length in column 71. The reader cuts the line at fixed positions.
 constexpr std::size_t zone = 14;
 constexpr std::size_t dateRoom = 25;
 constexpr std::size_t endPlace = 26;
@@ -37,7 +37,7 @@ void SkipBlanks(std::string_view& line) {
   line.remove_prefix(std::min(line.find_first_not_of(' '), line.size()));
 }
 
-/// The number that a field holds. Plain digits, as every sound line has them, need no parser.
+/// The number in a field. Plain digits, which every intact line has, are read without the parser.
 Integer ReadNumber(std::string_view field) {
   int number = 0;
   const char* end = field.data() + field.size();
@@ -45,7 +45,7 @@ Integer ReadNumber(std::string_view field) {
   return error == std::errc{} && stop == end ? Integer(number) : RoundTo<Integer>(ParsePrefix(field));
 }
 
-/// The number at the start of the line; the rest of the line stays.
+/// Removes the number from the start of the line and returns it.
 Integer TakeNumber(std::string_view& line) {
   SkipBlanks(line);
   const std::size_t end = std::min(line.find(' '), line.size());
@@ -54,15 +54,14 @@ Integer TakeNumber(std::string_view& line) {
   return number;
 }
 
-/// Whether the line ends within its number, because the disk was full: in a whole line a blank follows it.
-bool IsNumberTorn(std::string_view line, bool closed) {
+/// Whether the line ends within its number because the disk was full. In a complete line a blank follows it.
+bool IsNumberIncomplete(std::string_view line, bool closed) {
   SkipBlanks(line);
   return !closed && line.find(' ') == std::string_view::npos;
 }
 
-/// Calls with each line of the log, and whether its end is there, which the last line may lack. An empty line
-/// is no session. The whole log is read at every start, so it is read in blocks, and no more than a block of
-/// it is kept at a time.
+/// Calls the reader with each line that is not empty, and whether the line has its line break, which the last
+/// one may lack. The log is read at every start, so it is read in blocks and never kept as a whole.
 template <class Reader>
 void ReadLines(ShellPorts& ports, Reader reader) {
   InputFile file(LogPath(ports));
@@ -100,7 +99,7 @@ void LogSession(const ShellRecord& shell, const CaseRecord& c, ShellPorts& ports
   AppendLine(LogPath(ports), SessionLine(shell.SessionNumber, shell.SessionStart, now, seconds));
 }
 
-/// The program ends whether or not the message was read.
+/// Shows a message. The program ends even if nobody answers it.
 void ReportOpenLog(ShellPorts& ports) {
   try {
     ports.Boxes.Inform(
@@ -112,13 +111,13 @@ void ReportOpenLog(ShellPorts& ports) {
   }
 }
 
-/// At least two digits, after the sign of a clock that was set back.
+/// At least two digits. The number is negative if the clock was set back.
 std::string TwoPlaces(Long number) {
   const int value = static_cast<int>(number.Value());
   return value < 0 ? Join("-", TwoDigits(-value)) : TwoDigits(value);
 }
 
-/// How many whole units of so many seconds the time holds, rounded down.
+/// The number of whole units of the given seconds, rounded down.
 Long WholeUnits(Long seconds, int unit) { return RoundTo<Long>(std::floor((seconds / unit).Value())); }
 
 Long Remainder(Long number, int divisor) { return Long(number.Value() % divisor); }
@@ -129,11 +128,12 @@ void StartSession(ShellRecord& shell, ShellPorts& ports) {
   shell.SessionStart = ports.Time.Now();
   try {
     ReadLines(ports, [&](std::string_view line, bool closed) {
-      // An incomplete number was the next one when it was written.
-      shell.SessionNumber = IsNumberTorn(line, closed) ? shell.SessionNumber + Integer(1) : TakeNumber(line);
+      // The number of an incomplete line was the next one.
+      shell.SessionNumber =
+          IsNumberIncomplete(line, closed) ? shell.SessionNumber + Integer(1) : TakeNumber(line);
     });
   } catch (const Failure&) {
-    // A missing or damaged log counts as far as it could be read.
+    // Of a missing or damaged log, only what was read counts.
   }
   shell.SessionNumber += Integer(1);
 }

@@ -11,12 +11,12 @@
 
 namespace qismora {
 
-/// Notes the start of the session and takes its number from the log: the number of the last line plus 1.
-/// Where the log cannot be read, the number counts from what was read up to there.
+/// Records the start of the session and takes its number from the log: the number of the last line that can
+/// be read, plus 1.
 void StartSession(ShellRecord& shell, ShellPorts& ports);
 
-/// The exit routine: saves how many times a case was loaded, adds the session's line to the log and ends the
-/// program. Only its first call does anything. Where the line cannot be written, it is lost.
+/// The exit routine: saves how many times a case was loaded, adds the session's line to the log, and ends the
+/// program. Only its first call has an effect. A line that cannot be written is lost.
 void Inhp(ShellRecord& shell, const CaseRecord& c, ShellPorts& ports);
 
 /// A line of the log without its line break.
@@ -25,7 +25,7 @@ std::string SessionLine(Integer number, const DateTime& start, const DateTime& e
 /// The whole seconds from one date to the other. Beyond the range of a Long it is the overflow failure.
 Long SecondsBetween(const DateTime& start, const DateTime& end);
 
-/// One session, as the log has it.
+/// One session of the log.
 struct SessionRow {
   Integer Number;
   std::string Start;
@@ -40,8 +40,8 @@ struct SessionTable {
   Long TotalSeconds;
 };
 
-/// Reads the log by the fixed positions of its lines. More lines than the tables hold are the subscript
-/// failure, a missing file is the file failure.
+/// Reads the log; the fields of a line have fixed positions. More lines than MostSessions are the subscript
+/// failure, a missing file is the failure 53.
 SessionTable ReadSessionLog(ShellPorts& ports);
 inline constexpr int MostSessions = 5000;
 

@@ -5,16 +5,16 @@
 
 namespace qismora {
 
-/// The values that the screens around the calculator share during one run of the program.
+/// The values that the forms share during one run of the program.
 struct ShellRecord {
   /// Which page the law page form shows: the index of the menu entry chosen last.
   Integer LawPage;
-  /// The view that the Case Study screen opens with, as read at the start.
+  /// The first view of the Case Study screen, read from the settings at the start.
   Integer SavedLanguage;
 
   /// This run's number in the session log.
   Integer SessionNumber;
-  /// The start of the session. Before it is recorded it is the zero of dates, and the length overflows.
+  /// The start of the session. The initial value is so early that the length of a session overflows.
   DateTime SessionStart = {1899, 12, 30, 0, 0, 0};
   /// The exit routine has been entered.
   bool Ended = false;

@@ -7,8 +7,8 @@
 
 namespace qismora {
 
-/// The animation of the main menu: two videos that take turns. A file is known by its length in bytes; one of
-/// any other length is never played. It decorates the screen: nothing depends on it.
+/// The animation of the main menu: two videos that alternate. A file is recognized by its length in bytes; a
+/// file of another length is never played. It is only decoration.
 class Videos {
  public:
   explicit Videos(ShellPorts& ports) : ports_(ports) {}
