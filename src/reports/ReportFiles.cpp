@@ -20,7 +20,8 @@ std::string ReportPath(const CaseScreen& screen, std::string_view name) {
 }
 std::string WorkingFile(const CaseScreen& screen) { return ReportPath(screen, "FullReport"); }
 
-void ReportSave(const CaseScreen& screen, const std::string& path, const std::string& reason = "") {
+/// Reports the outcome of a save to the port SaveEnded.
+void EndSave(const CaseScreen& screen, const std::string& path, const std::string& reason = "") {
   if (screen.System.SaveEnded) screen.System.SaveEnded({path, reason});
 }
 
@@ -105,7 +106,7 @@ void SaveShownText(CaseScreen& screen, const std::string& path) {
   }
   WriteSafely(screen.System.Places, exists ? FollowLinks(path) : path,
               Join(screen.Label2.Caption, CRLF, text, CRLF), exists ? Replace::Agreed : Replace::Nothing);
-  ReportSave(screen, path);
+  EndSave(screen, path);
 }
 
 /// Suppresses the messages of the steps during its lifetime.
@@ -127,10 +128,10 @@ void CreateSaveFullReport(CaseRecord& c, CaseScreen& screen) {
   try {
     MakeFullReport(c, screen);
   } catch (const FileFailure& failure) {
-    ReportSave(screen, WorkingFile(screen), failure.Reason);
+    EndSave(screen, WorkingFile(screen), failure.Reason);
   } catch (const Failure&) {
     if (screen.Watch.Stopped) screen.Watch.Stopped("The case could not be worked out.");
-    ReportSave(screen, WorkingFile(screen), "the case could not be worked out");
+    EndSave(screen, WorkingFile(screen), "the case could not be worked out");
   }
 }
 
@@ -145,13 +146,13 @@ void SaveFullReportFile(CaseScreen& screen, const std::string& report) {
       WriteSafely(places, path, report, Replace::Nothing);
     } catch (const Failure& failure) {
       if (failure.Number != FileAlreadyExists) throw;
-      if (!AskToReplaceReport(screen)) return ReportSave(screen, WorkingFile(screen));
+      if (!AskToReplaceReport(screen)) return EndSave(screen, WorkingFile(screen));
       WriteSafely(places, path, report, Replace::Agreed);
     }
   } catch (const FileFailure& failure) {
-    return ReportSave(screen, path, failure.Reason);
+    return EndSave(screen, path, failure.Reason);
   }
-  ReportSave(screen, path);
+  EndSave(screen, path);
   screen.System.Boxes.Inform(BoxStyle::Information, Join("Results of ", deceased, " saved successfully."));
 }
 
@@ -166,7 +167,7 @@ void SaveResults(CaseScreen& screen) {
   try {
     SaveShownText(screen, *path);
   } catch (const FileFailure& failure) {
-    ReportSave(screen, *path, failure.Reason);
+    EndSave(screen, *path, failure.Reason);
   }
 }
 

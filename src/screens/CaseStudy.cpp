@@ -292,8 +292,7 @@ void CaseStudy::Text1_Change(int) {
   ReviewAnswer();
 }
 
-// The figure that stays if the text of a field is not read. A refused estate is 0, and so is a spouse after a
-// switch of gender.
+// A refused estate is 0 afterwards, and so is the spouse that a switch of gender takes away.
 std::string CaseStudy::KeptFigure(int index) const {
   if (index == 1) return Join(Combo1.ListIndex == Male ? record_.Wives : record_.Husband);
   if (index == GrossEstateField) return GeneralNumber(record_.GrossEstate);

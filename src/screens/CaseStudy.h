@@ -31,7 +31,8 @@ class CaseStudy : public CaseScreen, public CentredFrame {
   /// How the load reads the text of Text1(index), if it reads something else than the user sees
   /// (Misreading.h).
   std::string MisreadingOf(int index) const;
-  /// The same for all fields, each as a sentence: "Gross Estate 18,40,000 is read as 18".
+  /// The same for all fields that are read differently, a sentence each with caption and text: Gross Estate
+  /// 18,40,000 is read as 18.
   std::vector<std::string> Misreadings(Grouping grouping) const;
 
   /// Starts a case as if the screen and the record were new: nothing of the earlier case stays, and nothing

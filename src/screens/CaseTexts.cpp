@@ -42,7 +42,7 @@ bool CountsNobody(std::string_view text) { return text.find_first_not_of(" 0") =
 struct FaultRow {
   CaseFault Fault;
   const char* Before;
-  const char* After;
+  const char* Behind;
 };
 
 // The quoted caption or line comes between the two.
@@ -109,8 +109,8 @@ std::optional<Entry> FindEntry(std::string_view caption) {
 
 std::string English(CaseFault fault, std::string_view what) {
   const FaultRow& row = *std::ranges::find(faultRows, fault, &FaultRow::Fault);
-  if (row.After == nullptr) return row.Before;
-  return Join(row.Before, "\"", what, "\"", row.After);
+  if (row.Behind == nullptr) return row.Before;
+  return Join(row.Before, "\"", what, "\"", row.Behind);
 }
 
 std::optional<int> GenderOf(std::string_view value) {
