@@ -7,8 +7,8 @@
 #include <vector>
 
 #include "FirstPaint.h"
+#include "windows/RunningProgram.h"
 #include "windows/division/DivisionOpener.h"
-#include "windows/platform/RunningProgram.h"
 #include "windows/style/OutlinedStyle.h"
 
 using namespace qismora;

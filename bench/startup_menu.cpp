@@ -6,7 +6,7 @@
 #include <algorithm>
 
 #include "FirstPaint.h"
-#include "windows/platform/RunningProgram.h"
+#include "windows/RunningProgram.h"
 #include "windows/style/OutlinedStyle.h"
 
 using namespace qismora;

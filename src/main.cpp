@@ -4,7 +4,7 @@
 #include <cstdio>
 #include <cstdlib>
 
-#include "windows/platform/RunningProgram.h"
+#include "windows/RunningProgram.h"
 #include "windows/platform/Utf8.h"
 #include "windows/style/OutlinedStyle.h"
 
@@ -12,7 +12,7 @@ using namespace qismora;
 
 namespace {
 
-// Where no display can be opened, because there is none or because it is dead, Qt would abort.
+// Without a display Qt would abort. This prints a message instead.
 void ReportNoDisplay(QtMsgType type, const QMessageLogContext&, const QString& message) {
   if (type != QtFatalMsg) return static_cast<void>(std::fprintf(stderr, "%s\n", qPrintable(message)));
   std::fputs("qismora: there is no display to open a window on; start it from a desktop session.\n", stderr);

@@ -14,7 +14,7 @@
 #include "shell/SessionLog.h"
 #include "windows/MessageBoxSpy.h"
 #include "windows/ProgramFixture.h"
-#include "windows/platform/RunningProgram.h"
+#include "windows/RunningProgram.h"
 
 namespace qismora {
 

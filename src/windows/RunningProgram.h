@@ -5,7 +5,7 @@
 
 namespace qismora {
 
-/// The program as it runs: its windows and its real ports.
+/// The program as it runs: its ports and its windows, which depend on them.
 struct RunningProgram {
   /// Takes the directory of the program's binary.
   explicit RunningProgram(const QString& binaries) : Places(binaries) {}
