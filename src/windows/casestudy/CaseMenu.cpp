@@ -1,11 +1,11 @@
 #include "windows/casestudy/CaseMenu.h"
 
-#include <QAccessible>
 #include <QAction>
 #include <QMenu>
 #include <QMenuBar>
 
 #include "windows/style/PointerShape.h"
+#include "windows/widgets/Keyboard.h"
 
 namespace qismora {
 
@@ -49,15 +49,9 @@ void FillCaseMenu(QMenuBar* bar, CaseStudy& form, Binder& binder) {
     action->setVisible(entry.Where != Place::Hidden);
     if (entry.Key != noKey) action->setShortcut(entry.Key);
     if (auto run = entry.Run) {
-      const auto act = [&form, run] {
+      WhenTriggered(action, bar, [&form, run] {
         const PointerShape busy(Qt::WaitCursor);
         (form.*run)();
-      };
-      // The command may open a modal message box, and a screen reader that chose it must not wait for the
-      // answer.
-      QObject::connect(action, &QAction::triggered, bar, [bar, act] {
-        if (!QAccessible::isActive()) return act();
-        QMetaObject::invokeMethod(bar, act, Qt::QueuedConnection);
       });
     }
     if (action->objectName() == QLatin1String("AulRad")) binder.Enabled(form.AulRad, action);

@@ -1,7 +1,5 @@
 #include "windows/casestudy/SavePanel.h"
 
-#include <QAccessible>
-#include <QAccessibleWidget>
 #include <QDir>
 #include <QPainter>
 #include <QStyle>
@@ -10,40 +8,23 @@
 
 namespace qismora {
 
-namespace {
-
-QAccessibleInterface* NotificationInterface(const QString&, QObject* object) {
-  auto* panel = dynamic_cast<SavePanel*>(object);
-  return panel == nullptr ? nullptr : new QAccessibleWidget(panel, QAccessible::Notification);
-}
-
-}  // namespace
-
-SavePanel::SavePanel(const QString& folder, QWidget* parent) : QLabel(parent) {
-  QAccessible::installFactory(NotificationInterface);  // a second time changes nothing
-  setObjectName(QStringLiteral("StatusBar1.Panel2"));
-  setTextFormat(Qt::PlainText);
+SavePanel::SavePanel(const QString& folder, QWidget* parent)
+    : AnnouncedLabel(QStringLiteral("StatusBar1.Panel2"), parent) {
   Say(QStringLiteral("Full reports are saved in "), folder);
 }
 
 void SavePanel::Say(const QString& words, const QString& path) {
   words_ = words;
   path_ = QDir::toNativeSeparators(path);
-  setText(words_ + path_);
-  setToolTip(text());
-  setAccessibleName(text());
+  SetWords(words_ + path_);
 }
 
-// A screen reader announces a notification when it appears.
 void SavePanel::ShowOutcome(const SaveOutcome& outcome) {
   Say(outcome.Saved() ? QStringLiteral("Saved: ")
                       : QStringLiteral("Not saved (%1): ").arg(ToQt(outcome.Reason)),
       ToQt(outcome.Path));
-  QAccessibleEvent appeared(this, QAccessible::ObjectShow);
-  QAccessible::updateAccessibility(&appeared);
+  Announce();
 }
-
-QSize SavePanel::minimumSizeHint() const { return {0, QLabel::minimumSizeHint().height()}; }
 
 void SavePanel::paintEvent(QPaintEvent*) {
   QPainter painter(this);

@@ -1,21 +1,18 @@
 #pragma once
 
-#include <QLabel>
-
 #include "base/Ports.h"
+#include "windows/widgets/AnnouncedLabel.h"
 
 namespace qismora {
 
 /// The panel of the status bar that says where full reports are saved and, from the first command that saves
 /// on, what came of the last one. A path that is too long for it is shortened in the middle; its tool tip
 /// shows the whole. A screen reader announces what comes of a save.
-class SavePanel : public QLabel {
+class SavePanel : public AnnouncedLabel {
  public:
   SavePanel(const QString& folder, QWidget* parent);
 
   void ShowOutcome(const SaveOutcome& outcome);
-
-  QSize minimumSizeHint() const override;
 
  protected:
   void paintEvent(QPaintEvent* event) override;

@@ -1,6 +1,5 @@
 #include "windows/forms/InhMainWindow.h"
 
-#include <QAccessible>
 #include <QAction>
 #include <QApplication>
 #include <QBoxLayout>
@@ -22,6 +21,7 @@
 #include "windows/platform/Utf8.h"
 #include "windows/style/Fonts.h"
 #include "windows/style/Pictures.h"
+#include "windows/widgets/Keyboard.h"
 #include "windows/widgets/Names.h"
 #include "windows/widgets/ReadingText.h"
 
@@ -81,7 +81,7 @@ InhMainWindow::InhMainWindow(CaseRecord& record, ShellRecord& shell, ShellPorts&
       FormWindow(form_, "InhMain", QStringLiteral("Main menu"), largestText) {
   setWindowTitle(QStringLiteral("Islamic Laws of Inheritance"));
   form_.Hide = [this] {
-    // A desktop gives a window that its program never placed a new place each time it is shown.
+    // A window without a position of its own would appear in another place the next time.
     windowHandle()->setFramePosition(windowHandle()->framePosition());
     hide();
   };
@@ -106,12 +106,7 @@ void InhMainWindow::BuildMenuBar() {
   for (const Entry& entry : entries) {
     QAction* action = menuBar()->addAction(QString::fromUtf8(entry.Caption));
     action->setObjectName(QString::fromLatin1(entry.Name));
-    const auto act = [this, run = entry.Run] { (form_.*run)(); };
-    // The exit may ask about a changed case, and a screen reader that chose it must not wait for the answer.
-    connect(action, &QAction::triggered, this, [this, act] {
-      if (!QAccessible::isActive()) return act();
-      QMetaObject::invokeMethod(this, act, Qt::QueuedConnection);
-    });
+    WhenTriggered(action, this, [this, run = entry.Run] { (form_.*run)(); });
     if (entry.Run == &InhMain::Exitz_Click) action->setShortcut(QKeySequence::Quit);
   }
   AddHelpMenu(menuBar());
@@ -194,7 +189,7 @@ QWidget* InhMainWindow::Side(QtVideoPlayer& player) {
   return side;
 }
 
-// One picture is shown at a time, so the button is the parent of all six.
+// One picture at a time is visible. The button is the parent of all six.
 QWidget* InhMainWindow::Pictures() {
   auto* place = new CaptionButton(QStringLiteral("Image3"), Gesture::Click,
                                   QStringLiteral("Show the next picture"), Frame111());
@@ -249,8 +244,8 @@ QWidget* InhMainWindow::Foot() {
   return foot;
 }
 
-// The menu, and the disclaimer in its place. While the disclaimer is shown, Tab skips the menu; the focus
-// returns when it is hidden.
+// The menu, and the disclaimer over it. While the disclaimer is shown, Tab skips the menu. When it is hidden,
+// the focus returns.
 QWidget* InhMainWindow::Middle(QtVideoPlayer& player) {
   auto* place = new QWidget(Frame111());
   auto* covered = new QWidget(place);
@@ -282,8 +277,8 @@ void InhMainWindow::resizeEvent(QResizeEvent* event) {
   ForceSize();
 }
 
-// A desktop that sizes windows by its own rules prevails: no size is refused twice in a row, unless the
-// window has kept its own size for a while.
+// Keeps the fixed size, unless the desktop insists on another: a size is not refused twice in a row, unless
+// the window has had its own size for a while in between.
 void InhMainWindow::ForceSize() {
   if (FillsScreen()) return;
   if (size() == minimumSize()) {
@@ -304,7 +299,7 @@ void InhMainWindow::changeEvent(QEvent* event) {
   if (event->type() == QEvent::PaletteChange && banners_[0] != nullptr) ShowBanner();
 }
 
-// The program's icon is made after the first painting, so that it does not delay the window.
+// The program's icon is created after the first painting, so that it does not delay the window.
 void InhMainWindow::paintEvent(QPaintEvent* event) {
   FormWindow::paintEvent(event);
   if (std::exchange(painted_, true)) return;

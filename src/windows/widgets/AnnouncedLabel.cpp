@@ -17,18 +17,25 @@ QAccessibleInterface* NotificationInterface(const QString&, QObject* object) {
 }  // namespace
 
 AnnouncedLabel::AnnouncedLabel(const QString& name, QWidget* parent) : QLabel(parent) {
-  QAccessible::installFactory(NotificationInterface);  // a second time changes nothing
+  QAccessible::installFactory(NotificationInterface);  // once more changes nothing
   setObjectName(name);
   setTextFormat(Qt::PlainText);
 }
 
-// A screen reader announces a notification when it appears.
 void AnnouncedLabel::Show(const QString& words, bool announce) {
   if (words == text()) return;
+  SetWords(words);
+  if (announce && !words.isEmpty()) Announce();
+}
+
+void AnnouncedLabel::SetWords(const QString& words) {
   setText(words);
   setToolTip(words);
   setAccessibleName(words);
-  if (!announce || words.isEmpty()) return;
+}
+
+// A screen reader announces a notification when it appears.
+void AnnouncedLabel::Announce() {
   QAccessibleEvent appeared(this, QAccessible::ObjectShow);
   QAccessible::updateAccessibility(&appeared);
 }

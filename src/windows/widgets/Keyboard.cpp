@@ -1,17 +1,19 @@
 #include "windows/widgets/Keyboard.h"
 
+#include <QAccessible>
 #include <QAction>
 #include <QCoreApplication>
 #include <QKeyEvent>
 #include <QMainWindow>
 #include <QMenuBar>
 #include <QShortcut>
+#include <utility>
 
 namespace qismora {
 
 namespace {
 
-/// Where two entries share a mnemonic, Qt would alternate between them.
+/// Chooses the first of the entries that share a mnemonic. Qt would alternate between them.
 class FirstEntry : public QObject {
  public:
   explicit FirstEntry(QMenuBar* bar) : QObject(bar), bar_(bar) { bar->installEventFilter(this); }
@@ -32,7 +34,7 @@ class FirstEntry : public QObject {
   QMenuBar* bar_;
 };
 
-// A menu bar can be entered by the Alt key alone.
+// Qt enters a menu bar by the Alt key alone.
 void PressAlt(QMainWindow* window) {
   QKeyEvent down(QEvent::KeyPress, Qt::Key_Alt, Qt::AltModifier);
   QCoreApplication::sendEvent(window, &down);
@@ -46,6 +48,13 @@ void OpenToKeyboard(QMainWindow* window) {
   auto* lead = new QShortcut(Qt::Key_F10, window);
   QObject::connect(lead, &QShortcut::activated, window, [window] { PressAlt(window); });
   new FirstEntry(window->menuBar());
+}
+
+void WhenTriggered(const QAction* action, QObject* context, std::function<void()> act) {
+  QObject::connect(action, &QAction::triggered, context, [context, act = std::move(act)] {
+    if (!QAccessible::isActive()) return act();
+    QMetaObject::invokeMethod(context, act, Qt::QueuedConnection);
+  });
 }
 
 }  // namespace qismora
