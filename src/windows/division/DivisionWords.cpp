@@ -17,16 +17,15 @@ class Words {
   Q_DECLARE_TR_FUNCTIONS(Words)
 };
 
-/// What a kind of heir is called: one head, several, and one in the middle of a sentence, where other
-/// languages inflect the name. The translations of the first column that counts are those of
-/// pictures/terms.tsv.
+/// The names of a kind of heir: of one, of several, and of one within a sentence, where other languages
+/// inflect it. The translations of Several, or else of One, are those of pictures/terms.tsv.
 struct HeirNames {
   const char* One;
   const char* Several;
   const char* InSentence;
 };
 
-// Class II counts as one, so that its kinds have no plural.
+// A class II kind counts as one head, so it has no plural.
 constexpr HeirNames heirNames[] = {
     {QT_TRANSLATE_NOOP("Heirs", "Wife"), QT_TRANSLATE_NOOP("Heirs", "Wives"),
      QT_TRANSLATE_NOOP("HeirsInSentences", "wife")},
@@ -100,12 +99,12 @@ static_assert(std::size(heirNames) == faraid::KindCount + 1);
 
 const HeirNames& NamesOf(Kind kind) { return heirNames[static_cast<std::size_t>(kind)]; }
 
-/// The texts of the core are string literals, so that a terminating zero follows them.
+/// Translates a text of the core, which is a string literal and so ends with a zero byte.
 QString Translated(const char* context, std::string_view literal) {
   return QCoreApplication::translate(context, literal.data());
 }
 
-/// The translations have the digits of English.
+/// Replaces the digits 0 to 9, which the translations contain, by those of the language.
 QString WithDigits(QString text) {
   const ushort zero = CurrentLocale().zeroDigit().front().unicode();
   for (QChar& sign : text) {

@@ -20,22 +20,22 @@ QString Heir(faraid::Kind kind, int heads);
 QString CountedHeir(faraid::Kind kind, int heads);
 /// The heir as a reason or a line of a family tree names one: "full brother".
 QString OneHeir(faraid::Kind kind);
-/// The field of Case Study in the current language, after the caption of it that an UnreadableField has.
+/// The name in the current language of the field of Case Study with this caption.
 QString Field(const std::string& caption);
 
-/// "The deceased", for a tree or a form where no name is given.
+/// "The deceased", if there is no name.
 QString Deceased();
 
 // Figures
 
 /// 5 or ٥.
 QString Number(std::int64_t number);
-/// 18,40,000.50, as the locale groups it.
+/// 18,40,000.50, grouped as in the locale.
 QString Amount(faraid::Hundredths amount);
-/// 3/8; a whole one is 1.
+/// 3/8; a whole number has no denominator.
 QString Share(const faraid::Fraction& share);
 QString Ratio(const faraid::Ratio& ratio);
-/// What each receives: "33.33 or 33.34" where heads differ by a hundredth, else the amount.
+/// What each head receives: "33.33 or 33.34" if some receive a hundredth more, else one amount.
 QString Each(const faraid::Amount& amount, int heads);
 
 // Decisions
@@ -52,37 +52,37 @@ QString StandingOf(faraid::Standing standing);
 QString SchoolName(faraid::School school);
 /// "Hanafi law".
 QString SchoolLaw(faraid::School school);
-/// "yields to the grandfather": for the tree; empty where nobody excludes the heir.
+/// "yields to the grandfather", for the family tree: who excludes the heir. Empty if nobody does.
 QString YieldsTo(const faraid::Row& row);
 
 // Sentences
 
-/// What is divided among whom, and what happened: "15,00,000.00 is divided among 5 heirs. The fixed shares
-/// exceed the estate: Awl raises the base from 24 to 27." Or why nothing is divided.
+/// The division in one or two sentences: "15,00,000.00 is divided among 5 heirs. The fixed shares exceed the
+/// estate: Awl raises the base from 24 to 27." Or why nothing is divided.
 QString Headline(const DivisionView& view);
 /// Sons: "abc" is not a whole number.
 QString Unreadable(const UnreadableField& field);
-/// "Base 24, raised to 27, corrected base 27"; empty where no heir takes anything.
+/// "Base 24, raised to 27, corrected base 27"; empty if no heir takes anything.
 QString Bases(const faraid::Division& division);
 
-/// One line of the estate: "Debts" and what is taken off.
+/// One line of the estate, such as "less debts" and the amount.
 struct EstateLine {
   QString Caption;
   QString Amount;
 };
-/// Gross estate, what is paid before the heirs as far as it is not 0, and the net estate.
+/// The gross estate, what is paid before the heirs unless it is 0, and the net estate.
 std::vector<EstateLine> EstateLines(const DivisionView& view);
 /// The same in one line: "Gross estate 18,40,000.00 − debts 2,40,000.00 − bequests 1,00,000.00".
 QString EstateSummary(const DivisionView& view);
-/// "Bequests of 8,000.00 are limited to 4,000.00, ..."; empty where nothing is cut.
+/// "Bequests of 8,000.00 are limited to 4,000.00, ..."; empty without a limit.
 QString BequestNotice(const DivisionView& view);
-/// Names the figures of the estate that are still the examples with which the screen opens; empty without.
+/// Names the figures of the estate that are still those of the example; empty without any.
 QString ExampleNotice(const DivisionView& view);
 
 // The table
 
 enum class Column { Heir, Heads, Share, Parts, Together, Each, Why, Source, CaseStudy };
-/// The heading; of Parts with its base: "of 27".
+/// The heading of a column. That of Parts names the base: "of 27".
 QString Heading(Column column, std::int64_t correctedBase);
 QString Sum();
 /// Between the items of a list.
@@ -92,9 +92,9 @@ QString ListSeparator();
 
 /// "The commands of Case Study answer otherwise."
 QString NoticeHeading();
-/// What happens, in a sentence.
+/// What the commands do, in a sentence.
 QString DifferenceSentence(const DifferenceKind& kind);
-/// "Where Qismora differs": the name of the page that a difference leads to.
+/// "Where Qismora differs": the title of the page that explains a difference.
 QString PageOfDifferences();
 
 }  // namespace qismora::words

@@ -4,7 +4,8 @@
 
 namespace qismora {
 
-/// Holds the form of a window. As the first base of the window it outlives the widgets that show it.
+/// Holds the form of a window. It is the first base class of the window, so the form outlives the widgets
+/// that show it.
 template <class FormType>
 class FormHolder {
  public:

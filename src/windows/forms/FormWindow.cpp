@@ -63,7 +63,7 @@ void FormWindow::AddStrip(QWidget* strip) {
   setCentralWidget(place);
 }
 
-// The frame reaches below the status bar: menu and status bar take their part of the form's height.
+// The frame extends below the status bar, because the menu and the status bar are part of the form's height.
 void FormWindow::SetSizes(const QSize& window, int margin) {
   bars_ = menuBar()->sizeHint().height() + statusBar()->sizeHint().height();
   const bool strip = strip_ != nullptr;
@@ -78,7 +78,7 @@ void FormWindow::SetSizes(const QSize& window, int margin) {
   const int titleBar = style()->pixelMetric(QStyle::PM_TitleBarHeight);
   QSize size = window.expandedTo(least).boundedTo(screenSize - QSize(0, titleBar));
   if (size.height() < least.height()) {
-    // The scroll bar stands beside the frame where the screen is wide enough.
+    // If the screen is wide enough, the scroll bar does not cover the frame.
     size.rwidth() = qMin(screenSize.width(), size.width() + scroll_->verticalScrollBar()->sizeHint().width());
   }
   setMinimumSize(size);
@@ -86,7 +86,7 @@ void FormWindow::SetSizes(const QSize& window, int margin) {
   background_->installEventFilter(this);
 }
 
-// The form may place the frame outside of a small window. Its upper left corner stays in sight all the same.
+// The form may place the frame outside a small window. Its upper left corner stays visible.
 void FormWindow::PlaceFrame() {
   const bool maximized = FillsScreen();
   const QSize place = background_->size() + QSize(0, bars_);
@@ -101,7 +101,7 @@ void FormWindow::BringIntoSight(const QWidget* widget) {
     scroll_->ensureVisible(corner.x(), corner.y());
 }
 
-// The window has been resized before what is in it.
+// The background is resized after the window, so the size of the window is known.
 bool FormWindow::eventFilter(QObject* watched, QEvent* event) {
   if (watched == background_ && event->type() == QEvent::Resize) PlaceFrame();
   return QMainWindow::eventFilter(watched, event);

@@ -19,14 +19,14 @@ MenuOption::MenuOption(OptionButton& control, const QString& name, QWidget* pare
   setText(ToQt(control.Caption));
   setObjectName(name);
   setAccessibleName(WithoutMnemonics(control.Caption));
-  // The form itself clears the group, so each button has a group of its own.
+  // The form clears the other buttons itself, so Qt must not: each button has its own group.
   auto* group = new QButtonGroup(this);
   group->setExclusive(false);
   group->addButton(this);
   Binder::Follow<bool>(control.Visible, [this] { setVisible(control_.Visible); });
   Binder::Follow<bool>(control.Value, [this] { setChecked(control_.Value); });
   Binder::Follow<int>(control.BackColor, [this] { Colour(); });
-  // Choosing may open a modal message box, and a screen reader that chose must not wait for the answer.
+  // The command may open a modal message box, and a screen reader must not wait for the answer.
   connect(this, &QRadioButton::toggled, this, [this](bool on) {
     if (!on || control_.Value || !Chosen) return;
     QMetaObject::invokeMethod(
@@ -38,7 +38,7 @@ QSize MenuOption::sizeHint() const {
   return {QRadioButton::sizeHint().width(), fontMetrics().height() + rowMargin};
 }
 
-// A colour of its own is a bright one, in any theme, and takes dark text.
+// A highlighted entry is bright in every theme, so its text is dark.
 void MenuOption::Colour() {
   const int colour = control_.BackColor;
   const bool own = colour >= Black;

@@ -7,8 +7,8 @@
 
 namespace qismora {
 
-/// A radio button that acts when it is chosen. The arrow keys only move the focus to its neighbours; Return
-/// and Space choose it.
+/// A radio button that acts when it is chosen. Return and Space choose it; the arrow keys only move the
+/// focus.
 class MenuOption : public QRadioButton {
  public:
   MenuOption(OptionButton& control, const QString& name, QWidget* parent);
@@ -32,7 +32,7 @@ class MenuOption : public QRadioButton {
   OptionButton& control_;
 };
 
-/// A caption without the doubled ampersands that stand for one.
+/// The caption with single ampersands, as Qt shows it.
 QString WithoutMnemonics(const std::string& caption);
 
 }  // namespace qismora

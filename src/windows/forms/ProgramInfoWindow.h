@@ -6,8 +6,7 @@
 
 namespace qismora {
 
-/// The window of the program catalogue. It belongs to the window that it was opened from, and stands above
-/// it.
+/// The window of the program catalogue. It stays above the window from which it was opened.
 class ProgramInfoWindow : public QDialog {
  public:
   ProgramInfoWindow(const ProgramFacts& facts, MemoryMeter& memory, QWidget* parent);

@@ -26,7 +26,7 @@ ProgramFacts Facts() {
   return facts;
 }
 
-// A window that is shown again keeps its place.
+// Shows a window in front. A window that was hidden keeps its position.
 void BringUp(QWidget* window) {
   if (QWindow* shown = window->windowHandle(); shown != nullptr && !shown->isVisible()) {
     shown->setFramePosition(shown->framePosition());
@@ -69,11 +69,10 @@ void ProgramWindows::OpenCase(const std::string& path) {
   study_->Document().OpenFile(path);
 }
 
-// Case Study may be hidden behind the main menu with a case that has changed. When the desktop session ends
-// nobody is there to answer.
+// Case Study may be hidden with a changed case. When the desktop session ends, nobody can answer a question.
 bool ProgramWindows::MayEnd() { return sessionEnds_ || study_ == nullptr || study_->Document().MayLeave(); }
 
-// While a page is open, the menu loads the form with another one.
+// If a page is open, its form loads the new page.
 void ProgramWindows::ShowQurLaws() {
   if (laws_ == nullptr) {
     laws_ = new QurLawsWindow(shell_, ports_.Boxes);
@@ -92,7 +91,7 @@ void ProgramWindows::ShowCaseStudy() {
     form.ShowMainMenu = [this] { ShowMainMenu(); };
     form.ShowCatalogue = [this] { ShowCatalogue(study_); };
     form.HideCatalogue = [this] { HideCatalogue(); };
-    // Once Case Study stands where it belongs and is painted.
+    // After Case Study has its position and is painted.
     QTimer::singleShot(0, study_, [study = study_.data()] { study->Division().OpenBeside(); });
   }
   BringUp(study_);

@@ -13,8 +13,8 @@
 
 namespace qismora {
 
-/// All windows of the program and the transitions between them. The main menu lives for the whole run; every
-/// other window is made when it is first wanted.
+/// All windows of the program and the transitions between them. The main menu lives for the whole run. Every
+/// other window is created when it is first shown.
 class ProgramWindows {
  public:
   ProgramWindows(ShellPorts& ports, QtVideoPlayer& player);
@@ -23,11 +23,11 @@ class ProgramWindows {
   ProgramWindows& operator=(const ProgramWindows&) = delete;
 
   void ShowMainMenu();
-  /// Opens Case Study with a case file; one that cannot be opened is refused in a message there.
+  /// Opens Case Study with a case file. A message refuses a file that cannot be opened.
   void OpenCase(const std::string& path);
 
   InhMainWindow& MainMenu() { return menu_; }
-  /// The windows that exist at the moment; null if closed.
+  /// The windows; null if closed.
   CaseStudyWindow* Study() const { return study_; }
   QurLawsWindow* Laws() const { return laws_; }
   ZummyWindow* Resources() const { return zummy_.get(); }

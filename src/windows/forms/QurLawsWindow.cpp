@@ -90,8 +90,7 @@ QWidget* QurLawsWindow::Title() {
   return title;
 }
 
-// There is no panel of other products beside the page. The focus that is meant for it goes to the page, where
-// the keys scroll.
+// Text5 has no widget of its own. Its focus goes to the page, which the keyboard then scrolls.
 QWidget* QurLawsWindow::Page() {
   auto* page = new ReadingText(QStringLiteral("Text2"), QStringLiteral("Page"), Frame111());
   page->document()->setDocumentMargin(pageMargin);

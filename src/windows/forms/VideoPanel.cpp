@@ -23,7 +23,7 @@ VideoPanel::VideoPanel(QWidget* parent) : QAbstractButton(parent) {
   setSizePolicy(QSizePolicy::Preferred, QSizePolicy::Preferred);
 }
 
-// Around what plays, which covers everything else.
+// Only the focus frame is painted here; the video covers the rest.
 void VideoPanel::paintEvent(QPaintEvent*) {
   if (!hasFocus()) return;
   QStyleOptionFocusRect option;
@@ -45,7 +45,7 @@ void VideoPanel::keyPressEvent(QKeyEvent* event) {
   }
 }
 
-// A double click follows the click of its first half; the release of its second half is none.
+// A double click comes after a single click. Its second release is not another click.
 void VideoPanel::mouseDoubleClickEvent(QMouseEvent* event) {
   if (event->button() == Qt::LeftButton && DoubleClicked) DoubleClicked();
 }

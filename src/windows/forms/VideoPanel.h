@@ -5,8 +5,8 @@
 
 namespace qismora {
 
-/// The place of the animation. It stays blank until something plays in it. A click or Return goes on to the
-/// other video, a double click or Space starts the current one again.
+/// The panel of the animation, blank until a video plays. A click or Return changes to the other video, a
+/// double click or Space starts the current one again.
 class VideoPanel : public QAbstractButton {
  public:
   explicit VideoPanel(QWidget* parent);

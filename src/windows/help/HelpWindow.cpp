@@ -93,7 +93,7 @@ void ShowHelp(const QString& page, const QString& anchor, QWidget* from) {
     help->setAttribute(Qt::WA_DeleteOnClose);
     QObject::connect(QCoreApplication::instance(), &QCoreApplication::aboutToQuit, help, &QWidget::close);
   }
-  // Above the window that it explains, also where that one stays above all others.
+  // The help stays above the window from which it was opened, even if that stays on top of all others.
   if (from != nullptr && from->window()->windowHandle() != nullptr) {
     // Only a dialog is kept above its parent by the window manager.
     const Qt::WindowFlags flags = Qt::Dialog | Qt::WindowMinMaxButtonsHint | Qt::WindowCloseButtonHint |
@@ -140,7 +140,7 @@ HelpPage::HelpPage(QWidget* parent) : QTextBrowser(parent) {
   });
 }
 
-// Qt's Markdown gives a heading no name, so that no link would find it.
+// Qt's Markdown reader does not name headings, so links could not find them.
 void HelpPage::NameHeadings() {
   headings_.clear();
   QSet<QString> taken;
@@ -168,7 +168,7 @@ QVariant HelpPage::loadResource(int type, const QUrl& name) {
   QImage picture = content.canConvert<QImage>() && !content.value<QImage>().isNull()
                        ? content.value<QImage>()
                        : QImage::fromData(content.toByteArray());
-  // In a list it stands indented.
+  // A picture in a list is indented.
   const int widest = std::max(200, viewport()->width() - 7 * margin);
   if (picture.width() > widest) picture = picture.scaledToWidth(widest, Qt::SmoothTransformation);
   return picture;
@@ -266,7 +266,7 @@ void HelpWindow::Show(const QString& page, const QString& anchor) {
   page_->setSource(url, QTextDocument::MarkdownResource);
 }
 
-// Links between the pages stay in the window; all others are for the desktop.
+// Links between the pages are opened in this window, all others by the desktop.
 void HelpWindow::Follow(const QUrl& link) {
   const QUrl target = page_->source().resolved(link);
   if (!target.isLocalFile()) {
@@ -299,7 +299,7 @@ void HelpWindow::Find(bool backward) {
   const auto how = backward ? QTextDocument::FindBackward : QTextDocument::FindFlags();
   found_->clear();
   if (page_->find(wanted, how)) return;
-  // Once more from the other end.
+  // Continue from the other end.
   const QTextCursor before = page_->textCursor();
   page_->moveCursor(backward ? QTextCursor::End : QTextCursor::Start);
   if (page_->find(wanted, how)) return found_->setText(Help::tr("Continued from the other end of the page."));

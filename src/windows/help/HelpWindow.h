@@ -10,17 +10,17 @@ class QMenuBar;
 
 namespace qismora {
 
-/// The pages of the help, files of the documentation.
+/// The pages of the help, which are files of the documentation.
 inline constexpr const char* GuidePage = "guide.md";
 inline constexpr const char* DifferencesPage = "peculiarities.md";
 inline constexpr const char* DivisionPage = "division.md";
 inline constexpr const char* KeysAnchor = "keys";
 
-/// Shows a page in the one window of the help, at the heading that a link names so (lower case, hyphens for
-/// blanks); without a heading at its top. The window appears above the one from which it was asked for.
+/// Shows a page in the help window, at the heading with this anchor (AnchorOf) or else at its top. The window
+/// appears above the one from which it is opened.
 void ShowHelp(const QString& page, const QString& anchor = {}, QWidget* from = nullptr);
 
-/// Adds the menu of the help to a menu bar, F1 for the keys among its entries.
+/// Adds the help menu to a menu bar. F1 shows the list of keys.
 void AddHelpMenu(QMenuBar* bar);
 
 /// A page of Markdown whose headings can be linked to.
@@ -43,7 +43,8 @@ class HelpPage : public QTextBrowser {
   QList<Heading> headings_;
 };
 
-/// A window to read the guides in: the headings of the page, links between the pages, back, forward, find.
+/// A window that shows the guides, with the headings of the page, links between the pages, back, forward and
+/// find.
 class HelpWindow : public QMainWindow {
  public:
   /// Takes the directory of the pages.
@@ -73,10 +74,10 @@ class HelpWindow : public QMainWindow {
   QList<QAction*> pages_;
 };
 
-/// The directory of the pages: that of the installed documentation, or that of the sources.
+/// The directory of the pages: the installed documentation, or docs/ of the sources.
 QString HelpFolder();
 
-/// How a link names a heading: "9. Answers without figures" is 9-answers-without-figures.
+/// The anchor of a heading in a link: "9. Answers without figures" has 9-answers-without-figures.
 QString AnchorOf(const QString& heading);
 
 }  // namespace qismora

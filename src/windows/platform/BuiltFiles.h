@@ -5,7 +5,7 @@
 
 namespace qismora {
 
-/// A file that the build has made beside the program, and the SHA-256 of its content in hexadecimal.
+/// A file that the build has made next to the program, and the SHA-256 of its content in hexadecimal.
 struct BuiltFile {
   const char* Name;
   const char* Sha256;
@@ -15,8 +15,8 @@ struct BuiltFile {
 /// made them.
 extern const std::span<const BuiltFile> builtFiles;
 
-/// Whether a file has the content that the build gave to the file of its name. To play or to load another
-/// content, such as that of a damaged disk, could crash the program.
+/// Whether a file has the content that the build has made. Playing or loading a damaged file could crash the
+/// program.
 bool IsAsBuilt(const QString& path);
 
 }  // namespace qismora

@@ -60,8 +60,9 @@ QMessageBox::Icon IconOf(BoxStyle style) {
 
 QWidget* chosenOwner = nullptr;
 
-// The window that a message box belongs to: the one that the user was in last, even if another box has just
-// closed and no window is active yet. Without it the box would open behind a window that stays on top.
+// The parent of a message box: the window that the user used last, even if another message box has just
+// closed and no window is active yet. Without it the message box would open behind a window that stays on
+// top.
 QWidget* Owner() {
   static QPointer<QWidget> last;
   if (chosenOwner != nullptr) return chosenOwner;
@@ -75,8 +76,7 @@ QWidget* Owner() {
   return shown == windows.end() ? active : *shown;
 }
 
-// A window that stays on top would cover a message box of any other window, and the program would seem to
-// hang.
+// A window that stays on top would cover a message box of another window, and the program would seem to hang.
 void KeepInSight(QDialog& dialog) {
   for (const QWidget* window : QApplication::topLevelWidgets()) {
     const bool onTop = (window->windowFlags() & Qt::WindowStaysOnTopHint) != 0;
@@ -88,8 +88,8 @@ constexpr int longestLine = 120;
 constexpr int leastWidth = 280;
 constexpr int slack = 8;
 
-// The program sets the lines of a message box. They are not broken again, unless a name in them is very long.
-// The box is wide enough for its title.
+// The text of a message box has fixed lines, which are not wrapped unless they are very long. The message box
+// is wide enough for its title.
 void KeepLines(QMessageBox& box) {
   auto* words = box.findChild<QLabel*>(QStringLiteral("qt_msgbox_label"));
   if (words == nullptr) return;
@@ -114,7 +114,7 @@ QString Path(const std::string& section, const std::string& key) {
   return ToQt(section) + QLatin1Char('/') + ToQt(key);
 }
 
-/// The base of the folders for settings. Nothing has the name that is asked for, so nothing is read.
+/// The user's directory for settings. No settings have this name, so nothing is read.
 QDir SettingsFolder() {
   const QString nothing = QStringLiteral("-");
   QDir folder =
@@ -124,7 +124,8 @@ QDir SettingsFolder() {
   return folder;
 }
 
-// Qt opens what it finds under the names of its files, waits for a pipe and reads a device without end.
+// Whether the files of the settings are ordinary files. Qt would wait for a pipe, and read a device without
+// end.
 bool AreOrdinary(const std::string& application) {
   const QDir folder = SettingsFolder();
   const QString own = QStringLiteral("Qismora/%1.conf").arg(ToQt(application));
@@ -135,7 +136,7 @@ bool AreOrdinary(const std::string& application) {
   });
 }
 
-// Qt does not notice that the disk is full when it replaces a file, and leaves an empty one.
+// Whether the disk has space for the settings. On a full disk Qt replaces the file by an empty one.
 bool HasSpace(const QSettings& store) {
   constexpr int ample = 1 << 16;
   const QDir folder = QFileInfo(store.fileName()).absoluteDir();
@@ -167,13 +168,13 @@ Answer QtMessageBoxes::Show(BoxStyle style, BoxButtons buttons, const std::strin
   box.setTextFormat(Qt::PlainText);
   KeepLines(box);
   KeepInSight(box);
-  // A key pressed in haste consents to nothing and loses nothing.
+  // The default button consents to nothing and loses nothing.
   if (buttons != BoxButtons::Ok) {
     box.setDefaultButton(buttons == BoxButtons::SaveDiscardCancel ? QMessageBox::Save : QMessageBox::No);
   }
   const PointerShape usersTurn(Qt::ArrowCursor);
   const int pressed = box.exec();
-  // The end of a desktop session closes all windows, the box as if by its close button.
+  // The end of the desktop session closes the message box as if by its close button.
   if (box.clickedButton() == nullptr || running_.HasEnded()) throw Unanswered();
   return std::ranges::find(answers, pressed, &ButtonRow::Button)->Meaning;
 }
@@ -232,7 +233,7 @@ std::string QtSettings::Read(const std::string& application, const std::string& 
   return FromQt(store.value(Path(section, key)).toString());
 }
 
-// A value that is stored already is not written again: opening a form would otherwise write to the disk.
+// A value that is already stored is not written again, so that opening a form does not write to the disk.
 void QtSettings::Write(const std::string& application, const std::string& section, const std::string& key,
                        const std::string& value) {
   if (!AreOrdinary(application)) return;

@@ -6,7 +6,7 @@ class QWidget;
 
 namespace qismora {
 
-// The ports of the running program.
+// The implementations of the ports for the case.
 
 class SystemClock : public Clock {
  public:
@@ -23,7 +23,7 @@ class QtProgram : public Program {
   bool ended_ = false;
 };
 
-/// A box that goes away with the program, and not by a button, counts as unanswered.
+/// A message box that closes without a button, because the program ends, counts as unanswered.
 class QtMessageBoxes : public MessageBoxes {
  public:
   explicit QtMessageBoxes(const QtProgram& running) : running_(running) {}
@@ -33,7 +33,7 @@ class QtMessageBoxes : public MessageBoxes {
   const QtProgram& running_;
 };
 
-/// While it lives, message boxes belong to its window, even before the desktop has made that the active one.
+/// Makes a window the parent of message boxes during its lifetime, even before the window is active.
 class MessageBoxOwner {
  public:
   explicit MessageBoxOwner(QWidget* window);
@@ -42,7 +42,7 @@ class MessageBoxOwner {
   MessageBoxOwner& operator=(const MessageBoxOwner&) = delete;
 };
 
-/// Opens in the program's directory, or in that of the reports if the program's cannot be written to.
+/// The dialog opens in the program's directory, or in that of the reports if the program's is not writable.
 class QtSaveDialog : public SaveDialog {
  public:
   explicit QtSaveDialog(Folders& places) : places_(places) {}

@@ -43,7 +43,7 @@ std::string ProgramFolders::Application() {
   return FromQt(FirstFolder({binaries_ + QStringLiteral("/../share/qismora"), binaries_}));
 }
 
-// Where the program is installed nothing is written, not even by root, who could.
+// The log is never written into an installed program, not even by root.
 std::string ProgramFolders::Log() {
   const QString program = ToQt(Application());
   const QString log = program + QStringLiteral("/popuQism.ppl");

@@ -6,9 +6,9 @@
 
 namespace qismora {
 
-// The ports of the forms around the case, as the running program has them.
+// The implementations of the ports for the other forms.
 
-/// The directories of the program: beside it in a build, apart from it where it is installed.
+/// The directories of the program: next to its binary in a build, and those of an installation.
 class ProgramFolders : public SystemFolders {
  public:
   /// Takes the directory of the program's binary.
@@ -17,7 +17,7 @@ class ProgramFolders : public SystemFolders {
   std::string Application() override;
   std::string Log() override;
   std::string Documents() override;
-  /// Where the video plugin may lie.
+  /// The directories in which the plugins may be.
   QStringList Plugins() const;
 
  private:
@@ -29,7 +29,7 @@ class QtDocumentViewer : public DocumentViewer {
   bool Open(const std::string& path) override;
 };
 
-/// The memory as the operating system's files report it.
+/// The memory figures from /proc.
 class SystemMemory : public MemoryMeter {
  public:
   MemoryFigures Read() override;

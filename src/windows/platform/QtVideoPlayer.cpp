@@ -22,7 +22,7 @@ void QtVideoPlayer::PlayIn(QWidget* panel) {
   panel->installEventFilter(this);
 }
 
-// The window comes first: a video starts only after the panel has been painted once.
+// A video starts only after the panel has been painted once, so that the window appears first.
 bool QtVideoPlayer::eventFilter(QObject* watched, QEvent* event) {
   if (event->type() == QEvent::Paint && watched == panel_ && !std::exchange(painted_, true)) {
     panel_->removeEventFilter(this);

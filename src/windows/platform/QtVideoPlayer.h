@@ -10,12 +10,12 @@
 
 namespace qismora {
 
-/// Plays in a panel through the video plugin, which is loaded when there is something to play and the panel
-/// has been painted. Without the plugin the panel stays blank. A file whose content is not the one that was
-/// built is neither played nor loaded.
+/// Plays videos in a panel through the video plugin. The plugin is loaded when there is something to play and
+/// the panel has been painted. Without it the panel stays blank. A file that is not as built is neither
+/// played nor loaded.
 class QtVideoPlayer : public QObject, public VideoPlayer {
  public:
-  /// Takes the directories that the plugin may lie in.
+  /// Takes the directories in which the plugin may be.
   explicit QtVideoPlayer(QStringList folders) : folders_(std::move(folders)) {}
 
   void SetFile(const std::string& path) override;

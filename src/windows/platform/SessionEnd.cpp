@@ -16,7 +16,7 @@ namespace qismora {
 
 namespace {
 
-// What is still to be done at the end of the process, while its context lives.
+// Called at the end of the process, if the context still exists.
 std::function<void()> lastAction;
 
 void RunLastAction() {
@@ -36,7 +36,7 @@ bool OpenWakePipe() {
   return true;
 }
 
-// A signal may arrive at any moment: it only wakes the event loop.
+// A signal handler may do little: it only wakes the event loop.
 void Wake(int) {
   const char any = 1;
   [[maybe_unused]] const ssize_t written = write(wakePipe[1], &any, 1);
@@ -57,7 +57,7 @@ void WhenSignalled(QObject* context, std::function<void()> ended) {
 
 #else
 
-// Elsewhere only the desktop session tells a program to end, and Qt passes that on.
+// On other systems only the desktop session ends a program, which Qt reports.
 void WhenSignalled(QObject*, const std::function<void()>&) {}
 
 #endif
@@ -66,7 +66,7 @@ void WhenSignalled(QObject*, const std::function<void()>&) {}
 
 void WhenSessionEnds(QObject* context, std::function<void()> ended) {
   QObject::connect(QCoreApplication::instance(), &QCoreApplication::aboutToQuit, context, ended);
-  // A lost display ends the process in the middle of its event loop.
+  // A lost display ends the process within its event loop.
   lastAction = ended;
   QObject::connect(context, &QObject::destroyed, [] { lastAction = nullptr; });
   [[maybe_unused]] static const int registered = std::atexit(RunLastAction);

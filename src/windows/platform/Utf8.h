@@ -6,7 +6,7 @@
 
 namespace qismora {
 
-/// Texts are UTF-8 everywhere but in Qt. Bytes that are not valid UTF-8 become replacement characters.
+/// Texts of the core are UTF-8. Bytes that are not valid UTF-8 become replacement characters.
 inline QString ToQt(std::string_view text) {
   return QString::fromUtf8(text.data(), static_cast<qsizetype>(text.size()));
 }

@@ -6,7 +6,7 @@ namespace qismora {
 
 void LimitFont(QWidget* window, int pixels) {
   QFont font = window->font();
-  // Computed from the points: to ask for the size would load a font that may never be drawn.
+  // Computed from the points, because QFontInfo would load a font that may never be drawn.
   const bool inPoints = font.pixelSize() < 0;
   const qreal size = inPoints ? font.pointSizeF() * window->logicalDpiY() / 72 : font.pixelSize();
   if (size <= pixels) return;

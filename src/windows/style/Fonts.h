@@ -6,10 +6,11 @@ class QWidget;
 
 namespace qismora {
 
-/// The layout of a form allows for text of so many pixels; larger text comes with the scale of the desktop.
+/// Limits the text of a window to this height in pixels, for which its layout has space. Larger text needs a
+/// larger scale of the desktop.
 void LimitFont(QWidget* window, int pixels);
 
-/// The font of a heading, so many pixels high.
+/// A bold font of this height in pixels.
 QFont HeadingFont(QFont font, int pixels);
 
 }  // namespace qismora

@@ -28,8 +28,8 @@ struct TextOnBackground {
   QPalette::ColorRole Background;
 };
 
-// In a selection the background is adjusted: its text is mostly black or white already. Menus have a
-// background between those of windows and of text fields.
+// The first colour of each pair is adjusted to the second: of a selection the background, since its text is
+// mostly black or white. Menus have a background between those of windows and of text fields.
 constexpr TextOnBackground pairs[] = {
     {QPalette::WindowText, QPalette::Window},
     {QPalette::Text, QPalette::Base},
@@ -41,13 +41,13 @@ constexpr TextOnBackground pairs[] = {
     {QPalette::Highlight, QPalette::HighlightedText},
 };
 
-/// The colour of an outline, stronger where the desktop asks for contrast above all.
+/// The colour of an outline, stronger in high contrast.
 QColor Line(const QPalette& palette, double strength) {
   return Between(palette.color(QPalette::Window), palette.color(QPalette::Active, QPalette::WindowText),
                  IsBlackAndWhite(palette) ? fullStrength : strength);
 }
 
-/// Whether the frames of the style itself are too faint.
+/// Whether the style's own frames are too faint.
 bool NeedsOutlines(const QPalette& palette) {
   return IsBlackAndWhite(palette) || palette.color(QPalette::Window).lightness() <= darkBackground;
 }
@@ -62,7 +62,7 @@ QColor FocusColour(const QPalette& palette) {
                   dark ? window.lighter(brighterButton) : window, WantedContrast(palette));
 }
 
-// The focus is shown from the start, not only after a key has moved it.
+// Shown from the start, not only after a key has moved the focus.
 bool HasFocus(const QStyleOption& option) { return (option.state & QStyle::State_HasFocus) != 0; }
 
 void DrawOutline(QPainter* painter, const QColor& line, const QRect& rect, qreal round = roundness,
@@ -91,8 +91,8 @@ void DrawFrame(QPainter* painter, const QColor& line, const QRect& rect) {
 
 OutlinedStyle::OutlinedStyle() : QProxyStyle(QStringLiteral("fusion")) {}
 
-// The sign of a menu bar that is too narrow for its entries, which each menu bar asks for. It is drawn here:
-// to read it from a picture would load all image plugins at the start.
+// Each menu bar asks for the arrow that it shows if it is too narrow. It is drawn here, because reading it
+// from a picture would load all image plugins at the start.
 QIcon OutlinedStyle::standardIcon(StandardPixmap which, const QStyleOption* option,
                                   const QWidget* widget) const {
   if (which != SP_ToolBarHorizontalExtensionButton) return QProxyStyle::standardIcon(which, option, widget);
@@ -106,7 +106,7 @@ QIcon OutlinedStyle::standardIcon(StandardPixmap which, const QStyleOption* opti
   return arrow;
 }
 
-// Many a dark desktop leaves links dark blue, and entries that cannot be chosen nearly invisible.
+// Many dark desktops leave links dark blue, and disabled entries nearly invisible.
 void OutlinedStyle::polish(QPalette& palette) {
   QProxyStyle::polish(palette);
   const double contrast = WantedContrast(palette);
@@ -133,7 +133,7 @@ void OutlinedStyle::drawPrimitive(PrimitiveElement element, const QStyleOption* 
   const qreal round = radio ? option->rect.width() / 2.0 : roundness;
   switch (element) {
     case PE_Frame:
-      // A text area has space for a second line within the first: it shows the focus.
+      // A text area has space for a second line inside the first, which shows the focus.
       if (Scrolls(widget)) {
         const QColor inner = HasFocus(*option) ? FocusColour(palette) : palette.color(QPalette::Base);
         DrawFrame(painter, inner, option->rect.marginsRemoved(oneLine));
@@ -161,7 +161,7 @@ void OutlinedStyle::drawPrimitive(PrimitiveElement element, const QStyleOption* 
   }
 }
 
-// The entry of the menu bar that the keys have reached looks like one that the mouse has opened.
+// An entry of the menu bar that the keyboard has selected looks like one that the mouse has opened.
 void OutlinedStyle::drawControl(ControlElement element, const QStyleOption* option, QPainter* painter,
                                 const QWidget* widget) const {
   const auto* entry = qstyleoption_cast<const QStyleOptionMenuItem*>(option);

@@ -4,10 +4,9 @@
 
 namespace qismora {
 
-/// The style of all windows: forms are laid out to the pixel, so it is the same on every desktop. Where
-/// frames can hardly be seen, on a dark background and in black and white, fields, buttons and text areas get
-/// an outline. Whatever has the focus of the keyboard stands in a clear frame, and every desktop's text is
-/// made readable on its background.
+/// The style of all windows. Forms are laid out to the pixel, so it is the same on every desktop. On dark
+/// backgrounds and in high contrast, fields, buttons and text areas get an outline. A clear frame shows the
+/// keyboard focus. Text colours are adjusted until they are readable on their background.
 class OutlinedStyle : public QProxyStyle {
  public:
   OutlinedStyle();
@@ -27,7 +26,7 @@ class OutlinedStyle : public QProxyStyle {
                 QStyleHintReturn* returned) const override;
 };
 
-/// A plain line within the edges of the rectangle, whole at every scale.
+/// Draws a line along the inside of the rectangle's edges, sharp at every scale.
 void DrawFrame(QPainter* painter, const QColor& line, const QRect& rect);
 
 }  // namespace qismora

@@ -14,7 +14,7 @@ constexpr QSize smallIcon{20, 20};
 constexpr int iconSizes[] = {16, 24, 32, 48, 64, 128};
 constexpr int firstFullIcon = 48;
 
-// Qt's image plugin reads the drawings. It is loaded with the first of them, after the first window is shown.
+// Loads Qt's image plugin with the first picture, after the first window is shown.
 QPixmap Read(const QString& file, const QSize& place, qreal scale) {
   QImageReader reader(file);
   const QSize size = reader.size().scaled(place, Qt::KeepAspectRatio);

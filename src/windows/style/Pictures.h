@@ -15,10 +15,10 @@ class Drawing {
   explicit Drawing(const QString& name) { Show(name); }
   void Show(const QString& name);
 
-  /// As large as the place allows. A valid colour replaces those of the picture. Nothing at the first
-  /// painting: the window comes before its pictures.
+  /// The picture, as large as the place allows. A valid colour replaces those of the picture. The first call
+  /// returns nothing and requests an update, so that the window appears before its pictures.
   QPixmap For(QWidget* widget, const QSize& place, const QColor& colour = {});
-  /// Paints it into the place and returns the part that it takes.
+  /// Paints it into the place and returns the rectangle that it covers.
   QRect Paint(QPainter* painter, QWidget* widget, const QRect& place, Qt::Alignment alignment,
               const QColor& colour = {});
 
@@ -33,7 +33,7 @@ class Drawing {
 /// The program's icon in the sizes of title bars and task lists; the small ones are drawn with fewer lines.
 QIcon ProgramIcon();
 
-/// A picture to be looked at.
+/// A picture without an action.
 class PictureLabel : public QLabel {
  public:
   PictureLabel(const QString& name, const QString& picture, const QString& accessibleName, QWidget* parent);
@@ -45,6 +45,7 @@ class PictureLabel : public QLabel {
   Drawing drawing_;
 };
 
+/// Whether a picture is drawn in its own colours or in that of text.
 enum class Colours { OfPicture, OfText };
 
 /// A picture that acts like a caption.
@@ -65,7 +66,7 @@ class PictureButton : public CaptionButton {
   QRect painted_;
 };
 
-/// A push button with a picture beside its text. Return presses it, as Space does.
+/// A push button with a picture beside its text. Return presses it like Space.
 class IconButton : public QPushButton {
  public:
   IconButton(const QString& name, const QString& picture, const QString& text, QWidget* parent);

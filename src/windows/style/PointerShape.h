@@ -4,8 +4,8 @@
 
 namespace qismora {
 
-/// Gives the pointer a shape while it lives: a wait cursor while a command runs, an arrow again while a
-/// message box in the middle of it waits for the user.
+/// Changes the mouse pointer during its lifetime: to a wait cursor while a command runs, and back to an arrow
+/// while a message box of the command waits for the user.
 class PointerShape {
  public:
   explicit PointerShape(Qt::CursorShape shape) { QGuiApplication::setOverrideCursor(shape); }

@@ -17,7 +17,7 @@ namespace qismora {
 
 namespace {
 
-/// Draws the frames itself: no window of the graphics system, no sound.
+/// Draws the frames into a widget, without a native window and without sound.
 class MultimediaScreen : public QWidget, public VideoScreen {
  public:
   explicit MultimediaScreen(QWidget* panel) : QWidget(panel), player_(new QMediaPlayer(this)) {
@@ -51,7 +51,7 @@ class MultimediaScreen : public QWidget, public VideoScreen {
   }
 
  protected:
-  // A video in a window that is not in use only keeps the processor busy.
+  // A video in an inactive window pauses, because it would only keep the processor busy.
   bool eventFilter(QObject*, QEvent* event) override {
     if (event->type() == QEvent::WindowDeactivate && player_->playbackState() == QMediaPlayer::PlayingState) {
       resting_ = true;
@@ -77,8 +77,8 @@ class MultimediaScreen : public QWidget, public VideoScreen {
   bool resting_ = false;
 };
 
-// The default backend crashes on machines without its plugins; the ffmpeg backend plays everywhere. A player
-// that does not find the backend it is set to ends the program.
+// Whether the ffmpeg backend can be loaded. The default backend crashes on machines without its plugins, and
+// a player without its backend ends the program.
 bool HasBackend() {
   for (const QString& path : QCoreApplication::libraryPaths()) {
     const QDir folder(path + QStringLiteral("/multimedia"));

@@ -7,13 +7,13 @@ class QWidget;
 
 namespace qismora {
 
-/// What the video plugin makes: a screen that fills a panel and plays files.
+/// The interface of the video plugin: a screen that fills a panel and plays files.
 class VideoScreen {
  public:
   virtual ~VideoScreen() = default;
   virtual void Play(const QString& file) = 0;
 
-  /// Raised when a file has been played to its end.
+  /// Called when a file has been played to its end.
   std::function<void()> EndOfPlay;
 };
 

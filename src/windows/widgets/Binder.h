@@ -18,8 +18,8 @@ class QWidget;
 
 namespace qismora {
 
-/// Binds widgets to the controls of a form: each widget shows its control at once and whenever it changes,
-/// and what the user enters goes into the control. Controls outlive their widgets.
+/// Binds widgets to the controls of a form. A widget shows its control now and whenever it changes, and what
+/// the user enters goes into the control. Controls outlive their widgets.
 class Binder {
  public:
   /// The text of a label or a button.
@@ -29,7 +29,7 @@ class Binder {
   }
   /// Makes a caption that names a field.
   static QLabel* FieldCaption(Label& control, const QString& name, QWidget* field);
-  /// A text that the program writes: screen readers read it behind the widget's accessible name.
+  /// A text that the program writes. Screen readers read it after the widget's accessible name.
   template <class Widget>
   static void Result(Label& control, Widget* widget) {
     Follow(control.Caption, [&control, widget, name = widget->accessibleName()] {
@@ -39,7 +39,7 @@ class Binder {
       widget->setAccessibleName(both ? name + QStringLiteral(": ") + words : name + words);
     });
   }
-  /// The colour that a label changes while the program runs.
+  /// The text colour of a label, which may change while the program runs.
   void TextColour(Label& control, QWidget* widget);
   void Field(TextBox& control, QLineEdit* widget);
   void Text(TextBox& control, QPlainTextEdit* widget);

@@ -79,7 +79,7 @@ void CaptionButton::mousePressEvent(QMouseEvent* event) {
   if (gesture_ == Gesture::Click) QAbstractButton::mousePressEvent(event);
 }
 
-// To a caption that waits for single clicks the second press of a double click is one more press.
+// For single clicks, the second press of a double click is one more press.
 void CaptionButton::mouseDoubleClickEvent(QMouseEvent* event) {
   if (gesture_ == Gesture::Click) return mousePressEvent(event);
   if (event->button() == Qt::LeftButton) click();

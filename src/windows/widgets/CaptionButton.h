@@ -7,12 +7,12 @@ namespace qismora {
 
 enum class Gesture { Click, DoubleClick };
 
-/// A caption that acts: on its mouse gesture, on Return and Space, by the one entry of its context menu, and
-/// when a screen reader presses it. Each raises the signal clicked. A caption without text shows its
-/// accessible name while it has the focus of the keyboard.
+/// A caption that acts on its mouse gesture, on Return and Space, by the entry of its context menu, and when
+/// a screen reader presses it. Each emits the signal clicked. A caption without text shows its accessible
+/// name while it has the keyboard focus.
 class CaptionButton : public QAbstractButton {
  public:
-  /// The action's description is the entry of the context menu and what screen readers say of the caption.
+  /// The action describes what the caption does, in the context menu and for screen readers.
   CaptionButton(const QString& name, Gesture gesture, const QString& action, QWidget* parent);
 
   void SetAlignment(Qt::Alignment alignment) { alignment_ = alignment; }
@@ -30,7 +30,7 @@ class CaptionButton : public QAbstractButton {
   void mouseDoubleClickEvent(QMouseEvent* event) override;
   void contextMenuEvent(QContextMenuEvent* event) override;
 
-  /// Paints the border, and a frame around a caption that the keyboard has reached.
+  /// Paints the border, and a frame if the caption has the keyboard focus.
   void PaintFrame(QPainter* painter);
   QRect InsideBorder(const QRect& place) const;
   Qt::Alignment Alignment() const { return alignment_; }

@@ -23,12 +23,12 @@ bool BreaksLine(QChar c) {
          category == QChar::Separator_Paragraph;
 }
 
-/// Marks of direction and the like. Persian and Urdu names are written with the two joiners.
+/// Direction marks and other invisible characters, except the two joiners that Persian and Urdu names need.
 bool IsInvisible(QChar c) {
   return c.category() == QChar::Other_Format && c != zeroWidthNonJoiner && c != zeroWidthJoiner;
 }
 
-/// Without control characters; a line break between two words becomes a blank.
+/// The text without control characters. A line break between two words becomes a blank.
 QString OnOneLine(const QString& text) {
   QString line;
   bool broken = false;
@@ -44,7 +44,7 @@ QString OnOneLine(const QString& text) {
   return line;
 }
 
-/// With the digits 0 to 9 in place of those of other scripts.
+/// The text with the digits 0 to 9 instead of those of other scripts.
 QString WithPlainDigits(QString text) {
   for (QChar& c : text) {
     if (c.category() == QChar::Number_DecimalDigit) c = QLatin1Char(static_cast<char>('0' + c.digitValue()));
@@ -85,7 +85,7 @@ void CleanLineEdit::keyPressEvent(QKeyEvent* event) {
   event->setAccepted(clean.isAccepted());
 }
 
-// On-screen keyboards and those of many desktops hand over their text this way.
+// On-screen keyboards and many desktops send their text this way.
 void CleanLineEdit::inputMethodEvent(QInputMethodEvent* event) {
   QInputMethodEvent clean(event->preeditString(), event->attributes());
   clean.setCommitString(Typed(OnOneLine(event->commitString())), event->replacementStart(),
@@ -94,7 +94,7 @@ void CleanLineEdit::inputMethodEvent(QInputMethodEvent* event) {
   event->setAccepted(clean.isAccepted());
 }
 
-// The middle button pastes what is selected elsewhere.
+// The middle button pastes the selection.
 void CleanLineEdit::mouseReleaseEvent(QMouseEvent* event) {
   const bool pastes =
       event->button() == Qt::MiddleButton && QGuiApplication::clipboard()->supportsSelection();

@@ -8,9 +8,9 @@ namespace qismora {
 /// What a field is for.
 enum class Content { Figure, Name };
 
-/// A line edit that cleans what its user types, pastes or drops, before it takes it. Line breaks and control
-/// characters never get in. In a figure the digits of every script become 0 to 9, and blanks around what is
-/// pasted are dropped. A text that the program sets is left as it is.
+/// A line edit that cleans what the user types, pastes or drops. It removes line breaks and control
+/// characters. In a figure the digits of every script become 0 to 9, and blanks around a pasted text are
+/// removed. A text that the program sets is not changed.
 class CleanLineEdit : public QLineEdit {
  public:
   CleanLineEdit(Content content, QWidget* parent);
@@ -21,7 +21,7 @@ class CleanLineEdit : public QLineEdit {
   void mouseReleaseEvent(QMouseEvent* event) override;
   void dropEvent(QDropEvent* event) override;
 
-  /// The standard context menu; it belongs to the caller.
+  /// The standard context menu, with a paste that cleans. The caller owns it.
   QMenu* CreateContextMenu();
 
  private:

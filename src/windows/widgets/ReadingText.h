@@ -4,7 +4,7 @@
 
 namespace qismora {
 
-/// A read-only text: keys scroll it and select in it, Tab moves the focus on. Copying without a selection
+/// A read-only text. The keyboard scrolls and selects; Tab moves the focus on. Copying without a selection
 /// copies the whole text.
 class ReadingText : public QPlainTextEdit {
  public:
@@ -12,7 +12,7 @@ class ReadingText : public QPlainTextEdit {
 
  protected:
   void keyPressEvent(QKeyEvent* event) override;
-  /// Includes the actions of the widget.
+  /// The context menu includes the actions of the widget.
   void contextMenuEvent(QContextMenuEvent* event) override;
 };
 
