@@ -53,8 +53,8 @@ void RequireOrdinary(const struct stat& found) {
   if (const char* reason = WhyNotOrdinary(found.st_mode)) throw FileFailure(PathFileAccess, reason);
 }
 
-/// Opens an ordinary file. It is checked before it is opened, since opening a device may have effects, and
-/// once more afterwards, since another program may have replaced it in between.
+/// Opens an ordinary file. It is checked before it is opened, because opening a device may have effects, and
+/// again afterwards, because another program may have replaced it.
 Descriptor OpenOrdinary(const std::string& path, int way, struct stat& found) {
   constexpr int never = O_NOFOLLOW | O_NONBLOCK | O_CLOEXEC | O_NOCTTY;
   constexpr mode_t mode = 0666;
@@ -65,7 +65,7 @@ Descriptor OpenOrdinary(const std::string& path, int way, struct stat& found) {
   return file;
 }
 
-/// Waits for programs that write to the file at this moment, but not for one that holds it for longer.
+/// Locks the file for at most a second, while other programs add their lines. False if it cannot be locked.
 bool Lock(int file) {
   constexpr auto step = std::chrono::milliseconds(5);
   for (int tries = 200; tries > 0; --tries) {
@@ -198,8 +198,8 @@ void WriteAll(int file, std::string_view bytes) {
   }
 }
 
-// A directory that may be written to but not read cannot be opened for this, and some disks do not support
-// synchronizing.
+// A directory without permission to read cannot be opened, and some disks do not support synchronizing;
+// neither is a failure.
 void SyncToDisk(const std::string& path) {
   const Descriptor file(open(path.c_str(), O_RDONLY | O_NOFOLLOW | O_NONBLOCK | O_CLOEXEC));
   if (file.Get() < 0 && errno == EACCES) return;

@@ -11,19 +11,19 @@
 namespace qismora {
 
 // Only ordinary files are read and written. A link, a directory, a pipe or a device in the place of a file is
-// a failure: nothing is written through a link, and no pipe or device is waited for.
+// a failure. So nothing is written through a link, and the program never waits for a pipe or a device.
 
 /// A file that cannot be read or written, with the reason for the user: "the disk is full".
 class FileFailure : public Failure {
  public:
   FileFailure(int number, std::string reason) : Failure(number), Reason(std::move(reason)) {}
-  /// The failure for an error number of the system.
+  /// The failure for an error number (errno).
   explicit FileFailure(int error);
 
   std::string Reason;
 };
 
-/// An open file of the system, which closes with the object.
+/// An open file descriptor. The destructor closes it.
 class Descriptor {
  public:
   explicit Descriptor(int file = -1) : file_(file) {}
@@ -55,7 +55,7 @@ class InputFile {
 /// The whole content of an ordinary file.
 std::string ReadWholeFile(const std::string& path);
 
-/// Whether there is a file of this path, also through a link.
+/// Whether the path is that of an ordinary file, also through a link.
 bool FileExists(const std::string& path);
 
 /// The length in bytes. A missing file is the failure 53.
@@ -69,7 +69,7 @@ void AppendLine(const std::string& path, std::string_view line);
 /// Whether the text is a name within a directory: without a separator of any platform, not "." or "..".
 bool IsFileName(std::string_view name);
 
-/// The names of everything in the directory except directories, in no order.
+/// The names of everything in the directory except directories, in any order.
 std::vector<std::string> ListFiles(const std::string& folder);
 
 /// The target of the path after all symbolic links, whether or not there is a file.

@@ -30,7 +30,7 @@ bool IsUnfinishedName(std::string_view name) {
   return !name.empty() && std::ranges::all_of(name, [](char c) { return c >= '0' && c <= '9'; });
 }
 
-/// Removes an unfinished file of this user that no program holds: the lock of a program ends with it.
+/// Removes an unfinished file of this user that no program has locked. A lock ends with its program.
 void RemoveIfStray(const std::string& path) {
   const Descriptor file(open(path.c_str(), O_RDONLY | O_NOFOLLOW | O_NONBLOCK | O_CLOEXEC));
   struct stat found = {};
@@ -98,7 +98,7 @@ NewFile::~NewFile() {
   if (!unfinished_.empty()) unlink(unfinished_.c_str());
 }
 
-// A file that replaces a private one is private from its first byte.
+// A file that replaces another is private until it gets the permissions of that one.
 void NewFile::Create() {
   const mode_t mode = FileToReplace(path_, replace_) ? 0600 : 0666;
   for (bool held = false; !held;) {

@@ -17,9 +17,9 @@ enum class Replace {
 };
 
 /// A file that gets its name when it is complete on the disk. Until then it has a temporary name in the same
-/// directory, and an earlier file of its name is unchanged. It takes over the permissions of the file that it
-/// replaces. Without a commit, the destructor removes it. Files that killed programs have left in the
-/// directory are removed.
+/// directory, and an earlier file with its name does not change. It gets the permissions of the file that it
+/// replaces. Without a commit, the destructor removes it. The constructor removes unfinished files of
+/// programs that were killed.
 class NewFile {
  public:
   /// Fails if the file cannot be written, before there is anything to write.

@@ -16,7 +16,7 @@ std::string_view WithoutBlanks(std::string_view text) {
   return text.substr(std::min(text.find_first_not_of(' '), text.size()));
 }
 
-/// The base that &H or &O announces, or 0.
+/// The base of the prefix &H or &O; 0 without one.
 int AnnouncedBase(std::string_view text) {
   if (text.size() < 2 || text[0] != '&') return 0;
   if (text[1] == 'H' || text[1] == 'h') return 16;
@@ -30,7 +30,7 @@ bool IsDigitOf(int base, char c) {
   return IsDigit(c) && c - '0' < base;
 }
 
-/// How many characters at the start of the text form a number; 0 where none does.
+/// How many characters at the start of the text form a number; 0 if it does not start with one.
 std::size_t NumberLength(std::string_view text, bool withCommas) {
   std::size_t at = 0;
   const auto here = [&](std::string_view any) { return at < text.size() && any.find(text[at]) != any.npos; };
@@ -79,7 +79,7 @@ bool IsBelowOne(std::string_view digits) {
   return point - first + (negative ? -power : power) <= 0;
 }
 
-/// The value of a text of a few plain digits, as most fields hold; each digit is read once.
+/// The value of a text of a few plain digits, as most fields have. This is the fast case.
 std::optional<Double> PlainDigits(std::string_view text) {
   constexpr std::size_t mostExactDigits = 15;
   if (text.empty() || text.size() > mostExactDigits) return std::nullopt;

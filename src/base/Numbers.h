@@ -53,13 +53,13 @@ class Whole {
 using Integer = Whole<std::int16_t>;
 using Long = Whole<std::int32_t>;
 
-/// An Integer beside a Long is counted as a Long.
+/// Widens an Integer for arithmetic with a Long.
 constexpr Long ToLong(Integer value) { return Long(value.Value()); }
 /// A Long as an Integer; beyond its range it is the overflow failure.
 constexpr Integer ToInteger(Long value) { return Integer(value.Value()); }
 
-/// A 64-bit float that is always a number: division by zero and a result beyond the range are
-/// failures, so that no infinity ever enters a case.
+/// A 64-bit floating point number that is always finite: division by zero and a result beyond the range are
+/// failures.
 class Double {
  public:
   constexpr Double() = default;
@@ -102,8 +102,8 @@ constexpr Double operator/(Whole<Stored> a, int b) {
   return Double(a) / Double(b);
 }
 
-/// The nearest whole number, a tie going to the even neighbour (2.5 gives 2, 3.5 gives 4).
-/// Beyond the range of the type it is the overflow failure.
+/// The nearest whole number; of two equally near ones the even one (2.5 gives 2, 3.5 gives 4). Beyond the
+/// range of the type it is the overflow failure.
 template <class Number>
 Number RoundTo(Double value) {
   const double whole = std::nearbyint(value.Value());

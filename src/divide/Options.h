@@ -33,7 +33,7 @@ struct Options {
   std::vector<std::string> Paths;
 };
 
-/// How the program ends.
+/// The exit status of the program.
 enum ExitStatus : int { AllDivided = 0, SomeNotDivided = 1, NotDone = 2 };
 
 /// Reads the command line. It ends the program after --help, --version or a wrong option.

@@ -40,8 +40,8 @@ void SetGrandMotherGroup(CaseRecord& c);
 /// (majority of the Companions).
 void ShareOfSonsDaughter(CaseRecord& c, CaseScreen& screen);
 
-/// The share of the son's son's daughters, one level below the son's daughters and on the same sources. It
-/// reads the flag SonsDaughterWithLowerSonsSon and must run after ShareOfSonsDaughter.
+/// The share of the son's son's daughters, one generation below the son's daughters and on the same sources.
+/// It reads the flag SonsDaughterWithLowerSonsSon and must run after ShareOfSonsDaughter.
 void ShareOfSonsSonsDaughter(CaseRecord& c, CaseScreen& screen);
 
 /// The full brother: excluded, or a residuary without a fixed share (Quran 4:176; beside female descendants

@@ -27,7 +27,8 @@ std::string Shortened(std::string_view text) {
   return Join(text.substr(0, end), "...");
 }
 
-/// The escapes of a quoted value: control characters, which no line may hold, and the two signs themselves.
+/// The escapes of a quoted value: for control characters, which a line must not contain, the quotation mark
+/// and the backslash.
 struct Escape {
   char Letter;
   char Meaning;
@@ -57,7 +58,7 @@ std::string Quoted(std::string_view value) {
   return text += '"';
 }
 
-/// The text of a value in quotation marks; nothing where the marks or an escape are wrong.
+/// The text of a value in quotation marks; nothing if the marks or an escape are wrong.
 std::optional<std::string> Unquoted(std::string_view quoted) {
   std::string value;
   std::size_t i = 1;

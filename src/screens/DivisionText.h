@@ -14,7 +14,7 @@ namespace qismora {
 /// short.
 std::vector<std::string> DivisionLines(const DivisionInput& input, faraid::School school);
 
-/// Appends as what an heir takes, or why nothing: "sharer", "excluded by Father".
+/// Appends the standing of an heir: "sharer", or why he or she takes nothing, "excluded by Father".
 void AppendStanding(std::string& text, const faraid::Row& row);
 
 /// What each head of a row receives: "33.33 or 33.34" if some receive a hundredth more.
