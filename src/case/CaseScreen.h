@@ -10,16 +10,40 @@
 
 namespace qismora {
 
-/// The fields of the heirs, in the order of the screen. The arrays Text1 and Label1 have no elements
-/// between 8 and 11, and those from 24 to 29 belong to the deceased and the estate.
-inline constexpr std::array HeirFieldIndexes = {1,  2,  3,  4,  5,  6,  7,  13, 14, 15, 16,
-                                                17, 18, 19, 20, 21, 22, 23, 30, 31, 32, 33};
+// The indices of the fields in Text1 and of their captions in Label1. Wives and husband share a field.
+inline constexpr int SpouseField = 1;
+inline constexpr int SonsField = 2;
+inline constexpr int DaughtersField = 3;
+inline constexpr int GrandSonsField = 4;
+inline constexpr int GrandDaughtersField = 5;
+inline constexpr int GtGrandSonsField = 6;
+inline constexpr int GtGrandDaughtersField = 7;
+inline constexpr int FatherField = 13;
+inline constexpr int GrandFatherField = 14;
+inline constexpr int GtGrandFatherField = 15;
+inline constexpr int MotherField = 16;
+inline constexpr int MothersMotherField = 17;
+inline constexpr int MothersMothersMotherField = 18;
+inline constexpr int FathersMotherField = 19;
+inline constexpr int GrandFathersMotherField = 20;
+inline constexpr int FathersGrandMotherField = 21;
+inline constexpr int FullBrothersField = 22;
+inline constexpr int FullSistersField = 23;
 inline constexpr int NameField = 24;
 inline constexpr int GrossEstateField = 25;
 inline constexpr int FuneralField = 26;
 inline constexpr int DebtsField = 27;
 inline constexpr int WillsField = 28;
 inline constexpr int NetEstateField = 29;
+inline constexpr int ConsSistersField = 30;
+inline constexpr int ConsBrothersField = 31;
+inline constexpr int UterineSistersField = 32;
+inline constexpr int UterineBrothersField = 33;
+
+/// The fields of the heirs, in the order of the screen. The arrays Text1 and Label1 have no elements between
+/// 8 and 11; Label1(12) is a caption without a field.
+inline constexpr std::array HeirFieldIndexes = {1,  2,  3,  4,  5,  6,  7,  13, 14, 15, 16,
+                                                17, 18, 19, 20, 21, 22, 23, 30, 31, 32, 33};
 /// The fields of the estate that the user types.
 inline constexpr std::array EstateFieldIndexes = {GrossEstateField, FuneralField, DebtsField, WillsField};
 

@@ -20,43 +20,52 @@ struct CountRow {
   bool TakesFocus = false;
 };
 
-constexpr CountRow wivesRow = {1, &CaseRecord::Wives, 4, "Check number of Wives.", true};
-constexpr CountRow husbandRow = {1, &CaseRecord::Husband, 1, "Enter 1 or 0 against Husband's Status.", true};
+constexpr CountRow wivesRow = {SpouseField, &CaseRecord::Wives, 4, "Check number of Wives.", true};
+constexpr CountRow husbandRow = {SpouseField, &CaseRecord::Husband, 1,
+                                 "Enter 1 or 0 against Husband's Status.", true};
 
 constexpr CountRow descendantRows[] = {
-    {2, &CaseRecord::Sons, 100, "Check number of Sons, should be limited reasonably.", true},
-    {3, &CaseRecord::Daughters, 100, "Check number of Daughters, should be limited reasonably."},
-    {4, &CaseRecord::GrandSons, 100, "Check number of grand Sons, should be limited reasonably."},
-    {5, &CaseRecord::GrandDaughters, 100, "Check number of grand daughters, should be limited reasonably."},
-    {6, &CaseRecord::GtGrandSons, 100, "Check number of great grand Sons, should be limited reasonably."},
-    {7, &CaseRecord::GtGrandDaughters, 100,
+    {SonsField, &CaseRecord::Sons, 100, "Check number of Sons, should be limited reasonably.", true},
+    {DaughtersField, &CaseRecord::Daughters, 100, "Check number of Daughters, should be limited reasonably."},
+    {GrandSonsField, &CaseRecord::GrandSons, 100,
+     "Check number of grand Sons, should be limited reasonably."},
+    {GrandDaughtersField, &CaseRecord::GrandDaughters, 100,
+     "Check number of grand daughters, should be limited reasonably."},
+    {GtGrandSonsField, &CaseRecord::GtGrandSons, 100,
+     "Check number of great grand Sons, should be limited reasonably."},
+    {GtGrandDaughtersField, &CaseRecord::GtGrandDaughters, 100,
      "Check number of great grand daughters, should be limited reasonably."},
 };
 
 // The mother is counted like the grandparents, up to 20.
 constexpr CountRow otherRows[] = {
-    {13, &CaseRecord::Father, 1, "For Father write 1 if alive, or 0 if dead."},
-    {14, &CaseRecord::GrandFather, 20, "Check number of grand Fathers, should be limited reasonably."},
-    {15, &CaseRecord::GtGrandFather, 20,
+    {FatherField, &CaseRecord::Father, 1, "For Father write 1 if alive, or 0 if dead."},
+    {GrandFatherField, &CaseRecord::GrandFather, 20,
+     "Check number of grand Fathers, should be limited reasonably."},
+    {GtGrandFatherField, &CaseRecord::GtGrandFather, 20,
      "Check number of great grand Fathers, should be limited reasonably."},
-    {16, &CaseRecord::Mother, 20, "Check number of Mothers, should be limited reasonably."},
-    {17, &CaseRecord::MothersMother, 20, "Check number of grandmothers, should be limited reasonably."},
-    {18, &CaseRecord::MothersMothersMother, 20,
+    {MotherField, &CaseRecord::Mother, 20, "Check number of Mothers, should be limited reasonably."},
+    {MothersMotherField, &CaseRecord::MothersMother, 20,
+     "Check number of grandmothers, should be limited reasonably."},
+    {MothersMothersMotherField, &CaseRecord::MothersMothersMother, 20,
      "Check number of great grandmothers, should be limited reasonably."},
-    {19, &CaseRecord::FathersMother, 20, "Check number of Father's mothers, should be limited reasonably."},
-    {20, &CaseRecord::GrandFathersMother, 20,
+    {FathersMotherField, &CaseRecord::FathersMother, 20,
+     "Check number of Father's mothers, should be limited reasonably."},
+    {GrandFathersMotherField, &CaseRecord::GrandFathersMother, 20,
      "Check number of grand Father's mothers, should be limited reasonably."},
-    {21, &CaseRecord::FathersGrandMother, 20,
+    {FathersGrandMotherField, &CaseRecord::FathersGrandMother, 20,
      "Check number of Father's grandmothers, should be limited reasonably."},
-    {22, &CaseRecord::FullBrothers, 100, "Check number of full brothers, should be limited reasonably."},
-    {23, &CaseRecord::FullSisters, 100, "Check number of full sisters, should be limited reasonably."},
-    {30, &CaseRecord::ConsSisters, 100,
+    {FullBrothersField, &CaseRecord::FullBrothers, 100,
+     "Check number of full brothers, should be limited reasonably."},
+    {FullSistersField, &CaseRecord::FullSisters, 100,
+     "Check number of full sisters, should be limited reasonably."},
+    {ConsSistersField, &CaseRecord::ConsSisters, 100,
      "Check number of consanguine sisters (Souteli/ Alati), should be limited reasonably."},
-    {31, &CaseRecord::ConsBrothers, 100,
+    {ConsBrothersField, &CaseRecord::ConsBrothers, 100,
      "Check number of consanguine brothers (Soutela/ Alati Bhai), should be limited reasonably."},
-    {32, &CaseRecord::UterineSisters, 100,
+    {UterineSistersField, &CaseRecord::UterineSisters, 100,
      "Check number of Uterine sisters (Maa Shareek/ Akhyafi Bahan), should be limited reasonably."},
-    {33, &CaseRecord::UterineBrothers, 100,
+    {UterineBrothersField, &CaseRecord::UterineBrothers, 100,
      "Check number of Uterine Brothers (From same mother but different father), should be limited reasonably."},
 };
 

@@ -7,16 +7,6 @@ namespace qismora {
 
 namespace {
 
-/// Whether the field has a number above 0. If the reading fails, the heir counts as entered.
-template <class Reading>
-bool IsAboveZero(const CaseScreen& screen, int index, Reading read) {
-  try {
-    return read(screen.Text1(index).Text.Get()) > 0;
-  } catch (const Failure&) {
-    return true;
-  }
-}
-
 std::string FieldLine(const CaseScreen& screen, int index) {
   return Join(screen.Label1(index).Caption, " = ", screen.Text1(index).Text, CRLF);
 }
@@ -32,12 +22,13 @@ constexpr std::string_view distribution = "\r\n\r\nDISTRIBUTION FOLLOWS LIKE THI
 
 }  // namespace
 
-bool IsEnteredLeniently(const CaseScreen& screen, int index) {
-  return IsAboveZero(screen, index, ParsePrefix);
-}
-
-bool IsEnteredStrictly(const CaseScreen& screen, int index) {
-  return IsAboveZero(screen, index, ParseStrict);
+bool IsEntered(const CaseScreen& screen, int field) {
+  const std::string& text = screen.Text1(field).Text;
+  try {
+    return (field <= GtGrandDaughtersField ? ParsePrefix(text) : ParseStrict(text)) > 0;
+  } catch (const Failure&) {
+    return true;
+  }
 }
 
 void BuildFullHeader(CaseRecord& c, const CaseScreen& screen) {
@@ -49,8 +40,7 @@ void BuildFullHeader(CaseRecord& c, const CaseScreen& screen) {
 void BuildSelectedHeader(CaseRecord& c, const CaseScreen& screen) {
   std::string claimants;
   for (const int index : HeirFieldIndexes) {
-    const bool entered = index <= 7 ? IsEnteredLeniently(screen, index) : IsEnteredStrictly(screen, index);
-    if (entered) claimants += FieldLine(screen, index);
+    if (IsEntered(screen, index)) claimants += FieldLine(screen, index);
   }
   const bool none = claimants.empty();
   c.ReportHeader = Join(Inputs(screen), none ? "- NO SELECTION IS FOUND" : claimants, distribution,

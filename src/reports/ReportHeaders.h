@@ -10,9 +10,8 @@ namespace qismora {
 void BuildFullHeader(CaseRecord& c, const CaseScreen& screen);
 void BuildSelectedHeader(CaseRecord& c, const CaseScreen& screen);
 
-/// Whether the field has a number above 0, as ParsePrefix or as ParseStrict reads it. If the reading fails,
-/// the heir counts as entered.
-bool IsEnteredLeniently(const CaseScreen& screen, int index);
-bool IsEnteredStrictly(const CaseScreen& screen, int index);
+/// Whether the field of an heir has a number above 0. The fields of the spouse and the descendants are read
+/// by ParsePrefix, the others by ParseStrict. If the reading fails, the heir counts as entered.
+bool IsEntered(const CaseScreen& screen, int field);
 
 }  // namespace qismora

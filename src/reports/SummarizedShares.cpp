@@ -38,9 +38,9 @@ void EnterEither(CaseRecord& c, int field, HeirKind heir, std::initializer_list<
 }
 
 void EnterSpouse(CaseRecord& c) {
-  if (c.Wives > 0) return EnterSharer(c, 1, WifeHeir);
-  if (c.Husband > 0) return EnterSharer(c, 1, HusbandHeir);
-  Enter(c, 1, 0, sharer, "(0/1)");
+  if (c.Wives > 0) return EnterSharer(c, SpouseField, WifeHeir);
+  if (c.Husband > 0) return EnterSharer(c, SpouseField, HusbandHeir);
+  Enter(c, SpouseField, 0, sharer, "(0/1)");
 }
 
 /// One male ascendant. A plus sign after the fraction means that he also takes the residue.
@@ -65,8 +65,8 @@ std::string HeirLine(const CaseRecord& c, const CaseScreen& screen, int field) {
 std::string GrandMotherLines(const CaseRecord& c, const CaseScreen& screen) {
   std::string lines;
   int kept = 0;
-  for (int field = 17; field <= 21; ++field) {
-    if (!IsEnteredStrictly(screen, field)) continue;
+  for (int field = MothersMotherField; field <= FathersGrandMotherField; ++field) {
+    if (!IsEntered(screen, field)) continue;
     lines += Join(screen.Label1(field).Caption, " = ", screen.Text1(field).Text, " (C)- ",
                   c.SummaryKind(field), c.SummaryFraction(field), CRLF);
     if (c.SummaryAmount(field) > 0) kept = field;
@@ -86,15 +86,10 @@ std::string ClassIILine(const CaseScreen& screen) {
 
 std::string HeirLines(const CaseRecord& c, const CaseScreen& screen) {
   std::string lines;
-  for (const int field : {1, 2, 3, 4, 5, 6, 7}) {
-    if (IsEnteredLeniently(screen, field)) lines += HeirLine(c, screen, field);
-  }
-  for (const int field : {13, 14, 15, 16}) {
-    if (IsEnteredStrictly(screen, field)) lines += HeirLine(c, screen, field);
-  }
-  lines += GrandMotherLines(c, screen);
-  for (const int field : {22, 23, 30, 31, 32, 33}) {
-    if (IsEnteredStrictly(screen, field)) lines += HeirLine(c, screen, field);
+  for (const int field : HeirFieldIndexes) {
+    if (field == MothersMotherField) lines += GrandMotherLines(c, screen);
+    if (field >= MothersMotherField && field <= FathersGrandMotherField) continue;
+    if (IsEntered(screen, field)) lines += HeirLine(c, screen, field);
   }
   return lines + ClassIILine(screen);
 }
@@ -110,34 +105,34 @@ const char* DoctrineHint(const CaseRecord& c) {
 
 void FillSummaryTable(CaseRecord& c) {
   EnterSpouse(c);
-  EnterResiduary(c, 2, c.SonAmount);
-  EnterEither(c, 3, DaughterHeir, {SonsWithDaughters});
-  EnterResiduary(c, 4, c.SonAmount);
+  EnterResiduary(c, SonsField, c.SonAmount);
+  EnterEither(c, DaughtersField, DaughterHeir, {SonsWithDaughters});
+  EnterResiduary(c, GrandSonsField, c.SonAmount);
   EnterEither(
-      c, 5, SonsDaughterHeir,
+      c, GrandDaughtersField, SonsDaughterHeir,
       {SonsDaughterWithSonsSonBesideDaughters, SonsDaughterWithSonsSon, SonsDaughterWithLowerSonsSon});
-  EnterResiduary(c, 6, c.SonAmount);
-  EnterEither(c, 7, SonsSonsDaughterHeir,
+  EnterResiduary(c, GtGrandSonsField, c.SonAmount);
+  EnterEither(c, GtGrandDaughtersField, SonsSonsDaughterHeir,
               {SonsSonsDaughterBesideSonsDaughter, SonsSonsDaughterWithSonsSonsSon});
-  EnterFather(c, 13, c.FatherAmount);
-  EnterFather(c, 14, c.GrandFatherAmount);
-  EnterFather(c, 15, c.GtGrandFatherAmount);
-  EnterSharer(c, 16, MotherHeir);
-  EnterSharer(c, 17, c.MothersMotherAmount, GrandMotherHeir);
-  EnterSharer(c, 18, c.MothersMothersMotherAmount, GrandMotherHeir);
-  EnterSharer(c, 19, c.FathersMotherAmount, GrandMotherHeir);
-  EnterSharer(c, 20, c.GrandFathersMotherAmount, GrandMotherHeir);
-  EnterSharer(c, 21, c.FathersGrandMotherAmount, GrandMotherHeir);
-  EnterEither(c, 22, FullBrotherHeir,
+  EnterFather(c, FatherField, c.FatherAmount);
+  EnterFather(c, GrandFatherField, c.GrandFatherAmount);
+  EnterFather(c, GtGrandFatherField, c.GtGrandFatherAmount);
+  EnterSharer(c, MotherField, MotherHeir);
+  EnterSharer(c, MothersMotherField, c.MothersMotherAmount, GrandMotherHeir);
+  EnterSharer(c, MothersMothersMotherField, c.MothersMothersMotherAmount, GrandMotherHeir);
+  EnterSharer(c, FathersMotherField, c.FathersMotherAmount, GrandMotherHeir);
+  EnterSharer(c, GrandFathersMotherField, c.GrandFathersMotherAmount, GrandMotherHeir);
+  EnterSharer(c, FathersGrandMotherField, c.FathersGrandMotherAmount, GrandMotherHeir);
+  EnterEither(c, FullBrothersField, FullBrotherHeir,
               {FullBrothersWithSisters, FullSiblingsBesideDaughters, FullBrothersAlone});
-  EnterEither(c, 23, FullSisterHeir,
+  EnterEither(c, FullSistersField, FullSisterHeir,
               {FullSisterBesideDaughters, FullSiblingsBesideDaughters, FullBrothersWithSisters});
-  EnterEither(c, 30, ConsSisterHeir,
+  EnterEither(c, ConsSistersField, ConsSisterHeir,
               {ConsBrothersWithSisters, ConsSisterBesideDaughters, ConsSiblingsBesideDaughters});
-  EnterEither(c, 31, ConsBrotherHeir,
+  EnterEither(c, ConsBrothersField, ConsBrotherHeir,
               {ConsBrothersAlone, ConsBrothersWithSisters, ConsSiblingsBesideDaughters});
-  EnterSharer(c, 32, UterineSisterHeir);
-  EnterSharer(c, 33, UterineBrotherHeir);
+  EnterSharer(c, UterineSistersField, UterineSisterHeir);
+  EnterSharer(c, UterineBrothersField, UterineBrotherHeir);
   for (int i = 0; i < c.ClassIIFlag.Size; ++i) {
     c.SummaryAmount(firstClassIICheckBox + i) = c.Residue;
     c.SummaryKind(firstClassIICheckBox + i) = residuary;

@@ -11,13 +11,9 @@ namespace qismora {
 namespace {
 
 constexpr Caption otherCaptions[] = {
-    {0, "CASE WHEN DECEASED IS A"},
-    {24, "Deceased"},
-    {25, "Gross Estate"},
-    {26, "Funeral exp."},
-    {27, "Debts"},
-    {28, "Will(s)"},
-    {29, "Net Estate"},
+    {0, "CASE WHEN DECEASED IS A"}, {NameField, "Deceased"}, {GrossEstateField, "Gross Estate"},
+    {FuneralField, "Funeral exp."}, {DebtsField, "Debts"},   {WillsField, "Will(s)"},
+    {NetEstateField, "Net Estate"},
 };
 
 constexpr auto captions = [] {
@@ -42,7 +38,7 @@ std::string_view CaptionOf(faraid::Kind kind) {
 }
 
 std::string_view CaptionOf(int field, bool femaleDeceased) {
-  if (field == 1 && femaleDeceased) return CaptionOf(faraid::Kind::Husband);
+  if (field == SpouseField && femaleDeceased) return CaptionOf(faraid::Kind::Husband);
   return std::ranges::find(captions, field, &Caption::Index)->Words;
 }
 

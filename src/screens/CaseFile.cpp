@@ -157,7 +157,8 @@ class Parser {
     const Entry meant = named ? Entry{Entry::Kind::Name} : entry;
     if (std::ranges::find(seen_, meant) != seen_.end()) return Refuse(CaseFault::NamedTwice, caption);
     seen_.push_back(meant);
-    if (entry == Entry{Entry::Kind::Field, 1} || entry.Kind == Entry::Kind::Husband) spouseLine_ = line_;
+    if (entry == Entry{Entry::Kind::Field, SpouseField} || entry.Kind == Entry::Kind::Husband)
+      spouseLine_ = line_;
     if (const auto fault = entries_.Set(meant, text)) Refuse(*fault, caption);
   }
 

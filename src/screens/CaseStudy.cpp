@@ -31,27 +31,27 @@ struct Dispatch {
 };
 
 constexpr Dispatch dispatchTable[] = {
-    {2, RunSon},
-    {3, ShareOfDaughters},
-    {4, RunSon},
-    {5, RunSonsDaughter},
-    {6, RunSon},
-    {7, RunSonsSonsDaughter},
-    {13, RunUltimateFather},
-    {14, RunUltimateFather},
-    {15, RunUltimateFather},
-    {16, RunMother},
-    {17, RunGrandMother},
-    {18, RunGrandMother},
-    {19, RunGrandMother},
-    {20, RunGrandMother},
-    {21, RunGrandMother},
-    {22, RunFullBrother},
-    {23, RunFullSister},
-    {30, RunConsSister},
-    {31, RunConsBrother},
-    {32, RunUterineSister},
-    {33, RunUterineBrother},
+    {SonsField, RunSon},
+    {DaughtersField, ShareOfDaughters},
+    {GrandSonsField, RunSon},
+    {GrandDaughtersField, RunSonsDaughter},
+    {GtGrandSonsField, RunSon},
+    {GtGrandDaughtersField, RunSonsSonsDaughter},
+    {FatherField, RunUltimateFather},
+    {GrandFatherField, RunUltimateFather},
+    {GtGrandFatherField, RunUltimateFather},
+    {MotherField, RunMother},
+    {MothersMotherField, RunGrandMother},
+    {MothersMothersMotherField, RunGrandMother},
+    {FathersMotherField, RunGrandMother},
+    {GrandFathersMotherField, RunGrandMother},
+    {FathersGrandMotherField, RunGrandMother},
+    {FullBrothersField, RunFullBrother},
+    {FullSistersField, RunFullSister},
+    {ConsSistersField, RunConsSister},
+    {ConsBrothersField, RunConsBrother},
+    {UterineSistersField, RunUterineSister},
+    {UterineBrothersField, RunUterineBrother},
 };
 
 /// The caption without words or field: it loads the case and computes nothing.
@@ -201,7 +201,7 @@ void CaseStudy::Comb1_Data() {
 void CaseStudy::Combo1_Click() {
   const bool male = Combo1.ListIndex == Male;
   Frame1.Caption = Join("Informations of the deceased ", Combo1.Text());
-  Label1(1).Caption = std::string(CaptionOf(1, !male));
+  Label1(SpouseField).Caption = std::string(CaptionOf(SpouseField, !male));
   (male ? record_.Husband : record_.Wives) = Integer(0);
   if (Label4(2).BorderStyle == 1) {
     ShowArabicCaptions();
@@ -278,7 +278,7 @@ void CaseStudy::Label1_DblClick(int index) {
 }
 
 void CaseStudy::RunHeir(int index) {
-  if (index == 1) {
+  if (index == SpouseField) {
     (Combo1.ListIndex == Male ? RunWife : RunHusband)(record_, *this);
     return;
   }

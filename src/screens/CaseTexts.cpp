@@ -13,8 +13,6 @@ namespace {
 
 using Kind = enum Entry::Kind;
 
-constexpr int spouseField = 1;
-
 std::size_t Index(int index) { return static_cast<std::size_t>(index); }
 
 /// The caption in lower case, with single blanks and straight apostrophes, for comparisons.
@@ -123,7 +121,7 @@ std::optional<int> GenderOf(std::string_view value) {
 std::optional<CaseFault> CaseEntries::Set(Entry entry, std::string_view value) {
   switch (entry.Kind) {
     case Kind::Field:
-      (entry.Index == spouseField ? wives_ : texts_.Field(entry.Index)) = value;
+      (entry.Index == SpouseField ? wives_ : texts_.Field(entry.Index)) = value;
       break;
     case Kind::Husband:
       husband_ = value;
@@ -161,7 +159,7 @@ std::optional<CaseFault> CaseEntries::Settle() {
   if (wives && gender_ == Female) return CaseFault::WivesOfAWoman;
   if (husband && gender_ == Male) return CaseFault::HusbandOfAMan;
   texts_.Gender = gender_.value_or(husband ? Female : Male);
-  texts_.Field(spouseField) = texts_.Gender == Female ? husband_ : wives_;
+  texts_.Field(SpouseField) = texts_.Gender == Female ? husband_ : wives_;
   return std::nullopt;
 }
 
