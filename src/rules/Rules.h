@@ -1,12 +1,19 @@
 #pragma once
 
 #include "case/RunSharer.h"
-#include "case/SpouseShares.h"
 
 namespace qismora {
 
-// The rules of all heirs except the spouses, each with its source of law. A rule decides the standing of one
-// kind of heir from the counts, stores its amount, fraction and report, and fills the result panel.
+// The rules of all heirs, each with its source of law. A rule decides the standing of one kind of heir from
+// the counts, stores its amount, fraction and report, and fills the result panel.
+
+/// The share of all the wives together: one fourth, or one eighth beside any descendant (Quran 4:12; that a
+/// son's descendant counts like a child is consensus).
+void ShareOfWife(CaseRecord& c, CaseScreen& screen);
+
+/// The husband's share: one half, or one fourth beside any descendant, on the same sources. For a male
+/// deceased only the heading is set.
+void ShareOfHusband(CaseRecord& c, CaseScreen& screen);
 
 /// The daughters' share: one half for one, two thirds for more, the residue beside sons (Quran 4:11; two
 /// thirds for exactly two by the report of Jabir on the daughters of Sad).

@@ -1,8 +1,7 @@
-#include "case/SpouseShares.h"
-
 #include "case/Conditions.h"
 #include "case/Shares.h"
 #include "case/narratives/SpouseTexts.h"
+#include "rules/Rules.h"
 
 // The spouse always takes a fixed share; a descendant halves it. The texts of the two rules differ in the
 // places of the fraction and of a line break. The text about great grandchildren takes the fraction from the
