@@ -100,11 +100,13 @@ void AnswerState::End(int adjustment, bool netBelowZero, const CaseTexts& texts)
   }
 }
 
-// The name of the deceased stands in the texts of the answer and in none of its figures.
+// The name of the deceased stands in the texts of the answer and in none of its figures. About the consent of
+// the heirs the commands ask themselves.
 void AnswerState::FieldsHold(const CaseTexts& texts) {
-  CaseTexts named = texts;
-  named.Fields[NameField] = answered_.Fields[NameField];
-  differ_ = named != answered_;
+  CaseTexts compared = texts;
+  compared.Fields[NameField] = answered_.Fields[NameField];
+  compared.HeirsConsent = answered_.HeirsConsent;
+  differ_ = compared != answered_;
 }
 
 void AnswerState::Cleared() { standing_ = NoAnswer; }

@@ -12,6 +12,7 @@
 #include <QToolButton>
 
 #include "CaseStudyFixture.h"
+#include "screens/CaseFile.h"
 #include "windows/division/DivisionOpener.h"
 #include "windows/division/DivisionWindow.h"
 #include "windows/division/FamilyTreeView.h"
@@ -102,6 +103,30 @@ class DivisionWindowTest : public QObject {
     QTest::keyClick(consent, Qt::Key_Space);
     QTRY_COMPARE(Cell("Son", 4), QStringLiteral("4,600.00"));
     QVERIFY(consent->isVisible());
+  }
+
+  void theConsentIsSavedOpenedAndForgottenWithTheCase() {
+    auto* consent = Find<QCheckBox>("HeirsConsent");
+    study_->Type("Text1(2)", QStringLiteral("1"));
+    study_->Type("Text1(28)", QStringLiteral("8000"));
+    QTRY_VERIFY(consent->isVisible());
+    QTest::keyClick(consent, Qt::Key_Space);
+    CaseDocument& document = study_->Window().Document();
+    const std::string file = FromQt(QDir::current().filePath(QStringLiteral("consent.qismora")));
+    const CaseTexts consented = ReadScreen(study_->Form(), study_->Form().HeirsConsent);
+    QVERIFY(consented.HeirsConsent);
+    SystemFolders places;
+    SaveCaseFile(places, file, consented);
+    study_->Boxes.Press(QMessageBox::Discard);
+    document.New();
+    QCOMPARE(study_->Boxes.Take().size(), 1);
+    QTRY_VERIFY(!consent->isChecked());
+    QVERIFY(document.OpenFile(file));
+    QTRY_VERIFY(consent->isChecked());
+    QTRY_COMPARE(Cell("Son", 4), QStringLiteral("4,600.00"));
+    // What is ticked here has changed the case.
+    QTest::keyClick(consent, Qt::Key_Space);
+    QVERIFY(document.IsChanged());
   }
 
   // The commands have no line for a grandfather in the text of Aul.

@@ -365,10 +365,7 @@ void DivisionWindow::BuildSentences(QWidget* parent) {
   consent_ = new QCheckBox(parent);
   consent_->setObjectName(QStringLiteral("HeirsConsent"));
   consent_->hide();
-  connect(consent_, &QCheckBox::toggled, this, [this](bool consent) {
-    heirsConsent_ = consent;
-    Update();
-  });
+  connect(consent_, &QCheckBox::toggled, this, [this](bool consent) { form_.HeirsConsent = consent; });
   notice_ = Sentence("Notice", new Notice(parent));
   unreadable_ = Sentence("Unreadable", new Notice(parent));
   for (QWidget* widget :
@@ -496,6 +493,7 @@ void DivisionWindow::Watch() {
   }
   for (int i = 0; i < form_.Check1.Size; ++i) form_.Check1(i).Value.WhenChanged(changed);
   form_.Combo1.ListIndex.WhenChanged(changed);
+  form_.HeirsConsent.WhenChanged(changed);
 }
 
 // A command may change many fields: they are read once, when it has ended.
@@ -512,10 +510,10 @@ void DivisionWindow::Changed() {
 void DivisionWindow::Update() {
   pending_ = false;
   if (!isVisible()) return;
-  shown_ = ViewDivision(form_, heirsConsent_, school_);
+  shown_ = ViewDivision(form_, form_.HeirsConsent, school_);
   before_ = kept_;
   if (!deaths_.empty()) {
-    CaseTexts texts = ReadScreen(form_, heirsConsent_);
+    CaseTexts texts = ReadScreen(form_, form_.HeirsConsent);
     for (const auto& [heir, heads] : deaths_) {
       const DivisionLine* line = shown_.Find(heir);
       if (line != nullptr) texts = WithHeads(texts, heir, std::max(0, line->Law.Heads - heads));
@@ -543,6 +541,7 @@ void DivisionWindow::ShowSentences() {
   SetSentence(examples_, examples);
   SetSentence(bequests_, words::BequestNotice(shown_).toHtmlEscaped());
   consent_->setVisible(shown_.ConsentMatters());
+  consent_->setChecked(form_.HeirsConsent);
 
   QString supposition;
   for (const auto& [heir, heads] : deaths_) {
@@ -590,7 +589,7 @@ void DivisionWindow::ShowTable() {
   if (!shown_.IsDivided()) return;
   const Kind heir = ChosenHeir();
   if (fourSchools_->isChecked()) {
-    CaseTexts texts = ReadScreen(form_, heirsConsent_);
+    CaseTexts texts = ReadScreen(form_, form_.HeirsConsent);
     for (const auto& [dead, heads] : deaths_) {
       const DivisionLine* line = before_ ? before_->Find(dead) : nullptr;
       if (line != nullptr) texts = WithHeads(texts, dead, std::max(0, line->Law.Heads - heads));

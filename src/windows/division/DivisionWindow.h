@@ -100,7 +100,6 @@ class DivisionWindow : public QMainWindow {
   CaseStudy& form_;
   Settings& store_;
   faraid::School school_;
-  bool heirsConsent_ = false;
   bool pending_ = false;
   bool splitByUser_ = false;
   std::vector<Death> deaths_;
