@@ -28,7 +28,7 @@ void DivisionOpener::Make() {
 
 void DivisionOpener::Open() {
   Make();
-  window_->Want(true);
+  DivisionSettings(store_).SetWanted(true);
   window_->setAttribute(Qt::WA_ShowWithoutActivating, false);
   window_->ShowBeside(*study_);
   window_->raise();
@@ -36,7 +36,7 @@ void DivisionOpener::Open() {
 }
 
 void DivisionOpener::OpenBeside() {
-  if (!study_->isVisible() || !DivisionWindow::IsWanted(store_) || !DivisionWindow::HasRoomBeside(*study_))
+  if (!study_->isVisible() || !DivisionSettings(store_).IsWanted() || !DivisionWindow::HasRoomBeside(*study_))
     return;
   Make();
   window_->setAttribute(Qt::WA_ShowWithoutActivating, true);

@@ -5,29 +5,22 @@
 #include <QTimer>
 #include <functional>
 #include <optional>
-#include <utility>
-#include <vector>
 
 #include "screens/DivisionView.h"
+#include "windows/division/DivisionSettings.h"
+#include "windows/division/Supposition.h"
 
-class QAction;
-class QCheckBox;
-class QComboBox;
-class QLabel;
 class QMenu;
 class QScrollArea;
 class QSplitter;
-class QTableView;
-class QToolBar;
-class QToolButton;
 
 namespace qismora {
 
 class CaseStudy;
-class DivisionModel;
-class EstateBar;
-class FamilyTreeView;
-class Settings;
+class DivisionPictures;
+class DivisionSentences;
+class DivisionTableView;
+class DivisionTools;
 
 /// The division of what the fields of Case Study hold, at every keystroke: one sentence, one table with its
 /// reasons, the estate as a bar and the family as a tree. It changes nothing on the screen.
@@ -45,10 +38,6 @@ class DivisionWindow : public QMainWindow {
   /// Whether the screen has room for both windows side by side.
   static bool HasRoomBeside(const QWidget& study);
 
-  /// Whether the user wants it beside Case Study: yes from the first time on, until he closes it.
-  static bool IsWanted(Settings& store);
-  void Want(bool wanted);
-
   /// What is shown: the case of the screen, or what it would be if an heir had died before.
   const DivisionView& Shown() const { return shown_; }
   /// Shows at once what the fields hold now.
@@ -62,78 +51,47 @@ class DivisionWindow : public QMainWindow {
   void changeEvent(QEvent* event) override;
   void hideEvent(QHideEvent* event) override;
   void resizeEvent(QResizeEvent* event) override;
-  bool eventFilter(QObject* watched, QEvent* event) override;
 
  private:
-  /// An heir of whom so many had died before.
-  using Death = std::pair<faraid::Kind, int>;
-
+  void BuildContent();
   void BuildTools();
-  QAction* AddTool(QToolBar* tools, const char* name, const QKeySequence& key,
-                   const std::function<void()>& act);
-  QToolButton* LanguageButton(QToolBar* tools);
-  void BuildSentences(QWidget* parent);
-  void BuildTable();
-  void BuildPictures();
-  void BuildActions();
+  void ConnectParts();
   void SayAll();
   void Watch();
   void Changed();
 
-  void ShowSentences();
-  void ShowNotice();
   void ShowTable();
-  void ShowPictures();
-  void FitTable();
+  void ShowState();
   void FitSplitter();
-  void Announce();
 
-  void ChooseSchool(int index);
   void Follow(const QString& link);
-  void ShowMenu(const QPoint& place);
-  void FillMenu(QMenu* menu, faraid::Kind heir);
   void GoToField(int index);
+  void GoToHeir(faraid::Kind heir);
+  void FillMenu(QMenu* menu);
   void SupposeDead(faraid::Kind heir, int heads);
   void LeaveSupposition();
-  faraid::Kind ChosenHeir() const;
+  QRect PlaceBeside(const QWidget& study) const;
 
   CaseStudy& form_;
   Settings& store_;
+  DivisionSettings settings_;
   faraid::School school_;
   bool pending_ = false;
   bool splitByUser_ = false;
-  std::vector<Death> deaths_;
-  std::optional<DivisionView> kept_;
+  /// The case that is shown.
+  CaseTexts texts_;
   DivisionView shown_;
+  Supposition supposition_;
+  /// What Keep holds, and what the division is compared with: that, or the case as it is.
+  std::optional<DivisionView> kept_;
   std::optional<DivisionView> before_;
   QTimer announcing_;
-  QString announced_;
 
-  QComboBox* schools_ = nullptr;
-  QLabel* schoolCaption_ = nullptr;
-  QAction* fourSchools_ = nullptr;
-  QAction* keep_ = nullptr;
-  QAction* copy_ = nullptr;
-  QAction* print_ = nullptr;
-  QAction* preview_ = nullptr;
-  QAction* pdf_ = nullptr;
-  QToolButton* language_ = nullptr;
-  QScrollArea* scroll_ = nullptr;
-  QLabel* headline_ = nullptr;
-  QLabel* estate_ = nullptr;
-  QLabel* examples_ = nullptr;
-  QLabel* bequests_ = nullptr;
-  QCheckBox* consent_ = nullptr;
-  QLabel* supposition_ = nullptr;
-  QLabel* notice_ = nullptr;
-  QLabel* unreadable_ = nullptr;
+  DivisionTools* tools_ = nullptr;
+  DivisionSentences* sentences_ = nullptr;
   QSplitter* splitter_ = nullptr;
-  QTableView* table_ = nullptr;
-  DivisionModel* model_ = nullptr;
-  QWidget* pictures_ = nullptr;
-  EstateBar* bar_ = nullptr;
-  FamilyTreeView* tree_ = nullptr;
-  QScrollArea* treeScroll_ = nullptr;
+  DivisionTableView* table_ = nullptr;
+  DivisionPictures* pictures_ = nullptr;
 };
 
 }  // namespace qismora

@@ -1,0 +1,191 @@
+#include "windows/division/DivisionTableView.h"
+
+#include <QContextMenuEvent>
+#include <QGuiApplication>
+#include <QHeaderView>
+#include <QKeyEvent>
+#include <QMenu>
+#include <QPainter>
+#include <QScrollBar>
+#include <QStyledItemDelegate>
+#include <algorithm>
+
+#include "windows/style/Colours.h"
+
+namespace qismora {
+
+namespace {
+
+using faraid::Kind;
+
+constexpr int cellMargin = 5;
+constexpr int leastSentence = 165;
+constexpr int leastHeight = 110;
+const QColor amber(255, 176, 0);
+
+/// Lines between the rows, a stronger one above the sum, and a stripe where something differs.
+class RowDelegate : public QStyledItemDelegate {
+ public:
+  RowDelegate(const DivisionModel& model, QObject* parent) : QStyledItemDelegate(parent), model_(model) {}
+
+ protected:
+  void initStyleOption(QStyleOptionViewItem* option, const QModelIndex& index) const override {
+    QStyledItemDelegate::initStyleOption(option, index);
+    option->decorationAlignment = Qt::AlignTop | Qt::AlignHCenter;
+    option->textElideMode = Qt::ElideNone;
+    option->rect.adjust(0, cellMargin, 0, 0);
+    const bool rightToLeft = option->direction == Qt::RightToLeft;
+    if (index.column() == 0)
+      option->rect.adjust(rightToLeft ? 0 : cellMargin, 0, rightToLeft ? -cellMargin : 0, 0);
+  }
+  void paint(QPainter* painter, const QStyleOptionViewItem& option, const QModelIndex& index) const override {
+    const DivisionTable::Row& row = model_.Table().Rows[index.row()];
+    const QPalette& palette = option.palette;
+    const QVariant background = index.data(Qt::BackgroundRole);
+    const bool selected = option.state.testFlag(QStyle::State_Selected);
+    if (selected) {
+      painter->fillRect(option.rect, palette.highlight());
+    } else if (background.isValid()) {
+      painter->fillRect(option.rect, background.value<QColor>());
+    }
+    QStyledItemDelegate::paint(painter, option, index);
+    const bool sum = row.Where == DivisionTable::Place::Sum;
+    const QColor text = palette.color(QPalette::Text);
+    const QColor line = Between(palette.color(QPalette::Base), text, sum ? 0.7 : 0.2);
+    if (sum) painter->fillRect(option.rect.left(), option.rect.top(), option.rect.width(), 2, line);
+    painter->fillRect(option.rect.left(), option.rect.bottom(), option.rect.width(), 1, line);
+    if (row.Differs && index.column() == 0) {
+      const bool rightToLeft = option.direction == Qt::RightToLeft;
+      const int x = rightToLeft ? option.rect.right() - 3 : option.rect.left();
+      painter->fillRect(x, option.rect.top(), 4, option.rect.height() - 1,
+                        IsBlackAndWhite(palette) ? text : Readable(amber, palette.color(QPalette::Base), 3));
+    }
+  }
+
+ private:
+  const DivisionModel& model_;
+};
+
+// A figure that comes in two parts, such as 33.33 or 33.34, stands in two lines.
+int WidthOf(const QString& cell, const QFontMetrics& font, bool figures) {
+  if (!figures) return font.horizontalAdvance(cell);
+  int width = 0;
+  for (const QString& line : cell.split(QLatin1Char('\n')))
+    width = std::max(width, font.horizontalAdvance(line));
+  return width;
+}
+
+int LinesOf(const QString& cell) { return static_cast<int>(cell.count(QLatin1Char('\n'))) + 1; }
+
+}  // namespace
+
+DivisionTableView::DivisionTableView(QWidget* parent) : QTableView(parent), model_(new DivisionModel(this)) {
+  setObjectName(QStringLiteral("DivisionTable"));
+  setModel(model_);
+  setItemDelegate(new RowDelegate(*model_, this));
+  setSelectionBehavior(QAbstractItemView::SelectRows);
+  setSelectionMode(QAbstractItemView::SingleSelection);
+  setEditTriggers(QAbstractItemView::NoEditTriggers);
+  setVerticalScrollMode(QAbstractItemView::ScrollPerPixel);
+  setHorizontalScrollMode(QAbstractItemView::ScrollPerPixel);
+  setShowGrid(false);
+  setWordWrap(true);
+  setTabKeyNavigation(false);
+  setMinimumHeight(leastHeight);
+  verticalHeader()->hide();
+  verticalHeader()->setMinimumSectionSize(1);
+  horizontalHeader()->setHighlightSections(false);
+  horizontalHeader()->setSectionsClickable(false);
+  connect(this, &QAbstractItemView::activated, this, [this] {
+    if (ChosenHeir() != Kind::Remainder) Activated(ChosenHeir());
+  });
+  connect(selectionModel(), &QItemSelectionModel::currentRowChanged, this, [this] { RowChosen(); });
+}
+
+void DivisionTableView::Show(DivisionTable table) {
+  const Kind heir = ChosenHeir();
+  model_->Show(std::move(table));
+  if (heir != Kind::Remainder && ChosenHeir() != heir) Choose(heir);
+  Fit();
+}
+
+void DivisionTableView::SetTextFont(const QFont& font) {
+  setFont(font);
+  model_->SetFont(font);
+}
+
+Kind DivisionTableView::ChosenHeir() const {
+  const QModelIndex current = currentIndex();
+  const auto& rows = model_->Table().Rows;
+  return current.isValid() && current.row() < rows.size() ? rows[current.row()].Heir : Kind::Remainder;
+}
+
+void DivisionTableView::Choose(Kind heir) {
+  const auto& rows = model_->Table().Rows;
+  for (int row = 0; row < rows.size(); ++row) {
+    if (rows[row].Heir == heir && rows[row].Where != DivisionTable::Place::Sum) selectRow(row);
+  }
+}
+
+int DivisionTableView::FullHeight() const {
+  int height = horizontalHeader()->height() + 2 * frameWidth() + 1;
+  for (int row = 0; row < model_->rowCount(); ++row) height += rowHeight(row);
+  return horizontalScrollBar()->isVisible() ? height + horizontalScrollBar()->height() : height;
+}
+
+// Figures get the width that they need, and sentences what is left; a row is as high as its sentence.
+void DivisionTableView::Fit() {
+  const DivisionTable& table = model_->Table();
+  if (table.Headings.isEmpty()) return;
+  QFont bold = font();
+  bold.setBold(true);
+  const QFontMetrics wide(bold);
+  const QFontMetrics metrics = fontMetrics();
+  int used = 0;
+  for (int column = 0; column < table.FirstSentence; ++column) {
+    int width = wide.horizontalAdvance(table.Headings[column]);
+    for (const DivisionTable::Row& row : table.Rows) {
+      const QFontMetrics& font = row.Where == DivisionTable::Place::Sum ? wide : metrics;
+      width = std::max(width, WidthOf(row.Cells[column], font, table.Figures[column]));
+    }
+    setColumnWidth(column, width + 3 * cellMargin + (column == 0 ? 5 * cellMargin : 0));
+    used += columnWidth(column);
+  }
+  const int last = table.FirstSentence;
+  const int sentence = std::max(leastSentence, viewport()->width() - used);
+  setColumnWidth(last, sentence);
+  for (int row = 0; row < table.Rows.size(); ++row) {
+    const QStringList& cells = table.Rows[row].Cells;
+    int height = metrics.height();
+    for (int column = 1; column < table.FirstSentence; ++column) {
+      height = std::max(height, metrics.height() * LinesOf(cells[column]));
+    }
+    const QRect place(0, 0, sentence - 3 * cellMargin, QWIDGETSIZE_MAX);
+    height = std::max(height, metrics.boundingRect(place, int(Qt::TextWordWrap), cells[last]).height());
+    setRowHeight(row, height + 2 * cellMargin);
+  }
+}
+
+void DivisionTableView::keyPressEvent(QKeyEvent* event) {
+  if (event->key() == Qt::Key_Delete && ChosenHeir() != Kind::Remainder) return Deleted(ChosenHeir());
+  QTableView::keyPressEvent(event);
+}
+
+void DivisionTableView::contextMenuEvent(QContextMenuEvent* event) {
+  const bool byKey = event->reason() == QContextMenuEvent::Keyboard;
+  const QPoint place = byKey ? visualRect(currentIndex()).center() : event->pos();
+  const QModelIndex index = indexAt(place);
+  if (index.isValid()) selectRow(index.row());
+  auto* menu = new QMenu(this);
+  menu->setAttribute(Qt::WA_DeleteOnClose);
+  FillMenu(menu);
+  if (menu->isEmpty()) return menu->deleteLater();
+  menu->popup(viewport()->mapToGlobal(place));
+}
+
+void DivisionTableView::resizeEvent(QResizeEvent* event) {
+  QTableView::resizeEvent(event);
+  Fit();
+}
+
+}  // namespace qismora

@@ -1,0 +1,47 @@
+#pragma once
+
+#include <QTableView>
+#include <functional>
+
+#include "windows/division/DivisionTable.h"
+
+namespace qismora {
+
+/// The table of who receives what: an heir a row, each as high as the reason.
+class DivisionTableView : public QTableView {
+ public:
+  explicit DivisionTableView(QWidget* parent);
+
+  /// Shows a table; the chosen heir stays chosen.
+  void Show(DivisionTable table);
+  void SetTextFont(const QFont& font);
+  /// Paints the swatches again: with other colours, or at another scale.
+  void ForgetSwatches() { model_->ForgetSwatches(); }
+
+  /// The remainder where no heir is chosen.
+  faraid::Kind ChosenHeir() const;
+  void Choose(faraid::Kind heir);
+  /// How high it is when nothing of it scrolls.
+  int FullHeight() const;
+
+  /// Called when another row was chosen.
+  std::function<void()> RowChosen;
+  /// Called for Return or a double click on an heir.
+  std::function<void(faraid::Kind)> Activated;
+  /// Called for the Delete key on an heir.
+  std::function<void(faraid::Kind)> Deleted;
+  /// Called to add entries to the context menu, which is shown if it has any.
+  std::function<void(QMenu*)> FillMenu;
+
+ protected:
+  void keyPressEvent(QKeyEvent* event) override;
+  void contextMenuEvent(QContextMenuEvent* event) override;
+  void resizeEvent(QResizeEvent* event) override;
+
+ private:
+  void Fit();
+
+  DivisionModel* model_;
+};
+
+}  // namespace qismora

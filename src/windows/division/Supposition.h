@@ -1,0 +1,37 @@
+#pragma once
+
+#include <QCoreApplication>
+#include <functional>
+#include <utility>
+#include <vector>
+
+#include "screens/DivisionView.h"
+
+class QMenu;
+
+namespace qismora {
+
+/// What if these heirs had died before? The fields of Case Study stay as they are.
+class Supposition {
+  Q_DECLARE_TR_FUNCTIONS(DivisionWindow)
+
+ public:
+  bool IsEmpty() const { return deaths_.empty(); }
+  void SupposeDead(faraid::Kind heir, int heads);
+  void Clear() { deaths_.clear(); }
+
+  /// The case without those who are supposed to be dead. The division is that of the case as it is.
+  CaseTexts Applied(CaseTexts texts, const DivisionView& asItIs) const;
+  /// The supposition as rich text, with a link back to the case; empty without.
+  QString Words() const;
+
+  /// The entries of a context menu that suppose an heir of a division dead.
+  static void FillMenu(QMenu* menu, const DivisionLine& line,
+                       const std::function<void(int heads)>& supposeDead);
+
+ private:
+  /// An heir of whom so many had died before.
+  std::vector<std::pair<faraid::Kind, int>> deaths_;
+};
+
+}  // namespace qismora
