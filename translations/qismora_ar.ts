@@ -2,6 +2,398 @@
 <!DOCTYPE TS>
 <TS version="2.1" language="ar" sourcelanguage="en">
 <context>
+    <name>Case</name>
+    <message>
+        <source>State of the answer</source>
+        <translation>حالة الجواب</translation>
+    </message>
+    <message>
+        <source>&amp;New</source>
+        <translation>&amp;جديد</translation>
+    </message>
+    <message>
+        <source>&amp;Open...</source>
+        <translation>&amp;فتح...</translation>
+    </message>
+    <message>
+        <source>&amp;Save</source>
+        <translation>&amp;حفظ</translation>
+    </message>
+    <message>
+        <source>Save &amp;As...</source>
+        <translation>حفظ &amp;باسم...</translation>
+    </message>
+    <message>
+        <source>No case was saved or opened yet</source>
+        <translation>لم تُحفظ ولم تُفتح أي مسألة بعد</translation>
+    </message>
+    <message>
+        <source>&amp;Case</source>
+        <translation>&amp;المسألة</translation>
+    </message>
+    <message>
+        <source>&amp;Recent</source>
+        <translation>&amp;الأخيرة</translation>
+    </message>
+    <message>
+        <source>&amp;Division</source>
+        <translation>ال&amp;قسمة</translation>
+    </message>
+    <message>
+        <source>Who receives what: F8</source>
+        <translation>ما يأخذه كل وارث: F8</translation>
+    </message>
+    <message>
+        <source>Who receives what: opens the division</source>
+        <translation>ما يأخذه كل وارث: يفتح القسمة</translation>
+    </message>
+    <message>
+        <source>The final division in one table, with its reasons (F8)</source>
+        <translation>القسمة النهائية في جدول واحد مع أسبابها (F8)</translation>
+    </message>
+    <message>
+        <source>Qismora cases (*.qismora)</source>
+        <translation>مسائل Qismora ‏(*.qismora)</translation>
+    </message>
+    <message>
+        <source>All files (*)</source>
+        <translation>كل الملفات (*)</translation>
+    </message>
+    <message>
+        <source>Open case</source>
+        <translation>فتح مسألة</translation>
+    </message>
+    <message>
+        <source>Save case</source>
+        <translation>حفظ المسألة</translation>
+    </message>
+    <message>
+        <source>The text is not UTF-8.</source>
+        <translation>النص ليس بترميز UTF-8.</translation>
+    </message>
+    <message>
+        <source>There is a control character in the line.</source>
+        <translation>في السطر محرف تحكم.</translation>
+    </message>
+    <message>
+        <source>There is no equals sign in &quot;{text}&quot;.</source>
+        <translation>لا توجد علامة يساوي في &quot;{text}&quot;.</translation>
+    </message>
+    <message>
+        <source>&quot;{text}&quot; is not a caption of the Case Study screen.</source>
+        <translation>&quot;{text}&quot; ليس عنوان حقل في شاشة Case Study.</translation>
+    </message>
+    <message>
+        <source>&quot;{text}&quot; is given twice.</source>
+        <translation>&quot;{text}&quot; مذكور مرتين.</translation>
+    </message>
+    <message>
+        <source>&quot;{text}&quot; is not quoted correctly.</source>
+        <translation>علامتا الاقتباس في &quot;{text}&quot; غير صحيحتين.</translation>
+    </message>
+    <message>
+        <source>&quot;{text}&quot; is not a version of case files.</source>
+        <translation>&quot;{text}&quot; ليس إصدارًا لملفات المسائل.</translation>
+    </message>
+    <message>
+        <source>The line is too long.</source>
+        <translation>السطر طويل جدًّا.</translation>
+    </message>
+    <message>
+        <source>The file is too large for a case.</source>
+        <translation>الملف أكبر من أن يكون مسألة.</translation>
+    </message>
+    <message>
+        <source>&quot;{text}&quot; takes the word ticked, or 0.</source>
+        <translation>&quot;{text}&quot; يُكتب له ticked أو 0.</translation>
+    </message>
+    <message>
+        <source>&quot;{text}&quot; takes yes or no.</source>
+        <translation>&quot;{text}&quot; يُكتب له yes أو no.</translation>
+    </message>
+    <message>
+        <source>Both Wives and Husband are given.</source>
+        <translation>ذُكر Wives و Husband معًا.</translation>
+    </message>
+    <message>
+        <source>Wives are given, but the deceased is female.</source>
+        <translation>ذُكر Wives لكن الميت امرأة.</translation>
+    </message>
+    <message>
+        <source>A husband is given, but the deceased is male.</source>
+        <translation>ذُكر Husband لكن الميت رجل.</translation>
+    </message>
+    <message>
+        <source>the folder does not exist</source>
+        <translation>المجلد غير موجود</translation>
+    </message>
+    <message>
+        <source>you have no permission</source>
+        <translation>ليست لديك صلاحية</translation>
+    </message>
+    <message>
+        <source>the name is taken</source>
+        <translation>الاسم مستعمل</translation>
+    </message>
+    <message>
+        <source>the disk is read-only</source>
+        <translation>القرص للقراءة فقط</translation>
+    </message>
+    <message>
+        <source>the disk is full</source>
+        <translation>القرص ممتلئ</translation>
+    </message>
+    <message>
+        <source>your share of the disk is full</source>
+        <translation>حصتك من القرص ممتلئة</translation>
+    </message>
+    <message>
+        <source>the file is too large</source>
+        <translation>الملف كبير جدًّا</translation>
+    </message>
+    <message>
+        <source>the name is too long</source>
+        <translation>الاسم طويل جدًّا</translation>
+    </message>
+    <message>
+        <source>the name is not possible on this disk</source>
+        <translation>هذا الاسم غير ممكن على هذا القرص</translation>
+    </message>
+    <message>
+        <source>a folder has this name</source>
+        <translation>هذا اسم مجلد</translation>
+    </message>
+    <message>
+        <source>the name is a link</source>
+        <translation>الاسم رابط</translation>
+    </message>
+    <message>
+        <source>the disk reports an error</source>
+        <translation>القرص يبلّغ عن خطأ</translation>
+    </message>
+    <message>
+        <source>the name belongs to a pipe or a device</source>
+        <translation>الاسم لأنبوب أو لجهاز</translation>
+    </message>
+    <message>
+        <source>The case could not be worked out.</source>
+        <translation>تعذّر حل المسألة.</translation>
+    </message>
+    <message>
+        <source>Aul/ Radd worked on figures that it had adjusted already. Choose Residuaries again.</source>
+        <translation>عمل Aul/ Radd في أرقام عدّلها من قبل. اختر Residuaries مرة أخرى.</translation>
+    </message>
+    <message>
+        <source>Aul/ Radd was applied to other shares. Choose Residuaries first.</source>
+        <translation>طُبّق Aul/ Radd على أنصبة أخرى. اختر Residuaries أولًا.</translation>
+    </message>
+    <message>
+        <source>No answer yet.</source>
+        <translation>لا جواب بعد.</translation>
+    </message>
+    <message>
+        <source>Answer of {command}: not the whole distribution, which Residuaries (F5) gives.</source>
+        <translation>جواب {command}: ليس القسمة كلها، ويعطيها Residuaries (F5).</translation>
+    </message>
+    <message>
+        <source>Answer of {command}, not final: Radd is still to be applied (Aul/ Radd, F6).</source>
+        <translation>جواب {command}، ليس نهائيًّا: بقي الرد (Aul/ Radd، F6).</translation>
+    </message>
+    <message>
+        <source>Answer of {command}, not final: Aul is still to be applied (Aul/ Radd, F6).</source>
+        <translation>جواب {command}، ليس نهائيًّا: بقي العول (Aul/ Radd، F6).</translation>
+    </message>
+    <message>
+        <source>Answer of {command}: final.</source>
+        <translation>جواب {command}: نهائي.</translation>
+    </message>
+    <message>
+        <source>Answer of {command}: the net estate is below 0, nothing is left to divide.</source>
+        <translation>جواب {command}: صافي التركة أقل من 0 فلم يبق ما يُقسم.</translation>
+    </message>
+    <message>
+        <source>Refused: these figures are not your case. {reason}</source>
+        <translation>مرفوض: هذه الأرقام ليست أرقام مسألتك. {reason}</translation>
+    </message>
+    <message>
+        <source>Fields have changed since the answer of {command}.</source>
+        <translation>تغيّرت الحقول بعد جواب {command}.</translation>
+    </message>
+    <message>
+        <source>File not found</source>
+        <translation>الملف غير موجود</translation>
+    </message>
+    <message>
+        <source>Line {line}: {text}</source>
+        <translation>السطر {line}: {text}</translation>
+    </message>
+    <message>
+        <source>and {number} more</source>
+        <translation>و{number} غيرها</translation>
+    </message>
+    <message>
+        <source>Not saved</source>
+        <translation>غير محفوظة</translation>
+    </message>
+    <message>
+        <source>{file}, changed</source>
+        <translation>{file}، متغيّرة</translation>
+    </message>
+    <message>
+        <source>{file} could not be saved.</source>
+        <translation>تعذّر حفظ {file}.</translation>
+    </message>
+    <message>
+        <source>This case has not been saved.</source>
+        <translation>لم تُحفظ هذه المسألة.</translation>
+    </message>
+    <message>
+        <source>{file} has changed since it was saved.</source>
+        <translation>تغيّر {file} منذ حفظه.</translation>
+    </message>
+    <message>
+        <source>Save it before it is closed?</source>
+        <translation>أتريد الحفظ قبل الإغلاق؟</translation>
+    </message>
+    <message>
+        <source>The command was not finished.</source>
+        <translation>لم يكتمل الأمر.</translation>
+    </message>
+    <message>
+        <source>{field} {text} is too large and will be refused</source>
+        <translation>{field} {text} كبير جدًّا وسيُرفض</translation>
+    </message>
+    <message>
+        <source>{field} {text} is read as {number}</source>
+        <translation>{field} {text} يُقرأ {number}</translation>
+    </message>
+    <message>
+        <source>{field} without a text is not read: {number} stays</source>
+        <translation>{field} فارغ فلا يُقرأ: يبقى {number}</translation>
+    </message>
+    <message>
+        <source>{field} without a text is not read: the figure of the run before stays</source>
+        <translation>{field} فارغ فلا يُقرأ: يبقى رقم المرة السابقة</translation>
+    </message>
+    <message>
+        <source>{field} {text} is not read: {number} stays</source>
+        <translation>{field} {text} لا يُقرأ: يبقى {number}</translation>
+    </message>
+    <message>
+        <source>{field} {text} is not read: the figure of the run before stays</source>
+        <translation>{field} {text} لا يُقرأ: يبقى رقم المرة السابقة</translation>
+    </message>
+    <message>
+        <source>A newer version of Qismora has written this file. These lines are not known here and were not read:</source>
+        <translation>كُتب هذا الملف بإصدار أحدث من Qismora. هذه الأسطر غير معروفة هنا ولم تُقرأ:</translation>
+    </message>
+    <message>
+        <source>Save asks for a name, so that the file keeps them.</source>
+        <translation>سيُسأل عن اسم عند الحفظ، ليبقى الملف محتفظًا بها.</translation>
+    </message>
+    <message>
+        <source>{file} was not opened.</source>
+        <translation>لم يُفتح {file}.</translation>
+    </message>
+</context>
+<context>
+    <name>Dialogs</name>
+    <message>
+        <source>OK</source>
+        <translation>موافق</translation>
+    </message>
+    <message>
+        <source>Save</source>
+        <translation>حفظ</translation>
+    </message>
+    <message>
+        <source>Open</source>
+        <translation>فتح</translation>
+    </message>
+    <message>
+        <source>Discard</source>
+        <translation>تجاهل</translation>
+    </message>
+    <message>
+        <source>Cancel</source>
+        <translation>إلغاء</translation>
+    </message>
+    <message>
+        <source>&amp;Yes</source>
+        <translation>&amp;نعم</translation>
+    </message>
+    <message>
+        <source>&amp;No</source>
+        <translation>&amp;لا</translation>
+    </message>
+    <message>
+        <source>&amp;Open</source>
+        <translation>&amp;فتح</translation>
+    </message>
+    <message>
+        <source>&amp;Save</source>
+        <translation>&amp;حفظ</translation>
+    </message>
+    <message>
+        <source>Look in:</source>
+        <translation>البحث في:</translation>
+    </message>
+    <message>
+        <source>File &amp;name:</source>
+        <translation>ا&amp;سم الملف:</translation>
+    </message>
+    <message>
+        <source>&amp;File name:</source>
+        <translation>ا&amp;سم الملف:</translation>
+    </message>
+    <message>
+        <source>Files of type:</source>
+        <translation>نوع الملفات:</translation>
+    </message>
+    <message>
+        <source>Save As</source>
+        <translation>حفظ باسم</translation>
+    </message>
+    <message>
+        <source>Name</source>
+        <translation>الاسم</translation>
+    </message>
+    <message>
+        <source>Size</source>
+        <translation>الحجم</translation>
+    </message>
+    <message>
+        <source>Type</source>
+        <translation>النوع</translation>
+    </message>
+    <message>
+        <source>Date Modified</source>
+        <translation>تاريخ التعديل</translation>
+    </message>
+    <message>
+        <source>Computer</source>
+        <translation>الحاسوب</translation>
+    </message>
+    <message>
+        <source>&amp;Print</source>
+        <translation>&amp;طباعة</translation>
+    </message>
+    <message>
+        <source>Print</source>
+        <translation>طباعة</translation>
+    </message>
+    <message>
+        <source>Print Preview</source>
+        <translation>معاينة الطباعة</translation>
+    </message>
+    <message>
+        <source>%1 already exists.
+Do you want to replace it?</source>
+        <translation>%1 موجود من قبل.
+أتريد استبداله؟</translation>
+    </message>
+</context>
+<context>
     <name>Differences</name>
     <message>
         <source>The commands read an amount only up to its first comma.</source>
@@ -84,7 +476,7 @@
     </message>
     <message>
         <source>not alive in this case</source>
-        <translation>ليس حيًّا في هذه الحالة</translation>
+        <translation>ليس حيًّا في هذه المسألة</translation>
     </message>
     <message>
         <source>has no line</source>
@@ -187,7 +579,7 @@
     </message>
     <message>
         <source>Back to the case (Esc)</source>
-        <translation>العودة إلى الحالة (Esc)</translation>
+        <translation>العودة إلى المسألة (Esc)</translation>
     </message>
     <message>
         <source>the fields of Case Study as they stand now</source>
@@ -195,7 +587,7 @@
     </message>
     <message>
         <source>a supposition, not the case of the fields</source>
-        <translation>افتراض وليس الحالة المُدخلة</translation>
+        <translation>افتراض وليس المسألة المُدخلة</translation>
     </message>
     <message>
         <source>Kept</source>
@@ -223,7 +615,7 @@
     </message>
     <message>
         <source>Back to the case</source>
-        <translation>العودة إلى الحالة</translation>
+        <translation>العودة إلى المسألة</translation>
     </message>
 </context>
 <context>
@@ -660,6 +1052,10 @@
     <message>
         <source>No page contains &quot;%1&quot;.</source>
         <translation>لا تحتوي أي صفحة على &quot;%1&quot;.</translation>
+    </message>
+    <message>
+        <source>&amp;Help</source>
+        <translation>&amp;مساعدة</translation>
     </message>
 </context>
 <context>

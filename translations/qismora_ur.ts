@@ -2,6 +2,398 @@
 <!DOCTYPE TS>
 <TS version="2.1" language="ur" sourcelanguage="en">
 <context>
+    <name>Case</name>
+    <message>
+        <source>State of the answer</source>
+        <translation>جواب کی کیفیت</translation>
+    </message>
+    <message>
+        <source>&amp;New</source>
+        <translation>&amp;نیا</translation>
+    </message>
+    <message>
+        <source>&amp;Open...</source>
+        <translation>&amp;کھولیں...</translation>
+    </message>
+    <message>
+        <source>&amp;Save</source>
+        <translation>&amp;محفوظ کریں</translation>
+    </message>
+    <message>
+        <source>Save &amp;As...</source>
+        <translation>نئے نام &amp;سے محفوظ کریں...</translation>
+    </message>
+    <message>
+        <source>No case was saved or opened yet</source>
+        <translation>ابھی تک کوئی مسئلہ محفوظ کیا یا کھولا نہیں گیا</translation>
+    </message>
+    <message>
+        <source>&amp;Case</source>
+        <translation>&amp;مسئلہ</translation>
+    </message>
+    <message>
+        <source>&amp;Recent</source>
+        <translation>&amp;حالیہ</translation>
+    </message>
+    <message>
+        <source>&amp;Division</source>
+        <translation>&amp;تقسیم</translation>
+    </message>
+    <message>
+        <source>Who receives what: F8</source>
+        <translation>کس کو کیا ملتا ہے: F8</translation>
+    </message>
+    <message>
+        <source>Who receives what: opens the division</source>
+        <translation>کس کو کیا ملتا ہے: تقسیم کھولتا ہے</translation>
+    </message>
+    <message>
+        <source>The final division in one table, with its reasons (F8)</source>
+        <translation>آخری تقسیم ایک جدول میں، وجوہات کے ساتھ (F8)</translation>
+    </message>
+    <message>
+        <source>Qismora cases (*.qismora)</source>
+        <translation>Qismora کے مسائل (*.qismora)</translation>
+    </message>
+    <message>
+        <source>All files (*)</source>
+        <translation>تمام فائلیں (*)</translation>
+    </message>
+    <message>
+        <source>Open case</source>
+        <translation>مسئلہ کھولیں</translation>
+    </message>
+    <message>
+        <source>Save case</source>
+        <translation>مسئلہ محفوظ کریں</translation>
+    </message>
+    <message>
+        <source>The text is not UTF-8.</source>
+        <translation>متن UTF-8 میں نہیں ہے۔</translation>
+    </message>
+    <message>
+        <source>There is a control character in the line.</source>
+        <translation>سطر میں ایک کنٹرول علامت ہے۔</translation>
+    </message>
+    <message>
+        <source>There is no equals sign in &quot;{text}&quot;.</source>
+        <translation>&quot;{text}&quot; میں مساوی کی علامت نہیں ہے۔</translation>
+    </message>
+    <message>
+        <source>&quot;{text}&quot; is not a caption of the Case Study screen.</source>
+        <translation>&quot;{text}&quot; Case Study کے کسی خانے کا عنوان نہیں ہے۔</translation>
+    </message>
+    <message>
+        <source>&quot;{text}&quot; is given twice.</source>
+        <translation>&quot;{text}&quot; دو بار درج ہے۔</translation>
+    </message>
+    <message>
+        <source>&quot;{text}&quot; is not quoted correctly.</source>
+        <translation>&quot;{text}&quot; میں واوین درست نہیں ہیں۔</translation>
+    </message>
+    <message>
+        <source>&quot;{text}&quot; is not a version of case files.</source>
+        <translation>&quot;{text}&quot; مسئلے کی فائلوں کا کوئی نسخہ نہیں ہے۔</translation>
+    </message>
+    <message>
+        <source>The line is too long.</source>
+        <translation>سطر بہت لمبی ہے۔</translation>
+    </message>
+    <message>
+        <source>The file is too large for a case.</source>
+        <translation>فائل ایک مسئلے کے لیے بہت بڑی ہے۔</translation>
+    </message>
+    <message>
+        <source>&quot;{text}&quot; takes the word ticked, or 0.</source>
+        <translation>&quot;{text}&quot; میں لفظ ticked یا 0 آتا ہے۔</translation>
+    </message>
+    <message>
+        <source>&quot;{text}&quot; takes yes or no.</source>
+        <translation>&quot;{text}&quot; میں yes یا no آتا ہے۔</translation>
+    </message>
+    <message>
+        <source>Both Wives and Husband are given.</source>
+        <translation>Wives اور Husband دونوں درج ہیں۔</translation>
+    </message>
+    <message>
+        <source>Wives are given, but the deceased is female.</source>
+        <translation>Wives درج ہیں مگر میت عورت ہے۔</translation>
+    </message>
+    <message>
+        <source>A husband is given, but the deceased is male.</source>
+        <translation>Husband درج ہے مگر میت مرد ہے۔</translation>
+    </message>
+    <message>
+        <source>the folder does not exist</source>
+        <translation>فولڈر موجود نہیں</translation>
+    </message>
+    <message>
+        <source>you have no permission</source>
+        <translation>آپ کو اجازت نہیں</translation>
+    </message>
+    <message>
+        <source>the name is taken</source>
+        <translation>یہ نام پہلے سے موجود ہے</translation>
+    </message>
+    <message>
+        <source>the disk is read-only</source>
+        <translation>ڈسک پر لکھا نہیں جا سکتا</translation>
+    </message>
+    <message>
+        <source>the disk is full</source>
+        <translation>ڈسک بھری ہوئی ہے</translation>
+    </message>
+    <message>
+        <source>your share of the disk is full</source>
+        <translation>ڈسک میں آپ کا حصہ بھر چکا ہے</translation>
+    </message>
+    <message>
+        <source>the file is too large</source>
+        <translation>فائل بہت بڑی ہے</translation>
+    </message>
+    <message>
+        <source>the name is too long</source>
+        <translation>نام بہت لمبا ہے</translation>
+    </message>
+    <message>
+        <source>the name is not possible on this disk</source>
+        <translation>اس ڈسک پر یہ نام ممکن نہیں</translation>
+    </message>
+    <message>
+        <source>a folder has this name</source>
+        <translation>یہ ایک فولڈر کا نام ہے</translation>
+    </message>
+    <message>
+        <source>the name is a link</source>
+        <translation>یہ نام ایک ربط ہے</translation>
+    </message>
+    <message>
+        <source>the disk reports an error</source>
+        <translation>ڈسک خرابی بتاتی ہے</translation>
+    </message>
+    <message>
+        <source>the name belongs to a pipe or a device</source>
+        <translation>یہ نام کسی پائپ یا آلے کا ہے</translation>
+    </message>
+    <message>
+        <source>The case could not be worked out.</source>
+        <translation>مسئلہ حل نہ ہو سکا۔</translation>
+    </message>
+    <message>
+        <source>Aul/ Radd worked on figures that it had adjusted already. Choose Residuaries again.</source>
+        <translation>Aul/ Radd نے ان اعداد پر کام کیا جنھیں وہ پہلے ہی بدل چکا تھا۔ دوبارہ Residuaries چنیں۔</translation>
+    </message>
+    <message>
+        <source>Aul/ Radd was applied to other shares. Choose Residuaries first.</source>
+        <translation>Aul/ Radd دوسرے حصوں پر لگایا گیا۔ پہلے Residuaries چنیں۔</translation>
+    </message>
+    <message>
+        <source>No answer yet.</source>
+        <translation>ابھی کوئی جواب نہیں۔</translation>
+    </message>
+    <message>
+        <source>Answer of {command}: not the whole distribution, which Residuaries (F5) gives.</source>
+        <translation>{command} کا جواب: یہ پوری تقسیم نہیں، وہ Residuaries (F5) دیتا ہے۔</translation>
+    </message>
+    <message>
+        <source>Answer of {command}, not final: Radd is still to be applied (Aul/ Radd, F6).</source>
+        <translation>{command} کا جواب، آخری نہیں: رد ابھی باقی ہے (Aul/ Radd، F6)۔</translation>
+    </message>
+    <message>
+        <source>Answer of {command}, not final: Aul is still to be applied (Aul/ Radd, F6).</source>
+        <translation>{command} کا جواب، آخری نہیں: عول ابھی باقی ہے (Aul/ Radd، F6)۔</translation>
+    </message>
+    <message>
+        <source>Answer of {command}: final.</source>
+        <translation>{command} کا جواب: آخری۔</translation>
+    </message>
+    <message>
+        <source>Answer of {command}: the net estate is below 0, nothing is left to divide.</source>
+        <translation>{command} کا جواب: خالص ترکہ 0 سے کم ہے، تقسیم کو کچھ نہیں بچا۔</translation>
+    </message>
+    <message>
+        <source>Refused: these figures are not your case. {reason}</source>
+        <translation>رد کیا گیا: یہ اعداد آپ کے مسئلے کے نہیں۔ {reason}</translation>
+    </message>
+    <message>
+        <source>Fields have changed since the answer of {command}.</source>
+        <translation>{command} کے جواب کے بعد خانے بدل گئے ہیں۔</translation>
+    </message>
+    <message>
+        <source>File not found</source>
+        <translation>فائل نہیں ملی</translation>
+    </message>
+    <message>
+        <source>Line {line}: {text}</source>
+        <translation>سطر {line}: {text}</translation>
+    </message>
+    <message>
+        <source>and {number} more</source>
+        <translation>اور مزید {number}</translation>
+    </message>
+    <message>
+        <source>Not saved</source>
+        <translation>محفوظ نہیں</translation>
+    </message>
+    <message>
+        <source>{file}, changed</source>
+        <translation>{file}، تبدیل شدہ</translation>
+    </message>
+    <message>
+        <source>{file} could not be saved.</source>
+        <translation>{file} محفوظ نہ ہو سکی۔</translation>
+    </message>
+    <message>
+        <source>This case has not been saved.</source>
+        <translation>یہ مسئلہ محفوظ نہیں کیا گیا۔</translation>
+    </message>
+    <message>
+        <source>{file} has changed since it was saved.</source>
+        <translation>{file} محفوظ ہونے کے بعد بدل گئی ہے۔</translation>
+    </message>
+    <message>
+        <source>Save it before it is closed?</source>
+        <translation>بند ہونے سے پہلے اسے محفوظ کریں؟</translation>
+    </message>
+    <message>
+        <source>The command was not finished.</source>
+        <translation>حکم پورا نہیں ہوا۔</translation>
+    </message>
+    <message>
+        <source>{field} {text} is too large and will be refused</source>
+        <translation>{field} {text} بہت بڑا ہے اور رد کیا جائے گا</translation>
+    </message>
+    <message>
+        <source>{field} {text} is read as {number}</source>
+        <translation>{field} {text} کو {number} پڑھا جاتا ہے</translation>
+    </message>
+    <message>
+        <source>{field} without a text is not read: {number} stays</source>
+        <translation>{field} خالی ہے اور پڑھا نہیں جاتا: {number} باقی رہتا ہے</translation>
+    </message>
+    <message>
+        <source>{field} without a text is not read: the figure of the run before stays</source>
+        <translation>{field} خالی ہے اور پڑھا نہیں جاتا: پچھلی بار کا عدد باقی رہتا ہے</translation>
+    </message>
+    <message>
+        <source>{field} {text} is not read: {number} stays</source>
+        <translation>{field} {text} پڑھا نہیں جاتا: {number} باقی رہتا ہے</translation>
+    </message>
+    <message>
+        <source>{field} {text} is not read: the figure of the run before stays</source>
+        <translation>{field} {text} پڑھا نہیں جاتا: پچھلی بار کا عدد باقی رہتا ہے</translation>
+    </message>
+    <message>
+        <source>A newer version of Qismora has written this file. These lines are not known here and were not read:</source>
+        <translation>یہ فائل Qismora کے ایک نئے نسخے نے لکھی ہے۔ یہ سطریں یہاں معلوم نہیں اور پڑھی نہیں گئیں:</translation>
+    </message>
+    <message>
+        <source>Save asks for a name, so that the file keeps them.</source>
+        <translation>محفوظ کرتے وقت نام پوچھا جائے گا تاکہ یہ سطریں فائل میں باقی رہیں۔</translation>
+    </message>
+    <message>
+        <source>{file} was not opened.</source>
+        <translation>{file} نہیں کھولی گئی۔</translation>
+    </message>
+</context>
+<context>
+    <name>Dialogs</name>
+    <message>
+        <source>OK</source>
+        <translation>ٹھیک ہے</translation>
+    </message>
+    <message>
+        <source>Save</source>
+        <translation>محفوظ کریں</translation>
+    </message>
+    <message>
+        <source>Open</source>
+        <translation>کھولیں</translation>
+    </message>
+    <message>
+        <source>Discard</source>
+        <translation>چھوڑ دیں</translation>
+    </message>
+    <message>
+        <source>Cancel</source>
+        <translation>منسوخ کریں</translation>
+    </message>
+    <message>
+        <source>&amp;Yes</source>
+        <translation>&amp;ہاں</translation>
+    </message>
+    <message>
+        <source>&amp;No</source>
+        <translation>&amp;نہیں</translation>
+    </message>
+    <message>
+        <source>&amp;Open</source>
+        <translation>&amp;کھولیں</translation>
+    </message>
+    <message>
+        <source>&amp;Save</source>
+        <translation>&amp;محفوظ کریں</translation>
+    </message>
+    <message>
+        <source>Look in:</source>
+        <translation>مقام:</translation>
+    </message>
+    <message>
+        <source>File &amp;name:</source>
+        <translation>فائل کا &amp;نام:</translation>
+    </message>
+    <message>
+        <source>&amp;File name:</source>
+        <translation>فائل کا &amp;نام:</translation>
+    </message>
+    <message>
+        <source>Files of type:</source>
+        <translation>فائل کی قسم:</translation>
+    </message>
+    <message>
+        <source>Save As</source>
+        <translation>نئے نام سے محفوظ کریں</translation>
+    </message>
+    <message>
+        <source>Name</source>
+        <translation>نام</translation>
+    </message>
+    <message>
+        <source>Size</source>
+        <translation>حجم</translation>
+    </message>
+    <message>
+        <source>Type</source>
+        <translation>قسم</translation>
+    </message>
+    <message>
+        <source>Date Modified</source>
+        <translation>تاریخِ ترمیم</translation>
+    </message>
+    <message>
+        <source>Computer</source>
+        <translation>کمپیوٹر</translation>
+    </message>
+    <message>
+        <source>&amp;Print</source>
+        <translation>&amp;طباعت</translation>
+    </message>
+    <message>
+        <source>Print</source>
+        <translation>طباعت</translation>
+    </message>
+    <message>
+        <source>Print Preview</source>
+        <translation>طباعت کا پیش منظر</translation>
+    </message>
+    <message>
+        <source>%1 already exists.
+Do you want to replace it?</source>
+        <translation>%1 پہلے سے موجود ہے۔
+کیا اسے بدل دیا جائے؟</translation>
+    </message>
+</context>
+<context>
     <name>Differences</name>
     <message>
         <source>The commands read an amount only up to its first comma.</source>
@@ -660,6 +1052,10 @@
     <message>
         <source>No page contains &quot;%1&quot;.</source>
         <translation>کسی صفحے میں &quot;%1&quot; نہیں ملا۔</translation>
+    </message>
+    <message>
+        <source>&amp;Help</source>
+        <translation>م&amp;دد</translation>
     </message>
 </context>
 <context>

@@ -4,6 +4,7 @@
 
 #include "aulradd/AulRadd.h"
 #include "base/Dates.h"
+#include "base/Message.h"
 #include "base/NewFile.h"
 #include "base/Text.h"
 #include "reports/ReportRuns.h"
@@ -130,7 +131,7 @@ void CreateSaveFullReport(CaseRecord& c, CaseScreen& screen) {
   } catch (const FileFailure& failure) {
     EndSave(screen, WorkingFile(screen), failure.Reason);
   } catch (const Failure&) {
-    if (screen.Watch.Stopped) screen.Watch.Stopped("The case could not be worked out.");
+    if (screen.Watch.Stopped) screen.Watch.Stopped(Translatable("The case could not be worked out."));
     EndSave(screen, WorkingFile(screen), "the case could not be worked out");
   }
 }

@@ -4,7 +4,6 @@
 #include <optional>
 #include <utility>
 
-#include "base/Text.h"
 #include "case/CaseRecord.h"
 
 namespace qismora {
@@ -95,8 +94,10 @@ void AnswerState::End(int adjustment, bool netBelowZero, const CaseTexts& texts)
   standing_ = After(standing_, Outcome::Adjusted);
   command_ = runningCommand_;
   if (standing_ == Refused) {
-    reason_ = again ? "Aul/ Radd worked on figures that it had adjusted already. Choose Residuaries again."
-                    : "Aul/ Radd was applied to other shares. Choose Residuaries first.";
+    reason_ = again
+                  ? Translatable(
+                        "Aul/ Radd worked on figures that it had adjusted already. Choose Residuaries again.")
+                  : Translatable("Aul/ Radd was applied to other shares. Choose Residuaries first.");
   }
 }
 
@@ -116,23 +117,27 @@ AnswerStanding AnswerState::Standing() const {
   return differ_ || spouseLost_ ? Changed : standing_;
 }
 
-std::string AnswerState::Words() const {
+Message AnswerState::Sentence() const {
+  const std::vector<Message::Value> command = {{"command", command_}};
   switch (Standing()) {
     case NoAnswer:
-      return "No answer yet.";
+      return Message{"No answer yet."};
     case Partial:
-      return Join("Answer of ", command_, ": not the whole distribution, which Residuaries (F5) gives.");
+      return Message{"Answer of {command}: not the whole distribution, which Residuaries (F5) gives.",
+                     command};
     case ToAdjust:
-      return Join("Answer of ", command_, ", not final: ", radd_ ? "Radd" : "Aul",
-                  " is still to be applied (Aul/ Radd, F6).");
+      if (radd_)
+        return Message{"Answer of {command}, not final: Radd is still to be applied (Aul/ Radd, F6).",
+                       command};
+      return Message{"Answer of {command}, not final: Aul is still to be applied (Aul/ Radd, F6).", command};
     case Final:
-      return Join("Answer of ", command_, ": final.");
+      return Message{"Answer of {command}: final.", command};
     case BelowZero:
-      return Join("Answer of ", command_, ": the net estate is below 0, nothing is left to divide.");
+      return Message{"Answer of {command}: the net estate is below 0, nothing is left to divide.", command};
     case Refused:
-      return Join("Refused: these figures are not your case. ", reason_);
+      return Message{"Refused: these figures are not your case. {reason}", {{"reason", reason_}}};
     case Changed:
-      return Join("Fields have changed since the answer of ", command_, ".");
+      return Message{"Fields have changed since the answer of {command}.", command};
   }
   return {};
 }

@@ -3,6 +3,7 @@
 #include <cstdint>
 #include <string>
 
+#include "base/Message.h"
 #include "screens/CaseTexts.h"
 
 namespace qismora {
@@ -54,7 +55,7 @@ class AnswerState {
 
   AnswerStanding Standing() const;
   /// The standing as a sentence: Answer of Residuaries: final.
-  std::string Words() const;
+  Message Sentence() const;
 
  private:
   AnswerStanding standing_ = AnswerStanding::NoAnswer;

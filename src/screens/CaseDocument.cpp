@@ -18,26 +18,10 @@ std::string Key(int place) { return Join("File", place); }
 
 std::string FileName(const std::string& path) { return path.substr(path.rfind('/') + 1); }
 
-std::string ReasonOf(const Failure& failure) {
+Message ReasonOf(const Failure& failure) {
+  if (failure.Number == FileNotFound) return Message{"File not found"};
   const auto* file = dynamic_cast<const FileFailure*>(&failure);
-  return file != nullptr ? file->Reason : std::string(failure.Description());
-}
-
-std::string SentenceOf(const CaseFileFault& fault) {
-  const std::string sentence = English(fault.Fault, fault.Line.Text);
-  return fault.Line.Number == 0 ? sentence : Join("Line ", fault.Line.Number, ": ", sentence);
-}
-
-std::string SentenceOf(const std::vector<CaseLine>& unknown) {
-  constexpr std::size_t most = 10;
-  std::string lines;
-  for (std::size_t i = 0; i < std::min(most, unknown.size()); ++i) {
-    Append(lines, CRLF, "Line ", unknown[i].Number, ": ", unknown[i].Text);
-  }
-  if (unknown.size() > most) Append(lines, CRLF, "and ", static_cast<int>(unknown.size() - most), " more");
-  return Join(
-      "A newer version of Qismora has written this file. These lines are not known here and were not read:",
-      lines, CRLF, CRLF, "Save asks for a name, so that the file keeps them.");
+  return {"{reason}", {{"reason", file != nullptr ? file->Reason : std::string(failure.Description())}}};
 }
 
 }  // namespace
@@ -53,12 +37,40 @@ CaseDocument::CaseDocument(CaseStudy& form, Ports& ports) : form_(form), ports_(
 
 CaseTexts CaseDocument::Texts() const { return ReadScreen(form_, form_.HeirsConsent); }
 
+std::string CaseDocument::SentenceOf(const CaseFileFault& fault) const {
+  const std::string sentence = Say(MessageOf(fault.Fault, fault.Line.Text));
+  if (fault.Line.Number == 0) return sentence;
+  return Say(Message{"Line {line}: {text}", {{"line", Join(fault.Line.Number)}, {"text", sentence}}});
+}
+
+std::string CaseDocument::SentenceOf(const std::vector<CaseLine>& unknown) const {
+  constexpr std::size_t most = 10;
+  std::string lines;
+  for (std::size_t i = 0; i < std::min(most, unknown.size()); ++i) {
+    const Message line{"Line {line}: {text}", {{"line", Join(unknown[i].Number)}, {"text", unknown[i].Text}}};
+    Append(lines, CRLF, Say(line));
+  }
+  if (unknown.size() > most) {
+    const int more = static_cast<int>(unknown.size() - most);
+    Append(lines, CRLF, Say(Message{"and {number} more", {{"number", Join(more)}}}));
+  }
+  const Message newer{
+      "A newer version of Qismora has written this file. These lines are not known here and were not read:"};
+  const Message save{"Save asks for a name, so that the file keeps them."};
+  return Join(Say(newer), lines, CRLF, CRLF, Say(save));
+}
+
 bool CaseDocument::IsChanged() const { return Texts() != kept_; }
 
 void CaseDocument::Review() {
   if (starting_) return;
   const bool changed = IsChanged();
-  Title = path_.empty() ? (changed ? "Not saved" : "") : Join(FileName(path_), changed ? ", changed" : "");
+  const std::string file = FileName(path_);
+  if (path_.empty()) {
+    Title = changed ? Say(Message{"Not saved"}) : "";
+  } else {
+    Title = changed ? Say(Message{"{file}, changed", {{"file", file}}}) : file;
+  }
 }
 
 void CaseDocument::Start(const CaseTexts& texts, const std::string& path) {
@@ -87,14 +99,15 @@ bool CaseDocument::OpenFile(const std::string& path) {
   bool opened = false;
   GuardedEvent(ports_.Boxes, [&] {
     const auto refuse = [&](const std::string& reason) {
-      ports_.Boxes.Inform(BoxStyle::Warning, Join(FileName(path), " was not opened.", CRLF, CRLF, reason));
+      const Message refusal{"{file} was not opened.", {{"file", FileName(path)}}};
+      ports_.Boxes.Inform(BoxStyle::Warning, Join(Say(refusal), CRLF, CRLF, reason));
     };
     CaseFileReading reading;
     try {
       reading = OpenCaseFile(path);
     } catch (const Failure& failure) {
       Remember(path, false);
-      return refuse(ReasonOf(failure));
+      return refuse(Say(ReasonOf(failure)));
     }
     if (reading.Fault) return refuse(SentenceOf(*reading.Fault));
     if (!MayLeave()) return;
@@ -128,7 +141,8 @@ bool CaseDocument::SaveTo(const std::string& path) {
     SaveCaseFile(ports_.Places, path, texts);
   } catch (const Failure& failure) {
     ports_.Boxes.Inform(BoxStyle::Critical,
-                        Join(FileName(path), " could not be saved.", CRLF, CRLF, ReasonOf(failure)));
+                        Join(Say(Message{"{file} could not be saved.", {{"file", FileName(path)}}}), CRLF,
+                             CRLF, Say(ReasonOf(failure))));
     return false;
   }
   path_ = path;
@@ -143,10 +157,12 @@ bool CaseDocument::MayLeave() {
   if (!IsChanged()) return true;
   bool leave = false;
   GuardedEvent(ports_.Boxes, [&] {
-    const std::string what = path_.empty() ? "This case has not been saved."
-                                           : Join(FileName(path_), " has changed since it was saved.");
-    const Answer answer = ports_.Boxes.Show(BoxStyle::Warning, BoxButtons::SaveDiscardCancel,
-                                            Join(what, CRLF, "Save it before it is closed?"));
+    const Message what = path_.empty()
+                             ? Message{"This case has not been saved."}
+                             : Message{"{file} has changed since it was saved.", {{"file", FileName(path_)}}};
+    const Answer answer =
+        ports_.Boxes.Show(BoxStyle::Warning, BoxButtons::SaveDiscardCancel,
+                          Join(Say(what), CRLF, Say(Message{"Save it before it is closed?"})));
     leave = answer == Answer::Discard || (answer == Answer::Save && SaveOrAsk());
     if (answer == Answer::Discard) kept_ = Texts();  // so that nothing asks again
     Review();

@@ -1,9 +1,11 @@
 #pragma once
 
+#include <functional>
 #include <optional>
 #include <string>
 #include <vector>
 
+#include "screens/CaseFile.h"
 #include "screens/CaseStudy.h"
 
 namespace qismora {
@@ -14,6 +16,11 @@ class CaseDocument {
  public:
   /// The example that a new screen shows counts as saved, because it is not the user's work.
   CaseDocument(CaseStudy& form, Ports& ports);
+
+  /// How messages are said to the user.
+  std::function<std::string(const Message&)> Say = [](const Message& message) { return English(message); };
+  /// Says the title again, in another language.
+  void Retitle() { Review(); }
 
   // The commands of the menu.
   /// Empties all fields, including the example's estate.
@@ -47,6 +54,8 @@ class CaseDocument {
   void Start(const CaseTexts& texts, const std::string& path);
   CaseTexts Texts() const;
   void Review();
+  std::string SentenceOf(const CaseFileFault& fault) const;
+  std::string SentenceOf(const std::vector<CaseLine>& unknown) const;
   void Remember(const std::string& path, bool exists);
   std::string Folder() const;
   std::string SuggestedPath() const;

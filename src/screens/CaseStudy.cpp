@@ -99,7 +99,7 @@ void CaseStudy::Command(AnswerOf what, const std::string& name, Body body) {
     try {
       body();
     } catch (const std::exception&) {
-      answer_.Stopped("The command was not finished.");
+      answer_.Stopped(Translatable("The command was not finished."));
       end();
       throw;
     }
@@ -157,7 +157,7 @@ void CaseStudy::WatchCase() {
 void CaseStudy::ReviewAnswer() {
   if (!reviewing_) return;
   answer_.FieldsHold(ReadScreen(*this, HeirsConsent));
-  AnswerWords = answer_.Words();
+  AnswerWords = English(answer_.Sentence());
 }
 
 void CaseStudy::StartCase(const CaseTexts& texts) {
@@ -292,37 +292,28 @@ void CaseStudy::Text1_Change(int) {
   ReviewAnswer();
 }
 
-// A refused estate is 0 afterwards, and so is the spouse that a switch of gender takes away.
+// A refused estate is 0 afterwards, and so is the spouse that a switch of gender takes away. Of the others it
+// depends on the run before.
 std::string CaseStudy::KeptFigure(int index) const {
   if (index == 1) return Join(Combo1.ListIndex == Male ? record_.Wives : record_.Husband);
   if (index == GrossEstateField) return GeneralNumber(record_.GrossEstate);
-  return "the figure of the run before";
+  return {};
 }
 
 std::string CaseStudy::MisreadingOf(int index) const {
-  return Misreading(Text1(index).Text.Get(), index, KeptFigure(index));
+  const std::string kept = KeptFigure(index);
+  return Misreading(Text1(index).Text.Get(), index, kept.empty() ? "the figure of the run before" : kept);
 }
 
-std::vector<std::string> CaseStudy::Misreadings(Grouping grouping) const {
-  std::vector<std::string> sentences;
+std::vector<Message> CaseStudy::Misreadings(Grouping grouping) const {
+  std::vector<Message> sentences;
   for (const Caption& caption : Captions()) {
     const int index = caption.Index;
     if (index == 0 || index == NameField || index == NetEstateField) continue;
     const std::string& text = Text1(index).Text;
     const TypedReading reading = ReadTyped(text, index);
     if (reading.How == Reading::AsItStands) continue;
-    const std::string shown = text.empty() ? "without a text" : text;
-    const std::string subject = Join(Label1(index).Caption, " ", shown);
-    switch (reading.How) {
-      case Reading::AsAnotherNumber:
-        sentences.push_back(Join(subject, " is read as ", Grouped(reading.Number, grouping)));
-        break;
-      case Reading::NotAtAll:
-        sentences.push_back(Join(subject, " is not read: ", KeptFigure(index), " stays"));
-        break;
-      default:
-        sentences.push_back(Join(subject, " is too large and will be refused"));
-    }
+    sentences.push_back(SentenceOf(reading, {Label1(index).Caption, text, KeptFigure(index)}, grouping));
   }
   return sentences;
 }

@@ -33,7 +33,7 @@ class CaseStudy : public CaseScreen, public CentredFrame {
   std::string MisreadingOf(int index) const;
   /// The same for all fields that are read differently, a sentence each with caption and text: Gross Estate
   /// 18,40,000 is read as 18.
-  std::vector<std::string> Misreadings(Grouping grouping) const;
+  std::vector<Message> Misreadings(Grouping grouping) const;
 
   /// Starts a case as if the screen and the record were new: nothing of the earlier case stays, and nothing
   /// is run. Only the number of executions and the chosen view stay.
@@ -43,7 +43,8 @@ class CaseStudy : public CaseScreen, public CentredFrame {
 
   /// How far the answer that is shown can be relied on.
   AnswerStanding Standing() const { return answer_.Standing(); }
-  /// The same as a sentence.
+  /// The same as a sentence, and as its English words.
+  Message AnswerSentence() const { return answer_.Sentence(); }
   Property<std::string> AnswerWords;
 
   /// Changes at the end of each event that may have changed the case.

@@ -39,26 +39,24 @@ bool CountsNobody(std::string_view text) { return text.find_first_not_of(" 0") =
 
 struct FaultRow {
   CaseFault Fault;
-  const char* Before;
-  const char* Behind;
+  const char* Pattern;
 };
 
-// The quoted caption or line comes between the two.
 constexpr FaultRow faultRows[] = {
-    {CaseFault::NotUtf8, "The text is not UTF-8.", nullptr},
-    {CaseFault::ControlCharacter, "There is a control character in the line.", nullptr},
-    {CaseFault::NoEqualsSign, "There is no equals sign in ", "."},
-    {CaseFault::UnknownCaption, "", " is not a caption of the Case Study screen."},
-    {CaseFault::NamedTwice, "", " is given twice."},
-    {CaseFault::WrongQuotation, "", " is not quoted correctly."},
-    {CaseFault::NotAVersion, "", " is not a version of case files."},
-    {CaseFault::LineTooLong, "The line is too long.", nullptr},
-    {CaseFault::FileTooLarge, "The file is too large for a case.", nullptr},
-    {CaseFault::NotTicked, "", " takes the word ticked, or 0."},
-    {CaseFault::NotYesOrNo, "", " takes yes or no."},
-    {CaseFault::WivesAndHusband, "Both Wives and Husband are given.", nullptr},
-    {CaseFault::WivesOfAWoman, "Wives are given, but the deceased is female.", nullptr},
-    {CaseFault::HusbandOfAMan, "A husband is given, but the deceased is male.", nullptr},
+    {CaseFault::NotUtf8, "The text is not UTF-8."},
+    {CaseFault::ControlCharacter, "There is a control character in the line."},
+    {CaseFault::NoEqualsSign, "There is no equals sign in \"{text}\"."},
+    {CaseFault::UnknownCaption, "\"{text}\" is not a caption of the Case Study screen."},
+    {CaseFault::NamedTwice, "\"{text}\" is given twice."},
+    {CaseFault::WrongQuotation, "\"{text}\" is not quoted correctly."},
+    {CaseFault::NotAVersion, "\"{text}\" is not a version of case files."},
+    {CaseFault::LineTooLong, "The line is too long."},
+    {CaseFault::FileTooLarge, "The file is too large for a case."},
+    {CaseFault::NotTicked, "\"{text}\" takes the word ticked, or 0."},
+    {CaseFault::NotYesOrNo, "\"{text}\" takes yes or no."},
+    {CaseFault::WivesAndHusband, "Both Wives and Husband are given."},
+    {CaseFault::WivesOfAWoman, "Wives are given, but the deceased is female."},
+    {CaseFault::HusbandOfAMan, "A husband is given, but the deceased is male."},
 };
 
 }  // namespace
@@ -105,11 +103,11 @@ std::optional<Entry> FindEntry(std::string_view caption) {
   return std::nullopt;
 }
 
-std::string English(CaseFault fault, std::string_view what) {
-  const FaultRow& row = *std::ranges::find(faultRows, fault, &FaultRow::Fault);
-  if (row.Behind == nullptr) return row.Before;
-  return Join(row.Before, "\"", what, "\"", row.Behind);
+Message MessageOf(CaseFault fault, std::string_view what) {
+  return {std::ranges::find(faultRows, fault, &FaultRow::Fault)->Pattern, {{"text", std::string(what)}}};
 }
+
+std::string English(CaseFault fault, std::string_view what) { return English(MessageOf(fault, what)); }
 
 std::optional<int> GenderOf(std::string_view value) {
   const std::string word = Comparable(value);

@@ -5,6 +5,7 @@
 #include <string>
 #include <string_view>
 
+#include "base/Message.h"
 #include "case/CaseScreen.h"
 
 namespace qismora {
@@ -76,7 +77,8 @@ enum class CaseFault {
   HusbandOfAMan,
 };
 
-/// The fault as an English sentence, which quotes the caption or the line that it concerns.
+/// The fault as a sentence, which quotes the caption or the line that it concerns.
+Message MessageOf(CaseFault fault, std::string_view what);
 std::string English(CaseFault fault, std::string_view what);
 
 /// The gender that "Deceased" gives; nothing where its value is a name.

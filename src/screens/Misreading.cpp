@@ -67,4 +67,22 @@ std::string Grouped(std::string_view number, Grouping grouping) {
   return grouped;
 }
 
+Message SentenceOf(const TypedReading& reading, const MisreadField& field, Grouping grouping) {
+  std::vector<Message::Value> values = {{"field", field.Caption}, {"text", field.Text}};
+  if (reading.How == Reading::TooLarge) {
+    return Message{"{field} {text} is too large and will be refused", values};
+  }
+  if (reading.How == Reading::AsAnotherNumber) {
+    values.push_back({"number", Grouped(reading.Number, grouping)});
+    return Message{"{field} {text} is read as {number}", values};
+  }
+  values.push_back({"number", field.Kept});
+  if (field.Text.empty()) {
+    if (!field.Kept.empty()) return Message{"{field} without a text is not read: {number} stays", values};
+    return Message{"{field} without a text is not read: the figure of the run before stays", values};
+  }
+  if (!field.Kept.empty()) return Message{"{field} {text} is not read: {number} stays", values};
+  return Message{"{field} {text} is not read: the figure of the run before stays", values};
+}
+
 }  // namespace qismora

@@ -4,6 +4,8 @@
 #include <string>
 #include <string_view>
 
+#include "base/Message.h"
+
 namespace qismora {
 
 /// How the load reads the text of a field.
@@ -30,5 +32,16 @@ enum class Grouping : std::uint8_t { Thousands, Indian };
 
 /// A number in plain digits with commas between its groups. A number with an exponent stays as it is.
 std::string Grouped(std::string_view number, Grouping grouping);
+
+/// A field that is read differently: its caption, its text, and the figure that stays where nothing is read,
+/// empty where that is the one of the run before.
+struct MisreadField {
+  std::string Caption;
+  std::string Text;
+  std::string Kept;
+};
+
+/// The reading as a sentence that names the field.
+Message SentenceOf(const TypedReading& reading, const MisreadField& field, Grouping grouping);
 
 }  // namespace qismora

@@ -234,13 +234,16 @@ TEST(Misreadings, NameTheFieldItsTextAndWhatIsRead) {
   played.Type(1, "one");
   played.Type(2, "2.5");
   played.Type(3, "");
-  EXPECT_EQ(
-      played.Study->Misreadings(Grouping::Indian),
-      (std::vector<std::string>{
-          "Wives one is not read: 0 stays", "Sons 2.5 is read as 2",
-          "Daughters without a text is not read: the figure of the run before stays",
-          "Gross Estate 18,40,000 is read as 18", "Funeral exp. 1e6 is read as 10,00,000",
-          "Debts -1234567.5 is read as -12,34,568", "Will(s) 99999999999 is too large and will be refused"}));
+  std::vector<std::string> sentences;
+  for (const Message& sentence : played.Study->Misreadings(Grouping::Indian)) {
+    sentences.push_back(English(sentence));
+  }
+  EXPECT_EQ(sentences, (std::vector<std::string>{
+                           "Wives one is not read: 0 stays", "Sons 2.5 is read as 2",
+                           "Daughters without a text is not read: the figure of the run before stays",
+                           "Gross Estate 18,40,000 is read as 18", "Funeral exp. 1e6 is read as 10,00,000",
+                           "Debts -1234567.5 is read as -12,34,568",
+                           "Will(s) 99999999999 is too large and will be refused"}));
   EXPECT_EQ(Grouped("1234567.25", Grouping::Thousands), "1,234,567.25");
   EXPECT_EQ(Grouped("-123", Grouping::Thousands), "-123");
 }

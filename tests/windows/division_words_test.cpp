@@ -20,18 +20,18 @@ namespace {
 
 const QString project = QStringLiteral(PROJECT_DIRECTORY);
 
-struct Message {
+struct TsMessage {
   QString Context;
   QString Source;
   QString Translation;
   bool Finished = false;
 };
 
-QList<Message> Messages(const QString& path) {
+QList<TsMessage> Messages(const QString& path) {
   QFile file(path);
   if (!file.open(QIODevice::ReadOnly)) return {};
   QXmlStreamReader xml(&file);
-  QList<Message> messages;
+  QList<TsMessage> messages;
   QString context;
   while (!xml.atEnd()) {
     if (xml.readNext() != QXmlStreamReader::StartElement) continue;
@@ -91,10 +91,10 @@ class DivisionWordsTest : public QObject {
     QCOMPARE(QProcess::execute(QStringLiteral("/usr/bin/python3"),
                                {project + QStringLiteral("/tools/translations"), folder.path()}),
              0);
-    const QList<Message> messages = Messages(folder.filePath(file));
+    const QList<TsMessage> messages = Messages(folder.filePath(file));
     QVERIFY(messages.size() > 200);
     QStringList faults;
-    for (const Message& message : messages) {
+    for (const TsMessage& message : messages) {
       if (!message.Finished || message.Translation.isEmpty()) faults.append(message.Source);
       if (Placeholders(message.Source) != Placeholders(message.Translation))
         faults.append(message.Translation);

@@ -3,10 +3,11 @@
 #include <QBoxLayout>
 #include <QLabel>
 #include <QLocale>
-#include <memory>
+#include <utility>
 
+#include "windows/casestudy/CaseWords.h"
+#include "windows/division/Languages.h"
 #include "windows/platform/Utf8.h"
-#include "windows/widgets/AnnouncedLabel.h"
 #include "windows/widgets/Binder.h"
 
 namespace qismora {
@@ -33,7 +34,6 @@ bool IsWarning(AnswerStanding standing) {
 AnswerStrip::AnswerStrip(CaseStudy& form, CaseDocument& document, QWidget* parent)
     : QFrame(parent), form_(form), answer_(new AnnouncedLabel(QStringLiteral("AnswerState"), this)) {
   setObjectName(QStringLiteral("AnswerStrip"));
-  setAccessibleName(QStringLiteral("State of the answer"));
   auto* file = new QLabel(this);
   file->setObjectName(QStringLiteral("CaseTitle"));
   file->setTextFormat(Qt::PlainText);
@@ -51,31 +51,40 @@ AnswerStrip::AnswerStrip(CaseStudy& form, CaseDocument& document, QWidget* paren
     file->setToolTip(document.Path().empty() ? title : ToQt(document.Path()));
     file->setAccessibleName(title);
   });
-  Binder::Follow(form.AnswerWords, [this] { ShowAnswer(); });
+  form.AnswerWords.WhenChanged([this] { ShowAnswer(); });
+  SayAll();
+}
+
+void AnswerStrip::SayAll() {
+  setAccessibleName(CaseWords::tr("State of the answer"));
+  setLayoutDirection(CurrentDirection());
+  ShowAnswer();
 }
 
 // What needs the user's attention stands in bold, so that it is told apart without colour.
 void AnswerStrip::ShowAnswer() {
-  QFont font = answer_->font();
+  QFont font = FontOfLanguage(this->font());
   font.setBold(IsWarning(form_.Standing()));
   answer_->setFont(font);
-  answer_->Show(ToQt(form_.AnswerWords.Get()), true);
+  answer_->Show(CaseWords::Of(form_.AnswerSentence()), true);
+}
+
+ReadingsPanel::ReadingsPanel(CaseStudy& form, QWidget* parent)
+    : AnnouncedLabel(QStringLiteral("Readings"), parent), form_(form), grouping_(DesktopGrouping()) {
+  const auto show = [this] { SayAll(); };
+  for (int i = 0; i < form.Text1.Size; ++i) form.Text1(i).Text.WhenChanged(show);
+  Binder::Follow<int>(form.EventsEnded, show);
 }
 
 // A sentence changes with each key; it is announced when another field has come to it.
-QWidget* MakeReadingsPanel(CaseStudy& form, QWidget* parent) {
-  auto* panel = new AnnouncedLabel(QStringLiteral("Readings"), parent);
-  const auto show = [&form, panel, grouping = DesktopGrouping(), misread = std::make_shared<std::size_t>(0)] {
-    const std::vector<std::string> sentences = form.Misreadings(grouping);
-    QStringList shown;
-    for (const std::string& sentence : sentences) shown.append(ToQt(sentence));
-    panel->setVisible(!shown.isEmpty());
-    panel->Show(shown.join(QStringLiteral("; ")), sentences.size() > *misread);
-    *misread = sentences.size();
-  };
-  for (int i = 0; i < form.Text1.Size; ++i) form.Text1(i).Text.WhenChanged(show);
-  Binder::Follow<int>(form.EventsEnded, show);
-  return panel;
+void ReadingsPanel::SayAll() {
+  const std::vector<Message> sentences = form_.Misreadings(grouping_);
+  QStringList shown;
+  for (const Message& sentence : sentences) shown.append(CaseWords::Of(sentence));
+  setFont(FontOfLanguage(parentWidget()->font()));
+  setLayoutDirection(CurrentDirection());
+  setVisible(!shown.isEmpty());
+  Show(shown.join(QStringLiteral("; ")), sentences.size() > std::exchange(misread_, sentences.size()));
 }
 
 }  // namespace qismora

@@ -3,16 +3,18 @@
 #include <QFrame>
 
 #include "screens/CaseDocument.h"
+#include "windows/widgets/AnnouncedLabel.h"
 
 namespace qismora {
-
-class AnnouncedLabel;
 
 /// A line that is always in sight: how far the answer can be relied on, and under which file the case is
 /// kept.
 class AnswerStrip : public QFrame {
  public:
   AnswerStrip(CaseStudy& form, CaseDocument& document, QWidget* parent);
+
+  /// All words in the current language, from the side on which it begins.
+  void SayAll();
 
  private:
   void ShowAnswer();
@@ -23,6 +25,17 @@ class AnswerStrip : public QFrame {
 
 /// A panel of the status bar that says which fields are read differently from what stands in them; it is
 /// there only while there are such fields.
-QWidget* MakeReadingsPanel(CaseStudy& form, QWidget* parent);
+class ReadingsPanel : public AnnouncedLabel {
+ public:
+  ReadingsPanel(CaseStudy& form, QWidget* parent);
+
+  /// The sentences in the current language.
+  void SayAll();
+
+ private:
+  CaseStudy& form_;
+  Grouping grouping_;
+  std::size_t misread_ = 0;
+};
 
 }  // namespace qismora

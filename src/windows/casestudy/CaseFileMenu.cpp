@@ -4,12 +4,13 @@
 #include <QAction>
 #include <QDropEvent>
 #include <QFileInfo>
-#include <QMenu>
 #include <QMenuBar>
 #include <QMimeData>
 #include <QTimer>
 #include <QUrl>
 
+#include "windows/casestudy/CaseWords.h"
+#include "windows/division/Languages.h"
 #include "windows/platform/Utf8.h"
 
 namespace qismora {
@@ -20,7 +21,15 @@ struct MenuRow {
   const char* Name;
   const char* Caption;
   void (CaseDocument::*Run)();
-  QKeySequence Key;
+  QKeyCombination Key;
+};
+
+constexpr MenuRow entries[] = {
+    {"NewCase", QT_TRANSLATE_NOOP("Case", "&New"), &CaseDocument::New, Qt::CTRL | Qt::Key_N},
+    {"OpenCase", QT_TRANSLATE_NOOP("Case", "&Open..."), &CaseDocument::Open, Qt::CTRL | Qt::Key_O},
+    {"SaveCase", QT_TRANSLATE_NOOP("Case", "&Save"), &CaseDocument::Save, Qt::CTRL | Qt::Key_S},
+    {"SaveCaseAs", QT_TRANSLATE_NOOP("Case", "Save &As..."), &CaseDocument::SaveAs,
+     Qt::CTRL | Qt::SHIFT | Qt::Key_S},
 };
 
 /// The one local file that is dragged; empty for anything else.
@@ -65,42 +74,45 @@ void FillRecent(QMenu* recent, CaseDocument& document) {
   int number = 0;
   for (const std::string& path : document.Recent()) {
     const QString name = QFileInfo(ToQt(path)).fileName().replace(QLatin1Char('&'), QStringLiteral("&&"));
-    QAction* entry = recent->addAction(QStringLiteral("&%1 %2").arg(++number).arg(name));
+    QAction* entry = recent->addAction(QStringLiteral("&%1 %2").arg(++number).arg(Isolated(name)));
     entry->setToolTip(ToQt(path));
     QObject::connect(entry, &QAction::triggered, recent, [&document, path] { document.OpenFile(path); });
   }
-  if (number == 0) recent->addAction(QStringLiteral("No case was saved or opened yet"))->setEnabled(false);
+  if (number == 0) recent->addAction(CaseWords::tr("No case was saved or opened yet"))->setEnabled(false);
 }
 
 }  // namespace
 
-void AddCaseFileMenu(QMenuBar* bar, CaseDocument& document) {
-  auto* menu = new QMenu(QStringLiteral("&Case"), bar);
-  menu->menuAction()->setObjectName(QStringLiteral("Case"));
-  const MenuRow entries[] = {
-      {"NewCase", "&New", &CaseDocument::New, QKeySequence::New},
-      {"OpenCase", "&Open...", &CaseDocument::Open, QKeySequence::Open},
-      {"SaveCase", "&Save", &CaseDocument::Save, QKeySequence::Save},
-      {"SaveCaseAs", "Save &As...", &CaseDocument::SaveAs, QKeySequence(Qt::CTRL | Qt::SHIFT | Qt::Key_S)},
-  };
+CaseFileMenu::CaseFileMenu(QMenuBar* bar, CaseDocument& document) : QMenu(bar), recent_(new QMenu(this)) {
+  menuAction()->setObjectName(QStringLiteral("Case"));
   for (const MenuRow& entry : entries) {
-    QAction* action = menu->addAction(QString::fromLatin1(entry.Caption));
+    QAction* action = addAction(QString());
     action->setObjectName(QString::fromLatin1(entry.Name));
     action->setShortcut(entry.Key);
     const auto act = [&document, run = entry.Run] { (document.*run)(); };
     // As the other entries: a screen reader that chose one must not wait for an answer.
-    QObject::connect(action, &QAction::triggered, bar, [bar, act] {
+    connect(action, &QAction::triggered, bar, [bar, act] {
       if (!QAccessible::isActive()) return act();
       QMetaObject::invokeMethod(bar, act, Qt::QueuedConnection);
     });
   }
-  menu->addSeparator();
-  auto* recent = menu->addMenu(QStringLiteral("&Recent"));
-  recent->menuAction()->setObjectName(QStringLiteral("RecentCases"));
-  recent->setToolTipsVisible(true);
-  QObject::connect(recent, &QMenu::aboutToShow, recent,
-                   [recent, &document] { FillRecent(recent, document); });
-  bar->addMenu(menu);
+  addSeparator();
+  addMenu(recent_);
+  recent_->menuAction()->setObjectName(QStringLiteral("RecentCases"));
+  recent_->setToolTipsVisible(true);
+  connect(recent_, &QMenu::aboutToShow, recent_,
+          [recent = recent_, &document] { FillRecent(recent, document); });
+  bar->addMenu(this);
+  SayAll();
+}
+
+void CaseFileMenu::SayAll() {
+  setTitle(CaseWords::tr("&Case"));
+  recent_->setTitle(CaseWords::tr("&Recent"));
+  for (QMenu* menu : {static_cast<QMenu*>(this), recent_}) menu->setLayoutDirection(CurrentDirection());
+  for (std::size_t i = 0; i < std::size(entries); ++i) {
+    actions().at(static_cast<qsizetype>(i))->setText(CaseWords::tr(entries[i].Caption));
+  }
 }
 
 void TakeDroppedCases(QWidget* window, CaseDocument& document) { new DropFilter(window, document); }

@@ -1,14 +1,26 @@
 #pragma once
 
+#include <QMenu>
+
 #include "screens/CaseDocument.h"
 
 class QMenuBar;
-class QWidget;
 
 namespace qismora {
 
-/// Adds the menu of the case files, and takes files that are dropped anywhere on the window.
-void AddCaseFileMenu(QMenuBar* bar, CaseDocument& document);
+/// The menu of the case files.
+class CaseFileMenu : public QMenu {
+ public:
+  CaseFileMenu(QMenuBar* bar, CaseDocument& document);
+
+  /// All words in the current language.
+  void SayAll();
+
+ private:
+  QMenu* recent_;
+};
+
+/// Opens files that are dropped anywhere on the window.
 void TakeDroppedCases(QWidget* window, CaseDocument& document);
 
 }  // namespace qismora

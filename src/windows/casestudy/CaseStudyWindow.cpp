@@ -21,6 +21,7 @@
 #include "windows/casestudy/SavePanel.h"
 #include "windows/casestudy/TopStrip.h"
 #include "windows/division/DivisionOpener.h"
+#include "windows/division/Languages.h"
 #include "windows/help/HelpWindow.h"
 #include "windows/platform/Utf8.h"
 #include "windows/widgets/CaptionButton.h"
@@ -41,22 +42,47 @@ constexpr int largestText = 12;
 CaseStudyWindow::CaseStudyWindow(CaseRecord& record, Ports& ports, int savedLanguage)
     : FormHolder(record, ports, savedLanguage),
       FormWindow(form_, "CaseStudy", QStringLiteral("Case Study"), largestText),
-      document_(form_, ports) {
+      dialogs_(ports),
+      ports_{ports.Time, dialogs_, dialogs_, ports.Store, ports.Places},
+      document_(form_, ports_) {
+  StartLanguage(ports.Store);
+  document_.Say = [](const Message& message) { return FromQt(CaseWords::Of(message)); };
   setWindowTitle(QStringLiteral("Case Study - Finding shares of Quranic Sharers"));
   setAttribute(Qt::WA_DeleteOnClose);
   form_.Hide = [this] { hide(); };
   FillCaseMenu(menuBar(), form_, binder_);
-  AddCaseFileMenu(menuBar(), document_);
+  fileMenu_ = new CaseFileMenu(menuBar(), document_);
   BuildDivision(ports.Store);
   AddHelpMenu(menuBar());
   BuildStatusBar(ports);
   BuildFrame();
   BuildTimer();
-  AddStrip(new AnswerStrip(form_, document_, this));
+  strip_ = new AnswerStrip(form_, document_, this);
+  AddStrip(strip_);
   TakeDroppedCases(this, document_);
   SetSizes(windowSize, margin);
   OrderTabs();
   KeepOnTop();
+  SayAll();
+}
+
+// What stands beside the form follows the language of the division; the form itself is English.
+void CaseStudyWindow::SayAll() {
+  openDivision_->setText(CaseWords::tr("&Division"));
+  divisionLine_->setText(CaseWords::tr("Who receives what: F8"));
+  divisionLine_->setFont(FontOfLanguage(menuBar()->font()));
+  divisionLine_->setLayoutDirection(CurrentDirection());
+  divisionLine_->setAccessibleName(CaseWords::tr("Who receives what: opens the division"));
+  divisionLine_->setToolTip(CaseWords::tr("The final division in one table, with its reasons (F8)"));
+  fileMenu_->SayAll();
+  readings_->SayAll();
+  strip_->SayAll();
+  document_.Retitle();
+}
+
+void CaseStudyWindow::changeEvent(QEvent* event) {
+  FormWindow::changeEvent(event);
+  if (event->type() == QEvent::LanguageChange && strip_ != nullptr) SayAll();
 }
 
 void CaseStudyWindow::BuildFrame() {
@@ -97,30 +123,27 @@ void CaseStudyWindow::BuildFrame() {
 // The menu entry has the key; the line at the end of the menu bar is always in sight.
 void CaseStudyWindow::BuildDivision(Settings& store) {
   division_ = new DivisionOpener(form_, store, this);
-  auto* open = new QAction(QStringLiteral("&Division"), menuBar());
-  open->setObjectName(QStringLiteral("Division"));
-  open->setShortcut(Qt::Key_F8);
-  connect(open, &QAction::triggered, division_, &DivisionOpener::Open);
-  menuBar()->addAction(open);
+  openDivision_ = new QAction(menuBar());
+  openDivision_->setObjectName(QStringLiteral("Division"));
+  openDivision_->setShortcut(Qt::Key_F8);
+  connect(openDivision_, &QAction::triggered, division_, &DivisionOpener::Open);
+  menuBar()->addAction(openDivision_);
 
-  auto* line = new QToolButton(menuBar());
-  line->setObjectName(QStringLiteral("DivisionLine"));
-  line->setText(QStringLiteral("Who receives what: F8"));
-  line->setAccessibleName(QStringLiteral("Who receives what: opens the division"));
-  line->setToolTip(QStringLiteral("The final division in one table, with its reasons (F8)"));
-  line->setAutoRaise(true);
-  line->setFocusPolicy(Qt::NoFocus);
-  line->setMaximumHeight(line->fontMetrics().height() + 4);
-  connect(line, &QToolButton::clicked, division_, &DivisionOpener::Open);
-  menuBar()->setCornerWidget(line);
+  divisionLine_ = new QToolButton(menuBar());
+  divisionLine_->setObjectName(QStringLiteral("DivisionLine"));
+  divisionLine_->setAutoRaise(true);
+  divisionLine_->setFocusPolicy(Qt::NoFocus);
+  divisionLine_->setMaximumHeight(divisionLine_->fontMetrics().height() + 4);
+  connect(divisionLine_, &QToolButton::clicked, division_, &DivisionOpener::Open);
+  menuBar()->setCornerWidget(divisionLine_);
 }
 
 void CaseStudyWindow::BuildStatusBar(Ports& ports) {
   Binder::Result(form_.StatusBar1, AddPanel("StatusBar1.Panel1", QStringLiteral("What was last computed")));
 
-  QWidget* readings = MakeReadingsPanel(form_, this);
-  statusBar()->addWidget(readings, readingsStretch);
-  readings->hide();  // the first texts are read as they stand
+  readings_ = new ReadingsPanel(form_, this);
+  statusBar()->addWidget(readings_, readingsStretch);
+  readings_->hide();  // the first texts are read as they stand
 
   auto* saves = new SavePanel(ToQt(ports.Places.Reports()), this);
   statusBar()->addPermanentWidget(saves, 1);

@@ -1,12 +1,19 @@
 #pragma once
 
 #include "screens/CaseDocument.h"
+#include "windows/casestudy/CaseWords.h"
 #include "windows/forms/FormHolder.h"
 #include "windows/forms/FormWindow.h"
 
+class QAction;
+class QToolButton;
+
 namespace qismora {
 
+class AnswerStrip;
+class CaseFileMenu;
 class DivisionOpener;
+class ReadingsPanel;
 
 /// The window of the Case Study screen. Closing it destroys it with its form, so that the next opening starts
 /// with a new one.
@@ -21,17 +28,26 @@ class CaseStudyWindow : public FormHolder<CaseStudy>, public FormWindow {
  protected:
   bool FrameGrows() const override { return true; }
   void closeEvent(QCloseEvent* event) override;
+  void changeEvent(QEvent* event) override;
 
  private:
   void BuildFrame();
   void BuildDivision(Settings& store);
+  void SayAll();
   void BuildStatusBar(Ports& ports);
   void BuildTimer();
   void KeepOnTop();
   void OrderTabs();
 
-  DivisionOpener* division_ = nullptr;
+  CaseDialogs dialogs_;
+  Ports ports_;
   CaseDocument document_;
+  DivisionOpener* division_ = nullptr;
+  QAction* openDivision_ = nullptr;
+  QToolButton* divisionLine_ = nullptr;
+  CaseFileMenu* fileMenu_ = nullptr;
+  ReadingsPanel* readings_ = nullptr;
+  AnswerStrip* strip_ = nullptr;
 };
 
 }  // namespace qismora

@@ -164,13 +164,6 @@ QString Sentence(const faraid::Reason& reason, const QString& source) {
   return text;
 }
 
-/// Keeps what the user has typed in its own direction within a sentence of the other.
-QString Isolated(const QString& text) {
-  constexpr QChar firstStrong(0x2068);
-  constexpr QChar popIsolate(0x2069);
-  return CurrentDirection() == Qt::LeftToRight ? text : firstStrong + text + popIsolate;
-}
-
 /// The fields of the estate as Case Study captions them and what they are called here, in the order of
 /// ExampleFigures.
 constexpr struct {

@@ -1,6 +1,7 @@
 #include "windows/division/Languages.h"
 
 #include <QCoreApplication>
+#include <QLibraryInfo>
 #include <QTranslator>
 #include <memory>
 
@@ -34,6 +35,53 @@ bool started = false;
 
 // Qt drops a translator when it is destroyed; this one is dropped with the application.
 QTranslator* translator = nullptr;
+
+constexpr char dialogs[] = "Dialogs";
+
+/// The words of Qt's dialogs that everybody meets here. Qt's catalogue, where there is one, adds the rest.
+[[maybe_unused]] constexpr const char* dialogWords[] = {
+    QT_TRANSLATE_NOOP("Dialogs", "OK"),
+    QT_TRANSLATE_NOOP("Dialogs", "Save"),
+    QT_TRANSLATE_NOOP("Dialogs", "Open"),
+    QT_TRANSLATE_NOOP("Dialogs", "Discard"),
+    QT_TRANSLATE_NOOP("Dialogs", "Cancel"),
+    QT_TRANSLATE_NOOP("Dialogs", "&Yes"),
+    QT_TRANSLATE_NOOP("Dialogs", "&No"),
+    QT_TRANSLATE_NOOP("Dialogs", "&Open"),
+    QT_TRANSLATE_NOOP("Dialogs", "&Save"),
+    QT_TRANSLATE_NOOP("Dialogs", "Look in:"),
+    QT_TRANSLATE_NOOP("Dialogs", "File &name:"),
+    QT_TRANSLATE_NOOP("Dialogs", "&File name:"),
+    QT_TRANSLATE_NOOP("Dialogs", "Files of type:"),
+    QT_TRANSLATE_NOOP("Dialogs", "Save As"),
+    QT_TRANSLATE_NOOP("Dialogs", "Name"),
+    QT_TRANSLATE_NOOP("Dialogs", "Size"),
+    QT_TRANSLATE_NOOP("Dialogs", "Type"),
+    QT_TRANSLATE_NOOP("Dialogs", "Date Modified"),
+    QT_TRANSLATE_NOOP("Dialogs", "Computer"),
+    QT_TRANSLATE_NOOP("Dialogs", "&Print"),
+    QT_TRANSLATE_NOOP("Dialogs", "Print"),
+    QT_TRANSLATE_NOOP("Dialogs", "Print Preview"),
+    QT_TRANSLATE_NOOP("Dialogs", "%1 already exists.\nDo you want to replace it?"),
+};
+
+/// Qt's own words. It has its say only while a dialog speaks the current language: the message boxes of the
+/// screens keep their English buttons.
+class DialogTranslator : public QTranslator {
+ public:
+  using QTranslator::QTranslator;
+
+  QString translate(const char* context, const char* text, const char* comment, int n) const override {
+    if (Open == 0 || translator == nullptr || qstrcmp(context, dialogs) == 0) return {};
+    const QString words = translator->translate(dialogs, text);
+    return words.isEmpty() ? QTranslator::translate(context, text, comment, n) : words;
+  }
+  bool isEmpty() const override { return false; }
+
+  int Open = 0;
+};
+
+DialogTranslator* dialogTranslator = nullptr;
 
 }  // namespace
 
@@ -100,6 +148,36 @@ QFont FontOfLanguage(QFont font) {
 
 Qt::LayoutDirection CurrentDirection() {
   return current == Language::English ? Qt::LeftToRight : Qt::RightToLeft;
+}
+
+QString Isolated(const QString& text) {
+  constexpr QChar firstStrong(0x2068);
+  constexpr QChar popIsolate(0x2069);
+  return CurrentDirection() == Qt::LeftToRight ? text : firstStrong + text + popIsolate;
+}
+
+// Nothing is loaded before the first dialog opens in another language than English. Debian has the catalogues
+// of Qt in a package of their own, and none for Urdu.
+DialogsInLanguage::DialogsInLanguage() : speaks_(current != Language::English) {
+  static Language loaded = Language::English;
+  if (!speaks_) return;
+  if (std::exchange(loaded, current) != current) {
+    delete dialogTranslator;
+    dialogTranslator = new DialogTranslator(QCoreApplication::instance());
+    const QString file = QStringLiteral("qtbase_") + QLatin1String(RowOf(current).Code);
+    static_cast<void>(dialogTranslator->load(file, QLibraryInfo::path(QLibraryInfo::TranslationsPath)));
+    QCoreApplication::installTranslator(dialogTranslator);
+  }
+  ++dialogTranslator->Open;
+}
+
+DialogsInLanguage::~DialogsInLanguage() {
+  if (speaks_) --dialogTranslator->Open;
+}
+
+Qt::LayoutDirection DialogsInLanguage::Direction() {
+  const bool speaks = dialogTranslator != nullptr && dialogTranslator->Open > 0;
+  return speaks ? CurrentDirection() : Qt::LeftToRight;
 }
 
 }  // namespace qismora

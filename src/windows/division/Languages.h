@@ -43,5 +43,23 @@ QLocale CurrentLocale();
 QFont FontOfLanguage(QFont font);
 /// The direction of a window or a text in the current language.
 Qt::LayoutDirection CurrentDirection();
+/// Keeps what the user has typed, or a name, in its own direction within a sentence of the other.
+QString Isolated(const QString& text);
+
+/// While it lives, dialogs speak the current language: the words that they have from Qt, and their direction.
+/// All other dialogs belong to the screens of the program, which are English.
+class DialogsInLanguage {
+ public:
+  DialogsInLanguage();
+  ~DialogsInLanguage();
+  DialogsInLanguage(const DialogsInLanguage&) = delete;
+  DialogsInLanguage& operator=(const DialogsInLanguage&) = delete;
+
+  /// The direction of a dialog that is made now.
+  static Qt::LayoutDirection Direction();
+
+ private:
+  bool speaks_;
+};
 
 }  // namespace qismora

@@ -25,6 +25,7 @@ class Paper {
 };
 
 void Warn(QWidget* window, const QString& words) {
+  const DialogsInLanguage ours;
   QMessageBox box(QMessageBox::Warning, Paper::tr("Division"), words, QMessageBox::Ok, window);
   box.setTextFormat(Qt::PlainText);
   box.setLayoutDirection(CurrentDirection());
@@ -52,6 +53,7 @@ void ShowDialog(const DivisionDocument& document, QWidget* window, bool preview)
     return Warn(window, Paper::tr("Printing is not installed with this program. A PDF file can be saved and "
                                   "printed elsewhere."));
   }
+  const DialogsInLanguage ours;
   const auto paint = [&document](QPagedPaintDevice& device) { document.Print(device); };
   show(window, {document.FileName(), UsualPaper(), PaperMargin, paint}, preview);
 }
@@ -64,6 +66,7 @@ void PrintPaper(const DivisionDocument& document, QWidget* window) { ShowDialog(
 
 std::optional<QString> SavePaperAsPdf(const DivisionDocument& document, QWidget* window) {
   const QString folder = QStandardPaths::writableLocation(QStandardPaths::DocumentsLocation);
+  const DialogsInLanguage ours;
   QFileDialog dialog(window, Paper::tr("Save as PDF"), folder, Paper::tr("PDF files (*.pdf)"));
   dialog.setObjectName(QStringLiteral("SavePdf"));
   dialog.setAcceptMode(QFileDialog::AcceptSave);

@@ -66,6 +66,18 @@ QRegularExpression Pattern(const QString& words) {
                             QRegularExpression::CaseInsensitiveOption);
 }
 
+/// Its title follows the language.
+class HelpMenu : public QMenu {
+ public:
+  explicit HelpMenu(QMenuBar* bar) : QMenu(Help::tr("&Help"), bar) {}
+
+ protected:
+  void changeEvent(QEvent* event) override {
+    QMenu::changeEvent(event);
+    if (event->type() == QEvent::LanguageChange) setTitle(Help::tr("&Help"));
+  }
+};
+
 }  // namespace
 
 QString AnchorOf(const QString& heading) {
@@ -112,7 +124,7 @@ void ShowHelp(const QString& page, const QString& anchor, QWidget* from) {
 // The menu stands on English screens. Its words are those of the language once it is opened, so that a start
 // of the program loads no translation.
 void AddHelpMenu(QMenuBar* bar) {
-  auto* menu = new QMenu(QStringLiteral("&Help"), bar);
+  auto* menu = new HelpMenu(bar);
   menu->menuAction()->setObjectName(QStringLiteral("Help"));
   for (const auto& entry : entries) {
     QAction* action = menu->addAction(QString::fromUtf8(entry.Caption));

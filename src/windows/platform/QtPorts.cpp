@@ -14,6 +14,7 @@
 #include <algorithm>
 
 #include "base/Files.h"
+#include "windows/division/Languages.h"
 #include "windows/platform/Utf8.h"
 #include "windows/style/PointerShape.h"
 
@@ -166,6 +167,7 @@ Answer QtMessageBoxes::Show(BoxStyle style, BoxButtons buttons, const std::strin
   QMessageBox box(IconOf(style), QString::fromUtf8(ApplicationTitle), ToQtLines(text), Offered(buttons),
                   Owner());
   box.setTextFormat(Qt::PlainText);
+  box.setLayoutDirection(DialogsInLanguage::Direction());
   KeepLines(box);
   KeepInSight(box);
   // The default button consents to nothing and loses nothing.
@@ -197,9 +199,17 @@ std::optional<std::string> QtSaveDialog::AskPath(const std::string& suggestedNam
 
 namespace {
 
-constexpr const char* caseFilter = "Qismora cases (*.qismora);;All files (*)";
+/// The context of the translations.
+class Case {
+  Q_DECLARE_TR_FUNCTIONS(Case)
+};
+
+QString CaseFilter() {
+  return Case::tr("Qismora cases (*.qismora)") + QStringLiteral(";;") + Case::tr("All files (*)");
+}
 
 std::optional<std::string> Asked(QFileDialog& dialog) {
+  dialog.setLayoutDirection(DialogsInLanguage::Direction());
   KeepInSight(dialog);
   const PointerShape usersTurn(Qt::ArrowCursor);
   if (dialog.exec() != QDialog::Accepted || dialog.selectedFiles().isEmpty()) return std::nullopt;
@@ -209,7 +219,7 @@ std::optional<std::string> Asked(QFileDialog& dialog) {
 }  // namespace
 
 std::optional<std::string> QtSaveDialog::AskCaseToOpen(const std::string& folder) {
-  QFileDialog dialog(Owner(), QStringLiteral("Open case"), ToQt(folder), QString::fromLatin1(caseFilter));
+  QFileDialog dialog(Owner(), Case::tr("Open case"), ToQt(folder), CaseFilter());
   dialog.setObjectName(QStringLiteral("OpenCaseDialog"));
   dialog.setFileMode(QFileDialog::ExistingFile);
   return Asked(dialog);
@@ -217,7 +227,7 @@ std::optional<std::string> QtSaveDialog::AskCaseToOpen(const std::string& folder
 
 std::optional<std::string> QtSaveDialog::AskCaseToSave(const std::string& suggestedPath) {
   const QFileInfo suggested(ToQt(suggestedPath));
-  QFileDialog dialog(Owner(), QStringLiteral("Save case"), suggested.path(), QString::fromLatin1(caseFilter));
+  QFileDialog dialog(Owner(), Case::tr("Save case"), suggested.path(), CaseFilter());
   dialog.setObjectName(QStringLiteral("SaveCaseDialog"));
   dialog.setAcceptMode(QFileDialog::AcceptSave);
   dialog.setDefaultSuffix(QStringLiteral("qismora"));
