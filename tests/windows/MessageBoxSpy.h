@@ -27,6 +27,8 @@ class MessageBoxSpy : public QObject {
   /// The window that the last message box belonged to, and whether that box stayed on top.
   QString Owner() const { return owner_; }
   bool WasOnTop() const { return onTop_; }
+  /// The texts of its buttons.
+  QStringList Buttons() const { return buttons_; }
 
  protected:
   void timerEvent(QTimerEvent*) override {
@@ -35,6 +37,8 @@ class MessageBoxSpy : public QObject {
     auto* box = qobject_cast<QMessageBox*>(modal);
     texts_.append(box != nullptr ? box->text() : QStringLiteral("a modal window that is not a message box"));
     owner_ = modal->parentWidget() == nullptr ? QString() : modal->parentWidget()->objectName();
+    buttons_.clear();
+    for (const auto* button : modal->findChildren<QAbstractButton*>()) buttons_.append(button->text());
     onTop_ = (modal->windowFlags() & Qt::WindowStaysOnTopHint) != 0;
     if (box != nullptr && box->button(press_) != nullptr) return box->button(press_)->click();
     modal->close();
@@ -44,6 +48,7 @@ class MessageBoxSpy : public QObject {
   QStringList texts_;
   QString owner_;
   bool onTop_ = false;
+  QStringList buttons_;
   QMessageBox::StandardButton press_ = QMessageBox::NoButton;
   bool watches_ = true;
 };

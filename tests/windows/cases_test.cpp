@@ -1,5 +1,6 @@
 // The state of the answer and the case files on the real windows, with real clicks and keys.
 #include <QAction>
+#include <QComboBox>
 #include <QDragEnterEvent>
 #include <QLabel>
 #include <QLineEdit>
@@ -10,6 +11,7 @@
 
 #include "windows/MessageBoxSpy.h"
 #include "windows/ProgramFixture.h"
+#include "windows/division/Languages.h"
 #include "windows/style/OutlinedStyle.h"
 
 namespace qismora {
@@ -45,6 +47,7 @@ class CasesTest : public QObject {
     OpenStudy();
   }
   void cleanup() {
+    SetLanguage(Language::English);
     boxes_.Watch();
     boxes_.Press(QMessageBox::NoButton);
     QCOMPARE(boxes_.Take(), QStringList());
@@ -72,6 +75,73 @@ class CasesTest : public QObject {
     QVERIFY(Find<QLineEdit>(study_, "Text1(2)")->text() == QLatin1String("101"));
   }
 
+  // Whatever stops a load, the figures on the screen are not those of the case; the state says so with the
+  // reason of the message box, until a load has succeeded.
+  void everyRefusalIsSaid_data() {
+    QTest::addColumn<QString>("field");
+    QTest::addColumn<QString>("text");
+    for (const auto& [most, fields] :
+         std::initializer_list<std::pair<int, QList<int>>>{{4, {1}},
+                                                           {100, {2, 3, 4, 5, 6, 7, 22, 23, 30, 31, 32, 33}},
+                                                           {1, {13}},
+                                                           {20, {14, 15, 16, 17, 18, 19, 20, 21}}}) {
+      for (const int field : fields) {
+        const QString name = QStringLiteral("Text1(%1)").arg(field);
+        QTest::newRow(qPrintable(name)) << name << QString::number(most + 1);
+      }
+    }
+    QTest::newRow("negative heirs") << "Text1(3)"
+                                    << "-1";
+    QTest::newRow("too large a number of heirs") << "Text1(3)"
+                                                 << "99999";
+    QTest::newRow("negative estate") << "Text1(25)"
+                                     << "-1";
+    QTest::newRow("funeral above the estate") << "Text1(26)"
+                                              << "24001";
+    QTest::newRow("debts above the estate") << "Text1(27)"
+                                            << "24001";
+    QTest::newRow("too large a will") << "Text1(28)"
+                                      << "99999999999";
+  }
+  void everyRefusalIsSaid() {
+    QFETCH(QString, field);
+    QFETCH(QString, text);
+    const QByteArray name = field.toLatin1();
+    Type("Text1(2)", "1");
+    Type("Text1(25)", "24000");
+    Key(Qt::Key_F5, Qt::NoModifier);
+    QCOMPARE(State(), QStringLiteral("Answer of Residuaries: final."));
+    const QByteArray before = Find<QLineEdit>(study_, name)->text().toLatin1();
+    Type(name, text.toLatin1());
+    Key(Qt::Key_F5, Qt::NoModifier);
+    const QStringList told = boxes_.Take();
+    QCOMPARE(told.size(), 1);
+    QCOMPARE(State(), QStringLiteral("Refused: these figures are not your case. ") +
+                          told.constFirst().section(QLatin1Char('\n'), 0, 0));
+    QVERIFY(Find<QLabel>(study_, "AnswerState")->font().bold());
+    Type(name, before);
+    QVERIFY(State().startsWith(QStringLiteral("Refused")));
+    Key(Qt::Key_F5, Qt::NoModifier);
+    QCOMPARE(State(), QStringLiteral("Answer of Residuaries: final."));
+  }
+
+  // A husband is counted in the field of the wives, and more than the estate can be left to others: the
+  // figures of a negative estate are those of the case, but nothing is left to divide.
+  void aHusbandTooManyIsRefusedAndANegativeEstateIsSaid() {
+    Find<QComboBox>(study_, "Combo1")->setCurrentIndex(1);
+    Type("Text1(1)", "2");
+    Key(Qt::Key_F5, Qt::NoModifier);
+    QVERIFY(boxes_.Take().constFirst().startsWith(QStringLiteral("Enter 1 or 0")));
+    QVERIFY(State().startsWith(QStringLiteral("Refused")));
+    Type("Text1(1)", "1");
+    Type("Text1(26)", "18000");
+    Type("Text1(27)", "18000");
+    Key(Qt::Key_F5, Qt::NoModifier);
+    QVERIFY(boxes_.Take().constFirst().startsWith(QStringLiteral("NET ESTATE IS NEGATIVE")));
+    QCOMPARE(State(),
+             QStringLiteral("Answer of Residuaries: the net estate is below 0, nothing is left to divide."));
+  }
+
   void whatIsReadDifferentlyIsSaidInWords() {
     auto* readings = Find<QLabel>(study_, "Readings");
     QVERIFY(!readings->isVisible());
@@ -83,6 +153,36 @@ class CasesTest : public QObject {
     Type("Text1(25)", "1840000");
     Type("Text1(3)", "2");
     QVERIFY(!readings->isVisible());
+  }
+
+  // The form itself is English, and so are its message boxes.
+  void wordsBesideTheFormFollowTheLanguage() {
+    Type("Text1(2)", "101");
+    Type("Text1(25)", "18,40,000");
+    SetLanguage(Language::Arabic);
+    auto* readings = Find<QLabel>(study_, "Readings");
+    QTRY_VERIFY(readings->text().startsWith(Isolated(QStringLiteral("التركة"))));
+    QVERIFY(readings->text().contains(QStringLiteral("18,40,000")));
+    QCOMPARE(State(), QStringLiteral("لا جواب بعد."));
+    QCOMPARE(Title(), QStringLiteral("غير محفوظة"));
+    QCOMPARE(Find<QAction>(study_, "SaveCase")->text(), QStringLiteral("&حفظ"));
+    QCOMPARE(Find<QAction>(study_, "Division")->text(), QStringLiteral("ال&قسمة"));
+    QCOMPARE(Find<QAction>(study_, "Help")->text(), QStringLiteral("&مساعدة"));
+    QCOMPARE(Find<QAction>(study_, "Resid")->text(), QStringLiteral("&Residuaries"));
+
+    QTest::keyClick(study_, Qt::Key_F5);
+    QCOMPARE(boxes_.Take(),
+             QStringList({QStringLiteral("Check number of Sons, should be limited reasonably.")}));
+    QVERIFY(boxes_.Buttons().constFirst().contains(QStringLiteral("OK")));
+    QVERIFY(State().startsWith(QStringLiteral("مرفوض")));
+    QVERIFY(State().contains(QStringLiteral("Check number of Sons")));
+    study_->Document().New();
+    QCOMPARE(boxes_.Take().size(), 1);
+    const QString buttons = boxes_.Buttons().join(QLatin1Char(' '));
+    QVERIFY2(buttons.contains(QStringLiteral("إلغاء")), qPrintable(buttons));
+    SetLanguage(Language::English);
+    QTRY_COMPARE(Find<QAction>(study_, "SaveCase")->text(), QStringLiteral("&Save"));
+    QVERIFY(State().startsWith(QStringLiteral("Refused")));
   }
 
   void aCaseIsSavedOpenedAndStartedAnew() {

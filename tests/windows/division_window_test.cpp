@@ -74,11 +74,18 @@ class DivisionWindowTest : public QObject {
     QTRY_VERIFY(faults->isVisible());
     QVERIFY(faults->text().contains(QStringLiteral("is not a whole number")));
     QVERIFY(!Find<QTableView>("DivisionTable")->isVisible());
+    auto* field = study_->Find<QLineEdit>("Text1(3)");
     Activate();
     faults->setFocus(Qt::TabFocusReason);
     QTest::keyClick(faults, Qt::Key_Tab);  // the first link
-    emit faults->linkActivated(QStringLiteral("field:3"));
-    QTRY_COMPARE(QApplication::focusWidget(), study_->Find<QLineEdit>("Text1(3)"));
+    QTest::keyClick(faults, Qt::Key_Return);
+    QTRY_COMPARE(QApplication::focusWidget(), field);
+    // By the mouse: the link begins behind the stripe.
+    study_->Find<QLineEdit>("Text1(2)")->setFocus();
+    Activate();
+    QTest::mouseClick(faults, Qt::LeftButton, {}, QPoint(40, faults->height() / 2));
+    QTRY_VERIFY(study_->Window().isActiveWindow());
+    QTRY_COMPARE(QApplication::focusWidget(), field);
     study_->Type("Text1(3)", QStringLiteral("2"));
     QTRY_VERIFY(!faults->isVisible());
     QTRY_VERIFY(Find<QTableView>("DivisionTable")->isVisible());
