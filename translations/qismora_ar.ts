@@ -29,7 +29,7 @@
     </message>
     <message>
         <source>&amp;Case</source>
-        <translation>&amp;المسألة</translation>
+        <translation>المسألة</translation>
     </message>
     <message>
         <source>&amp;Recent</source>
@@ -37,7 +37,7 @@
     </message>
     <message>
         <source>&amp;Division</source>
-        <translation>ال&amp;قسمة</translation>
+        <translation>القسمة</translation>
     </message>
     <message>
         <source>Who receives what: F8</source>
@@ -1055,7 +1055,7 @@ Do you want to replace it?</source>
     </message>
     <message>
         <source>&amp;Help</source>
-        <translation>&amp;مساعدة</translation>
+        <translation>مساعدة</translation>
     </message>
 </context>
 <context>

@@ -34,22 +34,22 @@ bool IsWarning(AnswerStanding standing) {
 AnswerStrip::AnswerStrip(CaseStudy& form, CaseDocument& document, QWidget* parent)
     : QFrame(parent), form_(form), answer_(new AnnouncedLabel(QStringLiteral("AnswerState"), this)) {
   setObjectName(QStringLiteral("AnswerStrip"));
-  auto* file = new QLabel(this);
-  file->setObjectName(QStringLiteral("CaseTitle"));
-  file->setTextFormat(Qt::PlainText);
+  file_ = new QLabel(this);
+  file_->setObjectName(QStringLiteral("CaseTitle"));
+  file_->setTextFormat(Qt::PlainText);
   // The form leaves little more than the height of the text.
   setFixedHeight(fontInfo().pixelSize() + 2);
   auto* row = new QHBoxLayout(this);
   row->setContentsMargins(margins);
   row->setSpacing(gap);
   row->addWidget(answer_, 1);
-  row->addWidget(file);
+  row->addWidget(file_);
 
-  Binder::Follow(document.Title, [&document, file] {
+  Binder::Follow(document.Title, [this, &document] {
     const QString title = ToQt(document.Title.Get());
-    file->setText(file->fontMetrics().elidedText(title, Qt::ElideMiddle, widestTitle));
-    file->setToolTip(document.Path().empty() ? title : ToQt(document.Path()));
-    file->setAccessibleName(title);
+    file_->setText(file_->fontMetrics().elidedText(title, Qt::ElideMiddle, widestTitle));
+    file_->setToolTip(document.Path().empty() ? title : ToQt(document.Path()));
+    file_->setAccessibleName(title);
   });
   form.AnswerWords.WhenChanged([this] { ShowAnswer(); });
   SayAll();
@@ -58,12 +58,13 @@ AnswerStrip::AnswerStrip(CaseStudy& form, CaseDocument& document, QWidget* paren
 void AnswerStrip::SayAll() {
   setAccessibleName(CaseWords::tr("State of the answer"));
   setLayoutDirection(CurrentDirection());
+  file_->setFont(FontBesideEnglish(font()));
   ShowAnswer();
 }
 
 // What needs the user's attention stands in bold, so that it is told apart without colour.
 void AnswerStrip::ShowAnswer() {
-  QFont font = FontOfLanguage(this->font());
+  QFont font = FontBesideEnglish(this->font());
   font.setBold(IsWarning(form_.Standing()));
   answer_->setFont(font);
   answer_->Show(CaseWords::Of(form_.AnswerSentence()), true);
@@ -81,7 +82,7 @@ void ReadingsPanel::SayAll() {
   const std::vector<Message> sentences = form_.Misreadings(grouping_);
   QStringList shown;
   for (const Message& sentence : sentences) shown.append(CaseWords::Of(sentence));
-  setFont(FontOfLanguage(parentWidget()->font()));
+  setFont(FontBesideEnglish(parentWidget()->font()));
   setLayoutDirection(CurrentDirection());
   setVisible(!shown.isEmpty());
   Show(shown.join(QStringLiteral("; ")), sentences.size() > std::exchange(misread_, sentences.size()));

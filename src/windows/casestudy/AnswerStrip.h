@@ -21,6 +21,7 @@ class AnswerStrip : public QFrame {
 
   CaseStudy& form_;
   AnnouncedLabel* answer_;
+  QLabel* file_;
 };
 
 /// A panel of the status bar that says which fields are read differently from what stands in them; it is

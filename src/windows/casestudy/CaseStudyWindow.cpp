@@ -1,6 +1,7 @@
 #include "windows/casestudy/CaseStudyWindow.h"
 
 #include <QAction>
+#include <QApplication>
 #include <QBoxLayout>
 #include <QCloseEvent>
 #include <QLabel>
@@ -69,8 +70,8 @@ CaseStudyWindow::CaseStudyWindow(CaseRecord& record, Ports& ports, int savedLang
 // What stands beside the form follows the language of the division; the form itself is English.
 void CaseStudyWindow::SayAll() {
   openDivision_->setText(CaseWords::tr("&Division"));
-  divisionLine_->setText(CaseWords::tr("Who receives what: F8"));
-  divisionLine_->setFont(FontOfLanguage(menuBar()->font()));
+  menuBar()->setFont(FontBesideEnglish(QApplication::font(menuBar())));
+  divisionLine_->setText(Directed(CaseWords::tr("Who receives what: F8")));
   divisionLine_->setLayoutDirection(CurrentDirection());
   divisionLine_->setAccessibleName(CaseWords::tr("Who receives what: opens the division"));
   divisionLine_->setToolTip(CaseWords::tr("The final division in one table, with its reasons (F8)"));

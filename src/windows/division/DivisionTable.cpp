@@ -25,7 +25,8 @@ const QString dash = QStringLiteral("–");
 
 QString Signed(faraid::Hundredths amount) {
   if (amount == 0) return words::Amount(0);
-  return (amount > 0 ? QStringLiteral("+") : QStringLiteral("−")) + words::Amount(std::abs(amount));
+  const QString sign = amount > 0 ? QStringLiteral("+") : QStringLiteral("−");
+  return IsolatedFigure(sign + words::Amount(std::abs(amount)));
 }
 
 /// 33.33 or 33.34: the second figure stands below the first.
@@ -286,7 +287,9 @@ QVariant DivisionModel::data(const QModelIndex& index, int role) const {
     case Qt::ToolTipRole:
       return row.Cells[index.column()];
     case Qt::TextAlignmentRole: {
-      const Qt::Alignment side = table_.Figures[index.column()] ? Qt::AlignRight : Qt::AlignLeft;
+      // Units stand below units in every language.
+      const Qt::Alignment side =
+          table_.Figures[index.column()] ? Qt::AlignRight | Qt::AlignAbsolute : Qt::Alignment(Qt::AlignLeft);
       return QVariant::fromValue(side | Qt::AlignTop);
     }
     case Qt::DecorationRole:
@@ -315,7 +318,9 @@ QVariant DivisionModel::headerData(int section, Qt::Orientation orientation, int
   if (orientation == Qt::Vertical || section >= table_.Headings.size()) return {};
   if (role == Qt::DisplayRole) return table_.Headings[section];
   if (role == Qt::TextAlignmentRole) {
-    return QVariant::fromValue((table_.Figures[section] ? Qt::AlignRight : Qt::AlignLeft) | Qt::AlignVCenter);
+    // Styles do not mirror the text of a heading.
+    const bool right = table_.Figures[section] || CurrentDirection() == Qt::RightToLeft;
+    return QVariant::fromValue((right ? Qt::AlignRight : Qt::AlignLeft) | Qt::AlignVCenter);
   }
   return {};
 }

@@ -94,6 +94,7 @@ DivisionTableView::DivisionTableView(QWidget* parent) : QTableView(parent), mode
   setMinimumHeight(leastHeight);
   verticalHeader()->hide();
   verticalHeader()->setMinimumSectionSize(1);
+  horizontalHeader()->setMinimumSectionSize(1);  // or it would be the widest letter of the font
   horizontalHeader()->setHighlightSections(false);
   horizontalHeader()->setSectionsClickable(false);
   connect(this, &QAbstractItemView::activated, this, [this] {

@@ -5,6 +5,7 @@
 #include <QBoxLayout>
 #include <QComboBox>
 #include <QDate>
+#include <QLabel>
 #include <QMenu>
 #include <QPointer>
 #include <QScreen>
@@ -57,6 +58,9 @@ DivisionWindow::DivisionWindow(CaseStudy& form, Settings& store)
   BuildTools();
   ConnectParts();
   statusBar()->setObjectName(QStringLiteral("DivisionStatus"));
+  state_ = new QLabel(statusBar());
+  state_->setObjectName(QStringLiteral("DivisionState"));
+  statusBar()->addWidget(state_, 1);
   announcing_.setSingleShot(true);
   announcing_.setInterval(announceAfter);
   connect(&announcing_, &QTimer::timeout, this, [this] { sentences_->Announce(); });
@@ -207,8 +211,7 @@ void DivisionWindow::ShowState() {
   setWindowTitle(name.isEmpty() ? tr("Division") : tr("Division - %1").arg(name));
   const QString state = supposition_.IsEmpty() ? tr("the fields of Case Study as they stand now")
                                                : tr("a supposition, not the case of the fields");
-  const QString mark = CurrentDirection() == Qt::RightToLeft ? QString(QChar(0x200F)) : QString();
-  statusBar()->showMessage(mark + words::SchoolLaw(school_) + QStringLiteral(" · ") + state);
+  state_->setText(Directed(words::SchoolLaw(school_) + QStringLiteral(" · ") + state));
 }
 
 // The table gets the height that it needs, up to a half where the pictures need more, until the user moves
@@ -248,13 +251,13 @@ void DivisionWindow::FillMenu(QMenu* menu) {
   if (line != nullptr && heir != Kind::Remainder) {
     Supposition::FillMenu(menu, *line, [this, heir](int heads) { SupposeDead(heir, heads); });
     if (static_cast<std::size_t>(heir) < HeirFields.size()) {
-      QAction* field =
-          menu->addAction(tr("Go to the field of Case Study"), this, [this, heir] { GoToHeir(heir); });
+      QAction* field = menu->addAction(Directed(tr("Go to the field of Case Study")), this,
+                                       [this, heir] { GoToHeir(heir); });
       field->setShortcut(Qt::Key_Return);
     }
   }
   if (supposition_.IsEmpty()) return;
-  QAction* back = menu->addAction(tr("Back to the case"), this, [this] { LeaveSupposition(); });
+  QAction* back = menu->addAction(Directed(tr("Back to the case")), this, [this] { LeaveSupposition(); });
   back->setShortcut(Qt::Key_Escape);
 }
 

@@ -10,6 +10,7 @@
 #include "windows/division/DivisionSettings.h"
 #include "windows/division/Supposition.h"
 
+class QLabel;
 class QMenu;
 class QScrollArea;
 class QSplitter;
@@ -92,6 +93,7 @@ class DivisionWindow : public QMainWindow {
   QSplitter* splitter_ = nullptr;
   DivisionTableView* table_ = nullptr;
   DivisionPictures* pictures_ = nullptr;
+  QLabel* state_ = nullptr;
 };
 
 }  // namespace qismora

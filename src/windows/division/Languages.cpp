@@ -146,15 +146,29 @@ QFont FontOfLanguage(QFont font) {
   return font;
 }
 
+QFont FontBesideEnglish(QFont font) {
+  if (current != Language::English) {
+    font.setFamilies(QStringList(QStringLiteral("Noto Naskh Arabic")) + font.families());
+  }
+  return font;
+}
+
 Qt::LayoutDirection CurrentDirection() {
   return current == Language::English ? Qt::LeftToRight : Qt::RightToLeft;
 }
 
-QString Isolated(const QString& text) {
-  constexpr QChar firstStrong(0x2068);
+namespace {
+
+QString InIsolate(char16_t kind, const QString& text) {
   constexpr QChar popIsolate(0x2069);
-  return CurrentDirection() == Qt::LeftToRight ? text : firstStrong + text + popIsolate;
+  return CurrentDirection() == Qt::LeftToRight || text.isEmpty() ? text : QChar(kind) + text + popIsolate;
 }
+
+}  // namespace
+
+QString Isolated(const QString& text) { return InIsolate(0x2068, text); }
+QString IsolatedFigure(const QString& figure) { return InIsolate(0x2066, figure); }
+QString Directed(const QString& words) { return InIsolate(0x2067, words); }
 
 // Nothing is loaded before the first dialog opens in another language than English. Debian has the catalogues
 // of Qt in a package of their own, and none for Urdu.

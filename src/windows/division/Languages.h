@@ -41,10 +41,17 @@ QLocale CurrentLocale();
 /// A font with the families before it that set the current language well. For Urdu that is Naskh, since
 /// Qt 6.4 misplaces the joined letters of Nastaliq.
 QFont FontOfLanguage(QFont font);
+/// The same for widgets that hold English beside it: English keeps its font.
+QFont FontBesideEnglish(QFont font);
 /// The direction of a window or a text in the current language.
 Qt::LayoutDirection CurrentDirection();
 /// Keeps what the user has typed, or a name, in its own direction within a sentence of the other.
 QString Isolated(const QString& text);
+/// Keeps a signed figure from the left to the right, or the sign would stand behind it.
+QString IsolatedFigure(const QString& figure);
+/// Keeps the words of a button or a menu in the direction of the language, whatever they begin with: styles
+/// draw them in that of the application.
+QString Directed(const QString& words);
 
 /// While it lives, dialogs speak the current language: the words that they have from Qt, and their direction.
 /// All other dialogs belong to the screens of the program, which are English.

@@ -191,6 +191,10 @@ int OutlinedStyle::styleHint(StyleHint hint, const QStyleOption* option, const Q
   if (hint == SH_Table_GridLineColor && option != nullptr && NeedsOutlines(option->palette)) {
     return static_cast<int>(Line(option->palette, gridStrength).rgba());
   }
+  // An underlined letter of Arabic script would be drawn apart from the word that it joins.
+  if (hint == SH_UnderlineShortcut && widget != nullptr && widget->layoutDirection() == Qt::RightToLeft) {
+    return 0;
+  }
   return QProxyStyle::styleHint(hint, option, widget, returned);
 }
 

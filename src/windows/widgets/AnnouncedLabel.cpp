@@ -44,7 +44,9 @@ QSize AnnouncedLabel::minimumSizeHint() const { return {0, QLabel::minimumSizeHi
 
 void AnnouncedLabel::paintEvent(QPaintEvent*) {
   QPainter painter(this);
-  style()->drawItemText(&painter, contentsRect(), int(alignment()), palette(), isEnabled(),
+  const int direction =
+      layoutDirection() == Qt::RightToLeft ? Qt::TextForceRightToLeft : Qt::TextForceLeftToRight;
+  style()->drawItemText(&painter, contentsRect(), int(alignment()) | direction, palette(), isEnabled(),
                         fontMetrics().elidedText(text(), Qt::ElideRight, contentsRect().width()),
                         foregroundRole());
 }
