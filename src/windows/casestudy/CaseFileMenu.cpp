@@ -79,8 +79,7 @@ void FillRecent(QMenu* recent, CaseDocument& document) {
     entry->setToolTip(ToQt(path));
     QObject::connect(entry, &QAction::triggered, recent, [&document, path] { document.OpenFile(path); });
   }
-  if (number == 0)
-    recent->addAction(Directed(CaseWords::tr("No case was saved or opened yet")))->setEnabled(false);
+  if (number == 0) recent->addAction(CaseWords::tr("No case was saved or opened yet"))->setEnabled(false);
 }
 
 }  // namespace
@@ -110,13 +109,13 @@ CaseFileMenu::CaseFileMenu(QMenuBar* bar, CaseDocument& document) : QMenu(bar), 
 
 void CaseFileMenu::SayAll() {
   setTitle(CaseWords::tr("&Case"));
-  recent_->setTitle(Directed(CaseWords::tr("&Recent")));
+  recent_->setTitle(CaseWords::tr("&Recent"));
   for (QMenu* menu : {static_cast<QMenu*>(this), recent_}) {
     menu->setLayoutDirection(CurrentDirection());
     menu->setFont(FontBesideEnglish(QApplication::font(menu)));
   }
   for (std::size_t i = 0; i < std::size(entries); ++i) {
-    actions().at(static_cast<qsizetype>(i))->setText(Directed(CaseWords::tr(entries[i].Caption)));
+    actions().at(static_cast<qsizetype>(i))->setText(CaseWords::tr(entries[i].Caption));
   }
 }
 

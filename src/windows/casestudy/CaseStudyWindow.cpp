@@ -71,7 +71,7 @@ CaseStudyWindow::CaseStudyWindow(CaseRecord& record, Ports& ports, int savedLang
 void CaseStudyWindow::SayAll() {
   openDivision_->setText(CaseWords::tr("&Division"));
   menuBar()->setFont(FontBesideEnglish(QApplication::font(menuBar())));
-  divisionLine_->setText(Directed(CaseWords::tr("Who receives what: F8")));
+  divisionLine_->setText(CaseWords::tr("Who receives what: F8"));
   divisionLine_->setLayoutDirection(CurrentDirection());
   divisionLine_->setAccessibleName(CaseWords::tr("Who receives what: opens the division"));
   divisionLine_->setToolTip(CaseWords::tr("The final division in one table, with its reasons (F8)"));

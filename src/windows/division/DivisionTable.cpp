@@ -258,6 +258,11 @@ void DivisionModel::Show(DivisionTable table) {
   }
 }
 
+// Units stand below units in every language.
+Qt::Alignment DivisionModel::SideOf(int column) const {
+  return table_.Figures[column] ? Qt::AlignRight | Qt::AlignAbsolute : Qt::Alignment(Qt::AlignLeft);
+}
+
 int DivisionModel::rowCount(const QModelIndex& parent) const {
   return parent.isValid() ? 0 : static_cast<int>(table_.Rows.size());
 }
@@ -286,12 +291,8 @@ QVariant DivisionModel::data(const QModelIndex& index, int role) const {
       return index.column() == 0 ? row.Sentence : QVariant();
     case Qt::ToolTipRole:
       return row.Cells[index.column()];
-    case Qt::TextAlignmentRole: {
-      // Units stand below units in every language.
-      const Qt::Alignment side =
-          table_.Figures[index.column()] ? Qt::AlignRight | Qt::AlignAbsolute : Qt::Alignment(Qt::AlignLeft);
-      return QVariant::fromValue(side | Qt::AlignTop);
-    }
+    case Qt::TextAlignmentRole:
+      return QVariant::fromValue(SideOf(index.column()) | Qt::AlignTop);
     case Qt::DecorationRole:
       return index.column() == 0 && row.Where == Place::Taker ? Swatch(row.Heir) : QVariant();
     case Qt::FontRole: {
@@ -318,9 +319,7 @@ QVariant DivisionModel::headerData(int section, Qt::Orientation orientation, int
   if (orientation == Qt::Vertical || section >= table_.Headings.size()) return {};
   if (role == Qt::DisplayRole) return table_.Headings[section];
   if (role == Qt::TextAlignmentRole) {
-    // Styles do not mirror the text of a heading.
-    const bool right = table_.Figures[section] || CurrentDirection() == Qt::RightToLeft;
-    return QVariant::fromValue((right ? Qt::AlignRight : Qt::AlignLeft) | Qt::AlignVCenter);
+    return QVariant::fromValue(SideOf(section) | Qt::AlignVCenter);
   }
   return {};
 }

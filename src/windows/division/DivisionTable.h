@@ -60,6 +60,7 @@ class DivisionModel : public QAbstractTableModel {
 
  private:
   QVariant Swatch(faraid::Kind heir) const;
+  Qt::Alignment SideOf(int column) const;
 
   DivisionTable table_;
   QFont font_;

@@ -79,20 +79,20 @@ void DivisionTools::AddLanguages(Settings& store) {
 }
 
 void DivisionTools::SayAll() {
-  schoolCaption_->setText(Directed(tr("&School")));
+  schoolCaption_->setText(tr("&School"));
   for (int i = 0; i < schools_->count(); ++i)
-    schools_->setItemText(i, Directed(words::SchoolName(static_cast<faraid::School>(i))));
-  fourSchools_->setText(Directed(tr("&Four schools")));
+    schools_->setItemText(i, words::SchoolName(static_cast<faraid::School>(i)));
+  fourSchools_->setText(tr("&Four schools"));
   fourSchools_->setToolTip(tr("The four schools side by side, and why they differ (Ctrl+4)"));
-  keep_->setText(Directed(tr("&Keep")));
+  keep_->setText(tr("&Keep"));
   keep_->setToolTip(tr("Keep this division and compare the next ones with it (Ctrl+K)"));
-  copy_->setText(Directed(tr("&Copy")));
+  copy_->setText(tr("&Copy"));
   copy_->setToolTip(tr("Copy the table for a letter or a spreadsheet (Ctrl+Shift+C)"));
-  print_->setText(Directed(tr("&Print...")));
-  preview_->setText(Directed(tr("Pre&view...")));
-  pdf_->setText(Directed(tr("Save as P&DF...")));
-  language_->setText(Directed(tr("&Language")));
-  language_->menu()->actions().constFirst()->setText(Directed(tr("As the desktop")));
+  print_->setText(tr("&Print..."));
+  preview_->setText(tr("Pre&view..."));
+  pdf_->setText(tr("Save as P&DF..."));
+  language_->setText(tr("&Language"));
+  language_->menu()->actions().constFirst()->setText(tr("As the desktop"));
 }
 
 void DivisionTools::Enable(bool isDivided) {

@@ -60,6 +60,7 @@ DivisionWindow::DivisionWindow(CaseStudy& form, Settings& store)
   statusBar()->setObjectName(QStringLiteral("DivisionStatus"));
   state_ = new QLabel(statusBar());
   state_->setObjectName(QStringLiteral("DivisionState"));
+  state_->setContentsMargins(spacing, 0, spacing, 0);
   statusBar()->addWidget(state_, 1);
   announcing_.setSingleShot(true);
   announcing_.setInterval(announceAfter);
@@ -211,7 +212,7 @@ void DivisionWindow::ShowState() {
   setWindowTitle(name.isEmpty() ? tr("Division") : tr("Division - %1").arg(name));
   const QString state = supposition_.IsEmpty() ? tr("the fields of Case Study as they stand now")
                                                : tr("a supposition, not the case of the fields");
-  state_->setText(Directed(words::SchoolLaw(school_) + QStringLiteral(" · ") + state));
+  state_->setText(words::SchoolLaw(school_) + QStringLiteral(" · ") + state);
 }
 
 // The table gets the height that it needs, up to a half where the pictures need more, until the user moves
@@ -251,13 +252,13 @@ void DivisionWindow::FillMenu(QMenu* menu) {
   if (line != nullptr && heir != Kind::Remainder) {
     Supposition::FillMenu(menu, *line, [this, heir](int heads) { SupposeDead(heir, heads); });
     if (static_cast<std::size_t>(heir) < HeirFields.size()) {
-      QAction* field = menu->addAction(Directed(tr("Go to the field of Case Study")), this,
-                                       [this, heir] { GoToHeir(heir); });
+      QAction* field =
+          menu->addAction(tr("Go to the field of Case Study"), this, [this, heir] { GoToHeir(heir); });
       field->setShortcut(Qt::Key_Return);
     }
   }
   if (supposition_.IsEmpty()) return;
-  QAction* back = menu->addAction(Directed(tr("Back to the case")), this, [this] { LeaveSupposition(); });
+  QAction* back = menu->addAction(tr("Back to the case"), this, [this] { LeaveSupposition(); });
   back->setShortcut(Qt::Key_Escape);
 }
 

@@ -168,7 +168,6 @@ QString InIsolate(char16_t kind, const QString& text) {
 
 QString Isolated(const QString& text) { return InIsolate(0x2068, text); }
 QString IsolatedFigure(const QString& figure) { return InIsolate(0x2066, figure); }
-QString Directed(const QString& words) { return InIsolate(0x2067, words); }
 
 // Nothing is loaded before the first dialog opens in another language than English. Debian has the catalogues
 // of Qt in a package of their own, and none for Urdu.

@@ -49,9 +49,6 @@ Qt::LayoutDirection CurrentDirection();
 QString Isolated(const QString& text);
 /// Keeps a signed figure from the left to the right, or the sign would stand behind it.
 QString IsolatedFigure(const QString& figure);
-/// Keeps the words of a button or a menu in the direction of the language, whatever they begin with: styles
-/// draw them in that of the application.
-QString Directed(const QString& words);
 
 /// While it lives, dialogs speak the current language: the words that they have from Qt, and their direction.
 /// All other dialogs belong to the screens of the program, which are English.

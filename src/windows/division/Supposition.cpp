@@ -43,14 +43,14 @@ void Supposition::FillMenu(QMenu* menu, const DivisionLine& line,
   const int heads = line.Law.Heads;
   const QString name = words::Heir(line.Heir(), heads);
   if (heads == 1) {
-    QAction* action = menu->addAction(Directed(tr("What if this heir had died before: %1").arg(name)), menu,
+    QAction* action = menu->addAction(tr("What if this heir had died before: %1").arg(name), menu,
                                       [supposeDead] { supposeDead(1); });
     action->setShortcut(Qt::Key_Delete);
     return;
   }
-  menu->addAction(Directed(tr("What if one of them had died before: %1").arg(name)), menu,
+  menu->addAction(tr("What if one of them had died before: %1").arg(name), menu,
                   [supposeDead] { supposeDead(1); });
-  menu->addAction(Directed(tr("What if all of them had died before: %1").arg(name)), menu,
+  menu->addAction(tr("What if all of them had died before: %1").arg(name), menu,
                   [supposeDead, heads] { supposeDead(heads); });
 }
 

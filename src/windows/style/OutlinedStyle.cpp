@@ -164,6 +164,8 @@ void OutlinedStyle::drawPrimitive(PrimitiveElement element, const QStyleOption* 
 // An entry of the menu bar that the keyboard has selected looks like one that the mouse has opened.
 void OutlinedStyle::drawControl(ControlElement element, const QStyleOption* option, QPainter* painter,
                                 const QWidget* widget) const {
+  // Styles expect the painter to have the direction of the application. That of a window may be another.
+  painter->setLayoutDirection(option->direction);
   const auto* entry = qstyleoption_cast<const QStyleOptionMenuItem*>(option);
   if (element == CE_MenuBarItem && entry != nullptr && (entry->state & State_Selected) != 0) {
     QStyleOptionMenuItem opened = *entry;
