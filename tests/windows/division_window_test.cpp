@@ -7,6 +7,7 @@
 #include <QLineEdit>
 #include <QMenu>
 #include <QScrollArea>
+#include <QSplitter>
 #include <QTableView>
 #include <QTest>
 #include <QToolButton>
@@ -16,6 +17,7 @@
 #include "windows/division/DivisionOpener.h"
 #include "windows/division/DivisionWindow.h"
 #include "windows/division/FamilyTreeView.h"
+#include "windows/division/Languages.h"
 #include "windows/help/HelpWindow.h"
 
 namespace qismora {
@@ -237,6 +239,62 @@ class DivisionWindowTest : public QObject {
     study_->Open();
     OpenWithKey();
     QCOMPARE(Division()->size(), QSize(640, 500));
+  }
+
+  // By itself it never covers Case Study and never takes the focus; where the user has closed it, it stays
+  // closed.
+  void opensBesideByItselfUntilItIsClosed() {
+    Division()->move(50, 50);
+    Division()->resize(620, 500);
+    study_->Open();
+    study_->Store().Write("Qismora", "Division", "Open", "yes");
+    auto* field = study_->Find<QLineEdit>("Text1(2)");
+    field->setFocus();
+    Opener().OpenBeside();
+    if (!DivisionWindow::HasRoomBeside(study_->Window())) {
+      QVERIFY(Division() == nullptr);  // on a small screen only at the user's request
+      return;
+    }
+    QVERIFY(Division()->isVisible());
+    QVERIFY(!Division()->frameGeometry().intersects(study_->Window().frameGeometry()));
+    QTRY_VERIFY(study_->Window().isActiveWindow());
+    QCOMPARE(QApplication::focusWidget(), field);
+    // At the user's request it stands where he has put it.
+    Division()->move(60, 70);
+    Division()->hide();
+    OpenWithKey();
+    QCOMPARE(Division()->pos(), QPoint(60, 70));
+    Division()->close();
+    Opener().OpenBeside();
+    QVERIFY(!Division()->isVisible());
+  }
+
+  void remembersSplitterAndLanguage() {
+    study_->Type("Text1(2)", QStringLiteral("1"));
+    auto* splitter = Find<QSplitter>("DivisionSplitter");
+    QTRY_VERIFY(splitter->isVisible());
+    Division()->resize(700, 700);
+    QWidget* handle = splitter->handle(1);
+    const QPoint middle = handle->rect().center();
+    QTest::mousePress(handle, Qt::LeftButton, {}, middle);
+    QTest::mouseMove(handle, middle + QPoint(0, 60));
+    QTest::mouseRelease(handle, Qt::LeftButton, {}, middle + QPoint(0, 60));
+    for (QAction* language : Find<QToolButton>("Language")->menu()->actions()) {
+      if (language->text() == NameOf(Language::Urdu)) language->trigger();
+    }
+    QTRY_COMPARE(Division()->layoutDirection(), Qt::RightToLeft);
+    QCoreApplication::processEvents();
+    const QList<int> sizes = splitter->sizes();
+    study_->Open();
+    OpenWithKey();
+    study_->Type("Text1(2)", QStringLiteral("1"));
+    splitter = Find<QSplitter>("DivisionSplitter");
+    QTRY_VERIFY(splitter->isVisible());
+    QTRY_COMPARE(splitter->sizes(), sizes);
+    // The next start of the program speaks it too.
+    QCOMPARE(ChosenLanguage(study_->Store()), std::optional(Language::Urdu));
+    QCOMPARE(study_->Find<QAction>("Case")->text(), QStringLiteral("مسئلہ"));
+    ChooseLanguage(study_->Store(), Language::English);
   }
 
   // Nothing is cut on a small screen: what has no space scrolls.

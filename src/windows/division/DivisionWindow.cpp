@@ -43,6 +43,8 @@ constexpr int margin = 10;
 constexpr int spacing = 6;
 constexpr QSize usualSize{900, 820};
 constexpr int leastWidth = 560;
+constexpr int leastSeen = 120;
+constexpr int overlap = 20;
 /// A change is announced when the typing pauses.
 constexpr int announceAfter = 700;
 
@@ -289,13 +291,24 @@ QRect DivisionWindow::PlaceBeside(const QWidget& study) const {
   return {left, study.y(), std::min(size.width(), screen.right() + 1 - left), size.height()};
 }
 
+// Where it was, if enough of it is on the screen to take hold of. It covers Case Study only at the user's
+// request.
+QRect DivisionWindow::SavedPlace(const QWidget& study) const {
+  const QList<int> saved = settings_.Numbers("Place", 4);
+  if (saved.isEmpty()) return {};
+  const QRect place(saved[0], saved[1], saved[2], saved[3]);
+  const QRect seen = place & study.screen()->availableGeometry();
+  if (seen.width() < leastSeen || seen.height() < leastSeen || seen.top() - place.top() > overlap) return {};
+  const QRect free = study.frameGeometry().adjusted(overlap, overlap, -overlap, -overlap);
+  const bool opensByItself = testAttribute(Qt::WA_ShowWithoutActivating);
+  return opensByItself && HasRoomBeside(study) && place.intersects(free) ? QRect() : place;
+}
+
 void DivisionWindow::ShowBeside(const QWidget& study) {
   if (!isVisible()) {
     const QRect screen = study.screen()->availableGeometry();
-    const QList<int> saved = settings_.Numbers("Place", 4);
-    QRect place;
-    if (!saved.isEmpty()) place = QRect(saved[0], saved[1], saved[2], saved[3]);
-    if (place.isEmpty() || !screen.intersects(place)) place = PlaceBeside(study);
+    QRect place = SavedPlace(study);
+    if (place.isEmpty()) place = PlaceBeside(study);
     resize(place.size().boundedTo(screen.size() - QSize(0, style()->pixelMetric(QStyle::PM_TitleBarHeight))));
     move(place.topLeft());
   }

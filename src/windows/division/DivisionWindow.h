@@ -72,6 +72,7 @@ class DivisionWindow : public QMainWindow {
   void SupposeDead(faraid::Kind heir, int heads);
   void LeaveSupposition();
   QRect PlaceBeside(const QWidget& study) const;
+  QRect SavedPlace(const QWidget& study) const;
 
   CaseStudy& form_;
   Settings& store_;
