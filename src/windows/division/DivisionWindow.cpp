@@ -297,6 +297,7 @@ QRect DivisionWindow::SavedPlace(const QWidget& study) const {
   const QList<int> saved = settings_.Numbers("Place", 4);
   if (saved.isEmpty()) return {};
   const QRect place(saved[0], saved[1], saved[2], saved[3]);
+  if (QGuiApplication::platformName().startsWith(QLatin1String("wayland"))) return place;  // knows no places
   const QRect seen = place & study.screen()->availableGeometry();
   if (seen.width() < leastSeen || seen.height() < leastSeen || seen.top() - place.top() > overlap) return {};
   const QRect free = study.frameGeometry().adjusted(overlap, overlap, -overlap, -overlap);
