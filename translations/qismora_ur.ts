@@ -25,11 +25,11 @@
     </message>
     <message>
         <source>No case was saved or opened yet</source>
-        <translation>ابھی تک کوئی مسئلہ محفوظ کیا یا کھولا نہیں گیا</translation>
+        <translation>ابھی تک کوئی صورت محفوظ کی یا کھولی نہیں گئی</translation>
     </message>
     <message>
         <source>&amp;Case</source>
-        <translation>مسئلہ</translation>
+        <translation>صورت</translation>
     </message>
     <message>
         <source>&amp;Recent</source>
@@ -53,7 +53,7 @@
     </message>
     <message>
         <source>Qismora cases (*.qismora)</source>
-        <translation>Qismora کے مسائل (*.qismora)</translation>
+        <translation>Qismora کی صورتیں (*.qismora)</translation>
     </message>
     <message>
         <source>All files (*)</source>
@@ -61,11 +61,11 @@
     </message>
     <message>
         <source>Open case</source>
-        <translation>مسئلہ کھولیں</translation>
+        <translation>صورت کھولیں</translation>
     </message>
     <message>
         <source>Save case</source>
-        <translation>مسئلہ محفوظ کریں</translation>
+        <translation>صورت محفوظ کریں</translation>
     </message>
     <message>
         <source>The text is not UTF-8.</source>
@@ -93,7 +93,7 @@
     </message>
     <message>
         <source>&quot;{text}&quot; is not a version of case files.</source>
-        <translation>&quot;{text}&quot; مسئلے کی فائلوں کا کوئی نسخہ نہیں ہے۔</translation>
+        <translation>&quot;{text}&quot; صورتوں کی فائلوں کا کوئی نسخہ نہیں ہے۔</translation>
     </message>
     <message>
         <source>The line is too long.</source>
@@ -101,7 +101,7 @@
     </message>
     <message>
         <source>The file is too large for a case.</source>
-        <translation>فائل ایک مسئلے کے لیے بہت بڑی ہے۔</translation>
+        <translation>فائل ایک صورت کے لیے بہت بڑی ہے۔</translation>
     </message>
     <message>
         <source>&quot;{text}&quot; takes the word ticked, or 0.</source>
@@ -177,7 +177,7 @@
     </message>
     <message>
         <source>The case could not be worked out.</source>
-        <translation>مسئلہ حل نہ ہو سکا۔</translation>
+        <translation>صورت حل نہ ہو سکی۔</translation>
     </message>
     <message>
         <source>Aul/ Radd worked on figures that it had adjusted already. Choose Residuaries again.</source>
@@ -213,7 +213,7 @@
     </message>
     <message>
         <source>Refused: these figures are not your case. {reason}</source>
-        <translation>رد کیا گیا: یہ اعداد آپ کے مسئلے کے نہیں۔ {reason}</translation>
+        <translation>نامنظور: یہ اعداد آپ کی صورت کے نہیں۔ {reason}</translation>
     </message>
     <message>
         <source>Fields have changed since the answer of {command}.</source>
@@ -245,7 +245,7 @@
     </message>
     <message>
         <source>This case has not been saved.</source>
-        <translation>یہ مسئلہ محفوظ نہیں کیا گیا۔</translation>
+        <translation>یہ صورت محفوظ نہیں کی گئی۔</translation>
     </message>
     <message>
         <source>{file} has changed since it was saved.</source>
@@ -257,11 +257,11 @@
     </message>
     <message>
         <source>The command was not finished.</source>
-        <translation>حکم پورا نہیں ہوا۔</translation>
+        <translation>کمانڈ پوری نہیں ہوئی۔</translation>
     </message>
     <message>
         <source>{field} {text} is too large and will be refused</source>
-        <translation>{field} {text} بہت بڑا ہے اور رد کیا جائے گا</translation>
+        <translation>{field} {text} بہت بڑا ہے اور قبول نہیں کیا جائے گا</translation>
     </message>
     <message>
         <source>{field} {text} is read as {number}</source>

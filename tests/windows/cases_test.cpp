@@ -161,7 +161,7 @@ class CasesTest : public QObject {
     Type("Text1(25)", "18,40,000");
     SetLanguage(Language::Arabic);
     auto* readings = Find<QLabel>(study_, "Readings");
-    QTRY_VERIFY(readings->text().startsWith(Isolated(QStringLiteral("التركة"))));
+    QTRY_VERIFY(readings->text().startsWith(Isolated(QStringLiteral("إجمالي التركة"))));
     QVERIFY(readings->text().contains(QStringLiteral("18,40,000")));
     QCOMPARE(State(), QStringLiteral("لا جواب بعد."));
     QCOMPARE(Title(), QStringLiteral("غير محفوظة"));

@@ -293,7 +293,7 @@ class DivisionWindowTest : public QObject {
     QTRY_COMPARE(splitter->sizes(), sizes);
     // The next start of the program speaks it too.
     QCOMPARE(ChosenLanguage(study_->Store()), std::optional(Language::Urdu));
-    QCOMPARE(study_->Find<QAction>("Case")->text(), QStringLiteral("مسئلہ"));
+    QCOMPARE(study_->Find<QAction>("Case")->text(), QStringLiteral("صورت"));
     ChooseLanguage(study_->Store(), Language::English);
   }
 

@@ -1,6 +1,7 @@
 #include "windows/help/HelpWindow.h"
 
 #include <QAction>
+#include <QApplication>
 #include <QCoreApplication>
 #include <QDesktopServices>
 #include <QDir>
@@ -137,6 +138,7 @@ void AddHelpMenu(QMenuBar* bar) {
   QObject::connect(menu, &QMenu::aboutToShow, menu, [menu] {
     StartSavedLanguage();
     menu->setLayoutDirection(CurrentDirection());
+    menu->setFont(FontBesideEnglish(QApplication::font(menu)));
     const QList<QAction*> actions = menu->actions();
     for (qsizetype i = 0; i < actions.size(); ++i) actions[i]->setText(Help::tr(entries[i].Caption));
   });
