@@ -53,7 +53,7 @@
     </message>
     <message>
         <source>Qismora cases (*.qismora)</source>
-        <translation>مسائل Qismora ‏(*.qismora)</translation>
+        <translation>مسائل Qismora (*.qismora)</translation>
     </message>
     <message>
         <source>All files (*)</source>

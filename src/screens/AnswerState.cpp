@@ -126,9 +126,10 @@ Message AnswerState::Sentence() const {
       return Message{"Answer of {command}: not the whole distribution, which Residuaries (F5) gives.",
                      command};
     case ToAdjust:
-      if (radd_)
+      if (radd_) {
         return Message{"Answer of {command}, not final: Radd is still to be applied (Aul/ Radd, F6).",
                        command};
+      }
       return Message{"Answer of {command}, not final: Aul is still to be applied (Aul/ Radd, F6).", command};
     case Final:
       return Message{"Answer of {command}: final.", command};

@@ -38,7 +38,7 @@ CaseDocument::CaseDocument(CaseStudy& form, Ports& ports) : form_(form), ports_(
 CaseTexts CaseDocument::Texts() const { return ReadScreen(form_, form_.HeirsConsent); }
 
 std::string CaseDocument::SentenceOf(const CaseFileFault& fault) const {
-  const std::string sentence = Say(MessageOf(fault.Fault, fault.Line.Text));
+  std::string sentence = Say(MessageOf(fault.Fault, fault.Line.Text));
   if (fault.Line.Number == 0) return sentence;
   return Say(Message{"Line {line}: {text}", {{"line", Join(fault.Line.Number)}, {"text", sentence}}});
 }

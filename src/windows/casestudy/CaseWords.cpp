@@ -26,7 +26,9 @@ QString CaseWords::Of(const Message& message) {
 
 Answer CaseDialogs::Show(BoxStyle style, BoxButtons buttons, const std::string& text) {
   const DialogsInLanguage ours;
-  return boxes_.Show(style, buttons, text);
+  // A sentence may begin with the name of a file, which must not turn it around.
+  const std::string mark = CurrentDirection() == Qt::RightToLeft ? FromQt(QChar(0x200F)) : std::string();
+  return boxes_.Show(style, buttons, mark + text);
 }
 
 std::optional<std::string> CaseDialogs::AskPath(const std::string& suggestedName, const std::string& filter) {

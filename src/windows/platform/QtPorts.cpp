@@ -167,7 +167,10 @@ Answer QtMessageBoxes::Show(BoxStyle style, BoxButtons buttons, const std::strin
   QMessageBox box(IconOf(style), QString::fromUtf8(ApplicationTitle), ToQtLines(text), Offered(buttons),
                   Owner());
   box.setTextFormat(Qt::PlainText);
-  box.setLayoutDirection(DialogsInLanguage::Direction());
+  if (DialogsInLanguage::Direction() == Qt::RightToLeft) {
+    box.setLayoutDirection(Qt::RightToLeft);
+    box.setFont(FontBesideEnglish(box.font()));
+  }
   KeepLines(box);
   KeepInSight(box);
   // The default button consents to nothing and loses nothing.
@@ -209,7 +212,7 @@ QString CaseFilter() {
 }
 
 std::optional<std::string> Asked(QFileDialog& dialog) {
-  dialog.setLayoutDirection(DialogsInLanguage::Direction());
+  dialog.setFont(FontBesideEnglish(dialog.font()));  // not mirrored, which would turn paths around
   KeepInSight(dialog);
   const PointerShape usersTurn(Qt::ArrowCursor);
   if (dialog.exec() != QDialog::Accepted || dialog.selectedFiles().isEmpty()) return std::nullopt;

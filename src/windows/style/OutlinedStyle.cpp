@@ -5,6 +5,7 @@
 #include <QPainter>
 #include <QStyleOption>
 
+#include "windows/division/Languages.h"
 #include "windows/style/Colours.h"
 
 namespace qismora {
@@ -164,8 +165,9 @@ void OutlinedStyle::drawPrimitive(PrimitiveElement element, const QStyleOption* 
 // An entry of the menu bar that the keyboard has selected looks like one that the mouse has opened.
 void OutlinedStyle::drawControl(ControlElement element, const QStyleOption* option, QPainter* painter,
                                 const QWidget* widget) const {
-  // Styles expect the painter to have the direction of the application. That of a window may be another.
-  painter->setLayoutDirection(option->direction);
+  // Styles expect the painter to have the direction of the application. That of a window may be another. Only
+  // push buttons mirror their text by themselves.
+  painter->setLayoutDirection(element == CE_PushButtonLabel ? Qt::LeftToRight : option->direction);
   const auto* entry = qstyleoption_cast<const QStyleOptionMenuItem*>(option);
   if (element == CE_MenuBarItem && entry != nullptr && (entry->state & State_Selected) != 0) {
     QStyleOptionMenuItem opened = *entry;
@@ -194,7 +196,8 @@ int OutlinedStyle::styleHint(StyleHint hint, const QStyleOption* option, const Q
     return static_cast<int>(Line(option->palette, gridStrength).rgba());
   }
   // An underlined letter of Arabic script would be drawn apart from the word that it joins.
-  if (hint == SH_UnderlineShortcut && widget != nullptr && widget->layoutDirection() == Qt::RightToLeft) {
+  if (hint == SH_UnderlineShortcut && widget != nullptr &&
+      (widget->layoutDirection() == Qt::RightToLeft || DialogsInLanguage::Direction() == Qt::RightToLeft)) {
     return 0;
   }
   return QProxyStyle::styleHint(hint, option, widget, returned);
