@@ -15,6 +15,7 @@
 #include "CaseStudyFixture.h"
 #include "screens/CaseFile.h"
 #include "windows/division/DivisionOpener.h"
+#include "windows/division/DivisionPlace.h"
 #include "windows/division/DivisionWindow.h"
 #include "windows/division/FamilyTreeView.h"
 #include "windows/division/Languages.h"
@@ -251,7 +252,7 @@ class DivisionWindowTest : public QObject {
     auto* field = study_->Find<QLineEdit>("Text1(2)");
     field->setFocus();
     Opener().OpenBeside();
-    if (!DivisionWindow::HasRoomBeside(study_->Window())) {
+    if (!HasRoomBeside(study_->Window())) {
       QVERIFY(Division() == nullptr);  // on a small screen only at the user's request
       return;
     }

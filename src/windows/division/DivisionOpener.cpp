@@ -4,6 +4,7 @@
 #include <QEvent>
 #include <QWidget>
 
+#include "windows/division/DivisionPlace.h"
 #include "windows/division/DivisionWindow.h"
 
 namespace qismora {
@@ -36,8 +37,7 @@ void DivisionOpener::Open() {
 }
 
 void DivisionOpener::OpenBeside() {
-  if (!study_->isVisible() || !DivisionSettings(store_).IsWanted() || !DivisionWindow::HasRoomBeside(*study_))
-    return;
+  if (!study_->isVisible() || !DivisionSettings(store_).IsWanted() || !HasRoomBeside(*study_)) return;
   Make();
   window_->setAttribute(Qt::WA_ShowWithoutActivating, true);
   QWidget* active = QApplication::activeWindow();

@@ -8,7 +8,6 @@
 #include <QLabel>
 #include <QMenu>
 #include <QPointer>
-#include <QScreen>
 #include <QScrollArea>
 #include <QShortcut>
 #include <QShowEvent>
@@ -22,6 +21,7 @@
 #include "screens/HeirFields.h"
 #include "windows/division/DivisionDocument.h"
 #include "windows/division/DivisionPictures.h"
+#include "windows/division/DivisionPlace.h"
 #include "windows/division/DivisionSentences.h"
 #include "windows/division/DivisionTableView.h"
 #include "windows/division/DivisionTools.h"
@@ -41,10 +41,6 @@ using faraid::School;
 
 constexpr int margin = 10;
 constexpr int spacing = 6;
-constexpr QSize usualSize{900, 820};
-constexpr int leastWidth = 560;
-constexpr int leastSeen = 120;
-constexpr int overlap = 20;
 /// A change is announced when the typing pauses.
 constexpr int announceAfter = 700;
 
@@ -277,40 +273,11 @@ void DivisionWindow::LeaveSupposition() {
 
 // Where it stands
 
-bool DivisionWindow::HasRoomBeside(const QWidget& study) {
-  const QRect screen = study.screen()->availableGeometry();
-  return screen.right() - study.frameGeometry().right() >= leastWidth;
-}
-
-QRect DivisionWindow::PlaceBeside(const QWidget& study) const {
-  const QRect screen = study.screen()->availableGeometry();
-  const QSize size =
-      usualSize.boundedTo(screen.size() - QSize(0, style()->pixelMetric(QStyle::PM_TitleBarHeight)));
-  if (!HasRoomBeside(study)) return {QPoint(screen.right() + 1 - size.width(), screen.top()), size};
-  const int left = study.frameGeometry().right() + 1;
-  return {left, study.y(), std::min(size.width(), screen.right() + 1 - left), size.height()};
-}
-
-// Where it was, if enough of it is on the screen to take hold of. It covers Case Study only at the user's
-// request.
-QRect DivisionWindow::SavedPlace(const QWidget& study) const {
-  const QList<int> saved = settings_.Numbers("Place", 4);
-  if (saved.isEmpty()) return {};
-  const QRect place(saved[0], saved[1], saved[2], saved[3]);
-  if (QGuiApplication::platformName().startsWith(QLatin1String("wayland"))) return place;  // knows no places
-  const QRect seen = place & study.screen()->availableGeometry();
-  if (seen.width() < leastSeen || seen.height() < leastSeen || seen.top() - place.top() > overlap) return {};
-  const QRect free = study.frameGeometry().adjusted(overlap, overlap, -overlap, -overlap);
-  const bool opensByItself = testAttribute(Qt::WA_ShowWithoutActivating);
-  return opensByItself && HasRoomBeside(study) && place.intersects(free) ? QRect() : place;
-}
-
 void DivisionWindow::ShowBeside(const QWidget& study) {
   if (!isVisible()) {
-    const QRect screen = study.screen()->availableGeometry();
-    QRect place = SavedPlace(study);
-    if (place.isEmpty()) place = PlaceBeside(study);
-    resize(place.size().boundedTo(screen.size() - QSize(0, style()->pixelMetric(QStyle::PM_TitleBarHeight))));
+    const QRect place = DivisionPlace(study, settings_, testAttribute(Qt::WA_ShowWithoutActivating),
+                                      style()->pixelMetric(QStyle::PM_TitleBarHeight));
+    resize(place.size());
     move(place.topLeft());
   }
   setWindowState(windowState() & ~Qt::WindowMinimized);

@@ -36,8 +36,6 @@ class DivisionWindow : public QMainWindow {
   std::function<void()> ShowCase;
   /// Places the window beside Case Study, or where it was when it was last closed, and shows it.
   void ShowBeside(const QWidget& study);
-  /// Whether the screen has room for both windows side by side.
-  static bool HasRoomBeside(const QWidget& study);
 
   /// What is shown: the case of the screen, or what it would be if an heir had died before.
   const DivisionView& Shown() const { return shown_; }
@@ -71,8 +69,6 @@ class DivisionWindow : public QMainWindow {
   void FillMenu(QMenu* menu);
   void SupposeDead(faraid::Kind heir, int heads);
   void LeaveSupposition();
-  QRect PlaceBeside(const QWidget& study) const;
-  QRect SavedPlace(const QWidget& study) const;
 
   CaseStudy& form_;
   Settings& store_;
