@@ -295,6 +295,10 @@
         <source>{file} was not opened.</source>
         <translation>لم يُفتح {file}.</translation>
     </message>
+    <message>
+        <source>The division differs: F8.</source>
+        <translation>القسمة تختلف عنه: F8</translation>
+    </message>
 </context>
 <context>
     <name>Dialogs</name>

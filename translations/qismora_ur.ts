@@ -295,6 +295,10 @@
         <source>{file} was not opened.</source>
         <translation>{file} نہیں کھولی گئی۔</translation>
     </message>
+    <message>
+        <source>The division differs: F8.</source>
+        <translation>تقسیم مختلف ہے: F8</translation>
+    </message>
 </context>
 <context>
     <name>Dialogs</name>

@@ -75,6 +75,26 @@ class CasesTest : public QObject {
     QVERIFY(Find<QLineEdit>(study_, "Text1(2)")->text() == QLatin1String("101"));
   }
 
+  // What the commands call final may differ from classical law; the state leads to the division.
+  void aFinalAnswerThatDiffersIsMarked() {
+    for (const auto& [field, text] :
+         std::initializer_list<std::pair<const char*, const char*>>{{"Text1(1)", "1"},
+                                                                    {"Text1(3)", "2"},
+                                                                    {"Text1(14)", "1"},
+                                                                    {"Text1(16)", "1"},
+                                                                    {"Text1(25)", "24000"},
+                                                                    {"Text1(26)", "0"},
+                                                                    {"Text1(27)", "0"},
+                                                                    {"Text1(28)", "0"}}) {
+      Type(field, text);
+    }
+    Key(Qt::Key_F5, Qt::NoModifier);
+    boxes_.Take();
+    Key(Qt::Key_F6, Qt::NoModifier);
+    QCOMPARE(State(), QStringLiteral("Answer of Aul/ Radd: final. The division differs: F8."));
+    QVERIFY(Find<QLabel>(study_, "AnswerState")->font().bold());
+  }
+
   // Whatever stops a load, the figures on the screen are not those of the case; the state says so with the
   // reason of the message box, until a load has succeeded.
   void everyRefusalIsSaid_data() {

@@ -5,6 +5,7 @@
 #include <QLocale>
 #include <utility>
 
+#include "screens/DivisionView.h"
 #include "windows/casestudy/CaseWords.h"
 #include "windows/division/Languages.h"
 #include "windows/platform/Utf8.h"
@@ -62,12 +63,17 @@ void AnswerStrip::SayAll() {
   ShowAnswer();
 }
 
-// What needs the user's attention stands in bold, so that it is told apart without colour.
+// What needs the user's attention stands in bold, so that it is told apart without colour. A final answer may
+// still differ from classical law.
 void AnswerStrip::ShowAnswer() {
+  const bool differs = form_.Standing() == AnswerStanding::Final &&
+                       !ViewDivision(form_, form_.HeirsConsent, faraid::School::Hanafi).Differs.None();
+  QString words = CaseWords::Of(form_.AnswerSentence());
+  if (differs) words += QLatin1Char(' ') + CaseWords::tr("The division differs: F8.");
   QFont font = FontBesideEnglish(this->font());
-  font.setBold(IsWarning(form_.Standing()));
+  font.setBold(differs || IsWarning(form_.Standing()));
   answer_->setFont(font);
-  answer_->Show(CaseWords::Of(form_.AnswerSentence()), true);
+  answer_->Show(words, true);
 }
 
 ReadingsPanel::ReadingsPanel(CaseStudy& form, QWidget* parent)
