@@ -266,6 +266,36 @@ class Program(unittest.TestCase):
         self.gone("Case Study")
         self.leave(changed=True)
 
+    def test_the_division_is_read_while_the_family_changes(self):
+        self.choose("FIND SHARES")
+        study = self.window("Case Study")
+        for field, figure in (("Wives", "1"), ("Daughters", "2"), ("Gross estate", "24000"), ("Funeral", "0"),
+                              ("Debts", "0"), ("Wills", "0")):
+            self.type(study, field, figure)
+        self.press(study, "menu item", "Division")
+        division = wait_for("the division", lambda: next(
+            w for w in self.application if w.name.startswith("Division") and has(w, pyatspi.STATE_SHOWING)))
+        self.assert_named(division)
+        self.find(division, "notification", "24,000.00 is divided among 3 heirs.")
+        grid = self.find(division, "table", "Who receives what").queryTable()
+
+        announced = self.announcements()
+        self.type(study, "Mother", "1")
+        wait_for("the announcement", lambda: any("among 4 heirs" in words for words in announced()))
+        self.assertEqual(sum("among 4 heirs" in words for words in announced()), 1)
+        rows = [grid.getAccessibleAt(row, 0).name for row in range(grid.nRows)]
+        self.assertIn("Mother: Heads 1, Share 7/40, of 40 7, Together 4,200.00", rows[2])
+        self.assertIn("because there are children (Quran 4:11); after Radd 7/40", rows[2])
+        tree = self.find(division, "image", "Family tree")
+        self.assertIn("Mother: 7/40", tree.description)
+
+        self.type(study, "Sons", "many")
+        self.find(division, "notification", "Nothing is divided while a field cannot be read.")
+        self.assertIn("is not a whole number", self.find(division, "label", "Sons: ").name)
+        self.press(study, "menu item", "Back")
+        self.gone("Case Study")
+        self.leave(changed=True)
+
     def test_the_other_windows_are_opened_read_and_left(self):
         self.assert_named(self.menu)
         for entry, title in (("Quranic Laws", "QURANIC LAWS OF INHERITANCE"), ("Indian Acts", "INDIAN ACTS COSIDERED"),

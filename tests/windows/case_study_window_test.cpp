@@ -342,6 +342,8 @@ class CaseStudyWindowTest : public QObject {
     QCOMPARE(read->role(), QAccessible::Notification);
     QCOMPARE(fixture_->Window().size(), size);
     QVERIFY(panel->geometry().left() > fixture_->Find("StatusBar1.Panel1")->geometry().left());
+    fixture_->Find<QLineEdit>("Text1(24)")->setText("Abdullah");
+    QCOMPARE(panel->text(), "Full reports are saved in " + QDir::currentPath());
   }
 
   void Animation() {

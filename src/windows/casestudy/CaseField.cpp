@@ -17,7 +17,6 @@ namespace {
 
 constexpr int rowMargin = 4;
 constexpr int textMargin = 2;
-const QColor amber(255, 176, 0);
 constexpr double tint = 0.35;
 
 }  // namespace
@@ -116,7 +115,7 @@ void CaseField::paintEvent(QPaintEvent* event) {
 void CaseField::initStyleOption(QStyleOptionFrame* option) const {
   QLineEdit::initStyleOption(option);
   if (!mark_.isEmpty()) {
-    option->palette.setColor(QPalette::Base, Between(palette().color(QPalette::Base), amber, tint));
+    option->palette.setColor(QPalette::Base, Between(palette().color(QPalette::Base), Amber, tint));
   }
   if (isReadOnly()) option->palette.setBrush(QPalette::Base, palette().window());
 }

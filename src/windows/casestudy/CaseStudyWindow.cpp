@@ -151,6 +151,9 @@ void CaseStudyWindow::BuildStatusBar(Ports& ports) {
   ports.SaveEnded = [saves = QPointer<SavePanel>(saves)](const SaveOutcome& outcome) {
     if (saves != nullptr) saves->ShowOutcome(outcome);
   };
+  // What became of a save is said until the next case is typed.
+  for (int i = 0; i < form_.Text1.Size; ++i)
+    form_.Text1(i).Text.WhenChanged([saves] { saves->ShowFolder(); });
 }
 
 void CaseStudyWindow::BuildTimer() {

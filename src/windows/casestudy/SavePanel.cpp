@@ -5,13 +5,16 @@
 #include <QStyle>
 
 #include "windows/platform/Utf8.h"
+#include "windows/widgets/AccessibleRole.h"
 
 namespace qismora {
 
 SavePanel::SavePanel(const QString& folder, QWidget* parent)
-    : AnnouncedLabel(QStringLiteral("StatusBar1.Panel2"), parent) {
-  Say(QStringLiteral("Full reports are saved in "), folder);
+    : AnnouncedLabel(QStringLiteral("StatusBar1.Panel2"), parent), folder_(folder) {
+  ShowFolder();
 }
+
+void SavePanel::ShowFolder() { Say(QStringLiteral("Full reports are saved in "), folder_); }
 
 void SavePanel::Say(const QString& words, const QString& path) {
   words_ = words;
@@ -23,7 +26,7 @@ void SavePanel::ShowOutcome(const SaveOutcome& outcome) {
   Say(outcome.Saved() ? QStringLiteral("Saved: ")
                       : QStringLiteral("Not saved (%1): ").arg(ToQt(outcome.Reason)),
       ToQt(outcome.Path));
-  Announce();
+  Announce(this);
 }
 
 void SavePanel::paintEvent(QPaintEvent*) {

@@ -13,6 +13,8 @@ class SavePanel : public AnnouncedLabel {
   SavePanel(const QString& folder, QWidget* parent);
 
   void ShowOutcome(const SaveOutcome& outcome);
+  /// Where reports are saved; the outcome of an earlier save goes.
+  void ShowFolder();
 
  protected:
   void paintEvent(QPaintEvent* event) override;
@@ -20,6 +22,7 @@ class SavePanel : public AnnouncedLabel {
  private:
   void Say(const QString& words, const QString& path);
 
+  QString folder_;
   QString words_;
   QString path_;
 };

@@ -1,14 +1,15 @@
 #include "windows/division/DivisionSentences.h"
 
-#include <QAccessible>
 #include <QBoxLayout>
 #include <QCheckBox>
+#include <QTextDocumentFragment>
 #include <utility>
 
 #include "windows/division/DivisionWords.h"
 #include "windows/division/Notice.h"
 #include "windows/division/Supposition.h"
 #include "windows/platform/Utf8.h"
+#include "windows/widgets/AccessibleRole.h"
 
 namespace qismora {
 
@@ -74,6 +75,8 @@ DivisionSentences::DivisionSentences(QWidget* parent)
 void DivisionSentences::Show(const DivisionView& view, const Supposition& supposition, bool heirsConsent) {
   headline_->setText(words::Headline(view));
   supposition_->Say(supposition.Words());
+  const QString supposed = QTextDocumentFragment::fromHtml(supposition.Words()).toPlainText();
+  headline_->setAccessibleName((headline_->text() + QLatin1Char(' ') + supposed).trimmed());
   estate_->Say(view.Unreadable.empty() ? words::EstateSummary(view).toHtmlEscaped() : QString());
   examples_->Say(Examples(view, tr("Type the estate")));
   bequests_->Say(words::BequestNotice(view).toHtmlEscaped());
@@ -94,10 +97,8 @@ void DivisionSentences::Recolour() {
 }
 
 void DivisionSentences::Announce() {
-  const QString words = headline_->text() + QLatin1Char(' ') + supposition_->text();
-  if (std::exchange(announced_, words) == words || !QAccessible::isActive()) return;
-  QAccessibleEvent appeared(headline_, QAccessible::ObjectShow);
-  QAccessible::updateAccessibility(&appeared);
+  const QString words = headline_->accessibleName();
+  if (std::exchange(announced_, words) != words) qismora::Announce(headline_);
 }
 
 }  // namespace qismora

@@ -20,7 +20,6 @@ using Place = DivisionTable::Place;
 constexpr int swatchSize = 12;
 constexpr double quietness = 0.35;
 constexpr double tint = 0.16;
-const QColor amber(255, 176, 0);
 const QString dash = QStringLiteral("–");
 
 QString Signed(faraid::Hundredths amount) {
@@ -308,7 +307,7 @@ QVariant DivisionModel::data(const QModelIndex& index, int role) const {
     }
     case Qt::BackgroundRole:
       if (row.Differs && index.column() == table_.Marked && !IsBlackAndWhite(palette))
-        return Between(palette.color(QPalette::Base), amber, tint);
+        return Between(palette.color(QPalette::Base), Amber, tint);
       return {};
     default:
       return {};

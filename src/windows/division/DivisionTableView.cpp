@@ -21,7 +21,6 @@ using faraid::Kind;
 constexpr int cellMargin = 5;
 constexpr int leastSentence = 165;
 constexpr int leastHeight = 110;
-const QColor amber(255, 176, 0);
 
 /// Lines between the rows, a stronger one above the sum, and a stripe where something differs.
 class RowDelegate : public QStyledItemDelegate {
@@ -58,7 +57,7 @@ class RowDelegate : public QStyledItemDelegate {
       const bool rightToLeft = option.direction == Qt::RightToLeft;
       const int x = rightToLeft ? option.rect.right() - 3 : option.rect.left();
       painter->fillRect(x, option.rect.top(), 4, option.rect.height() - 1,
-                        IsBlackAndWhite(palette) ? text : Readable(amber, palette.color(QPalette::Base), 3));
+                        IsBlackAndWhite(palette) ? text : Readable(Amber, palette.color(QPalette::Base), 3));
     }
   }
 

@@ -133,6 +133,8 @@ void DivisionWindow::ConnectParts() {
     if (ShowCase) ShowCase();
   });
   connect(new QShortcut(Qt::Key_Escape, this), &QShortcut::activated, this, [this] { LeaveSupposition(); });
+  connect(new QShortcut(Qt::Key_F1, this), &QShortcut::activated, this,
+          [this] { ShowHelp(QString::fromLatin1(GuidePage), QString::fromLatin1(KeysAnchor), this); });
 }
 
 /// All words that stay while figures change, in the current language.

@@ -6,6 +6,7 @@
 #include <utility>
 
 #include "windows/division/Patterns.h"
+#include "windows/widgets/AccessibleRole.h"
 
 namespace qismora {
 
@@ -20,6 +21,7 @@ double Value(const faraid::Fraction& share) {
 }  // namespace
 
 EstateBar::EstateBar(QWidget* parent) : QWidget(parent) {
+  SetAccessibleRole(this, QAccessible::Graphic);
   setObjectName(QStringLiteral("EstateBar"));
   setSizePolicy(QSizePolicy::Expanding, QSizePolicy::Fixed);
 }

@@ -8,6 +8,7 @@
 
 #include "windows/division/Patterns.h"
 #include "windows/style/Colours.h"
+#include "windows/widgets/AccessibleRole.h"
 
 namespace qismora {
 
@@ -28,6 +29,7 @@ QString SentenceOf(const TreeText& text) { return text.Name + QStringLiteral(": 
 }  // namespace
 
 FamilyTreeView::FamilyTreeView(QWidget* parent) : QWidget(parent) {
+  SetAccessibleRole(this, QAccessible::Graphic);
   setObjectName(QStringLiteral("FamilyTree"));
   setAccessibleName(tr("Family tree"));
   setFocusPolicy(Qt::StrongFocus);

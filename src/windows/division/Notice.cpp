@@ -1,12 +1,11 @@
 #include "windows/division/Notice.h"
 
-#include <QAccessible>
-#include <QAccessibleWidget>
 #include <QGuiApplication>
 #include <QPainter>
 
 #include "windows/division/Languages.h"
 #include "windows/style/Colours.h"
+#include "windows/widgets/AccessibleRole.h"
 
 namespace qismora {
 
@@ -16,23 +15,17 @@ constexpr int noticeMargin = 8;
 constexpr int stripeWidth = 5;
 constexpr double headlineSize = 1.3;
 constexpr double noticeTint = 0.16;
-const QColor amber(255, 176, 0);
-
-QAccessibleInterface* HeadlineInterface(const QString&, QObject* object) {
-  auto* headline = dynamic_cast<Headline*>(object);
-  return headline == nullptr ? nullptr : new QAccessibleWidget(headline, QAccessible::Notification);
-}
 
 /// The colour of a notice's background.
 QColor NoticeColour(const QPalette& desktop) {
   if (IsBlackAndWhite(desktop)) return desktop.color(QPalette::Window);
-  return Between(desktop.color(QPalette::Base), amber, noticeTint);
+  return Between(desktop.color(QPalette::Base), Amber, noticeTint);
 }
 
 }  // namespace
 
 Headline::Headline(QWidget* parent) : QLabel(parent) {
-  QAccessible::installFactory(HeadlineInterface);  // a second time changes nothing
+  SetAccessibleRole(this, QAccessible::Notification);
   setObjectName(QStringLiteral("Headline"));
   setWordWrap(true);
   setTextInteractionFlags(Qt::TextSelectableByMouse);
@@ -82,7 +75,7 @@ void Notice::paintEvent(QPaintEvent* event) {
   QPainter painter(this);
   const bool plain = IsBlackAndWhite(QGuiApplication::palette());
   const QColor line =
-      plain ? palette().color(QPalette::WindowText) : Readable(amber, palette().color(QPalette::Window), 3);
+      plain ? palette().color(QPalette::WindowText) : Readable(Amber, palette().color(QPalette::Window), 3);
   painter.setPen(line);
   painter.drawRect(rect().adjusted(0, 0, -1, -1));
   const int left = layoutDirection() == Qt::RightToLeft ? width() - stripeWidth : 0;

@@ -1,23 +1,14 @@
 #include "windows/widgets/AnnouncedLabel.h"
 
-#include <QAccessible>
-#include <QAccessibleWidget>
 #include <QPainter>
 #include <QStyle>
 
+#include "windows/widgets/AccessibleRole.h"
+
 namespace qismora {
 
-namespace {
-
-QAccessibleInterface* NotificationInterface(const QString&, QObject* object) {
-  auto* label = dynamic_cast<AnnouncedLabel*>(object);
-  return label == nullptr ? nullptr : new QAccessibleWidget(label, QAccessible::Notification);
-}
-
-}  // namespace
-
 AnnouncedLabel::AnnouncedLabel(const QString& name, QWidget* parent) : QLabel(parent) {
-  QAccessible::installFactory(NotificationInterface);  // once more changes nothing
+  SetAccessibleRole(this, QAccessible::Notification);
   setObjectName(name);
   setTextFormat(Qt::PlainText);
 }
@@ -25,19 +16,13 @@ AnnouncedLabel::AnnouncedLabel(const QString& name, QWidget* parent) : QLabel(pa
 void AnnouncedLabel::Show(const QString& words, bool announce) {
   if (words == text()) return;
   SetWords(words);
-  if (announce && !words.isEmpty()) Announce();
+  if (announce && !words.isEmpty()) Announce(this);
 }
 
 void AnnouncedLabel::SetWords(const QString& words) {
   setText(words);
   setToolTip(words);
   setAccessibleName(words);
-}
-
-// A screen reader announces a notification when it appears.
-void AnnouncedLabel::Announce() {
-  QAccessibleEvent appeared(this, QAccessible::ObjectShow);
-  QAccessible::updateAccessibility(&appeared);
 }
 
 QSize AnnouncedLabel::minimumSizeHint() const { return {0, QLabel::minimumSizeHint().height()}; }

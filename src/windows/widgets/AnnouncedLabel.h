@@ -17,8 +17,6 @@ class AnnouncedLabel : public QLabel {
 
  protected:
   void SetWords(const QString& words);
-  /// Makes a screen reader announce the words, even if they are not new.
-  void Announce();
   void paintEvent(QPaintEvent* event) override;
 };
 
