@@ -14,7 +14,7 @@ class QTextDocument;
 
 namespace qismora {
 
-/// A division on paper, in the current language: one or two pages in black and white.
+/// The contents of a division on paper, in the current language: one or two pages in black and white.
 class DivisionDocument {
  public:
   /// A division that has a table (DivisionView::IsDivided).
@@ -29,29 +29,20 @@ class DivisionDocument {
   std::optional<QString> SavePdf(const QString& path) const;
 
   /// The table alone: HTML for letters, tab-separated text for spreadsheets.
-  QString TableAsHtml() const;
-  QString TableAsText() const;
   std::unique_ptr<QMimeData> ForClipboard() const;
-
-  /// In which order the columns of a table are written. Qt's text documents run them from the left, whatever
-  /// the direction of the table; letters and spreadsheets turn them around.
-  enum class Order { FromTheLeft, AsRead };
 
  private:
   /// The part with which a second page begins. A tree that needs a page stands after the signatures.
   enum class Break { None, BeforeOthers, BeforeTree, BeforeTreeAlone };
 
   /// The text laid out for the device, in one or two pages.
-  std::unique_ptr<QTextDocument> SetIn(QPagedPaintDevice& device) const;
-  std::unique_ptr<QTextDocument> SetIn(QPagedPaintDevice& device, double points, Break where) const;
+  std::unique_ptr<QTextDocument> LaidOutFor(QPagedPaintDevice& device) const;
+  std::unique_ptr<QTextDocument> LaidOutFor(QPagedPaintDevice& device, double points, Break where) const;
   QString Html(Break where) const;
   QString Facts() const;
   QString Estate() const;
   QString Consent() const;
   QString Notice() const;
-  QString Table(Order order) const;
-  QString OthersTable(Order order) const;
-  QString OthersByReason() const;
   QString Signatures() const;
 
   DivisionView view_;

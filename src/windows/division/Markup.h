@@ -1,0 +1,31 @@
+#pragma once
+
+#include <QString>
+#include <QStringList>
+
+// HTML for the paper and the clipboard, in the direction of the current language. Words are given as plain
+// text.
+namespace qismora::markup {
+
+/// In which order the columns of a table are written. Qt's text documents run them from the left, whatever
+/// the direction of the table; letters and spreadsheets turn them around.
+enum class Order { FromTheLeft, AsRead };
+
+/// Where the text of a cell begins. Figures stand below each other with their last digits, in Arabic and Urdu
+/// too, where numbers run from the left as well.
+enum class Side { Start, Figures };
+
+QString Escaped(const QString& words);
+QString Tag(const char* tag, const QString& words);
+/// Empty where there are no words.
+QString Paragraph(const QString& words);
+
+/// A cell, of so many per cent of the table's width where that is not 0.
+QString Cell(const QString& words, Side side = Side::Start, const char* tag = "td", int percent = 0,
+             const QString& attributes = {});
+QString Row(QStringList cells, Order order = Order::FromTheLeft);
+/// The row that is repeated on every page.
+QString Head(const QString& row);
+QString Table(const QString& rows, bool ruled);
+
+}  // namespace qismora::markup
