@@ -1162,6 +1162,19 @@ Do you want to replace it?</source>
         <source>Saved: %1</source>
         <translation>حُفظ: %1</translation>
     </message>
+    <message>
+        <source>Supposition</source>
+        <translation>افتراض</translation>
+    </message>
+    <message>
+        <source>Supposition - %1</source>
+        <comment>name of a file</comment>
+        <translation>افتراض - %1</translation>
+    </message>
+    <message>
+        <source>This page is a supposition and not the division of the estate. It is not signed.</source>
+        <translation>هذه الصفحة افتراض وليست قسمة التركة، فلا تُوقَّع.</translation>
+    </message>
 </context>
 <context>
     <name>Reasons</name>
@@ -1665,6 +1678,25 @@ Do you want to replace it?</source>
     <message>
         <source>The deceased</source>
         <translation>المتوفى / المتوفاة</translation>
+    </message>
+    <message>
+        <source>the %1 %2</source>
+        <comment>all heads of an heir: the 3 daughters</comment>
+        <translation>جميع %2 (%1)</translation>
+    </message>
+    <message>
+        <source>%1 of %2 %3</source>
+        <comment>some heads of an heir: 2 of 3 daughters</comment>
+        <translation>%3 (%1 من %2)</translation>
+    </message>
+    <message>
+        <source>%1 and %2</source>
+        <comment>the items of a list, the last item</comment>
+        <translation>%1 و%2</translation>
+    </message>
+    <message>
+        <source>Supposition: as if %1 had died before the deceased.</source>
+        <translation>افتراض: على تقدير وفاة %1 قبل المورِّث.</translation>
     </message>
 </context>
 </TS>

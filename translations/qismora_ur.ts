@@ -1162,6 +1162,19 @@ Do you want to replace it?</source>
         <source>Saved: %1</source>
         <translation>محفوظ ہوئی: %1</translation>
     </message>
+    <message>
+        <source>Supposition</source>
+        <translation>فرضی صورت</translation>
+    </message>
+    <message>
+        <source>Supposition - %1</source>
+        <comment>name of a file</comment>
+        <translation>فرضی صورت - %1</translation>
+    </message>
+    <message>
+        <source>This page is a supposition and not the division of the estate. It is not signed.</source>
+        <translation>یہ صفحہ ایک فرضی صورت ہے، ترکے کی اصل تقسیم نہیں۔ اس پر دستخط نہیں کیے جاتے۔</translation>
+    </message>
 </context>
 <context>
     <name>Reasons</name>
@@ -1665,6 +1678,25 @@ Do you want to replace it?</source>
     <message>
         <source>The deceased</source>
         <translation>متوفی / متوفیہ</translation>
+    </message>
+    <message>
+        <source>the %1 %2</source>
+        <comment>all heads of an heir: the 3 daughters</comment>
+        <translation>تمام %1 %2</translation>
+    </message>
+    <message>
+        <source>%1 of %2 %3</source>
+        <comment>some heads of an heir: 2 of 3 daughters</comment>
+        <translation>%3 (%2 میں سے %1)</translation>
+    </message>
+    <message>
+        <source>%1 and %2</source>
+        <comment>the items of a list, the last item</comment>
+        <translation>%1 اور %2</translation>
+    </message>
+    <message>
+        <source>Supposition: as if %1 had died before the deceased.</source>
+        <translation>فرضی صورت: گویا میت سے پہلے وفات پا چکے ہوں: %1۔</translation>
     </message>
 </context>
 </TS>

@@ -54,11 +54,21 @@ struct DivisionSum {
   bool operator==(const DivisionSum&) const = default;
 };
 
+/// Heirs who are supposed to have died before the deceased: so many of those who are alive.
+struct SupposedDeath {
+  faraid::Kind Heir = faraid::Kind::Remainder;
+  int Heads = 0;
+  int Of = 0;
+};
+
 /// The division of a case by one school, as the window and the paper show it. It has values, not words.
 struct DivisionView {
   faraid::School School = faraid::School::Hanafi;
   std::string Name;
   int Gender = Male;
+
+  /// Empty for the case as it is.
+  std::vector<SupposedDeath> Supposed;
 
   DivisionOutcome Outcome = DivisionOutcome::Unreadable;
   /// The fields that cannot be read, in the order of the screen.

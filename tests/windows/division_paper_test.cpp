@@ -161,6 +161,25 @@ class DivisionPaperTest : public QObject {
     QVERIFY(data->html().contains(QStringLiteral("excluded by the grandfather")));
   }
 
+  // What would be if an heir had died before cannot be taken for the division: not on paper, not in a letter,
+  // and not in a directory.
+  void marksASupposition() {
+    DivisionView view = ViewDivision(Abdullah(), School::Hanafi);
+    view.Supposed = {
+        {faraid::Kind::Wives, 1, 1}, {faraid::Kind::Daughters, 2, 3}, {faraid::Kind::Sons, 2, 2}};
+    const DivisionDocument document(view, QDate(2026, 11, 21));
+    const QString sentence = QStringLiteral(
+        "Supposition: as if the wife, 2 of 3 daughters and the 2 sons had died before the deceased.");
+    QVERIFY(document.Html().indexOf(sentence) < document.Html().indexOf(QStringLiteral("Division of an")));
+    QVERIFY(document.Html().contains(sentence));
+    QVERIFY(!document.Html().contains(QStringLiteral("....")));
+    QVERIFY(DocumentOf(Abdullah()).Html().contains(QStringLiteral("....")));
+    const std::unique_ptr<QMimeData> copied = document.ForClipboard();
+    QVERIFY(copied->text().startsWith(sentence));
+    QVERIFY(copied->html().startsWith(QStringLiteral("<p>%1").arg(sentence)));
+    QCOMPARE(document.FileName(), QStringLiteral("Supposition - Abdullah"));
+  }
+
   // The preview lays out the same pages as the file, for the paper that the user sets.
   void previews() {
     QLibrary plugin(QStringLiteral(PRINT_PLUGIN));

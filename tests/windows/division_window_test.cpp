@@ -2,6 +2,7 @@
 #include <QAction>
 #include <QApplication>
 #include <QCheckBox>
+#include <QClipboard>
 #include <QComboBox>
 #include <QLabel>
 #include <QLineEdit>
@@ -196,6 +197,9 @@ class DivisionWindowTest : public QObject {
     QTest::keyClick(table, Qt::Key_Delete);
     QTRY_COMPARE(Cell("Full brother", 4), QStringLiteral("10,000.00"));
     QVERIFY(Find<QLabel>("Supposition")->isVisible());
+    Find<QAction>("CopyDivision")->trigger();
+    QVERIFY(QApplication::clipboard()->text().startsWith(
+        QStringLiteral("Supposition: as if the son had died before the deceased.")));
     QCOMPARE(study_->TextOf("Text1(2)"), QStringLiteral("1"));
     QTest::keyClick(table, Qt::Key_Escape);
     QTRY_COMPARE(Cell("Son", 4), QStringLiteral("10,000.00"));

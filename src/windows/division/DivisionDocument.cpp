@@ -101,6 +101,10 @@ QString DivisionDocument::FileName() const {
     if (!sign.isLetterOrNumber() && !sign.isMark() && sign != QLatin1Char('-')) sign = QLatin1Char(' ');
   }
   name = name.simplified().left(80);
+  if (!view_.Supposed.empty()) {
+    return name.isEmpty() ? Paper::tr("Supposition")
+                          : Paper::tr("Supposition - %1", "name of a file").arg(name);
+  }
   return name.isEmpty() ? Paper::tr("Division") : Paper::tr("Division - %1", "name of a file").arg(name);
 }
 
@@ -117,6 +121,11 @@ QString DivisionDocument::Facts() const {
           fact(Paper::tr("Date"), CurrentLocale().toString(date_, QLocale::LongFormat)) +
           fact(Paper::tr("School"), words::SchoolLaw(view_.School)),
       false);
+}
+
+QString DivisionDocument::Supposition() const {
+  const QString words = words::Supposition(view_);
+  return words.isEmpty() ? words : markup::Table(Row({Cell(words, Side::Start, "th")}), true);
 }
 
 QString DivisionDocument::Estate() const {
@@ -144,7 +153,11 @@ QString DivisionDocument::Notice() const {
   return markup::Table(Row({frame}), true);
 }
 
+// Nobody is to sign what is only supposed.
 QString DivisionDocument::Signatures() const {
+  if (!view_.Supposed.empty())
+    return Tag("p",
+               Paper::tr("This page is a supposition and not the division of the estate. It is not signed."));
   const QString line =
       QStringLiteral("<td width=\"33%\"><br>..............................................<br>%1</td>");
   QString rows;
@@ -164,11 +177,11 @@ QString DivisionDocument::Html(Break where) const {
   const QString estate =
       Row({QStringLiteral("<td width=\"52%\">%1</td>").arg(Facts()), QStringLiteral("<td width=\"4%\"></td>"),
            QStringLiteral("<td width=\"44%\">%1</td>").arg(Estate())});
-  QString html = Tag("h2", Paper::tr("Division of an estate")) + markup::Table(estate, false) +
-                 Paragraph(words::BequestNotice(view_)) + Paragraph(Consent()) +
-                 Paragraph(words::ExampleNotice(view_)) + Tag("h3", Paper::tr("The division")) +
-                 Tag("p", words::Headline(view_)) + Notice() + TableOfTakers(view_, Order::FromTheLeft) +
-                 Paragraph(words::Bases(view_.Division));
+  QString html = Supposition() + Tag("h2", Paper::tr("Division of an estate")) +
+                 markup::Table(estate, false) + Paragraph(words::BequestNotice(view_)) +
+                 Paragraph(Consent()) + Paragraph(words::ExampleNotice(view_)) +
+                 Tag("h3", Paper::tr("The division")) + Tag("p", words::Headline(view_)) + Notice() +
+                 TableOfTakers(view_, Order::FromTheLeft) + Paragraph(words::Bases(view_.Division));
   if (!view_.Others.empty()) {
     html += opening("h3", Break::BeforeOthers) + Escaped(HeadingOfOthers()) + QStringLiteral("</h3>") +
             OthersByReason(view_);
@@ -289,8 +302,10 @@ std::optional<QString> DivisionDocument::SavePdf(const QString& path) const {
 
 std::unique_ptr<QMimeData> DivisionDocument::ForClipboard() const {
   auto data = std::make_unique<QMimeData>();
-  data->setHtml(TableOfTakers(view_, Order::AsRead) + TableOfOthers(view_, Order::AsRead));
-  data->setText(TableAsText(view_));
+  const QString supposition = words::Supposition(view_);
+  data->setHtml(Paragraph(supposition) + TableOfTakers(view_, Order::AsRead) +
+                TableOfOthers(view_, Order::AsRead));
+  data->setText((supposition.isEmpty() ? QString() : supposition + QLatin1Char('\n')) + TableAsText(view_));
   return data;
 }
 

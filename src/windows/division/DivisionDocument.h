@@ -20,8 +20,14 @@ class DivisionDocument {
   /// A division that has a table (DivisionView::IsDivided).
   DivisionDocument(DivisionView view, const QDate& date);
 
-  /// The suggested name of a file, without an ending: the name of the deceased as far as a file can have it.
+  /// The suggested name of a file, without an ending: the name of the deceased as far as a file can have it,
+  /// or that it is a supposition.
   QString FileName() const;
+
+  /// The part with which a second page begins. A tree that needs a page stands after the signatures.
+  enum class Break { None, BeforeOthers, BeforeTree, BeforeTreeAlone };
+  /// The contents of the pages. The family tree is an object in it.
+  QString Html(Break where = Break::None) const;
 
   /// Fills the pages of a printer, a preview or a file. Margins are those of the device's layout.
   void Print(QPagedPaintDevice& device) const;
@@ -32,13 +38,10 @@ class DivisionDocument {
   std::unique_ptr<QMimeData> ForClipboard() const;
 
  private:
-  /// The part with which a second page begins. A tree that needs a page stands after the signatures.
-  enum class Break { None, BeforeOthers, BeforeTree, BeforeTreeAlone };
-
   /// The text laid out for the device, in one or two pages.
   std::unique_ptr<QTextDocument> LaidOutFor(QPagedPaintDevice& device) const;
   std::unique_ptr<QTextDocument> LaidOutFor(QPagedPaintDevice& device, double points, Break where) const;
-  QString Html(Break where) const;
+  QString Supposition() const;
   QString Facts() const;
   QString Estate() const;
   QString Consent() const;

@@ -185,6 +185,7 @@ void DivisionWindow::Update() {
   if (!supposition_.IsEmpty()) {
     texts_ = supposition_.Applied(std::move(texts_), shown_);
     before_ = std::exchange(shown_, ViewDivision(texts_, school_));
+    shown_.Supposed = supposition_.DeathsIn(*before_);
   }
   if (before_ && !before_->IsDivided()) before_.reset();
   sentences_->Show(shown_, supposition_, form_.HeirsConsent);

@@ -18,6 +18,9 @@ namespace qismora::words {
 QString Heir(faraid::Kind kind, int heads);
 /// "2 Daughters"; one head alone is not counted.
 QString CountedHeir(faraid::Kind kind, int heads);
+/// "Supposition: as if the mother and 2 of 3 daughters had died before the deceased."; empty for the case as
+/// it is.
+QString Supposition(const DivisionView& view);
 /// The heir as a reason or a line of a family tree names one: "full brother".
 QString OneHeir(faraid::Kind kind);
 /// The name in the current language of the field of Case Study with this caption.

@@ -96,6 +96,15 @@ static_assert(std::size(heirNames) == faraid::KindCount + 1);
 
 const HeirNames& NamesOf(Kind kind) { return heirNames[static_cast<std::size_t>(kind)]; }
 
+QString Dead(const SupposedDeath& death) {
+  if (death.Of == 1) return Words::tr("the %1").arg(OneHeir(death.Heir));
+  const QString name = CurrentLocale().toLower(Heir(death.Heir, death.Of));
+  if (death.Heads == death.Of)
+    return Words::tr("the %1 %2", "all heads of an heir: the 3 daughters").arg(Number(death.Of), name);
+  return Words::tr("%1 of %2 %3", "some heads of an heir: 2 of 3 daughters")
+      .arg(Number(death.Heads), Number(death.Of), name);
+}
+
 }  // namespace
 
 QString Heir(Kind kind, int heads) {
@@ -111,6 +120,16 @@ QString CountedHeir(Kind kind, int heads) {
 
 QString OneHeir(Kind kind) {
   return QCoreApplication::translate("HeirsInSentences", NamesOf(kind).InSentence);
+}
+
+QString Supposition(const DivisionView& view) {
+  if (view.Supposed.empty()) return {};
+  QStringList dead;
+  for (const SupposedDeath& death : view.Supposed) dead.append(Dead(death));
+  QString all = dead.takeLast();
+  if (!dead.isEmpty())
+    all = Words::tr("%1 and %2", "the items of a list, the last item").arg(dead.join(ListSeparator()), all);
+  return Words::tr("Supposition: as if %1 had died before the deceased.").arg(all);
 }
 
 }  // namespace qismora::words

@@ -18,11 +18,18 @@ void Supposition::SupposeDead(faraid::Kind heir, int heads) {
   }
 }
 
-CaseTexts Supposition::Applied(CaseTexts texts, const DivisionView& asItIs) const {
+std::vector<SupposedDeath> Supposition::DeathsIn(const DivisionView& asItIs) const {
+  std::vector<SupposedDeath> deaths;
   for (const auto& [heir, heads] : deaths_) {
     const DivisionLine* line = asItIs.Find(heir);
-    if (line != nullptr) texts = WithHeads(texts, heir, std::max(0, line->Law.Heads - heads));
+    if (line != nullptr) deaths.push_back({heir, std::min(heads, line->Law.Heads), line->Law.Heads});
   }
+  return deaths;
+}
+
+CaseTexts Supposition::Applied(CaseTexts texts, const DivisionView& asItIs) const {
+  for (const SupposedDeath& death : DeathsIn(asItIs))
+    texts = WithHeads(texts, death.Heir, death.Of - death.Heads);
   return texts;
 }
 

@@ -20,6 +20,8 @@ class Supposition {
   void SupposeDead(faraid::Kind heir, int heads);
   void Clear() { deaths_.clear(); }
 
+  /// The heirs of the case as it is who are supposed to be dead.
+  std::vector<SupposedDeath> DeathsIn(const DivisionView& asItIs) const;
   /// The case without those who are supposed to be dead. The division is that of the case as it is.
   CaseTexts Applied(CaseTexts texts, const DivisionView& asItIs) const;
   /// The supposition as rich text, with a link back to the case; empty without.
