@@ -1139,10 +1139,6 @@ Do you want to replace it?</source>
         <translation>حُسبت وفق %1 من الأرقام أعلاه. وليست هذه الورقة حكم محكمة ولا فتوى، فاسأل عالمًا قبل قسمة التركة.</translation>
     </message>
     <message>
-        <source>Qismora - page %1 of %2</source>
-        <translation>Qismora - صفحة %1 من %2</translation>
-    </message>
-    <message>
         <source>%1 is not saved: %2.</source>
         <translation>لم يُحفظ %1: %2.</translation>
     </message>
@@ -1174,6 +1170,11 @@ Do you want to replace it?</source>
     <message>
         <source>This page is a supposition and not the division of the estate. It is not signed.</source>
         <translation>هذه الصفحة افتراض وليست قسمة التركة، فلا تُوقَّع.</translation>
+    </message>
+    <message>
+        <source>%1 - %2 - Qismora - page %3 of %4</source>
+        <comment>the deceased, the date</comment>
+        <translation>%1 - %2 - Qismora - صفحة %3 من %4</translation>
     </message>
 </context>
 <context>

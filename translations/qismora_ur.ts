@@ -1139,10 +1139,6 @@ Do you want to replace it?</source>
         <translation>اوپر کے اعداد سے %1 کے مطابق حساب کیا گیا۔ یہ کاغذ نہ عدالت کا فیصلہ ہے نہ فتویٰ: ترکہ تقسیم کرنے سے پہلے کسی عالم سے پوچھیے۔</translation>
     </message>
     <message>
-        <source>Qismora - page %1 of %2</source>
-        <translation>Qismora - صفحہ %1 از %2</translation>
-    </message>
-    <message>
         <source>%1 is not saved: %2.</source>
         <translation>%1 محفوظ نہیں ہوئی: %2۔</translation>
     </message>
@@ -1174,6 +1170,11 @@ Do you want to replace it?</source>
     <message>
         <source>This page is a supposition and not the division of the estate. It is not signed.</source>
         <translation>یہ صفحہ ایک فرضی صورت ہے، ترکے کی اصل تقسیم نہیں۔ اس پر دستخط نہیں کیے جاتے۔</translation>
+    </message>
+    <message>
+        <source>%1 - %2 - Qismora - page %3 of %4</source>
+        <comment>the deceased, the date</comment>
+        <translation>%1 - %2 - Qismora - صفحہ %3 از %4</translation>
     </message>
 </context>
 <context>

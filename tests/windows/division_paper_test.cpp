@@ -180,6 +180,15 @@ class DivisionPaperTest : public QObject {
     QCOMPARE(document.FileName(), QStringLiteral("Supposition - Abdullah"));
   }
 
+  // A second page that is found alone says whose it is, even where the name is too long for a line.
+  void namesTheDeceasedOnEveryPage() {
+    QCOMPARE(DocumentOf(Abdullah()).Foot(2, 2),
+             QStringLiteral("Abdullah - Saturday, November 21, 2026 - Qismora - page 2 of 2"));
+    const QString foot = DocumentOf(Everybody()).Foot(1, 2);
+    QVERIFY(foot.startsWith(QStringLiteral("Zaynab bint Abd al-Rahman")));
+    QVERIFY(foot.size() < 120);
+  }
+
   // The preview lays out the same pages as the file, for the paper that the user sets.
   void previews() {
     QLibrary plugin(QStringLiteral(PRINT_PLUGIN));

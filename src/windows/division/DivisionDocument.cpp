@@ -108,6 +108,20 @@ QString DivisionDocument::FileName() const {
   return name.isEmpty() ? Paper::tr("Division") : Paper::tr("Division - %1", "name of a file").arg(name);
 }
 
+QString DivisionDocument::Foot(int page, int pages) const {
+  constexpr qsizetype longest = 60;
+  QString name = ToQt(view_.Name).simplified();
+  if (name.isEmpty()) name = words::Deceased();
+  if (name.size() > longest) name = name.left(longest) + QChar(0x2026);
+  const QString whose = view_.Supposed.empty()
+                            ? Isolated(name)
+                            : Paper::tr("Supposition - %1", "name of a file").arg(Isolated(name));
+  return Paper::tr("%1 - %2 - Qismora - page %3 of %4", "the deceased, the date")
+      .arg(whose, Date(), words::Number(page), words::Number(pages));
+}
+
+QString DivisionDocument::Date() const { return CurrentLocale().toString(date_, QLocale::LongFormat); }
+
 QString DivisionDocument::Facts() const {
   const QString name = ToQt(view_.Name).simplified();
   const QString gender = view_.Gender == Male ? Paper::tr("a man") : Paper::tr("a woman");
@@ -118,8 +132,7 @@ QString DivisionDocument::Facts() const {
   return markup::Table(
       fact(words::Deceased(),
            name.isEmpty() ? gender : Paper::tr("%1, %2", "a name, a man or a woman").arg(name, gender)) +
-          fact(Paper::tr("Date"), CurrentLocale().toString(date_, QLocale::LongFormat)) +
-          fact(Paper::tr("School"), words::SchoolLaw(view_.School)),
+          fact(Paper::tr("Date"), Date()) + fact(Paper::tr("School"), words::SchoolLaw(view_.School)),
       false);
 }
 
@@ -269,8 +282,7 @@ void DivisionDocument::Print(QPagedPaintDevice& device) const {
   const int pages = document->pageCount();
   for (int page = 0; page < pages; ++page) {
     if (page > 0) device.newPage();
-    const QString foot =
-        Paper::tr("Qismora - page %1 of %2").arg(words::Number(page + 1), words::Number(pages));
+    const QString foot = Foot(page + 1, pages);
     if (isPreview) {
       const QImage image = PictureOf(*document, page, foot, device);
       painter.drawImage(

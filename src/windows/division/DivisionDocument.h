@@ -28,6 +28,8 @@ class DivisionDocument {
   enum class Break { None, BeforeOthers, BeforeTree, BeforeTreeAlone };
   /// The contents of the pages. The family tree is an object in it.
   QString Html(Break where = Break::None) const;
+  /// The last line of a page: a page that is found alone says whose it is. Pages are counted from 1.
+  QString Foot(int page, int pages) const;
 
   /// Fills the pages of a printer, a preview or a file. Margins are those of the device's layout.
   void Print(QPagedPaintDevice& device) const;
@@ -42,6 +44,7 @@ class DivisionDocument {
   std::unique_ptr<QTextDocument> LaidOutFor(QPagedPaintDevice& device) const;
   std::unique_ptr<QTextDocument> LaidOutFor(QPagedPaintDevice& device, double points, Break where) const;
   QString Supposition() const;
+  QString Date() const;
   QString Facts() const;
   QString Estate() const;
   QString Consent() const;
