@@ -1103,10 +1103,6 @@ Do you want to replace it?</source>
         <translation>التركة</translation>
     </message>
     <message>
-        <source>The table below is the division by the books.</source>
-        <translation>الجدول أدناه هو القسمة على ما في كتب الفقه.</translation>
-    </message>
-    <message>
         <source>Alive, and receive nothing</source>
         <translation>أحياء لا يأخذون شيئًا</translation>
     </message>
@@ -1175,6 +1171,19 @@ Do you want to replace it?</source>
         <source>%1 - %2 - Qismora - page %3 of %4</source>
         <comment>the deceased, the date</comment>
         <translation>%1 - %2 - Qismora - صفحة %3 من %4</translation>
+    </message>
+    <message>
+        <source>Another report of the program, the full report file of Case Study, gives other amounts for this family. They are not part of this page. The reason:</source>
+        <translation>للبرنامج تقرير آخر، وهو ملف التقرير الكامل لشاشة Case Study، يعطي لهذه الأسرة مبالغ أخرى. وليست جزءًا من هذه الصفحة. والسبب:</translation>
+    </message>
+    <message>
+        <source>Another report of the program, the full report file of Case Study, gives no amounts for this family. It is not part of this page. The reason:</source>
+        <translation>للبرنامج تقرير آخر، وهو ملف التقرير الكامل لشاشة Case Study، لا يعطي لهذه الأسرة أي مبالغ. وليس جزءًا من هذه الصفحة. والسبب:</translation>
+    </message>
+    <message>
+        <source>This page divides by classical %1.</source>
+        <comment>law of a school</comment>
+        <translation>هذه الصفحة تقسم على ما في كتب الفقه وفق %1.</translation>
     </message>
 </context>
 <context>

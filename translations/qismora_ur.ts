@@ -1103,10 +1103,6 @@ Do you want to replace it?</source>
         <translation>ترکہ</translation>
     </message>
     <message>
-        <source>The table below is the division by the books.</source>
-        <translation>نیچے کا جدول کتبِ فقہ کے مطابق تقسیم ہے۔</translation>
-    </message>
-    <message>
         <source>Alive, and receive nothing</source>
         <translation>زندہ ہیں مگر حصہ نہیں پاتے</translation>
     </message>
@@ -1175,6 +1171,19 @@ Do you want to replace it?</source>
         <source>%1 - %2 - Qismora - page %3 of %4</source>
         <comment>the deceased, the date</comment>
         <translation>%1 - %2 - Qismora - صفحہ %3 از %4</translation>
+    </message>
+    <message>
+        <source>Another report of the program, the full report file of Case Study, gives other amounts for this family. They are not part of this page. The reason:</source>
+        <translation>پروگرام کی ایک اور رپورٹ، یعنی Case Study کی مکمل رپورٹ فائل، اس خاندان کے لیے مختلف رقوم دیتی ہے۔ وہ اس صفحے کا حصہ نہیں۔ وجہ:</translation>
+    </message>
+    <message>
+        <source>Another report of the program, the full report file of Case Study, gives no amounts for this family. It is not part of this page. The reason:</source>
+        <translation>پروگرام کی ایک اور رپورٹ، یعنی Case Study کی مکمل رپورٹ فائل، اس خاندان کے لیے کوئی رقم نہیں دیتی۔ وہ اس صفحے کا حصہ نہیں۔ وجہ:</translation>
+    </message>
+    <message>
+        <source>This page divides by classical %1.</source>
+        <comment>law of a school</comment>
+        <translation>یہ صفحہ کلاسیکی %1 کے مطابق تقسیم کرتا ہے۔</translation>
     </message>
 </context>
 <context>

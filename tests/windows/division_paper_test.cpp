@@ -180,6 +180,19 @@ class DivisionPaperTest : public QObject {
     QCOMPARE(document.FileName(), QStringLiteral("Supposition - Abdullah"));
   }
 
+  // The other report is named below the table, in words for a reader who has never seen the program.
+  void namesTheOtherReportBelowTheTable() {
+    const QString html = DocumentOf(Abdullah()).Html();
+    const auto place =
+        html.indexOf(QStringLiteral("the full report file of Case Study, gives other amounts"));
+    QVERIFY(place > html.indexOf(QStringLiteral("corrected base 27")));
+    QVERIFY(html.indexOf(QStringLiteral("no line for a grandfather")) > place);
+    CaseTexts wife = CaseOf({{1, "1"}, {25, "100"}});
+    QVERIFY(DocumentOf(wife).Html().contains(QStringLiteral("gives no amounts for this family")));
+    wife.Fields[2] = std::string("1");
+    QVERIFY(!DocumentOf(wife).Html().contains(QStringLiteral("Case Study")));
+  }
+
   // A second page that is found alone says whose it is, even where the name is too long for a line.
   void namesTheDeceasedOnEveryPage() {
     QCOMPARE(DocumentOf(Abdullah()).Foot(2, 2),

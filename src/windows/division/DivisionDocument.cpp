@@ -156,14 +156,23 @@ QString DivisionDocument::Consent() const {
              : QString();
 }
 
-QString DivisionDocument::Notice() const {
-  if (view_.Differs.None()) return {};
-  QString items;
-  for (const DifferenceKind* kind : view_.Differs.Kinds) items += Tag("li", words::DifferenceSentence(*kind));
-  const QString frame = QStringLiteral("<td><b>%1</b> %2<ul>%3</ul></td>")
-                            .arg(Escaped(words::NoticeHeading()),
-                                 Escaped(Paper::tr("The table below is the division by the books.")), items);
-  return markup::Table(Row({frame}), true);
+// A reader who has this page alone is told whose other figures may come to him, and that they do not count
+// here.
+QString DivisionDocument::OtherReport() const {
+  if (!view_.Own || view_.Differs.None()) return {};
+  const QString other =
+      view_.Own->Outcome == OwnOutcome::Figures
+          ? Paper::tr(
+                "Another report of the program, the full report file of Case Study, gives other amounts for "
+                "this family. They are not part of this page. The reason:")
+          : Paper::tr(
+                "Another report of the program, the full report file of Case Study, gives no amounts for this "
+                "family. It is not part of this page. The reason:");
+  QStringList sentences = {
+      Paper::tr("This page divides by classical %1.", "law of a school").arg(words::SchoolLaw(view_.School)),
+      other};
+  for (const DifferenceKind* kind : view_.Differs.Kinds) sentences.append(words::DifferenceSentence(*kind));
+  return QStringLiteral("<p class=\"note\">%1</p>").arg(Escaped(sentences.join(QLatin1Char(' '))));
 }
 
 // Nobody is to sign what is only supposed.
@@ -190,11 +199,11 @@ QString DivisionDocument::Html(Break where) const {
   const QString estate =
       Row({QStringLiteral("<td width=\"52%\">%1</td>").arg(Facts()), QStringLiteral("<td width=\"4%\"></td>"),
            QStringLiteral("<td width=\"44%\">%1</td>").arg(Estate())});
-  QString html = Supposition() + Tag("h2", Paper::tr("Division of an estate")) +
-                 markup::Table(estate, false) + Paragraph(words::BequestNotice(view_)) +
-                 Paragraph(Consent()) + Paragraph(words::ExampleNotice(view_)) +
-                 Tag("h3", Paper::tr("The division")) + Tag("p", words::Headline(view_)) + Notice() +
-                 TableOfTakers(view_, Order::FromTheLeft) + Paragraph(words::Bases(view_.Division));
+  QString html =
+      Supposition() + Tag("h2", Paper::tr("Division of an estate")) + markup::Table(estate, false) +
+      Paragraph(words::BequestNotice(view_)) + Paragraph(Consent()) + Paragraph(words::ExampleNotice(view_)) +
+      Tag("h3", Paper::tr("The division")) + Tag("p", words::Headline(view_)) +
+      TableOfTakers(view_, Order::FromTheLeft) + Paragraph(words::Bases(view_.Division)) + OtherReport();
   if (!view_.Others.empty()) {
     html += opening("h3", Break::BeforeOthers) + Escaped(HeadingOfOthers()) + QStringLiteral("</h3>") +
             OthersByReason(view_);
@@ -222,9 +231,10 @@ std::unique_ptr<QTextDocument> DivisionDocument::LaidOutFor(QPagedPaintDevice& d
   document->setDefaultTextOption(option);
   document->setDefaultStyleSheet(
       QStringLiteral("h2 { font-size: %1pt; margin: 0 0 4px 0 } h3 { font-size: %2pt; margin: 6px 0 2px 0 } "
-                     "p { margin: 3px 0 4px 0 } ul { margin: 2px 0 2px 0 }")
+                     "p { margin: 3px 0 4px 0 } .note { font-size: %3pt }")
           .arg(points * 1.6)
-          .arg(points * 1.15));
+          .arg(points * 1.15)
+          .arg(points * 0.9));
   document->documentLayout()->setPaintDevice(&device);
   QSizeF place = device.pageLayout().paintRect(QPageLayout::Point).size();
   place.rheight() -= 3 * pointsOfFooter;

@@ -48,7 +48,7 @@ class DivisionDocument {
   QString Facts() const;
   QString Estate() const;
   QString Consent() const;
-  QString Notice() const;
+  QString OtherReport() const;
   QString Signatures() const;
 
   DivisionView view_;
