@@ -1185,6 +1185,10 @@ Do you want to replace it?</source>
         <comment>law of a school</comment>
         <translation>هذه الصفحة تقسم على ما في كتب الفقه وفق %1.</translation>
     </message>
+    <message>
+        <source>Amounts that cannot be divided evenly differ by one hundredth. The heirs agree who takes it.</source>
+        <translation>المبالغ التي لا تنقسم بالتساوي تختلف بجزء من مئة من وحدة النقد. ويتفق الورثة على من يأخذه.</translation>
+    </message>
 </context>
 <context>
     <name>Reasons</name>
@@ -1707,6 +1711,16 @@ Do you want to replace it?</source>
     <message>
         <source>Supposition: as if %1 had died before the deceased.</source>
         <translation>افتراض: على تقدير وفاة %1 قبل المورِّث.</translation>
+    </message>
+    <message>
+        <source>%1; one of them %2</source>
+        <comment>amounts</comment>
+        <translation>%1؛ ونصيب واحد %2</translation>
+    </message>
+    <message>
+        <source>%1; %2 of them %3</source>
+        <comment>an amount, heads, their amount</comment>
+        <translation>%1؛ و%2 من الأنصبة %3</translation>
     </message>
 </context>
 </TS>

@@ -1185,6 +1185,10 @@ Do you want to replace it?</source>
         <comment>law of a school</comment>
         <translation>یہ صفحہ کلاسیکی %1 کے مطابق تقسیم کرتا ہے۔</translation>
     </message>
+    <message>
+        <source>Amounts that cannot be divided evenly differ by one hundredth. The heirs agree who takes it.</source>
+        <translation>جو رقوم برابر تقسیم نہیں ہو سکتیں ان میں اکائی کے سوویں حصے کا فرق رہتا ہے۔ ورثاء باہم طے کریں کہ یہ کون لے۔</translation>
+    </message>
 </context>
 <context>
     <name>Reasons</name>
@@ -1707,6 +1711,16 @@ Do you want to replace it?</source>
     <message>
         <source>Supposition: as if %1 had died before the deceased.</source>
         <translation>فرضی صورت: گویا میت سے پہلے وفات پا چکے ہوں: %1۔</translation>
+    </message>
+    <message>
+        <source>%1; one of them %2</source>
+        <comment>amounts</comment>
+        <translation>%1؛ ان میں سے ایک کو %2</translation>
+    </message>
+    <message>
+        <source>%1; %2 of them %3</source>
+        <comment>an amount, heads, their amount</comment>
+        <translation>%1؛ ان میں سے %2 کو %3</translation>
     </message>
 </context>
 </TS>

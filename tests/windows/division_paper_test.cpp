@@ -193,6 +193,16 @@ class DivisionPaperTest : public QObject {
     QVERIFY(!DocumentOf(wife).Html().contains(QStringLiteral("Case Study")));
   }
 
+  // Heads of a line that differ by a hundredth are counted.
+  void saysHowManyReceiveTheHundredth() {
+    const auto html = [](const char* sons) { return DocumentOf(CaseOf({{2, sons}, {25, "200"}})).Html(); };
+    const QString agree = QStringLiteral("The heirs agree who takes it.");
+    QVERIFY(html("3").contains(QStringLiteral("66.66; 2 of them 66.67")));
+    QVERIFY(html("3").contains(agree));
+    QVERIFY(html("7").contains(QStringLiteral("28.57; one of them 28.58")));
+    QVERIFY(!html("4").contains(agree));
+  }
+
   // A second page that is found alone says whose it is, even where the name is too long for a line.
   void namesTheDeceasedOnEveryPage() {
     QCOMPARE(DocumentOf(Abdullah()).Foot(2, 2),

@@ -156,6 +156,17 @@ QString DivisionDocument::Consent() const {
              : QString();
 }
 
+// Where the heads of a line cannot all have the same, the law does not say who takes the hundredth.
+QString DivisionDocument::Hundredths() const {
+  const bool differ = std::ranges::any_of(view_.Takers, [](const DivisionLine& line) {
+    return line.Amount.HeadsWithOneMore > 0 && line.Amount.HeadsWithOneMore < line.Law.Heads;
+  });
+  return differ ? Paper::tr(
+                      "Amounts that cannot be divided evenly differ by one hundredth. The heirs agree who "
+                      "takes it.")
+                : QString();
+}
+
 // A reader who has this page alone is told whose other figures may come to him, and that they do not count
 // here.
 QString DivisionDocument::OtherReport() const {
@@ -199,11 +210,12 @@ QString DivisionDocument::Html(Break where) const {
   const QString estate =
       Row({QStringLiteral("<td width=\"52%\">%1</td>").arg(Facts()), QStringLiteral("<td width=\"4%\"></td>"),
            QStringLiteral("<td width=\"44%\">%1</td>").arg(Estate())});
-  QString html =
-      Supposition() + Tag("h2", Paper::tr("Division of an estate")) + markup::Table(estate, false) +
-      Paragraph(words::BequestNotice(view_)) + Paragraph(Consent()) + Paragraph(words::ExampleNotice(view_)) +
-      Tag("h3", Paper::tr("The division")) + Tag("p", words::Headline(view_)) +
-      TableOfTakers(view_, Order::FromTheLeft) + Paragraph(words::Bases(view_.Division)) + OtherReport();
+  QString html = Supposition() + Tag("h2", Paper::tr("Division of an estate")) +
+                 markup::Table(estate, false) + Paragraph(words::BequestNotice(view_)) +
+                 Paragraph(Consent()) + Paragraph(words::ExampleNotice(view_)) +
+                 Tag("h3", Paper::tr("The division")) + Tag("p", words::Headline(view_)) +
+                 TableOfTakers(view_, Order::FromTheLeft) + Paragraph(words::Bases(view_.Division)) +
+                 Paragraph(Hundredths()) + OtherReport();
   if (!view_.Others.empty()) {
     html += opening("h3", Break::BeforeOthers) + Escaped(HeadingOfOthers()) + QStringLiteral("</h3>") +
             OthersByReason(view_);

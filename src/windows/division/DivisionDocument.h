@@ -48,6 +48,7 @@ class DivisionDocument {
   QString Facts() const;
   QString Estate() const;
   QString Consent() const;
+  QString Hundredths() const;
   QString OtherReport() const;
   QString Signatures() const;
 

@@ -159,6 +159,15 @@ QString Each(const faraid::Amount& amount, int heads) {
   return Words::tr("%1 or %2", "amounts").arg(Amount(amount.Each), Amount(amount.Each + 1));
 }
 
+QString EachOfThem(const faraid::Amount& amount, int heads) {
+  const int more = amount.HeadsWithOneMore;
+  if (more == 0 || more == heads) return Each(amount, heads);
+  const QString least = Amount(amount.Each);
+  const QString most = Amount(amount.Each + 1);
+  if (more == 1) return Words::tr("%1; one of them %2", "amounts").arg(least, most);
+  return Words::tr("%1; %2 of them %3", "an amount, heads, their amount").arg(least, Number(more), most);
+}
+
 QString Why(const faraid::Reason& reason) { return Sentence(reason, SourceOf(reason.Ground)); }
 
 QString WhyWithoutSource(const faraid::Reason& reason) { return Sentence(reason, {}); }

@@ -40,6 +40,8 @@ QString Share(const faraid::Fraction& share);
 QString Ratio(const faraid::Ratio& ratio);
 /// What each head receives: "33.33 or 33.34" if some receive a hundredth more, else one amount.
 QString Each(const faraid::Amount& amount, int heads);
+/// The same for a reader: "33.33; one of them 33.34".
+QString EachOfThem(const faraid::Amount& amount, int heads);
 
 // Decisions
 

@@ -45,7 +45,7 @@ QString CellText(Column column, const DivisionLine& line) {
     case Column::Together:
       return words::Amount(line.Amount.Together);
     case Column::Each:
-      return words::Each(line.Amount, line.Law.Heads);
+      return words::EachOfThem(line.Amount, line.Law.Heads);
     case Column::Why:
       return words::WhyWithoutSource(line.Law.Why);
     case Column::Source:
