@@ -203,6 +203,12 @@ class DivisionPaperTest : public QObject {
     QVERIFY(!html("4").contains(agree));
   }
 
+  // The remainder has no heads, so that nobody receives a part of it each.
+  void theRemainderHasNoHeads() {
+    const QString text = DocumentOf(CaseOf({{1, "1"}, {25, "100"}})).ForClipboard()->text();
+    QVERIFY(text.contains(QStringLiteral("Remainder\t\t=3/4\t3\t75.00\t–\t")));
+  }
+
   // A second page that is found alone says whose it is, even where the name is too long for a line.
   void namesTheDeceasedOnEveryPage() {
     QCOMPARE(DocumentOf(Abdullah()).Foot(2, 2),

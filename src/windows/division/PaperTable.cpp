@@ -45,6 +45,7 @@ QString CellText(Column column, const DivisionLine& line) {
     case Column::Together:
       return words::Amount(line.Amount.Together);
     case Column::Each:
+      if (line.Heir() == faraid::Kind::Remainder) return QStringLiteral("–");
       return words::EachOfThem(line.Amount, line.Law.Heads);
     case Column::Why:
       return words::WhyWithoutSource(line.Law.Why);
@@ -87,6 +88,7 @@ QString NumberOf(Column column, const DivisionLine& line) {
     case Column::Together:
       return hundredths(line.Amount.Together);
     case Column::Each:
+      if (line.Heir() == faraid::Kind::Remainder) return {};
       if (line.Amount.HeadsWithOneMore == line.Law.Heads) return hundredths(line.Amount.Each + 1);
       return line.Amount.HeadsWithOneMore == 0 ? hundredths(line.Amount.Each) : QString();
     default:
@@ -143,9 +145,11 @@ QString TableOfOthers(const DivisionView& view, Order order) {
       cells.append(cellOf(column));
     return Row(cells, order);
   };
-  QString rows = Head(row([](Column column) { return Cell(words::Heading(column, 0), Side::Start, "th"); }));
+  const auto side = [](Column column) { return column == Column::Heads ? Side::Figures : Side::Start; };
+  QString rows =
+      Head(row([&](Column column) { return Cell(words::Heading(column, 0), side(column), "th"); }));
   for (const DivisionLine& line : view.Others) {
-    rows += row([&](Column column) { return Cell(CellText(column, line)); });
+    rows += row([&](Column column) { return Cell(CellText(column, line), side(column)); });
   }
   return markup::Tag("h3", HeadingOfOthers()) + markup::Table(rows, true);
 }
