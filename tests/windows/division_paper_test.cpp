@@ -148,14 +148,20 @@ class DivisionPaperTest : public QObject {
   void copiesTheTable() {
     CopyPaper(DocumentOf(Abdullah()));
     const QMimeData* data = QGuiApplication::clipboard()->mimeData();
-    const QStringList lines = data->text().split(QLatin1Char('\n'), Qt::SkipEmptyParts);
-    QCOMPARE(lines.size(), 6);
+    const QStringList parts = data->text().split(QStringLiteral("\n\n"));
+    QCOMPARE(parts.size(), 2);
+    QVERIFY(parts[0].startsWith(QStringLiteral(
+        "The deceased: Abdullah, a man\nDate: Saturday, November 21, 2026\nSchool: Hanafi law\n1,500,000.00 is")));
+    const QStringList lines = parts[1].split(QLatin1Char('\n'), Qt::SkipEmptyParts);
+    QCOMPARE(lines.size(), 7);
     QCOMPARE(lines.front(), QStringLiteral("Heir\tHeads\tShare\tof 27\tTogether\tEach\tWhy\tSource"));
     QVERIFY(lines[1].startsWith(QStringLiteral("Wife\t1\t=1/9\t3\t166666.67\t166666.67\t1/8 because")));
-    QVERIFY(lines.back().startsWith(QStringLiteral("Consanguine brother\t1\t0\t0\t0.00")));
+    QVERIFY(lines[5].startsWith(QStringLiteral("Consanguine brother\t1\t0\t0\t0.00")));
     double sum = 0;
-    for (const QString& line : lines) sum += line.section(QLatin1Char('\t'), 4, 4).toDouble();
+    for (const QString& line : lines.mid(0, 6)) sum += line.section(QLatin1Char('\t'), 4, 4).toDouble();
     QCOMPARE(sum, 1500000.0);
+    QCOMPARE(lines.back(), QStringLiteral("Sum\t5\t1\t27\t1500000.00\t\t\t"));
+    QVERIFY(data->html().startsWith(QStringLiteral("<p>The deceased: Abdullah, a man</p>")));
     QVERIFY(data->html().contains(QStringLiteral("mso-number-format:'\\@'\" sdnum=\"0;0;@\">1/9</td>")));
     QVERIFY(data->html().contains(QStringLiteral("x:num=\"166666.67\"")));
     QVERIFY(data->html().contains(QStringLiteral("excluded by the grandfather")));

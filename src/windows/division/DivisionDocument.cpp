@@ -122,18 +122,23 @@ QString DivisionDocument::Foot(int page, int pages) const {
 
 QString DivisionDocument::Date() const { return CurrentLocale().toString(date_, QLocale::LongFormat); }
 
-QString DivisionDocument::Facts() const {
+QList<DivisionDocument::Fact> DivisionDocument::Facts() const {
   const QString name = ToQt(view_.Name).simplified();
   const QString gender = view_.Gender == Male ? Paper::tr("a man") : Paper::tr("a woman");
-  const auto fact = [](const QString& caption, const QString& value) {
-    return Row({QStringLiteral("<td width=\"30%\"><b>%1</b></td>").arg(Escaped(caption)),
-                QStringLiteral("<td width=\"70%\">%1</td>").arg(Escaped(value))});
-  };
-  return markup::Table(
-      fact(words::Deceased(),
-           name.isEmpty() ? gender : Paper::tr("%1, %2", "a name, a man or a woman").arg(name, gender)) +
-          fact(Paper::tr("Date"), Date()) + fact(Paper::tr("School"), words::SchoolLaw(view_.School)),
-      false);
+  return {
+      {words::Deceased(),
+       name.isEmpty() ? gender : Paper::tr("%1, %2", "a name, a man or a woman").arg(Isolated(name), gender)},
+      {Paper::tr("Date"), Date()},
+      {Paper::tr("School"), words::SchoolLaw(view_.School)}};
+}
+
+QString DivisionDocument::FactsTable() const {
+  QString rows;
+  for (const auto& [caption, value] : Facts()) {
+    rows += Row({QStringLiteral("<td width=\"30%\"><b>%1</b></td>").arg(Escaped(caption)),
+                 QStringLiteral("<td width=\"70%\">%1</td>").arg(Escaped(value))});
+  }
+  return markup::Table(rows, false);
 }
 
 QString DivisionDocument::Supposition() const {
@@ -207,9 +212,9 @@ QString DivisionDocument::Html(Break where) const {
         QLatin1String(tag),
         where == here ? QStringLiteral(" style=\"page-break-before: always\"") : QString());
   };
-  const QString estate =
-      Row({QStringLiteral("<td width=\"52%\">%1</td>").arg(Facts()), QStringLiteral("<td width=\"4%\"></td>"),
-           QStringLiteral("<td width=\"44%\">%1</td>").arg(Estate())});
+  const QString estate = Row({QStringLiteral("<td width=\"52%\">%1</td>").arg(FactsTable()),
+                              QStringLiteral("<td width=\"4%\"></td>"),
+                              QStringLiteral("<td width=\"44%\">%1</td>").arg(Estate())});
   QString html = Supposition() + Tag("h2", Paper::tr("Division of an estate")) +
                  markup::Table(estate, false) + Paragraph(words::BequestNotice(view_)) +
                  Paragraph(Consent()) + Paragraph(words::ExampleNotice(view_)) +
@@ -334,12 +339,17 @@ std::optional<QString> DivisionDocument::SavePdf(const QString& path) const {
   return Paper::tr("%1 is not saved: %2.").arg(QFileInfo(path).fileName(), file.errorString());
 }
 
+// A table that is pasted elsewhere says what it is.
 std::unique_ptr<QMimeData> DivisionDocument::ForClipboard() const {
+  QStringList lines;
+  if (!view_.Supposed.empty()) lines.append(words::Supposition(view_));
+  for (const auto& [caption, value] : Facts()) lines.append(caption + QStringLiteral(": ") + value);
+  lines.append(words::Headline(view_));
+  QString html;
+  for (const QString& line : std::as_const(lines)) html += Paragraph(line);
   auto data = std::make_unique<QMimeData>();
-  const QString supposition = words::Supposition(view_);
-  data->setHtml(Paragraph(supposition) + TableOfTakers(view_, Order::AsRead) +
-                TableOfOthers(view_, Order::AsRead));
-  data->setText((supposition.isEmpty() ? QString() : supposition + QLatin1Char('\n')) + TableAsText(view_));
+  data->setHtml(html + TableOfTakers(view_, Order::AsRead) + TableOfOthers(view_, Order::AsRead));
+  data->setText(lines.join(QLatin1Char('\n')) + QStringLiteral("\n\n") + TableAsText(view_));
   return data;
 }
 

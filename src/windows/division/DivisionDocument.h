@@ -1,9 +1,11 @@
 #pragma once
 
 #include <QDate>
+#include <QList>
 #include <QString>
 #include <memory>
 #include <optional>
+#include <utility>
 
 #include "screens/DivisionView.h"
 
@@ -36,16 +38,21 @@ class DivisionDocument {
   /// Writes a PDF file, whole or not at all. What went wrong, in words; nothing if all went well.
   std::optional<QString> SavePdf(const QString& path) const;
 
-  /// The table alone: HTML for letters, tab-separated text for spreadsheets.
+  /// Whose division it is, when, by whose law and what happened, with the table: HTML for letters,
+  /// tab-separated text for spreadsheets.
   std::unique_ptr<QMimeData> ForClipboard() const;
 
  private:
+  /// A caption and what stands beside it.
+  using Fact = std::pair<QString, QString>;
+
   /// The text laid out for the device, in one or two pages.
   std::unique_ptr<QTextDocument> LaidOutFor(QPagedPaintDevice& device) const;
   std::unique_ptr<QTextDocument> LaidOutFor(QPagedPaintDevice& device, double points, Break where) const;
   QString Supposition() const;
   QString Date() const;
-  QString Facts() const;
+  QList<Fact> Facts() const;
+  QString FactsTable() const;
   QString Estate() const;
   QString Consent() const;
   QString Hundredths() const;

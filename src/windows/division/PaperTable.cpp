@@ -74,26 +74,34 @@ QString SumText(Column column, const DivisionView& view) {
   }
 }
 
+/// With a point and no groups.
+QString PlainAmount(faraid::Hundredths amount) {
+  return QStringLiteral("%1.%2").arg(amount / 100).arg(amount % 100, 2, 10, QLatin1Char('0'));
+}
+
 /// The number that a figure stands for, with a point and no groups; empty where there is none or more than
 /// one.
 QString NumberOf(Column column, const DivisionLine& line) {
-  const auto hundredths = [](faraid::Hundredths amount) {
-    return QStringLiteral("%1.%2").arg(amount / 100).arg(amount % 100, 2, 10, QLatin1Char('0'));
-  };
   switch (column) {
     case Column::Heads:
       return line.Heir() == faraid::Kind::Remainder ? QString() : QString::number(line.Law.Heads);
     case Column::Parts:
       return QString::number(line.Parts);
     case Column::Together:
-      return hundredths(line.Amount.Together);
+      return PlainAmount(line.Amount.Together);
     case Column::Each:
       if (line.Heir() == faraid::Kind::Remainder) return {};
-      if (line.Amount.HeadsWithOneMore == line.Law.Heads) return hundredths(line.Amount.Each + 1);
-      return line.Amount.HeadsWithOneMore == 0 ? hundredths(line.Amount.Each) : QString();
+      if (line.Amount.HeadsWithOneMore == line.Law.Heads) return PlainAmount(line.Amount.Each + 1);
+      return line.Amount.HeadsWithOneMore == 0 ? PlainAmount(line.Amount.Each) : QString();
     default:
       return {};
   }
+}
+
+QString WithDecimalSeparator(QString number) {
+  if (QLocale::system().decimalPoint() == QLatin1String(","))
+    number.replace(QLatin1Char('.'), QLatin1Char(','));
+  return number;
 }
 
 /// What a spreadsheet that reads text computes with: a share is a formula, since it would read 1/6 as a date,
@@ -104,10 +112,23 @@ QString SpreadsheetText(Column column, const DivisionLine& line) {
     return share.Den() == 1 ? QString::number(share.Num())
                             : QStringLiteral("=%1/%2").arg(share.Num()).arg(share.Den());
   }
-  QString number = NumberOf(column, line);
-  if (QLocale::system().decimalPoint() == QLatin1String(","))
-    number.replace(QLatin1Char('.'), QLatin1Char(','));
-  return number.isEmpty() ? CellText(column, line) : number;
+  const QString number = NumberOf(column, line);
+  return number.isEmpty() ? CellText(column, line) : WithDecimalSeparator(number);
+}
+
+QString SpreadsheetSum(Column column, const DivisionView& view) {
+  switch (column) {
+    case Column::Heads:
+      return QString::number(view.Sum.Heads);
+    case Column::Share:
+      return QStringLiteral("1");
+    case Column::Parts:
+      return QString::number(view.Sum.Parts);
+    case Column::Together:
+      return WithDecimalSeparator(PlainAmount(view.Sum.Together));
+    default:
+      return SumText(column, view);
+  }
 }
 
 /// What a spreadsheet that reads HTML goes by instead of the words, whatever their digits.
@@ -194,6 +215,7 @@ QString TableAsText(const DivisionView& view) {
   for (const auto* group : {&view.Takers, &view.Others}) {
     for (const DivisionLine& line : *group) add([&](Column column) { return SpreadsheetText(column, line); });
   }
+  add([&](Column column) { return SpreadsheetSum(column, view); });
   return lines.join(QLatin1Char('\n')) + QLatin1Char('\n');
 }
 

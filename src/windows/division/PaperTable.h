@@ -12,7 +12,7 @@ QString TableOfTakers(const DivisionView& view, markup::Order order);
 QString TableOfOthers(const DivisionView& view, markup::Order order);
 /// The same with those in one row who stand there for the same reason.
 QString OthersByReason(const DivisionView& view);
-/// All heirs as tab-separated text.
+/// All heirs and the sum as tab-separated text.
 QString TableAsText(const DivisionView& view);
 
 /// The heading of those who receive nothing.
