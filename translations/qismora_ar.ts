@@ -1690,10 +1690,6 @@ Do you want to replace it?</source>
         <translation>أين يختلف Qismora</translation>
     </message>
     <message>
-        <source>The deceased</source>
-        <translation>المتوفى / المتوفاة</translation>
-    </message>
-    <message>
         <source>the %1 %2</source>
         <comment>all heads of an heir: the 3 daughters</comment>
         <translation>جميع %2 (%1)</translation>
@@ -1721,6 +1717,16 @@ Do you want to replace it?</source>
         <source>%1; %2 of them %3</source>
         <comment>an amount, heads, their amount</comment>
         <translation>%1؛ و%2 من الأنصبة %3</translation>
+    </message>
+    <message>
+        <source>The deceased</source>
+        <comment>a woman</comment>
+        <translation>المتوفاة</translation>
+    </message>
+    <message>
+        <source>The deceased</source>
+        <comment>a man</comment>
+        <translation>المتوفى</translation>
     </message>
 </context>
 </TS>

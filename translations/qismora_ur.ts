@@ -1690,10 +1690,6 @@ Do you want to replace it?</source>
         <translation>Qismora کہاں مختلف ہے</translation>
     </message>
     <message>
-        <source>The deceased</source>
-        <translation>متوفی / متوفیہ</translation>
-    </message>
-    <message>
         <source>the %1 %2</source>
         <comment>all heads of an heir: the 3 daughters</comment>
         <translation>تمام %1 %2</translation>
@@ -1721,6 +1717,16 @@ Do you want to replace it?</source>
         <source>%1; %2 of them %3</source>
         <comment>an amount, heads, their amount</comment>
         <translation>%1؛ ان میں سے %2 کو %3</translation>
+    </message>
+    <message>
+        <source>The deceased</source>
+        <comment>a woman</comment>
+        <translation>متوفیہ</translation>
+    </message>
+    <message>
+        <source>The deceased</source>
+        <comment>a man</comment>
+        <translation>متوفی</translation>
     </message>
 </context>
 </TS>

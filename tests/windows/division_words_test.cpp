@@ -168,6 +168,17 @@ class DivisionWordsTest : public QObject {
     QCOMPARE(words::SourceOf(faraid::Source::Quran4_176), QStringLiteral("النساء: ١٧٦"));
   }
 
+  // Other languages have a word for a man and one for a woman.
+  void theDeceasedIsAManOrAWoman() {
+    QCOMPARE(words::Deceased(Male), words::Deceased(Female));
+    SetLanguage(Language::Urdu);
+    QCOMPARE(words::Deceased(Male), QStringLiteral("متوفی"));
+    QCOMPARE(words::Deceased(Female), QStringLiteral("متوفیہ"));
+    SetLanguage(Language::Arabic);
+    QCOMPARE(words::Deceased(Male), QStringLiteral("المتوفى"));
+    QCOMPARE(words::Deceased(Female), QStringLiteral("المتوفاة"));
+  }
+
   // What is typed keeps its direction within a sentence from the right.
   void faultsQuoteWhatIsTyped() {
     const UnreadableField field = {"Sons", "12 x", FieldFault::NotWhole, 100};

@@ -111,7 +111,7 @@ QString DivisionDocument::FileName() const {
 QString DivisionDocument::Foot(int page, int pages) const {
   constexpr qsizetype longest = 60;
   QString name = ToQt(view_.Name).simplified();
-  if (name.isEmpty()) name = words::Deceased();
+  if (name.isEmpty()) name = words::Deceased(view_.Gender);
   if (name.size() > longest) name = name.left(longest) + QChar(0x2026);
   const QString whose = view_.Supposed.empty()
                             ? Isolated(name)
@@ -126,7 +126,7 @@ QList<DivisionDocument::Fact> DivisionDocument::Facts() const {
   const QString name = ToQt(view_.Name).simplified();
   const QString gender = view_.Gender == Male ? Paper::tr("a man") : Paper::tr("a woman");
   return {
-      {words::Deceased(),
+      {words::Deceased(view_.Gender),
        name.isEmpty() ? gender : Paper::tr("%1, %2", "a name, a man or a woman").arg(Isolated(name), gender)},
       {Paper::tr("Date"), Date()},
       {Paper::tr("School"), words::SchoolLaw(view_.School)}};

@@ -121,7 +121,9 @@ QString OffFor(const QString& summary, const QString& what, faraid::Hundredths a
 
 }  // namespace
 
-QString Deceased() { return Words::tr("The deceased"); }
+QString Deceased(int gender) {
+  return gender == Female ? Words::tr("The deceased", "a woman") : Words::tr("The deceased", "a man");
+}
 
 QString Field(const std::string& caption) {
   const auto heir = std::ranges::find(HeirFields, caption, &HeirField::Caption);

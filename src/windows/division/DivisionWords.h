@@ -26,8 +26,8 @@ QString OneHeir(faraid::Kind kind);
 /// The name in the current language of the field of Case Study with this caption.
 QString Field(const std::string& caption);
 
-/// "The deceased", if there is no name.
-QString Deceased();
+/// "The deceased", a man or a woman, if there is no name.
+QString Deceased(int gender);
 
 // Figures
 

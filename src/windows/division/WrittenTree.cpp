@@ -60,7 +60,7 @@ class Ruler {
 
 WrittenTree::WrittenTree(const DivisionView& view) : view_(view) {
   deceased_ = ToQt(view.Name).simplified();
-  if (deceased_.isEmpty()) deceased_ = words::Deceased();
+  if (deceased_.isEmpty()) deceased_ = words::Deceased(view.Gender);
   for (const auto* lines : {&view.Takers, &view.Others}) {
     for (const DivisionLine& line : *lines) {
       const faraid::Row& row = line.Law;
