@@ -570,10 +570,6 @@ Do you want to replace it?</source>
         <translation>القسمة - %1</translation>
     </message>
     <message>
-        <source>Type the estate</source>
-        <translation>أدخل التركة</translation>
-    </message>
-    <message>
         <source>What if these had died before: %1.</source>
         <translation>لو مات هؤلاء قبله: %1.</translation>
     </message>
@@ -620,6 +616,10 @@ Do you want to replace it?</source>
     <message>
         <source>Back to the case</source>
         <translation>العودة إلى المسألة</translation>
+    </message>
+    <message>
+        <source>Type what is true</source>
+        <translation>أدخل القيم الصحيحة</translation>
     </message>
 </context>
 <context>
@@ -1727,6 +1727,10 @@ Do you want to replace it?</source>
         <source>The deceased</source>
         <comment>a man</comment>
         <translation>المتوفى</translation>
+    </message>
+    <message>
+        <source>Name of the deceased</source>
+        <translation>اسم المتوفى</translation>
     </message>
 </context>
 </TS>

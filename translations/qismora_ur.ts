@@ -570,10 +570,6 @@ Do you want to replace it?</source>
         <translation>تقسیم - %1</translation>
     </message>
     <message>
-        <source>Type the estate</source>
-        <translation>ترکہ درج کریں</translation>
-    </message>
-    <message>
         <source>What if these had died before: %1.</source>
         <translation>اگر یہ پہلے وفات پا چکے ہوتے: %1۔</translation>
     </message>
@@ -620,6 +616,10 @@ Do you want to replace it?</source>
     <message>
         <source>Back to the case</source>
         <translation>اصل صورت پر واپس</translation>
+    </message>
+    <message>
+        <source>Type what is true</source>
+        <translation>اصل معلومات درج کریں</translation>
     </message>
 </context>
 <context>
@@ -1727,6 +1727,10 @@ Do you want to replace it?</source>
         <source>The deceased</source>
         <comment>a man</comment>
         <translation>متوفی</translation>
+    </message>
+    <message>
+        <source>Name of the deceased</source>
+        <translation>متوفی کا نام</translation>
     </message>
 </context>
 </TS>

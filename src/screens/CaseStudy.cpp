@@ -113,7 +113,7 @@ CaseStudy::CaseStudy(CaseRecord& record, Ports& ports, int savedLanguage)
 
   for (const Caption& caption : Captions()) Label1(caption.Index).Caption = std::string(caption.Words);
   SetHeirs(*this, "0");
-  Text1(NameField).Text = "ABDULLAH";
+  Text1(NameField).Text = std::string(ExampleName);
   for (const ExampleFigure& example : ExampleFigures) Text1(example.Index).Text = std::string(example.Text);
   Text1(NetEstateField).Text = "0";
   for (int i = 0; i < Check1.Size; ++i) Check1(i).Caption = ClassIIRows[static_cast<std::size_t>(i)].Caption;

@@ -40,6 +40,9 @@ inline constexpr std::array<ExampleFigure, 4> ExampleFigures = {{
     {WillsField, "2600"},
 }};
 
+/// The name of the deceased with which the screen opens.
+inline constexpr std::string_view ExampleName = "ABDULLAH";
+
 /// What the fields of the screen hold. The consent of the heirs is not part of the screen.
 CaseTexts ReadScreen(const CaseScreen& screen, bool heirsConsent);
 

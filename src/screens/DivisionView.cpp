@@ -60,6 +60,7 @@ DivisionView ViewWithoutLines(const CaseTexts& texts, const DivisionInput& input
   for (const ExampleFigure& example : ExampleFigures) {
     if (texts.Field(example.Index) == example.Text) view.Examples.push_back(example.Index);
   }
+  if (view.Name == ExampleName) view.Examples.push_back(NameField);
   if (!view.Unreadable.empty()) return view;
   view.Settlement = faraid::Settle(input.Estate);
   view.Outcome = view.Settlement.Shortfall > 0 ? DivisionOutcome::Short : DivisionOutcome::NoHeirs;

@@ -76,7 +76,7 @@ struct DivisionView {
 
   faraid::Estate Estate;
   faraid::Settlement Settlement;
-  /// The fields of the estate that still hold the figures with which the screen opens, by index.
+  /// The fields that still hold what the screen opens with, by index: those of the estate, and the name.
   std::vector<int> Examples;
 
   /// The shares and the bases; empty where nothing is divided.

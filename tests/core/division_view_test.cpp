@@ -60,11 +60,14 @@ TEST(DivisionView, TakersSumToTheNetEstateAndOthersStandApart) {
   EXPECT_EQ(view.Find(Kind::Daughters)->Parts, 16);
 }
 
-TEST(DivisionView, MarksTheExampleFiguresThatAreUntouched) {
+TEST(DivisionView, MarksTheExamplesThatAreUntouched) {
   CaseTexts texts = Case({{Kind::Sons, 1}}, "18600");
   texts.Fields[DebtsField] = "5000";
   texts.Fields[FuneralField] = "999";
+  texts.Fields[NameField] = "Abdullah";
   EXPECT_EQ(ViewDivision(texts, School::Hanafi).Examples, (std::vector<int>{GrossEstateField, DebtsField}));
+  texts.Fields[NameField] = "ABDULLAH";
+  EXPECT_EQ(ViewDivision(texts, School::Hanafi).Examples.back(), NameField);
 }
 
 TEST(DivisionView, AsksForTheConsentWhereMoreThanAThirdIsBequeathed) {

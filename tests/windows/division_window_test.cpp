@@ -101,6 +101,8 @@ class DivisionWindowTest : public QObject {
     study_->Type("Text1(26)", QStringLiteral("0"));
     study_->Type("Text1(27)", QStringLiteral("0"));
     study_->Type("Text1(28)", QStringLiteral("0"));
+    QTRY_VERIFY(Find<QLabel>("Examples")->text().contains(QStringLiteral("opens: Name of the deceased.")));
+    study_->Type("Text1(24)", QStringLiteral("Zaynab"));
     QTRY_VERIFY(!Find<QLabel>("Examples")->isVisible());
   }
 

@@ -78,7 +78,7 @@ void DivisionSentences::Show(const DivisionView& view, const Supposition& suppos
   const QString supposed = QTextDocumentFragment::fromHtml(supposition.Words()).toPlainText();
   headline_->setAccessibleName((headline_->text() + QLatin1Char(' ') + supposed).trimmed());
   estate_->Say(view.Unreadable.empty() ? words::EstateSummary(view).toHtmlEscaped() : QString());
-  examples_->Say(Examples(view, tr("Type the estate")));
+  examples_->Say(Examples(view, tr("Type what is true")));
   bequests_->Say(words::BequestNotice(view).toHtmlEscaped());
   consent_->setVisible(view.ConsentMatters());
   consent_->setChecked(heirsConsent);

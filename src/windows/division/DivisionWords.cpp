@@ -309,6 +309,7 @@ QString ExampleNotice(const DivisionView& view) {
     const int index = ExampleFigures[i].Index;
     if (std::ranges::count(view.Examples, index) > 0) names.append(Words::tr(estateFields[i].Name));
   }
+  if (std::ranges::count(view.Examples, NameField) > 0) names.append(Words::tr("Name of the deceased"));
   if (names.isEmpty()) return {};
   return Words::tr("Still the example with which Case Study opens: %1.").arg(names.join(ListSeparator()));
 }

@@ -81,7 +81,7 @@ std::vector<EstateLine> EstateLines(const DivisionView& view);
 QString EstateSummary(const DivisionView& view);
 /// "Bequests of 8,000.00 are limited to 4,000.00, ..."; empty without a limit.
 QString BequestNotice(const DivisionView& view);
-/// Names the figures of the estate that are still those of the example; empty without any.
+/// Names the fields that still hold the example; empty without any.
 QString ExampleNotice(const DivisionView& view);
 
 // The table
