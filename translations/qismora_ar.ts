@@ -1732,5 +1732,9 @@ Do you want to replace it?</source>
         <source>Name of the deceased</source>
         <translation>اسم المتوفى</translation>
     </message>
+    <message>
+        <source>Type who survives and what is left.</source>
+        <translation>أدخل الورثة الأحياء وما تركه المتوفى.</translation>
+    </message>
 </context>
 </TS>

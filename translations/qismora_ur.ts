@@ -1732,5 +1732,9 @@ Do you want to replace it?</source>
         <source>Name of the deceased</source>
         <translation>متوفی کا نام</translation>
     </message>
+    <message>
+        <source>Type who survives and what is left.</source>
+        <translation>درج کریں کہ کون زندہ ہے اور کیا ترکہ چھوڑا گیا۔</translation>
+    </message>
 </context>
 </TS>

@@ -192,6 +192,8 @@ class DivisionWordsTest : public QObject {
     QTest::addColumn<QString>("sentence");
     QTest::newRow("nobody") << ""
                             << "1,000.00 is left, and no heir is alive who takes it.";
+    QTest::newRow("an empty case") << "25=0"
+                                   << "Type who survives and what is left.";
     QTest::newRow("one son") << "2=1"
                              << "1,000.00 goes to one heir.";
     QTest::newRow("a spouse alone")

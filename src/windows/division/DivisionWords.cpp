@@ -231,6 +231,8 @@ QString Headline(const DivisionView& view) {
       return Words::tr("Nothing is left to divide: funeral expenses and debts exceed the estate by %1.")
           .arg(Amount(view.Settlement.Shortfall));
     case DivisionOutcome::NoHeirs:
+      if (view.Others.empty() && view.Estate.Gross == 0)
+        return Words::tr("Type who survives and what is left.");
       return Words::tr("%1 is left, and no heir is alive who takes it.").arg(net);
     default:
       break;
