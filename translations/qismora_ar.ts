@@ -1736,5 +1736,9 @@ Do you want to replace it?</source>
         <source>Type who survives and what is left.</source>
         <translation>أدخل الورثة الأحياء وما تركه المتوفى.</translation>
     </message>
+    <message>
+        <source>%1: the field is empty</source>
+        <translation>%1: الحقل فارغ</translation>
+    </message>
 </context>
 </TS>

@@ -1736,5 +1736,9 @@ Do you want to replace it?</source>
         <source>Type who survives and what is left.</source>
         <translation>درج کریں کہ کون زندہ ہے اور کیا ترکہ چھوڑا گیا۔</translation>
     </message>
+    <message>
+        <source>%1: the field is empty</source>
+        <translation>%1: خانہ خالی ہے</translation>
+    </message>
 </context>
 </TS>

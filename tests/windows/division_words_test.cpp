@@ -183,6 +183,8 @@ class DivisionWordsTest : public QObject {
   void faultsQuoteWhatIsTyped() {
     const UnreadableField field = {"Sons", "12 x", FieldFault::NotWhole, 100};
     QCOMPARE(words::Unreadable(field), QStringLiteral("Sons: \"12 x\" is not a whole number"));
+    QCOMPARE(words::Unreadable({"Wives", " ", FieldFault::NotWhole, 4}),
+             QStringLiteral("Wives: the field is empty"));
     SetLanguage(Language::Urdu);
     QCOMPARE(words::Unreadable(field), QStringLiteral("بیٹے: \"\u206812 x\u2069\" پورا عدد نہیں"));
   }

@@ -245,6 +245,7 @@ QString Headline(const DivisionView& view) {
 
 QString Unreadable(const UnreadableField& field) {
   const QString name = Field(field.Caption);
+  if (ToQt(field.Text).trimmed().isEmpty()) return Words::tr("%1: the field is empty").arg(name);
   const QString text = Isolated(ToQt(field.Text));
   switch (field.Fault) {
     case FieldFault::None:
