@@ -1065,10 +1065,6 @@ Do you want to replace it?</source>
 <context>
     <name>Paper</name>
     <message>
-        <source>The heirs consent to bequests of more than a third.</source>
-        <translation>أجاز الورثة ما زاد على الثلث من الوصايا.</translation>
-    </message>
-    <message>
         <source>Division</source>
         <translation>قسمة التركة</translation>
     </message>
@@ -1739,6 +1735,10 @@ Do you want to replace it?</source>
     <message>
         <source>%1: the field is empty</source>
         <translation>%1: الحقل فارغ</translation>
+    </message>
+    <message>
+        <source>The heirs consent to bequests of more than a third.</source>
+        <translation>أجاز الورثة ما زاد على الثلث من الوصايا.</translation>
     </message>
 </context>
 </TS>

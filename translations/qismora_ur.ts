@@ -1065,10 +1065,6 @@ Do you want to replace it?</source>
 <context>
     <name>Paper</name>
     <message>
-        <source>The heirs consent to bequests of more than a third.</source>
-        <translation>ورثاء تہائی سے زیادہ کی وصیت پر راضی ہیں۔</translation>
-    </message>
-    <message>
         <source>Division</source>
         <translation>تقسیمِ ترکہ</translation>
     </message>
@@ -1739,6 +1735,10 @@ Do you want to replace it?</source>
     <message>
         <source>%1: the field is empty</source>
         <translation>%1: خانہ خالی ہے</translation>
+    </message>
+    <message>
+        <source>The heirs consent to bequests of more than a third.</source>
+        <translation>ورثاء تہائی سے زیادہ کی وصیت پر راضی ہیں۔</translation>
     </message>
 </context>
 </TS>

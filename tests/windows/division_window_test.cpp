@@ -116,6 +116,8 @@ class DivisionWindowTest : public QObject {
     QTest::keyClick(consent, Qt::Key_Space);
     QTRY_COMPARE(Cell("Son", 4), QStringLiteral("4,600.00"));
     QVERIFY(consent->isVisible());
+    QCOMPARE(Find<QLabel>("Bequests")->text(),
+             QStringLiteral("The heirs consent to bequests of more than a third."));
   }
 
   void theConsentIsSavedOpenedAndForgottenWithTheCase() {

@@ -154,13 +154,6 @@ QString DivisionDocument::Estate() const {
   return Tag("h3", Paper::tr("The estate")) + markup::Table(rows, true);
 }
 
-// Those who sign it must read what they consent to.
-QString DivisionDocument::Consent() const {
-  return view_.Estate.HeirsConsent && view_.ConsentMatters()
-             ? Paper::tr("The heirs consent to bequests of more than a third.")
-             : QString();
-}
-
 // Where the heads of a line cannot all have the same, the law does not say who takes the hundredth.
 QString DivisionDocument::Hundredths() const {
   const bool differ = std::ranges::any_of(view_.Takers, [](const DivisionLine& line) {
@@ -217,10 +210,9 @@ QString DivisionDocument::Html(Break where) const {
                               QStringLiteral("<td width=\"44%\">%1</td>").arg(Estate())});
   QString html = Supposition() + Tag("h2", Paper::tr("Division of an estate")) +
                  markup::Table(estate, false) + Paragraph(words::BequestNotice(view_)) +
-                 Paragraph(Consent()) + Paragraph(words::ExampleNotice(view_)) +
-                 Tag("h3", Paper::tr("The division")) + Tag("p", words::Headline(view_)) +
-                 TableOfTakers(view_, Order::FromTheLeft) + Paragraph(words::Bases(view_.Division)) +
-                 Paragraph(Hundredths()) + OtherReport();
+                 Paragraph(words::ExampleNotice(view_)) + Tag("h3", Paper::tr("The division")) +
+                 Tag("p", words::Headline(view_)) + TableOfTakers(view_, Order::FromTheLeft) +
+                 Paragraph(words::Bases(view_.Division)) + Paragraph(Hundredths()) + OtherReport();
   if (!view_.Others.empty()) {
     html += opening("h3", Break::BeforeOthers) + Escaped(HeadingOfOthers()) + QStringLiteral("</h3>") +
             OthersByReason(view_);

@@ -54,7 +54,6 @@ class DivisionDocument {
   QList<Fact> Facts() const;
   QString FactsTable() const;
   QString Estate() const;
-  QString Consent() const;
   QString Hundredths() const;
   QString OtherReport() const;
   QString Signatures() const;

@@ -293,17 +293,24 @@ QString EstateSummary(const DivisionView& view) {
 }
 
 QString BequestNotice(const DivisionView& view) {
-  if (!view.IsDivided() || !view.BequestsAreCut()) return {};
+  if (!view.IsDivided()) return {};
   const QString asked = Amount(view.Estate.Bequests);
   const QString limit = Amount(view.Settlement.Bequests);
-  if (view.Estate.HeirsConsent) {
-    return Words::tr("Bequests of %1 are limited to %2, all that funeral expenses and debts leave.")
+  if (!view.Estate.HeirsConsent) {
+    if (!view.BequestsAreCut()) return {};
+    return Words::tr(
+               "Bequests of %1 are limited to %2, a third of what funeral expenses and debts leave. More "
+               "needs the consent of the heirs.")
         .arg(asked, limit);
   }
-  return Words::tr(
-             "Bequests of %1 are limited to %2, a third of what funeral expenses and debts leave. More "
-             "needs the consent of the heirs.")
-      .arg(asked, limit);
+  QStringList sentences;
+  if (view.BequestsAreCut()) {
+    sentences.append(Words::tr("Bequests of %1 are limited to %2, all that funeral expenses and debts leave.")
+                         .arg(asked, limit));
+  }
+  if (view.ConsentMatters())
+    sentences.append(Words::tr("The heirs consent to bequests of more than a third."));
+  return sentences.join(QLatin1Char(' '));
 }
 
 QString ExampleNotice(const DivisionView& view) {
