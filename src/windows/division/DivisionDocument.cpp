@@ -4,8 +4,6 @@
 #include <QBuffer>
 #include <QCoreApplication>
 #include <QFileInfo>
-#include <QGuiApplication>
-#include <QImage>
 #include <QMimeData>
 #include <QPageSize>
 #include <QPaintEngine>
@@ -18,6 +16,7 @@
 
 #include "windows/division/DivisionWords.h"
 #include "windows/division/Markup.h"
+#include "windows/division/PaperPage.h"
 #include "windows/division/PaperTable.h"
 #include "windows/division/PaperTree.h"
 #include "windows/platform/Utf8.h"
@@ -39,56 +38,8 @@ class Paper {
   Q_DECLARE_TR_FUNCTIONS(Paper)
 };
 
-constexpr double pointsOfFooter = 8;
-constexpr double dotsOfPreview = 150;  // to the inch
-constexpr double metresPerInch = 0.0254;
 /// Per cent: fonts of Naskh have room between the lines for marks that no sentence of the paper has.
 constexpr double lineHeightOfNaskh = 80;
-
-QFont PaperFont(double points) {
-  QFont font = FontOfLanguage(QGuiApplication::font());
-  font.setPointSizeF(points);
-  font.setHintingPreference(QFont::PreferNoHinting);  // as wide in a preview as on paper
-  return font;
-}
-
-/// Below the text of a page, for a device of so many dots per inch.
-double FooterHeight(int dots) { return 2 * pointsOfFooter * dots / 72; }
-
-void DrawPage(QPainter& painter, const QTextDocument& document, int page, const QString& foot) {
-  const QSizeF size = document.pageSize();
-  painter.save();
-  painter.translate(0, -page * size.height());
-  QAbstractTextDocumentLayout::PaintContext context;
-  context.palette.setColor(QPalette::Text, Qt::black);
-  context.clip = QRectF(QPointF(0, page * size.height()), size);
-  painter.setClipRect(context.clip);
-  document.documentLayout()->draw(&painter, context);
-  painter.restore();
-  painter.setFont(PaperFont(pointsOfFooter));
-  painter.setPen(Qt::black);
-  painter.setLayoutDirection(CurrentDirection());
-  const double height = FooterHeight(painter.device()->logicalDpiY());
-  painter.drawText(QRectF(0, size.height(), size.width(), height), Qt::AlignHCenter | Qt::AlignBottom, foot);
-}
-
-/// What a device shows within its margins.
-QImage PictureOf(const QTextDocument& document, int page, const QString& foot,
-                 const QPagedPaintDevice& device) {
-  const int dots = device.logicalDpiX();
-  const double scale = dotsOfPreview / dots;
-  QImage image((QSizeF(device.pageLayout().paintRectPixels(dots).size()) * scale).toSize(),
-               QImage::Format_Grayscale8);
-  // So that fonts have the sizes that they have on the device.
-  image.setDotsPerMeterX(qRound(dots / metresPerInch));
-  image.setDotsPerMeterY(qRound(dots / metresPerInch));
-  image.fill(Qt::white);
-  QPainter painter(&image);
-  painter.setRenderHints(QPainter::Antialiasing | QPainter::TextAntialiasing);
-  painter.scale(scale, scale);
-  DrawPage(painter, document, page, foot);
-  return image;
-}
 
 }  // namespace
 
@@ -246,7 +197,7 @@ std::unique_ptr<QTextDocument> DivisionDocument::LaidOutFor(QPagedPaintDevice& d
           .arg(points * 0.9));
   document->documentLayout()->setPaintDevice(&device);
   QSizeF place = device.pageLayout().paintRect(QPageLayout::Point).size();
-  place.rheight() -= 3 * pointsOfFooter;
+  place.rheight() -= 3 * PointsOfFooter;
   auto* tree = new PaperTree(view_, Paper::tr("The family"), font, place, document.get());
   document->documentLayout()->registerHandler(PaperTree::Type, tree);
   document->setHtml(Html(where));

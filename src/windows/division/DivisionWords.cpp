@@ -113,12 +113,6 @@ QString WhatHappened(const DivisionView& view) {
   }
 }
 
-QString OffFor(const QString& summary, const QString& what, faraid::Hundredths amount) {
-  if (amount == 0) return summary;
-  return Words::tr("%1 − %2 %3", "an estate, what is paid from it, the amount")
-      .arg(summary, what, Amount(amount));
-}
-
 }  // namespace
 
 QString Deceased(int gender) {
@@ -271,46 +265,6 @@ QString Bases(const faraid::Division& division) {
   if (division.RaisedTo == 0) return Words::tr("Base %1, corrected base %2").arg(base, corrected);
   return Words::tr("Base %1, raised to %2, corrected base %3")
       .arg(base, Number(division.RaisedTo), corrected);
-}
-
-std::vector<EstateLine> EstateLines(const DivisionView& view) {
-  std::vector<EstateLine> lines = {{Words::tr("Gross estate"), Amount(view.Estate.Gross)}};
-  const auto take = [&](const QString& caption, faraid::Hundredths amount) {
-    if (amount > 0) lines.push_back({Words::tr("less %1").arg(caption), Amount(amount)});
-  };
-  take(Words::tr("funeral expenses"), view.Estate.Funeral);
-  take(Words::tr("debts"), view.Estate.Debts);
-  take(Words::tr("bequests"), view.Settlement.Bequests);
-  lines.push_back({Words::tr("Net estate"), Amount(view.Settlement.Net)});
-  return lines;
-}
-
-QString EstateSummary(const DivisionView& view) {
-  QString summary = Words::tr("Gross estate %1").arg(Amount(view.Estate.Gross));
-  summary = OffFor(summary, Words::tr("funeral expenses"), view.Estate.Funeral);
-  summary = OffFor(summary, Words::tr("debts"), view.Estate.Debts);
-  return OffFor(summary, Words::tr("bequests"), view.Settlement.Bequests);
-}
-
-QString BequestNotice(const DivisionView& view) {
-  if (!view.IsDivided()) return {};
-  const QString asked = Amount(view.Estate.Bequests);
-  const QString limit = Amount(view.Settlement.Bequests);
-  if (!view.Estate.HeirsConsent) {
-    if (!view.BequestsAreCut()) return {};
-    return Words::tr(
-               "Bequests of %1 are limited to %2, a third of what funeral expenses and debts leave. More "
-               "needs the consent of the heirs.")
-        .arg(asked, limit);
-  }
-  QStringList sentences;
-  if (view.BequestsAreCut()) {
-    sentences.append(Words::tr("Bequests of %1 are limited to %2, all that funeral expenses and debts leave.")
-                         .arg(asked, limit));
-  }
-  if (view.ConsentMatters())
-    sentences.append(Words::tr("The heirs consent to bequests of more than a third."));
-  return sentences.join(QLatin1Char(' '));
 }
 
 QString ExampleNotice(const DivisionView& view) {
