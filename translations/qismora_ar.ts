@@ -1185,6 +1185,15 @@ Do you want to replace it?</source>
         <source>Amounts that cannot be divided evenly differ by one hundredth. The heirs agree who takes it.</source>
         <translation>المبالغ التي لا تنقسم بالتساوي تختلف بجزء من مئة من وحدة النقد. ويتفق الورثة على من يأخذه.</translation>
     </message>
+    <message>
+        <source>Funeral expenses and debts are paid before the heirs (%1). Nobody receives anything from this estate, and no heir owes what it lacks.</source>
+        <translation>تُقدَّم نفقات التجهيز والديون على حقوق الورثة (%1). فلا يأخذ أحد من هذه التركة شيئًا، ولا يلزم أحدًا من الورثة ما نقص منها.</translation>
+    </message>
+    <message>
+        <source>Alive: %1.</source>
+        <comment>a list of heirs</comment>
+        <translation>الأحياء: %1.</translation>
+    </message>
 </context>
 <context>
     <name>Reasons</name>
@@ -1739,6 +1748,10 @@ Do you want to replace it?</source>
     <message>
         <source>The heirs consent to bequests of more than a third.</source>
         <translation>أجاز الورثة ما زاد على الثلث من الوصايا.</translation>
+    </message>
+    <message>
+        <source>Shortfall</source>
+        <translation>العجز</translation>
     </message>
 </context>
 </TS>

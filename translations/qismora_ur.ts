@@ -1185,6 +1185,15 @@ Do you want to replace it?</source>
         <source>Amounts that cannot be divided evenly differ by one hundredth. The heirs agree who takes it.</source>
         <translation>جو رقوم برابر تقسیم نہیں ہو سکتیں ان میں اکائی کے سوویں حصے کا فرق رہتا ہے۔ ورثاء باہم طے کریں کہ یہ کون لے۔</translation>
     </message>
+    <message>
+        <source>Funeral expenses and debts are paid before the heirs (%1). Nobody receives anything from this estate, and no heir owes what it lacks.</source>
+        <translation>تجہیز و تکفین اور قرض وارثوں کے حصوں سے پہلے ادا ہوتے ہیں (%1)۔ اس ترکے سے کسی کو کچھ نہیں ملتا، اور جو کمی ہے وہ کسی وارث کے ذمے نہیں۔</translation>
+    </message>
+    <message>
+        <source>Alive: %1.</source>
+        <comment>a list of heirs</comment>
+        <translation>زندہ وارث: %1۔</translation>
+    </message>
 </context>
 <context>
     <name>Reasons</name>
@@ -1739,6 +1748,10 @@ Do you want to replace it?</source>
     <message>
         <source>The heirs consent to bequests of more than a third.</source>
         <translation>ورثاء تہائی سے زیادہ کی وصیت پر راضی ہیں۔</translation>
+    </message>
+    <message>
+        <source>Shortfall</source>
+        <translation>کمی</translation>
     </message>
 </context>
 </TS>

@@ -56,6 +56,7 @@ DivisionView ViewWithoutLines(const CaseTexts& texts, const DivisionInput& input
   view.Name = texts.Field(NameField);
   view.Gender = texts.Gender;
   view.Unreadable = input.Unreadable;
+  view.Family = input.Family;
   view.Estate = input.Estate;
   for (const ExampleFigure& example : ExampleFigures) {
     if (texts.Field(example.Index) == example.Text) view.Examples.push_back(example.Index);

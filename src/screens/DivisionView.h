@@ -74,6 +74,8 @@ struct DivisionView {
   /// The fields that cannot be read, in the order of the screen.
   std::vector<UnreadableField> Unreadable;
 
+  /// Who is alive, also where there is nothing to divide.
+  faraid::Family Family;
   faraid::Estate Estate;
   faraid::Settlement Settlement;
   /// The fields that still hold what the screen opens with, by index: those of the estate, and the name.
@@ -96,6 +98,8 @@ struct DivisionView {
   bool IsDivided() const {
     return Outcome != DivisionOutcome::Unreadable && Outcome != DivisionOutcome::Short;
   }
+  /// Every field can be read, so that there is something to print, even if it is that nothing is left.
+  bool IsReadable() const { return Outcome != DivisionOutcome::Unreadable; }
   /// The bequests exceed what they may take.
   bool BequestsAreCut() const { return Settlement.Bequests < Estate.Bequests; }
   /// The bequests exceed a third of what funeral expenses and debts leave, so the consent of the heirs

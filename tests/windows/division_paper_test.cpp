@@ -50,12 +50,16 @@ CaseTexts Everybody() {
   return texts;
 }
 
-DivisionDocument DocumentOf(const CaseTexts& texts, School school = School::Hanafi) {
+const QDate date(2026, 11, 21);
+
+DivisionView ViewOf(const CaseTexts& texts, School school = School::Hanafi) {
   testing::FakePorts ports;
   CaseScreen screen(ports.Ports);
   TypeIntoScreen(texts, screen);
-  return {ViewDivision(screen, false, school), QDate(2026, 11, 21)};
+  return ViewDivision(screen, false, school);
 }
+
+DivisionDocument DocumentOf(const CaseTexts& texts) { return {ViewOf(texts), date}; }
 
 qsizetype PagesOn(QPageSize::PageSizeId paper, const DivisionDocument& document) {
   QBuffer buffer;
@@ -84,33 +88,40 @@ class DivisionPaperTest : public QObject {
  private slots:
   void cleanup() { SetLanguage(Language::English); }
 
-  // One page for a family, two for all heirs at once, in every language.
+  // One page for a family, a supposition or debts above the estate, two for all heirs at once, in every
+  // language.
   void fitsItsPages_data() {
     QTest::addColumn<int>("language");
-    QTest::addColumn<bool>("everybody");
+    QTest::addColumn<QString>("what");
     for (const Language language : AllLanguages) {
-      for (const bool everybody : {false, true}) {
-        QTest::addRow("%d %s", static_cast<int>(language), everybody ? "everybody" : "a family")
-            << static_cast<int>(language) << everybody;
+      for (const char* what : {"family", "supposition", "debts", "everybody"}) {
+        QTest::addRow("%d %s", static_cast<int>(language), what)
+            << static_cast<int>(language) << QString::fromLatin1(what);
       }
     }
   }
   void fitsItsPages() {
     QFETCH(int, language);
-    QFETCH(bool, everybody);
+    QFETCH(QString, what);
     SetLanguage(static_cast<Language>(language));
+    CaseTexts texts = Abdullah();
+    if (what == QLatin1String("everybody")) texts = Everybody();
+    if (what == QLatin1String("debts")) texts.Fields[27] = std::string("1900000");
+    DivisionView view = ViewOf(texts);
+    if (what == QLatin1String("supposition")) {
+      view.Supposed = {{faraid::Kind::FullBrothers, 2, 2}, {faraid::Kind::Daughters, 1, 3}};
+    }
+    const DivisionDocument document(view, date);
     const QTemporaryDir folder;
-    const QString path =
-        KeptPath(QStringLiteral("%1-%2.pdf").arg(language).arg(everybody ? "everybody" : "family"), folder);
-    QCOMPARE(DocumentOf(everybody ? Everybody() : Abdullah()).SavePdf(path), std::optional<QString>());
+    const QString path = KeptPath(QStringLiteral("%1-%2.pdf").arg(language).arg(what), folder);
+    QCOMPARE(document.SavePdf(path), std::optional<QString>());
     QFile file(path);
     QVERIFY(file.open(QIODevice::ReadOnly));
     const QByteArray content = file.readAll();
     QVERIFY(content.startsWith("%PDF-"));
     QVERIFY(content.trimmed().endsWith("%%EOF"));
-    for (const QPageSize::PageSizeId paper : {QPageSize::A4, QPageSize::Letter}) {
-      QCOMPARE(PagesOn(paper, DocumentOf(everybody ? Everybody() : Abdullah())), everybody ? 2 : 1);
-    }
+    for (const QPageSize::PageSizeId paper : {QPageSize::A4, QPageSize::Letter})
+      QCOMPARE(PagesOn(paper, document), what == QLatin1String("everybody") ? 2 : 1);
   }
 
   // All heirs at once have their names in at least seven points, on A4 and Letter: those who yield to a son,
@@ -121,10 +132,7 @@ class DivisionPaperTest : public QObject {
     for (const Language language : AllLanguages) {
       SetLanguage(language);
       for (const CaseTexts& texts : {Everybody(), withoutSons}) {
-        testing::FakePorts ports;
-        CaseScreen screen(ports.Ports);
-        TypeIntoScreen(texts, screen);
-        const DivisionView view = ViewDivision(screen, false, School::Shafii);
+        const DivisionView view = ViewOf(texts, School::Shafii);
         for (const QSizeF page : {QSizeF(504, 727), QSizeF(521, 677)}) {
           const PaperTree tree(view, QString(), FontOfLanguage(QGuiApplication::font()), page, nullptr);
           QVERIFY2(tree.TextSize() >= 6.99, qPrintable(QString::number(tree.TextSize())));
@@ -173,7 +181,7 @@ class DivisionPaperTest : public QObject {
     DivisionView view = ViewDivision(Abdullah(), School::Hanafi);
     view.Supposed = {
         {faraid::Kind::Wives, 1, 1}, {faraid::Kind::Daughters, 2, 3}, {faraid::Kind::Sons, 2, 2}};
-    const DivisionDocument document(view, QDate(2026, 11, 21));
+    const DivisionDocument document(view, date);
     const QString sentence = QStringLiteral(
         "Supposition: as if the wife, 2 of 3 daughters and the 2 sons had died before the deceased.");
     QVERIFY(document.Html().indexOf(sentence) < document.Html().indexOf(QStringLiteral("Division of an")));
@@ -213,6 +221,18 @@ class DivisionPaperTest : public QObject {
   void theRemainderHasNoHeads() {
     const QString text = DocumentOf(CaseOf({{1, "1"}, {25, "100"}})).ForClipboard()->text();
     QVERIFY(text.contains(QStringLiteral("Remainder\t\t=3/4\t3\t75.00\t–\t")));
+  }
+
+  // Who settles the debts can print that nothing is left, and who is alive.
+  void printsThatDebtsExceedTheEstate() {
+    const DivisionDocument document =
+        DocumentOf(CaseOf({{1, "1"}, {3, "2"}, {25, "1000"}, {26, "500"}, {27, "900"}}));
+    for (const QString& words : {QStringLiteral(">400.00<"), QStringLiteral("no heir owes what it lacks"),
+                                 QStringLiteral("Alive: Wife, 2 Daughters."), QStringLiteral("....")}) {
+      QVERIFY2(document.Html().contains(words), qPrintable(words));
+    }
+    QVERIFY(!document.Html().contains(QStringLiteral("corrected base")));
+    QVERIFY(document.ForClipboard()->text().contains(QStringLiteral("by 400.00.\nFuneral expenses")));
   }
 
   // A second page that is found alone says whose it is, even where the name is too long for a line.

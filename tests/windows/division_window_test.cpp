@@ -72,12 +72,20 @@ class DivisionWindowTest : public QObject {
     QVERIFY(Division()->windowFlags().testFlag(Qt::WindowStaysOnTopHint));
   }
 
+  void printsThatDebtsExceedTheEstate() {
+    study_->Type("Text1(27)", QStringLiteral("99999"));
+    QTRY_VERIFY(!Find<QTableView>("DivisionTable")->isVisible());
+    QVERIFY(Find<QAction>("PrintDivision")->isEnabled());
+    QVERIFY(!Find<QAction>("FourSchools")->isEnabled());
+  }
+
   void namesUnreadableFieldsAndLeadsToThem() {
     study_->Type("Text1(3)", QStringLiteral("two"));
     auto* faults = Find<QLabel>("Unreadable");
     QTRY_VERIFY(faults->isVisible());
     QVERIFY(faults->text().contains(QStringLiteral("is not a whole number")));
     QVERIFY(!Find<QTableView>("DivisionTable")->isVisible());
+    QVERIFY(!Find<QAction>("PrintDivision")->isEnabled());
     auto* field = study_->Find<QLineEdit>("Text1(3)");
     Activate();
     faults->setFocus(Qt::TabFocusReason);

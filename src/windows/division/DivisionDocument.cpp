@@ -12,6 +12,7 @@
 #include <QSaveFile>
 #include <QTextCursor>
 #include <QTextDocument>
+#include <QTextDocumentFragment>
 #include <algorithm>
 
 #include "windows/division/DivisionWords.h"
@@ -105,6 +106,15 @@ QString DivisionDocument::Estate() const {
   return Tag("h3", Paper::tr("The estate")) + markup::Table(rows, true);
 }
 
+// Who settles the debts needs to know who is alive, and that they do not owe them.
+QString DivisionDocument::NothingLeft() const {
+  const QString alive = words::Alive(view_.Family);
+  return Paragraph(Paper::tr("Funeral expenses and debts are paid before the heirs (%1). Nobody receives "
+                             "anything from this estate, and no heir owes what it lacks.")
+                       .arg(words::SourceOf(faraid::Source::Quran4_11))) +
+         (alive.isEmpty() ? QString() : Paragraph(Paper::tr("Alive: %1.", "a list of heirs").arg(alive)));
+}
+
 // Where the heads of a line cannot all have the same, the law does not say who takes the hundredth.
 QString DivisionDocument::Hundredths() const {
   const bool differ = std::ranges::any_of(view_.Takers, [](const DivisionLine& line) {
@@ -162,8 +172,16 @@ QString DivisionDocument::Html(Break where) const {
   QString html = Supposition() + Tag("h2", Paper::tr("Division of an estate")) +
                  markup::Table(estate, false) + Paragraph(words::BequestNotice(view_)) +
                  Paragraph(words::ExampleNotice(view_)) + Tag("h3", Paper::tr("The division")) +
-                 Tag("p", words::Headline(view_)) + TableOfTakers(view_, Order::FromTheLeft) +
-                 Paragraph(words::Bases(view_.Division)) + Paragraph(Hundredths()) + OtherReport();
+                 Tag("p", words::Headline(view_));
+  const QString end =
+      Paragraph(
+          Paper::tr("Computed by %1 from the figures above. This paper is no judgment of a court and no "
+                    "fatwa: ask a scholar before the estate is divided.")
+              .arg(words::SchoolLaw(view_.School))) +
+      Signatures();
+  if (!view_.IsDivided()) return html + NothingLeft() + end;
+  html += TableOfTakers(view_, Order::FromTheLeft) + Paragraph(words::Bases(view_.Division)) +
+          Paragraph(Hundredths()) + OtherReport();
   if (!view_.Others.empty()) {
     html += opening("h3", Break::BeforeOthers) + Escaped(HeadingOfOthers()) + QStringLiteral("</h3>") +
             OthersByReason(view_);
@@ -171,12 +189,6 @@ QString DivisionDocument::Html(Break where) const {
   const bool alone = where == Break::BeforeTreeAlone;
   const QString tree = opening("p align=\"center\"", alone ? where : Break::BeforeTree) +
                        QChar(QChar::ObjectReplacementCharacter) + QStringLiteral("</p>");
-  const QString end =
-      Paragraph(
-          Paper::tr("Computed by %1 from the figures above. This paper is no judgment of a court and no "
-                    "fatwa: ask a scholar before the estate is divided.")
-              .arg(words::SchoolLaw(view_.School))) +
-      Signatures();
   return html + (alone ? end + tree : tree + end);
 }
 
@@ -213,6 +225,7 @@ std::unique_ptr<QTextDocument> DivisionDocument::LaidOutFor(QPagedPaintDevice& d
   page.rheight() -= FooterHeight(device.logicalDpiY());
   document->setPageSize(page);
 
+  if (!view_.IsDivided()) return document;
   QTextCursor cursor = document->find(QString(QChar(QChar::ObjectReplacementCharacter)));
   QTextCharFormat object;
   object.setObjectType(PaperTree::Type);
@@ -291,6 +304,12 @@ std::unique_ptr<QMimeData> DivisionDocument::ForClipboard() const {
   QString html;
   for (const QString& line : std::as_const(lines)) html += Paragraph(line);
   auto data = std::make_unique<QMimeData>();
+  if (!view_.IsDivided()) {
+    html += NothingLeft();
+    data->setHtml(html);
+    data->setText(QTextDocumentFragment::fromHtml(html).toPlainText());
+    return data;
+  }
   data->setHtml(html + TableOfTakers(view_, Order::AsRead) + TableOfOthers(view_, Order::AsRead));
   data->setText(lines.join(QLatin1Char('\n')) + QStringLiteral("\n\n") + TableAsText(view_));
   return data;

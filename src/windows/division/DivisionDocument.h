@@ -19,7 +19,7 @@ namespace qismora {
 /// The contents of a division on paper, in the current language: one or two pages in black and white.
 class DivisionDocument {
  public:
-  /// A division that has a table (DivisionView::IsDivided).
+  /// A division whose fields can be read (DivisionView::IsReadable).
   DivisionDocument(DivisionView view, const QDate& date);
 
   /// The suggested name of a file, without an ending: the name of the deceased as far as a file can have it,
@@ -54,6 +54,7 @@ class DivisionDocument {
   QList<Fact> Facts() const;
   QString FactsTable() const;
   QString Estate() const;
+  QString NothingLeft() const;
   QString Hundredths() const;
   QString OtherReport() const;
   QString Signatures() const;

@@ -95,8 +95,9 @@ void DivisionTools::SayAll() {
   language_->menu()->actions().constFirst()->setText(tr("As the desktop"));
 }
 
-void DivisionTools::Enable(bool isDivided) {
-  for (QAction* action : {copy_, print_, preview_, pdf_, fourSchools_}) action->setEnabled(isDivided);
+void DivisionTools::Enable(bool isReadable, bool isDivided) {
+  for (QAction* action : {copy_, print_, preview_, pdf_}) action->setEnabled(isReadable);
+  fourSchools_->setEnabled(isDivided);
   keep_->setEnabled(isDivided || keep_->isChecked());
 }
 

@@ -21,8 +21,9 @@ class DivisionTools : public QToolBar {
 
   /// All words in the current language.
   void SayAll();
-  /// What needs a table, and Keep unless it is to be undone.
-  void Enable(bool isDivided);
+  /// Enables the paper where all fields can be read, and what compares where there is a table. Keep can
+  /// always be undone.
+  void Enable(bool isReadable, bool isDivided);
 
   QComboBox* Schools() { return schools_; }
   QAction* FourSchools() { return fourSchools_; }

@@ -189,7 +189,7 @@ void DivisionWindow::Update() {
   }
   if (before_ && !before_->IsDivided()) before_.reset();
   sentences_->Show(shown_, supposition_, form_.HeirsConsent);
-  tools_->Enable(shown_.IsDivided());
+  tools_->Enable(shown_.IsReadable(), shown_.IsDivided());
   splitter_->setVisible(shown_.IsDivided());
   if (shown_.IsDivided()) ShowTable();
   ShowState();

@@ -18,6 +18,8 @@ namespace qismora::words {
 QString Heir(faraid::Kind kind, int heads);
 /// "2 Daughters"; one head alone is not counted.
 QString CountedHeir(faraid::Kind kind, int heads);
+/// "Wife, 2 Daughters, Mother"; empty where nobody is alive.
+QString Alive(const faraid::Family& family);
 /// "Supposition: as if the mother and 2 of 3 daughters had died before the deceased."; empty for the case as
 /// it is.
 QString Supposition(const DivisionView& view);
@@ -75,7 +77,7 @@ struct EstateLine {
   QString Caption;
   QString Amount;
 };
-/// The gross estate, what is paid before the heirs unless it is 0, and the net estate.
+/// The gross estate, what is paid before the heirs unless it is 0, and the net estate or the shortfall.
 std::vector<EstateLine> EstateLines(const DivisionView& view);
 /// The same in one line: "Gross estate 18,40,000.00 − debts 2,40,000.00 − bequests 1,00,000.00".
 QString EstateSummary(const DivisionView& view);

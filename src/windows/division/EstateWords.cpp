@@ -27,6 +27,10 @@ std::vector<EstateLine> EstateLines(const DivisionView& view) {
   take(Words::tr("funeral expenses"), view.Estate.Funeral);
   take(Words::tr("debts"), view.Estate.Debts);
   take(Words::tr("bequests"), view.Settlement.Bequests);
+  if (view.Settlement.Shortfall > 0) {
+    lines.push_back({Words::tr("Shortfall"), Amount(view.Settlement.Shortfall)});
+    return lines;
+  }
   lines.push_back({Words::tr("Net estate"), Amount(view.Settlement.Net)});
   return lines;
 }

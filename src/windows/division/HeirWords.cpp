@@ -122,6 +122,15 @@ QString OneHeir(Kind kind) {
   return QCoreApplication::translate("HeirsInSentences", NamesOf(kind).InSentence);
 }
 
+QString Alive(const faraid::Family& family) {
+  QStringList heirs;
+  for (std::size_t i = 0; i < faraid::KindCount; ++i) {
+    const auto heir = static_cast<Kind>(i);
+    if (family[heir] > 0) heirs.append(CountedHeir(heir, family[heir]));
+  }
+  return heirs.join(ListSeparator());
+}
+
 QString Supposition(const DivisionView& view) {
   if (view.Supposed.empty()) return {};
   QStringList dead;
