@@ -234,6 +234,17 @@ class DivisionWindowTest : public QObject {
   }
 
   // By the keyboard: the tree leads through the heirs, and the row goes along.
+  // Of a tree that has no room the deceased is seen first, in the middle of the family.
+  void showsTheDeceasedOfATallTree() {
+    for (const char* field : {"Text1(2)", "Text1(4)", "Text1(6)", "Text1(13)", "Text1(14)", "Text1(15)"})
+      study_->Type(field, QStringLiteral("1"));
+    QTRY_VERIFY(Row("Great-grandfather") >= 0);
+    Division()->resize(700, 480);
+    auto* tree = Find<FamilyTreeView>("FamilyTree");
+    QTRY_VERIFY(tree->visibleRegion().boundingRect().top() > 0);
+    QTRY_VERIFY(tree->visibleRegion().contains(tree->PlaceOfDeceased()));
+  }
+
   void treeAndTableChooseTheSameHeir() {
     study_->Type("Text1(2)", QStringLiteral("1"));
     study_->Type("Text1(13)", QStringLiteral("1"));

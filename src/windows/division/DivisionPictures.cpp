@@ -28,10 +28,13 @@ DivisionPictures::DivisionPictures(QWidget* parent)
   scroll_->setFocusPolicy(Qt::NoFocus);
   scroll_->setMinimumHeight(leastHeight);
   scroll_->setWidget(tree_);
-  // A tree that is too wide is seen from its middle.
+  // A tree that is too wide is seen from its middle, one that is too high from the deceased.
   QScrollBar* across = scroll_->horizontalScrollBar();
   connect(across, &QScrollBar::rangeChanged, this,
           [across](int from, int to) { across->setValue((from + to) / 2); });
+  QScrollBar* down = scroll_->verticalScrollBar();
+  connect(down, &QScrollBar::rangeChanged, this,
+          [this, down] { down->setValue(tree_->PlaceOfDeceased().center().y() - down->pageStep() / 2); });
   auto* rows = new QVBoxLayout(this);
   rows->setContentsMargins(0, topMargin, 0, 0);
   rows->addWidget(bar_);

@@ -95,6 +95,12 @@ QRect FamilyTreeView::PlaceOf(faraid::Kind heir) const {
   return {};
 }
 
+QRect FamilyTreeView::PlaceOfDeceased() const {
+  const auto& nodes = tree_.Tree().Nodes;
+  const auto deceased = std::ranges::find(nodes, TreeNode::Role::Deceased, &TreeNode::What);
+  return deceased == nodes.end() ? QRect() : RectOf(*deceased);
+}
+
 void FamilyTreeView::Choose(faraid::Kind heir) {
   if (std::exchange(chosen_, heir) == heir) return;
   SayChosen();

@@ -23,6 +23,7 @@ class FamilyTreeView : public QWidget {
   /// Raised when the user has chosen an heir.
   std::function<void(faraid::Kind)> Chosen;
   QRect PlaceOf(faraid::Kind heir) const;
+  QRect PlaceOfDeceased() const;
 
   QSize sizeHint() const override;
   QSize minimumSizeHint() const override { return sizeHint(); }
