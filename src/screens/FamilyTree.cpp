@@ -85,7 +85,8 @@ struct Placed {
   int Row = 0;
 };
 
-/// The end of a line: a row and what to add to the given edge of it.
+/// A point of a line, before rows have a height: the middle of a row with an offset, or a height in the gap
+/// above the row, a quarter of the gap from the row or a quarter from the next one.
 struct End {
   int X = 0;
   int Row = 0;
@@ -179,7 +180,7 @@ class Layout {
     return alive_.Has(person.Heir) || std::ranges::any_of(person.Parents, [&](int p) { return IsNeeded(p); });
   }
 
-  // The children of one person in the picture are the parents in the family: the tree stands on its head.
+  // The parents are placed like the children of an ordinary tree, upwards.
   struct Block {
     int Width = 0;
     int Centre = 0;
@@ -317,7 +318,8 @@ class Layout {
   void AddSpouse() {
     const int edge = m_.DeceasedWidth / 2 + m_.Gap;
     right_ = edge;
-    for (const Kind spouse : faraid::Spouses& alive_) {
+    const KindSet spouses = alive_ & faraid::Spouses;
+    for (const Kind spouse : spouses) {
       const bool below = arrangement_.SpouseBelow;
       const int left = below ? m_.Gap : edge + m_.Gap;
       const int middle = below ? (m_.DeceasedHeight + HeightOf(spouse)) / 2 + m_.Gap : 0;
@@ -336,7 +338,8 @@ class Layout {
 
   void AddClassII() {
     std::vector<Kind> heirs;
-    for (const Kind heir : faraid::ClassII& alive_) heirs.push_back(heir);
+    const KindSet classII = alive_ & faraid::ClassII;
+    for (const Kind heir : classII) heirs.push_back(heir);
     if (heirs.empty()) return;
     const int count = static_cast<int>(heirs.size());
     const int columns = (count + arrangement_.MostClassIIRows - 1) / arrangement_.MostClassIIRows;

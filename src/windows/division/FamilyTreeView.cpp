@@ -15,6 +15,7 @@ namespace qismora {
 namespace {
 
 constexpr int linePadding = 5;
+/// The strip at the beginning of a node, with the pattern of the heir.
 constexpr int keyWidth = 6;
 constexpr int margin = 6;
 constexpr qreal roundness = 4;

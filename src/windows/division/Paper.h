@@ -6,7 +6,7 @@ class QWidget;
 
 namespace qismora {
 
-// What the user does with the paper of a division. The window is the one over which dialogs appear.
+// The commands of the user for a DivisionDocument, with their dialogs, which appear over the window.
 
 /// Shows the pages as they will be printed, and prints from there.
 void PreviewPaper(const DivisionDocument& document, QWidget* window);

@@ -13,7 +13,7 @@ namespace qismora {
 namespace {
 
 constexpr int pointsPerInch = 72;
-/// The tree is laid out in points and its text is so high; a tree that is too large takes the smaller size.
+/// In points, whatever the resolution of the device. A tree that is too large takes the smaller size.
 constexpr int textSizes[] = {8, 7};
 /// Of a page.
 constexpr double highest = 0.6;

@@ -9,7 +9,7 @@ class QWidget;
 
 namespace qismora {
 
-/// What is printed, and on what the user finds it prepared.
+/// A print job: the document, and the page settings with which the dialog starts.
 struct PrintJob {
   const QString& Name;
   const QPageSize& Paper;
