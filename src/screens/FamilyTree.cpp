@@ -5,6 +5,8 @@
 #include <optional>
 #include <utility>
 
+#include "screens/Kinship.h"
+#include "screens/TreeRows.h"
 #include "screens/YieldLines.h"
 
 namespace qismora {
@@ -13,10 +15,6 @@ namespace {
 
 using faraid::Kind;
 using faraid::KindSet;
-
-constexpr int generations = 3;
-constexpr int rowCount = 2 * generations + 1;
-constexpr int deceasedRow = generations;
 
 /// Where no arrangement is narrow enough, so much height is worth one more of width.
 constexpr int costOfWidth = 3;
@@ -39,65 +37,10 @@ constexpr Arrangement arrangements[] = {
     {false, 6, false}, {false, 6, true}, {false, 12, true},
 };
 
-/// An ascendant, and the places in the table of his or her own parents.
-struct Ascendant {
-  Kind Heir;
-  int Generation;
-  std::array<int, 2> Parents;
-};
-
-constexpr int nobody = -1;
-
-// The father's side stands on the left.
-constexpr Ascendant ascendants[] = {
-    {Kind::Father, 1, {2, 3}},
-    {Kind::Mother, 1, {4, nobody}},
-    {Kind::Grandfather, 2, {5, 6}},
-    {Kind::FathersMother, 2, {7, nobody}},
-    {Kind::MothersMother, 2, {8, nobody}},
-    {Kind::GreatGrandfather, 3, {nobody, nobody}},
-    {Kind::GrandfathersMother, 3, {nobody, nobody}},
-    {Kind::FathersMothersMother, 3, {nobody, nobody}},
-    {Kind::MothersMothersMother, 3, {nobody, nobody}},
-};
-
-struct Descent {
-  Kind Male;
-  Kind Female;
-};
-
-constexpr Descent descents[generations] = {
-    {Kind::Sons, Kind::Daughters},
-    {Kind::SonsSons, Kind::SonsDaughters},
-    {Kind::SonsSonsSons, Kind::SonsSonsDaughters},
-};
-
-constexpr Descent siblings[] = {
-    {Kind::FullBrothers, Kind::FullSisters},
-    {Kind::ConsanguineBrothers, Kind::ConsanguineSisters},
-    {Kind::UterineBrothers, Kind::UterineSisters},
-};
-
-/// A node whose column is known, while rows have no height yet: the vertical place is counted from the middle
-/// of its row.
-struct Placed {
-  TreeNode Node;
-  int Row = 0;
-};
-
-/// A point of a line, before rows have a height: the middle of a row with an offset, or a height in the gap
-/// above the row, a quarter of the gap from the row or a quarter from the next one.
-struct End {
-  int X = 0;
-  int Row = 0;
-  enum class Edge { Middle, Above, FarAbove } Where = Edge::Middle;
-  int Offset = 0;
-};
-
 class Layout {
  public:
   Layout(const DivisionView& view, const TreeMetrics& metrics, const Arrangement& arrangement)
-      : view_(&view), m_(metrics), arrangement_(arrangement) {
+      : view_(&view), m_(metrics), arrangement_(arrangement), rows_(metrics) {
     for (const DivisionLine& line : view.Takers) {
       if (line.Heir() != Kind::Remainder) taking_ = taking_ | line.Heir();
     }
@@ -105,7 +48,7 @@ class Layout {
     for (const DivisionLine& line : view.Others) alive_ = alive_ | line.Heir();
     Add({TreeNode::Role::Deceased, Kind::Remainder, -m_.DeceasedWidth / 2, 0, m_.DeceasedWidth,
          m_.DeceasedHeight},
-        0, deceasedRow);
+        0, DeceasedRow);
     AddAscendants();
     AddDescendants();
     AddSiblings();
@@ -124,26 +67,17 @@ class Layout {
     if ((excess == 0) != (othersExcess == 0)) return excess == 0;
     return Height() + costOfWidth * excess < other.Height() + costOfWidth * othersExcess;
   }
-  int Height() const {
-    int y = 0;
-    int lowest = 0;
-    for (int row = 0; row < rowCount; ++row) {
-      const int half = halfHeights_[static_cast<std::size_t>(row)];
-      if (row == deceasedRow) lowest = y + half + lowest_;
-      if (half > 0) y += 2 * half + m_.RowGap;
-    }
-    return std::max(y - m_.RowGap, lowest);
-  }
+  int Height() const { return rows_.Height(); }
 
   FamilyTree Finish() {
     FamilyTree tree;
-    PlaceRows(tree);
+    rows_.Place(tree, Sides(), Margin(), alive_.HasAny(faraid::Siblings | faraid::ClassII));
     // The deceased stays the first.
     std::ranges::sort(tree.Nodes.begin() + 1, tree.Nodes.end(), [](const TreeNode& a, const TreeNode& b) {
       return std::pair(a.Y, a.X) < std::pair(b.Y, b.X);
     });
     AddYields(tree);
-    DrawYieldLines(tree, m_.Gap, m_.RowGap, lanes_);
+    DrawYieldLines(tree, m_.Gap, m_.RowGap, rows_.Lanes());
     return tree;
   }
 
@@ -154,16 +88,13 @@ class Layout {
     return (taking_.HasAny(heirs) ? m_.NodeHeight : m_.OtherHeight) + m_.Gap;
   }
 
-  void Add(TreeNode node, int middle, int row) {
-    node.Y = middle - node.Height / 2;
-    placed_.push_back({node, row});
+  void Add(const TreeNode& node, int middle, int row) {
     const bool isBesideDescendants = middle > mostRowsBeside * GridStep(faraid::ClassII) / 2;
     if (isBesideDescendants) {
-      lowest_ = std::max(lowest_, node.Y + node.Height);
-      return;
+      rows_.AddBesideRows(node, middle, row);
+    } else {
+      rows_.Add(node, middle, row);
     }
-    int& half = halfHeights_[static_cast<std::size_t>(row)];
-    half = std::max(half, std::max(-node.Y, node.Y + node.Height));
   }
   void AddHeir(Kind heir, int centre, int row, int middle = 0) {
     Add({TreeNode::Role::Heir, heir, centre - m_.NodeWidth / 2, 0, m_.NodeWidth, HeightOf(heir)}, middle,
@@ -172,11 +103,11 @@ class Layout {
   void AddLink(int centre, int row) {
     Add({TreeNode::Role::Link, Kind::Remainder, centre - m_.Link / 2, 0, m_.Link, m_.Link}, 0, row);
   }
-  void AddLine(std::vector<End> ends) { lines_.push_back(std::move(ends)); }
+  void AddLine(std::vector<TreeEnd> ends) { rows_.AddLine(std::move(ends)); }
 
   bool IsNeeded(int ascendant) const {
-    if (ascendant == nobody) return false;
-    const Ascendant& person = ascendants[ascendant];
+    if (ascendant == Nobody) return false;
+    const Ascendant& person = Ascendants[ascendant];
     return alive_.Has(person.Heir) || std::ranges::any_of(person.Parents, [&](int p) { return IsNeeded(p); });
   }
 
@@ -197,8 +128,8 @@ class Layout {
     const int own = WidthAbove(needed);
     int x = left + std::max(0, (leastWidth - own) / 2);
     for (const int parent : needed) {
-      const Ascendant& person = ascendants[parent];
-      const int parentRow = deceasedRow - person.Generation;
+      const Ascendant& person = Ascendants[parent];
+      const int parentRow = DeceasedRow - person.Generation;
       const bool alive = alive_.Has(person.Heir);
       const Block block = PlaceParents(person.Parents, x, parentRow, alive ? m_.NodeWidth : m_.Link);
       if (alive) {
@@ -213,8 +144,8 @@ class Layout {
     const int centre = (centres.front() + centres.back()) / 2;
     for (const int parent : centres) {
       AddLine({{parent, row - 1},
-               {parent, row, End::Edge::FarAbove},
-               {centre, row, End::Edge::FarAbove},
+               {parent, row, TreeEnd::Edge::FarAbove},
+               {centre, row, TreeEnd::Edge::FarAbove},
                {centre, row}});
     }
     return {std::max(width, leastWidth), centre};
@@ -222,7 +153,7 @@ class Layout {
   int WidthAbove(const std::vector<int>& people) const {
     int width = 0;
     for (const int i : people) {
-      const Ascendant& person = ascendants[i];
+      const Ascendant& person = Ascendants[i];
       std::vector<int> above;
       for (const int parent : person.Parents) {
         if (IsNeeded(parent)) above.push_back(parent);
@@ -235,26 +166,22 @@ class Layout {
 
   // Laid out from 0 and then moved, so that the deceased stands between the parents.
   void AddAscendants() {
-    const std::size_t firstNode = placed_.size();
-    const std::size_t firstLine = lines_.size();
-    const Block block = PlaceParents({0, 1}, 0, deceasedRow, 0);
-    for (std::size_t i = firstNode; i < placed_.size(); ++i) placed_[i].Node.X -= block.Centre;
-    for (std::size_t i = firstLine; i < lines_.size(); ++i) {
-      for (End& end : lines_[i]) end.X -= block.Centre;
-    }
+    const auto before = rows_.Count();
+    const Block block = PlaceParents({0, 1}, 0, DeceasedRow, 0);
+    rows_.MoveRight(before, -block.Centre);
   }
 
   // The trunk runs down the middle, through the child who has died.
   void AddDescendants() {
     int last = 0;
-    for (int g = 0; g < generations; ++g) {
-      if (alive_.HasAny(descents[g].Male | descents[g].Female)) last = g + 1;
+    for (int g = 0; g < Generations; ++g) {
+      if (alive_.HasAny(Descents[g].Male | Descents[g].Female)) last = g + 1;
     }
     for (int g = 0; g < last; ++g) {
-      const int row = deceasedRow + 1 + g;
+      const int row = DeceasedRow + 1 + g;
       const bool goesOn = g + 1 < last;
-      const bool male = alive_.Has(descents[g].Male);
-      const bool female = alive_.Has(descents[g].Female);
+      const bool male = alive_.Has(Descents[g].Male);
+      const bool female = alive_.Has(Descents[g].Female);
       const bool alone = !goesOn && male != female;
       const int side = alone ? 0 : (Step() + (goesOn ? m_.Link + m_.Gap : 0)) / 2;
       if (goesOn) {
@@ -262,10 +189,13 @@ class Layout {
         AddLine({{0, row - 1}, {0, row}});
       }
       for (const auto& [heir, centre] :
-           {std::pair(descents[g].Male, -side), std::pair(descents[g].Female, side)}) {
+           {std::pair(Descents[g].Male, -side), std::pair(Descents[g].Female, side)}) {
         if (!alive_.Has(heir)) continue;
         AddHeir(heir, centre, row);
-        AddLine({{0, row - 1}, {0, row, End::Edge::Above}, {centre, row, End::Edge::Above}, {centre, row}});
+        AddLine({{0, row - 1},
+                 {0, row, TreeEnd::Edge::Above},
+                 {centre, row, TreeEnd::Edge::Above},
+                 {centre, row}});
       }
     }
   }
@@ -277,7 +207,7 @@ class Layout {
     const int spine = edge - m_.Gap / 2;
     const int nearest = spine - m_.Gap - m_.NodeWidth / 2;
     std::vector<std::vector<Kind>> rows;
-    for (const Descent& pair : siblings) {
+    for (const Descent& pair : SiblingKinds) {
       std::vector<Kind> row;
       for (const Kind heir : {pair.Female, pair.Male}) {
         if (!alive_.Has(heir)) continue;
@@ -292,7 +222,7 @@ class Layout {
       const int middle = MiddleOf(i, count, GridStep(faraid::Siblings));
       int x = nearest;
       for (const Kind heir : rows[static_cast<std::size_t>(i)]) {
-        AddHeir(heir, x, deceasedRow, middle);
+        AddHeir(heir, x, DeceasedRow, middle);
         x -= Step();
       }
       hanging.emplace_back(x + Step(), middle);
@@ -305,13 +235,13 @@ class Layout {
   /// Each row hangs from a line that goes down beside them; a row is its end and its middle.
   void Hang(int spine, const std::vector<std::pair<int, int>>& rows) {
     if (rows.empty()) return;
-    AddLine({{0, deceasedRow},
-             {0, deceasedRow, End::Edge::Above},
-             {spine, deceasedRow, End::Edge::Above},
-             {spine, deceasedRow, End::Edge::Middle, rows.back().second}});
+    AddLine({{0, DeceasedRow},
+             {0, DeceasedRow, TreeEnd::Edge::Above},
+             {spine, DeceasedRow, TreeEnd::Edge::Above},
+             {spine, DeceasedRow, TreeEnd::Edge::Middle, rows.back().second}});
     for (const auto& [end, middle] : rows) {
-      AddLine(
-          {{spine, deceasedRow, End::Edge::Middle, middle}, {end, deceasedRow, End::Edge::Middle, middle}});
+      AddLine({{spine, DeceasedRow, TreeEnd::Edge::Middle, middle},
+               {end, DeceasedRow, TreeEnd::Edge::Middle, middle}});
     }
   }
 
@@ -323,15 +253,15 @@ class Layout {
       const bool below = arrangement_.SpouseBelow;
       const int left = below ? m_.Gap : edge + m_.Gap;
       const int middle = below ? (m_.DeceasedHeight + HeightOf(spouse)) / 2 + m_.Gap : 0;
-      AddHeir(spouse, left + m_.NodeWidth / 2, deceasedRow, middle);
+      AddHeir(spouse, left + m_.NodeWidth / 2, DeceasedRow, middle);
       right_ = std::max(right_, left + m_.NodeWidth + m_.Gap);
       if (below) {
-        AddLine({{0, deceasedRow},
-                 {edge, deceasedRow},
-                 {edge, deceasedRow, End::Edge::Middle, middle},
-                 {left + m_.NodeWidth / 2, deceasedRow, End::Edge::Middle, middle}});
+        AddLine({{0, DeceasedRow},
+                 {edge, DeceasedRow},
+                 {edge, DeceasedRow, TreeEnd::Edge::Middle, middle},
+                 {left + m_.NodeWidth / 2, DeceasedRow, TreeEnd::Edge::Middle, middle}});
       } else {
-        AddLine({{0, deceasedRow}, {left + m_.NodeWidth / 2, deceasedRow}});
+        AddLine({{0, DeceasedRow}, {left + m_.NodeWidth / 2, DeceasedRow}});
       }
     }
   }
@@ -344,24 +274,18 @@ class Layout {
     const int count = static_cast<int>(heirs.size());
     const int columns = (count + arrangement_.MostClassIIRows - 1) / arrangement_.MostClassIIRows;
     const int rows = (count + columns - 1) / columns;
-    if (rows > mostRowsBeside) {
-      for (const Placed& placed : placed_) {
-        if (placed.Row > deceasedRow) right_ = std::max(right_, placed.Node.X + placed.Node.Width);
-      }
-    }
+    if (rows > mostRowsBeside) right_ = std::max(right_, rows_.RightBelow());
     const int spine = right_ + m_.Gap / 2;
     const int nearest = spine + m_.Gap + m_.NodeWidth / 2;
     std::vector<std::pair<int, int>> hanging;
     for (int i = 0; i < count; ++i) {
       const int middle = MiddleOf(i / columns, std::min(rows, mostRowsBeside), GridStep(faraid::ClassII));
       const int x = nearest + i % columns * Step();
-      AddHeir(heirs[static_cast<std::size_t>(i)], x, deceasedRow, middle);
+      AddHeir(heirs[static_cast<std::size_t>(i)], x, DeceasedRow, middle);
       if (i % columns == columns - 1 || i == count - 1) hanging.emplace_back(x, middle);
     }
     Hang(spine, hanging);
   }
-
-  bool IsUsed(int row) const { return halfHeights_[static_cast<std::size_t>(row)] > 0; }
 
   bool Excludes() const {
     return std::ranges::any_of(view_->Others, [](const DivisionLine& line) { return Yields(line); });
@@ -374,57 +298,9 @@ class Layout {
   int Margin() const { return Excludes() ? m_.Gap : 0; }
 
   std::pair<int, int> Sides() const {
-    int left = 0;
-    int right = arrangement_.SpouseBelow ? m_.DeceasedWidth / 2 + m_.Gap : 0;
-    for (const Placed& placed : placed_) {
-      left = std::min(left, placed.Node.X);
-      right = std::max(right, placed.Node.X + placed.Node.Width);
-    }
-    return {left - Margin(), right + Margin()};
-  }
-
-  void PlaceRows(FamilyTree& tree) {
-    const auto [left, right] = Sides();
-    // What hangs from the line above the deceased needs its space though there are no parents.
-    const bool hangs = alive_.HasAny(faraid::Siblings | faraid::ClassII);
-    const bool parents = IsUsed(deceasedRow - 1);
-    std::array<int, rowCount> middles{};
-    int y = hangs && !parents ? m_.RowGap / 2 : 0;
-    for (int row = 0; row < rowCount; ++row) {
-      const auto r = static_cast<std::size_t>(row);
-      if (!IsUsed(row)) continue;
-      middles[r] = y + halfHeights_[r];
-      if (y > 0) lanes_.push_back(y - m_.RowGap / 2);
-      y += 2 * halfHeights_[r] + m_.RowGap;
-    }
-    tree.Width = right - left;
-    const int bottom = std::max(y - m_.RowGap, middles[deceasedRow] + lowest_);
-    tree.Height = bottom + Margin();
-    lanes_.push_back(bottom + Margin() / 2);
-    for (Placed& placed : placed_) {
-      placed.Node.X -= left;
-      placed.Node.Y += middles[static_cast<std::size_t>(placed.Row)];
-      tree.Nodes.push_back(placed.Node);
-    }
-    for (const auto& ends : lines_) {
-      TreeLine line;
-      for (const End& end : ends) line.push_back({end.X - left, Height(end, middles)});
-      tree.Lines.push_back(std::move(line));
-    }
-  }
-
-  int Height(const End& end, const std::array<int, rowCount>& middles) const {
-    const auto row = static_cast<std::size_t>(end.Row);
-    const int top = middles[row] - halfHeights_[row];
-    switch (end.Where) {
-      case End::Edge::Middle:
-        return middles[row] + end.Offset;
-      case End::Edge::Above:
-        return top - m_.RowGap / 4;
-      case End::Edge::FarAbove:
-        return top - 3 * m_.RowGap / 4;
-    }
-    return 0;
+    const auto [left, right] = rows_.Sides();
+    const int least = arrangement_.SpouseBelow ? m_.DeceasedWidth / 2 + m_.Gap : 0;
+    return {left - Margin(), std::max(right, least) + Margin()};
   }
 
   void AddYields(FamilyTree& tree) const {
@@ -442,14 +318,8 @@ class Layout {
   Arrangement arrangement_;
   KindSet taking_;
   KindSet alive_;
-  std::vector<Placed> placed_;
-  std::vector<std::vector<End>> lines_;
-  std::array<int, rowCount> halfHeights_{};
+  TreeRows rows_;
   int right_ = 0;
-  /// What stands beside the descendants ends so far below the middle of the deceased.
-  int lowest_ = 0;
-  /// The heights between the rows at which the lines of those who yield may run.
-  std::vector<int> lanes_;
 };
 
 }  // namespace

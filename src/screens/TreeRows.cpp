@@ -1,0 +1,98 @@
+#include "screens/TreeRows.h"
+
+#include <algorithm>
+
+namespace qismora {
+
+void TreeRows::Add(TreeNode node, int middle, int row) {
+  node.Y = middle - node.Height / 2;
+  placed_.push_back({node, row});
+  int& half = halfHeights_[static_cast<std::size_t>(row)];
+  half = std::max(half, std::max(-node.Y, node.Y + node.Height));
+}
+
+void TreeRows::AddBesideRows(TreeNode node, int middle, int row) {
+  node.Y = middle - node.Height / 2;
+  placed_.push_back({node, row});
+  lowest_ = std::max(lowest_, node.Y + node.Height);
+}
+
+void TreeRows::MoveRight(std::pair<std::size_t, std::size_t> since, int by) {
+  for (std::size_t i = since.first; i < placed_.size(); ++i) placed_[i].Node.X += by;
+  for (std::size_t i = since.second; i < lines_.size(); ++i) {
+    for (TreeEnd& end : lines_[i]) end.X += by;
+  }
+}
+
+std::pair<int, int> TreeRows::Sides() const {
+  int left = 0;
+  int right = 0;
+  for (const Placed& placed : placed_) {
+    left = std::min(left, placed.Node.X);
+    right = std::max(right, placed.Node.X + placed.Node.Width);
+  }
+  return {left, right};
+}
+
+int TreeRows::RightBelow() const {
+  int right = 0;
+  for (const Placed& placed : placed_) {
+    if (placed.Row > DeceasedRow) right = std::max(right, placed.Node.X + placed.Node.Width);
+  }
+  return right;
+}
+
+int TreeRows::Height() const {
+  int y = 0;
+  int lowest = 0;
+  for (int row = 0; row < TreeRowCount; ++row) {
+    const int half = halfHeights_[static_cast<std::size_t>(row)];
+    if (row == DeceasedRow) lowest = y + half + lowest_;
+    if (half > 0) y += 2 * half + m_.RowGap;
+  }
+  return std::max(y - m_.RowGap, lowest);
+}
+
+void TreeRows::Place(FamilyTree& tree, std::pair<int, int> sides, int margin, bool hangs) {
+  const auto [left, right] = sides;
+  const bool parents = IsUsed(DeceasedRow - 1);
+  std::array<int, TreeRowCount> middles{};
+  int y = hangs && !parents ? m_.RowGap / 2 : 0;
+  for (int row = 0; row < TreeRowCount; ++row) {
+    const auto r = static_cast<std::size_t>(row);
+    if (!IsUsed(row)) continue;
+    middles[r] = y + halfHeights_[r];
+    if (y > 0) lanes_.push_back(y - m_.RowGap / 2);
+    y += 2 * halfHeights_[r] + m_.RowGap;
+  }
+  tree.Width = right - left;
+  const int bottom = std::max(y - m_.RowGap, middles[DeceasedRow] + lowest_);
+  tree.Height = bottom + margin;
+  lanes_.push_back(bottom + margin / 2);
+  for (Placed& placed : placed_) {
+    placed.Node.X -= left;
+    placed.Node.Y += middles[static_cast<std::size_t>(placed.Row)];
+    tree.Nodes.push_back(placed.Node);
+  }
+  for (const auto& ends : lines_) {
+    TreeLine line;
+    for (const TreeEnd& end : ends) line.push_back({end.X - left, HeightOf(end, middles)});
+    tree.Lines.push_back(std::move(line));
+  }
+}
+
+int TreeRows::HeightOf(const TreeEnd& end, const std::array<int, TreeRowCount>& middles) const {
+  const auto row = static_cast<std::size_t>(end.Row);
+  const int top = middles[row] - halfHeights_[row];
+  switch (end.Where) {
+    case TreeEnd::Edge::Middle:
+      return middles[row] + end.Offset;
+    case TreeEnd::Edge::Above:
+      return top - m_.RowGap / 4;
+    case TreeEnd::Edge::FarAbove:
+      return top - 3 * m_.RowGap / 4;
+  }
+  return 0;
+}
+
+}  // namespace qismora
