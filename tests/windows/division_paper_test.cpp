@@ -128,7 +128,7 @@ class DivisionPaperTest : public QObject {
   // and those who yield to a grandfather, which takes more words.
   void keepsTheTreeReadable() {
     CaseTexts withoutSons = Everybody();
-    for (const std::size_t field : {2, 4, 6, 13}) withoutSons.Fields[field] = std::string("0");
+    for (const std::size_t field : {2U, 4U, 6U, 13U}) withoutSons.Fields[field] = std::string("0");
     for (const Language language : AllLanguages) {
       SetLanguage(language);
       for (const CaseTexts& texts : {Everybody(), withoutSons}) {
