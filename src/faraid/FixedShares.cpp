@@ -80,6 +80,7 @@ constexpr Row table[] = {
 
     {ConsanguineSisters, noShare, BesideSharingGrandfather},
     {ConsanguineSisters, noShare, Beside<ConsanguineBrothers | FemaleDescendants>},
+    // The verse names two thirds. That she completes them is consensus, by analogy with the son's daughter.
     {ConsanguineSisters, Sixth, One<FullSisters>, CompletesTwoThirds, FullSisters, Quran4_176},
     {ConsanguineSisters, noShare, Beside<FullSisters>},
     {ConsanguineSisters, Half, One<ConsanguineSisters>, OneInPlaceOf, FullSisters, Quran4_176},

@@ -25,9 +25,11 @@ struct SchoolLaw {
   /// Father and grandfather exclude the grandmothers who are related through them.
   bool FathersExcludeGrandmothers;
   /// The father's mother excludes the mother's mother's mother; the second: even if the father excludes her.
+  /// On both the Companions differed.
   bool NearerOfFathersSideExcludes;
   bool ExcludedNearerExcludes;
-  /// Where the remainder goes if the spouse is the only heir.
+  /// Where the remainder goes if the spouse is the only heir: to distant kindred (Quran 8:75). If there is
+  /// none, the schools differ.
   ReasonCode RemainderBesideSpouse;
 };
 

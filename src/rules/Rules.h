@@ -15,8 +15,8 @@ void ShareOfWife(CaseRecord& c, CaseScreen& screen);
 /// deceased only the heading is set.
 void ShareOfHusband(CaseRecord& c, CaseScreen& screen);
 
-/// The daughters' share: one half for one, two thirds for more, the residue beside sons (Quran 4:11; two
-/// thirds for exactly two by the report of Jabir on the daughters of Sad).
+/// The daughters' share: one half for one, two thirds for two or more, the residue beside sons (Quran 4:11;
+/// the report of Jabir on the daughters of Sad applies its two thirds to exactly two).
 void ShareOfDaughters(CaseRecord& c, CaseScreen& screen);
 
 /// Explains that the nearest male descendant is a residuary (Quran 4:11; consensus for a son's descendants).
@@ -24,9 +24,9 @@ void ShareOfDaughters(CaseRecord& c, CaseScreen& screen);
 void ShareOfSon(CaseRecord& c, CaseScreen& screen);
 
 /// The share of the ultimate father, who is the nearest living male ascendant: one sixth beside a male
-/// descendant (Quran 4:11), one sixth and the residue beside female descendants alone, the residue without
-/// descendants ("what remains goes to the nearest male", report of Ibn Abbas). A grandfather stands in the
-/// father's place by the ruling of Abu Bakr. The residuary distribution divides the residue itself.
+/// descendant, one sixth and the residue beside female descendants alone, the residue without descendants
+/// (Quran 4:11). A grandfather stands in the father's place by consensus; that he excludes brothers and
+/// sisters, as the father does, is the ruling of Abu Bakr. The residuary distribution divides the residue.
 void ShareOfFather(CaseRecord& c, CaseScreen& screen);
 
 /// The mother's share: one sixth beside a descendant or two brothers or sisters of any kind, else one third
@@ -42,29 +42,37 @@ void ShareOfGrandMother(CaseRecord& c, CaseScreen& screen);
 /// of one of them. More women than an Integer holds are the overflow failure.
 void SetGrandMotherGroup(CaseRecord& c);
 
-/// The share of the son's daughters: in the daughters' place one half or two thirds (consensus on Quran
-/// 4:11), one sixth beside one daughter (report of Ibn Masud), the residue beside a son's son or a lower one
-/// (majority of the Companions).
+/// The share of the son's daughters. A son excludes them (consensus), and so do two daughters, who have taken
+/// the two thirds, unless a son's son or a son's son's son makes them residuaries (Quran 4:11). Without a
+/// daughter they take one half or two thirds in her place (Quran 4:11), beside one daughter one sixth (report
+/// of Ibn Masud).
 void ShareOfSonsDaughter(CaseRecord& c, CaseScreen& screen);
 
 /// The share of the son's son's daughters, one generation below the son's daughters and on the same sources.
-/// It reads the flag SonsDaughterWithLowerSonsSon and must run after ShareOfSonsDaughter.
+/// A son and a son's son exclude them, and so do a daughter together with a son's daughter, or two son's
+/// daughters. Beside a son's son's son they are residuaries, beside daughters or one son's daughter they take
+/// one sixth, else one half or two thirds. The rule reads the flag SonsDaughterWithLowerSonsSon and must run
+/// after ShareOfSonsDaughter.
 void ShareOfSonsSonsDaughter(CaseRecord& c, CaseScreen& screen);
 
-/// The full brother: excluded, or a residuary without a fixed share (Quran 4:176; beside female descendants
-/// "what remains goes to the nearest male", report of Ibn Abbas).
+/// The full brother: excluded by a male descendant (Quran 4:176) or a male ascendant (the same verse for the
+/// father, the ruling of Abu Bakr for a grandfather), or else a residuary (Quran 4:176).
 void ShareOfFullBrother(CaseRecord& c, CaseScreen& screen);
 
-/// The full sister: excluded, a residuary beside a brother (Quran 4:176) or female descendants (report of Ibn
-/// Masud), or else a sharer of one half or two thirds (Quran 4:176).
+/// The full sister: excluded like her brother, a residuary beside him (Quran 4:176) or female descendants
+/// (report of Ibn Masud), or else a sharer of one half or two thirds (Quran 4:176).
 void ShareOfFullSister(CaseRecord& c, CaseScreen& screen);
 
-/// The consanguine sister: like the full sister, after the full brothers and sisters (Quran 4:176). Beside
-/// exactly one full sister she has one sixth (consensus, by analogy with the son's daughter beside one
-/// daughter).
+/// The consanguine sister: like the full sister (Quran 4:176), after the full brothers and sisters. A full
+/// brother excludes her too (report of Ali), and so do two full sisters, who have taken the two thirds, and
+/// one full sister who is a residuary beside female descendants (report of Ibn Masud). Beside exactly one
+/// full sister else she completes the two thirds of Quran 4:176 with one sixth (consensus, by analogy with
+/// the son's daughter beside one daughter).
 void ShareOfConsSister(CaseRecord& c, CaseScreen& screen);
 
-/// The consanguine brother: excluded, or a residuary like the full brother and on the same sources.
+/// The consanguine brother: excluded by a male descendant or ascendant, or else a residuary, like the full
+/// brother and on the same sources. The rule does not look at full brothers and sisters; the residuary
+/// distribution gives them the residue before him.
 void ShareOfConsBrother(CaseRecord& c, CaseScreen& screen);
 
 /// The uterine sister: one sixth alone, or the sisters' part of the one third that uterine brothers and
