@@ -1,4 +1,4 @@
-// The Division window beside Case Study: tells how long it takes to open for the first time and at best, and
+// The Division window beside Case Study: prints how long it takes to open for the first time and at best, and
 // then, for a usual family and for one of every kind of heir, how long a keystroke takes until table and tree
 // are painted. All in milliseconds, at the scale of QT_SCALE_FACTOR.
 //   division_window FOLDER     FOLDER stands for the program's own
@@ -51,7 +51,7 @@ int main(int argc, char** argv) {
   program.Windows.MainMenu().Form().ShowCaseStudy();
   CaseStudyWindow* study = program.Windows.Study();
   CaseStudy& form = study->Form();
-  for (const int box : {1, 14, 16, 31}) form.Text1(box).Text = "1";
+  for (const int field : {1, 14, 16, 31}) form.Text1(field).Text = "1";
   form.Text1(3).Text = "2";
 
   double first = 0;
@@ -66,7 +66,7 @@ int main(int argc, char** argv) {
     best = best == 0 ? took : std::min(best, took);
   }
   const double usual = Keystroke(form);
-  for (const int box : HeirFieldIndexes) form.Text1(box).Text = box >= 13 && box <= 21 ? "1" : "2";
+  for (const int field : HeirFieldIndexes) form.Text1(field).Text = field >= 13 && field <= 21 ? "1" : "2";
   for (int i = 0; i < form.Check1.Size; ++i) form.Check1(i).Value = 1;
   std::printf("%.2f %.2f %.2f %.2f\n", first, best, usual, Keystroke(form));
   return 0;

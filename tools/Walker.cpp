@@ -172,7 +172,7 @@ class Walker : public QObject {
         QScrollBar* bar = Find<QPlainTextEdit>(step.Name)->verticalScrollBar();
         return bar->setValue(bar->maximum());
       }
-      case Do::Speak:
+      case Do::SetLanguage:
         for (const Language language : AllLanguages) {
           if (NameOf(language) == QString::fromUtf8(step.Name)) SetLanguage(language);
         }

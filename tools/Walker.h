@@ -7,9 +7,9 @@
 
 namespace qismora::tour {
 
-/// What a user does with a control of the active window. The control is given by its name. Speak chooses the
+/// What a user does with a control of the active window, which is given by its name. SetLanguage chooses the
 /// language with that name.
-enum class Do { Click, DoubleClick, Hover, Choose, Pick, Type, Bottom, Speak, Close };
+enum class Do { Click, DoubleClick, Hover, Choose, Pick, Type, Bottom, SetLanguage, Close };
 
 struct Step {
   Do What;

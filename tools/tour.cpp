@@ -105,8 +105,8 @@ const std::vector<Stop> stops = {
       {Do::Choose, "Division"}},
      Shown::BesideCaseStudy},
     {"division-schools", {{Do::Choose, "FourSchools"}}},
-    {"division-urdu", {{Do::Choose, "FourSchools"}, {Do::Speak, "اردو"}}},
-    {"division-arabic", {{Do::Speak, "العربية"}}},
+    {"division-urdu", {{Do::Choose, "FourSchools"}, {Do::SetLanguage, "اردو"}}},
+    {"division-arabic", {{Do::SetLanguage, "العربية"}}},
 };
 
 /// The largest difference of two colours in any channel.

@@ -27,15 +27,15 @@ std::string Plain(std::string_view text) {
 
 Messages::Messages(bool quiet) : showsProgress_(!quiet && ErrorsGoToTerminal() && !OutputIsTerminal()) {}
 
-void Messages::Say(std::string_view sentence) {
-  TakeAwayProgress();
+void Messages::Print(std::string_view sentence) {
+  ClearProgress();
   std::cerr << "qismora-divide: " + Plain(sentence) + "\n";
 }
 
-void Messages::Say(std::string_view place, std::int64_t line, std::string_view sentence) {
+void Messages::Print(std::string_view place, std::int64_t line, std::string_view sentence) {
   std::string text(place);
   if (line > 0) text.append(":").append(std::to_string(line));
-  Say(text.append(": ").append(sentence));
+  Print(text.append(": ").append(sentence));
 }
 
 void Messages::ShowProgress(const Source& source) {
@@ -51,12 +51,12 @@ void Messages::ShowProgress(const Source& source) {
         ", " + std::to_string(source.BytesRead() * 100 / source.Length()) + " % of " + Plain(source.Name());
   }
   std::cerr << text << std::flush;
-  progressStands_ = true;
+  progressShown_ = true;
 }
 
-void Messages::TakeAwayProgress() {
-  if (progressStands_) std::cerr << "\r\x1b[K" << std::flush;
-  progressStands_ = false;
+void Messages::ClearProgress() {
+  if (progressShown_) std::cerr << "\r\x1b[K" << std::flush;
+  progressShown_ = false;
 }
 
 }  // namespace qismora::divide

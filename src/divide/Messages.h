@@ -14,14 +14,14 @@ class Messages {
  public:
   /// Progress is shown if standard error is a terminal and standard output is not.
   explicit Messages(bool quiet);
-  ~Messages() { TakeAwayProgress(); }
+  ~Messages() { ClearProgress(); }
   Messages(const Messages&) = delete;
   Messages& operator=(const Messages&) = delete;
 
   /// "qismora-divide: SENTENCE". Control characters are escaped.
-  void Say(std::string_view sentence);
+  void Print(std::string_view sentence);
   /// "qismora-divide: PLACE:LINE: SENTENCE", without the line if it is 0.
-  void Say(std::string_view place, std::int64_t line, std::string_view sentence);
+  void Print(std::string_view place, std::int64_t line, std::string_view sentence);
 
   /// Called for each family. The clock is read only now and then.
   void Progress(const Source& source) {
@@ -33,10 +33,10 @@ class Messages {
   using Clock = std::chrono::steady_clock;
 
   void ShowProgress(const Source& source);
-  void TakeAwayProgress();
+  void ClearProgress();
 
   bool showsProgress_;
-  bool progressStands_ = false;
+  bool progressShown_ = false;
   std::int64_t families_ = 0;
   Clock::time_point start_ = Clock::now();
   Clock::time_point shown_ = start_;

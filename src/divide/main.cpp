@@ -24,13 +24,13 @@ class Run {
       format_.End(out_.Buffer);
       out_.Flush();
     } catch (const CannotWrite& failure) {
-      messages_.Say(failure.what());
+      messages_.Print(failure.what());
       return NotDone;
     }
     if (refused_ == 0) return status_;
     if (!options_.Quiet) {
-      messages_.Say(std::to_string(refused_) + " of " + std::to_string(divided_ + refused_) +
-                    " families were not divided.");
+      messages_.Print(std::to_string(refused_) + " of " + std::to_string(divided_ + refused_) +
+                      " families were not divided.");
     }
     return std::max(status_, SomeNotDivided);
   }
@@ -50,16 +50,16 @@ class Run {
                 messages_.Progress(source);
               },
           .Skipped = [&](std::int64_t line,
-                         const std::string& sentence) { messages_.Say(source.Name(), line, sentence); },
+                         const std::string& sentence) { messages_.Print(source.Name(), line, sentence); },
       };
       try {
         ReadFamilies(source, options_, number_, events);
       } catch (const InputFault& fault) {
-        messages_.Say(source.Name(), fault.Line, fault.Sentence);
+        messages_.Print(source.Name(), fault.Line, fault.Sentence);
         status_ = NotDone;
       }
     } catch (const CannotRead& failure) {
-      messages_.Say(failure.what());
+      messages_.Print(failure.what());
       status_ = NotDone;
     }
   }
@@ -99,7 +99,7 @@ class Run {
   void Refuse(const Source& source, const InputFamily& family) {
     ++refused_;
     if (OutputIsTerminal()) out_.Flush();  // the fault stands where its family would
-    for (const std::string& fault : family.Faults) messages_.Say(source.Name(), family.Line, fault);
+    for (const std::string& fault : family.Faults) messages_.Print(source.Name(), family.Line, fault);
   }
 
   const Options& options_;

@@ -19,9 +19,9 @@ namespace {
 // A line is written in zones of 14 columns. The dates have 19 characters, so they begin in the columns 15 and
 // 43, and the length in column 71. The reader cuts the line at fixed positions.
 constexpr std::size_t zone = 14;
-constexpr std::size_t dateRoom = 25;
-constexpr std::size_t endPlace = 26;
-constexpr std::size_t lengthRoom = 8;
+constexpr std::size_t dateWidth = 25;
+constexpr std::size_t endColumn = 26;
+constexpr std::size_t lengthWidth = 8;
 
 constexpr std::size_t blockLength = 1 << 16;
 
@@ -168,9 +168,9 @@ SessionTable ReadSessionLog(ShellPorts& ports) {
     SessionRow row;
     row.Number = TakeNumber(line);
     SkipBlanks(line);
-    row.Start = line.substr(0, dateRoom);
-    row.End = line.substr(std::min(endPlace, line.size()), dateRoom);
-    row.Length = RoundTo<Long>(ParsePrefix(line.substr(line.size() - std::min(lengthRoom, line.size()))));
+    row.Start = line.substr(0, dateWidth);
+    row.End = line.substr(std::min(endColumn, line.size()), dateWidth);
+    row.Length = RoundTo<Long>(ParsePrefix(line.substr(line.size() - std::min(lengthWidth, line.size()))));
     table.TotalSeconds += row.Length;
     table.Rows.push_back(std::move(row));
   });

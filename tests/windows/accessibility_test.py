@@ -164,8 +164,8 @@ class Program(unittest.TestCase):
     def choose(self, entry):
         self.press(self.menu, "radio button", entry, "Toggle")
 
-    def type(self, where, box, words):
-        self.find(where, "text", box).queryEditableText().setTextContents(words)
+    def type(self, where, field, words):
+        self.find(where, "text", field).queryEditableText().setTextContents(words)
 
     def answer(self, button="OK"):
         """Presses a button of the message box that opens, and returns its text."""
@@ -219,9 +219,9 @@ class Program(unittest.TestCase):
         self.assert_named(study)
         gender = next(n for n in walk(study) if n.getRoleName() == "combo box")
         self.assertEqual(caption(gender), "Gender of the deceased")
-        for box, figure in (("Wives", "1"), ("Sons", "1"), ("Daughters", "1"), ("Name of the deceased", "Amina"),
+        for field, figure in (("Wives", "1"), ("Sons", "1"), ("Daughters", "1"), ("Name of the deceased", "Amina"),
                             ("Gross estate", "24000"), ("Funeral", "0"), ("Debts", "0"), ("Wills", "0")):
-            self.type(study, box, figure)
+            self.type(study, field, figure)
         self.press(study, "push button", "Wives")
         self.assertIn("Current data executed successfully.", self.answer())
         self.find(study, "label", "Heading of the result: WIFE'S SHARE")
