@@ -8,7 +8,7 @@
 namespace qismora {
 
 /// What lives as long as the process.
-struct ApplicationLayer {
+struct ApplicationState {
   // How many heirs of each kind are alive: one husband or up to four wives, one father.
   Integer Husband;
   Integer Wives;
@@ -120,7 +120,7 @@ inline constexpr int Radd = 31;
 inline constexpr int SurplusToClassII = 33;
 
 /// What lives as long as the Case Study screen.
-struct ScreenLayer {
+struct ScreenState {
   /// A hard failure has stopped the loading of the case. The code that reads it as true resets it.
   bool InputFailed = false;
   /// A run of several rules has loaded the case, so their wrappers do not load it again.
@@ -200,6 +200,6 @@ struct ScreenLayer {
 
 /// The one record of a case. Rules take no values from one another: all work on this record, and the
 /// order of calls carries results from rule to rule.
-struct CaseRecord : ApplicationLayer, ScreenLayer {};
+struct CaseRecord : ApplicationState, ScreenState {};
 
 }  // namespace qismora

@@ -109,7 +109,7 @@ void CaseStudy::Command(AnswerOf what, const std::string& name, Body body) {
 
 CaseStudy::CaseStudy(CaseRecord& record, Ports& ports, int savedLanguage)
     : CaseScreen(ports), record_(record) {
-  static_cast<ScreenLayer&>(record) = ScreenLayer{};
+  static_cast<ScreenState&>(record) = ScreenState{};
 
   for (const Caption& caption : Captions()) Label1(caption.Index).Caption = std::string(caption.Words);
   SetHeirs(*this, "0");
@@ -164,8 +164,8 @@ void CaseStudy::StartCase(const CaseTexts& texts) {
   Event([&] {
     reviewing_ = false;
     const Long executions = record_.ExecCount;
-    static_cast<ApplicationLayer&>(record_) = ApplicationLayer{};
-    static_cast<ScreenLayer&>(record_) = ScreenLayer{};
+    static_cast<ApplicationState&>(record_) = ApplicationState{};
+    static_cast<ScreenState&>(record_) = ScreenState{};
     record_.ExecCount = executions;
     ShowFirstResults();
     for (TextBox* text : {&Text2, &Text3}) {

@@ -17,7 +17,7 @@ namespace qismora {
 /// is reported with its number in a message box, and the program continues.
 class CaseStudy : public CaseScreen, public CentredFrame {
  public:
-  /// Resets the screen layer of the record and runs the start sequence. The saved language is the first view,
+  /// Resets the screen state of the record and runs the start sequence. The saved language is the first view,
   /// an index of Label4.
   CaseStudy(CaseRecord& record, Ports& ports, int savedLanguage);
 

@@ -78,7 +78,7 @@ constexpr std::size_t FieldCount(Values... values) {
 }
 
 static_assert(std::tuple_size_v<decltype(PrintedFields)> + std::tuple_size_v<decltype(OtherFields)> ==
-                  FieldCount<ApplicationLayer>() + FieldCount<ScreenLayer>(),
+                  FieldCount<ApplicationState>() + FieldCount<ScreenState>(),
               "a field of the record is in neither list");
 
 }  // namespace qismora::testing
