@@ -13,44 +13,54 @@ namespace qismora {
 
 namespace {
 
-/// Who the residuary is, by the index of the flag.
-constexpr const char* residuaryMessages[] = {
-    "Son is Residuary (Asaba').",
-    "Daughter is Residuary (Asaba').",
-    "Ultimate Father is Residuary (Asaba').",
-    "Ultimate Father is Residuary (Asaba').",
-    "Son's Daughter is Residuary (Asaba') with Equal son's son/ Lower son's son.",
-    "Full Sister is Residuary (Asaba') with Full Brother and descendant daughters.",
-    "Full Sister is Residuary (Asaba') with descendant daughters.",
-    "Son's Son is Residuary (Asaba').",
-    "Full Sister is Residuary (Asaba') with Full Brother.",
-    "Full Brother is Residuary (Asaba').",
-    "Consanguine Sister is Residuary (Asaba') with descendant daughters",
-    "Son's Son's Son is Residuary (Asaba').",
-    "Consanguine Sister is Residuary (Asaba') with Consanguine Brother.",
-    "Consanguine Sister is Residuary (Asaba') with Consanguine Brother and descendant daughters.",
-    "Consanguine Brother is Residuary (Asaba').",
-    "Son's Daughter is Residuary (Asaba') with equal son's son.",
-    "Son's Son's Daughter is Residuary (Asaba') with equal son's son (SSS).",
-    "Son's Son's Daughter is Residuary (Asaba') with equal son's son & Son's daughter (SSD+SSS+SD).",
-    "Son's Son's son is Residuary (Asaba') with Son's daughter (SSS+SD).",
+struct ResiduaryMessage {
+  ResiduaryFlag Flag;
+  const char* Text;
+};
+
+/// Who the residuary is, in the order of the flags.
+constexpr ResiduaryMessage residuaryMessages[] = {
+    {SonsAlone, "Son is Residuary (Asaba')."},
+    {SonsWithDaughters, "Daughter is Residuary (Asaba')."},
+    {FatherAsResiduary, "Ultimate Father is Residuary (Asaba')."},
+    {FatherAsSharerAndResiduary, "Ultimate Father is Residuary (Asaba')."},
+    {SonsDaughterWithSonsSon, "Son's Daughter is Residuary (Asaba') with Equal son's son/ Lower son's son."},
+    {FullSiblingsBesideDaughters,
+     "Full Sister is Residuary (Asaba') with Full Brother and descendant daughters."},
+    {FullSisterBesideDaughters, "Full Sister is Residuary (Asaba') with descendant daughters."},
+    {SonsSonsAlone, "Son's Son is Residuary (Asaba')."},
+    {FullBrothersWithSisters, "Full Sister is Residuary (Asaba') with Full Brother."},
+    {FullBrothersAlone, "Full Brother is Residuary (Asaba')."},
+    {ConsSisterBesideDaughters, "Consanguine Sister is Residuary (Asaba') with descendant daughters"},
+    {SonsSonsSonsAlone, "Son's Son's Son is Residuary (Asaba')."},
+    {ConsBrothersWithSisters, "Consanguine Sister is Residuary (Asaba') with Consanguine Brother."},
+    {ConsSiblingsBesideDaughters,
+     "Consanguine Sister is Residuary (Asaba') with Consanguine Brother and descendant daughters."},
+    {ConsBrothersAlone, "Consanguine Brother is Residuary (Asaba')."},
+    {SonsDaughterWithSonsSonBesideDaughters, "Son's Daughter is Residuary (Asaba') with equal son's son."},
+    {SonsSonsDaughterWithSonsSonsSon,
+     "Son's Son's Daughter is Residuary (Asaba') with equal son's son (SSS)."},
+    {SonsSonsDaughterBesideSonsDaughter,
+     "Son's Son's Daughter is Residuary (Asaba') with equal son's son & Son's daughter (SSD+SSS+SD)."},
+    {SonsDaughterWithLowerSonsSon, "Son's Son's son is Residuary (Asaba') with Son's daughter (SSS+SD)."},
 };
 
 /// Whether a class I residuary takes the residue, so that no doctrine applies. The user may ask who it is.
 bool AskAboutResiduary(const CaseRecord& c, CaseScreen& screen) {
-  int i = SonsAlone;
-  for (; i <= SonsDaughterWithLowerSonsSon; ++i) {
-    if (!c.Res(i)) continue;
+  int next = SonsAlone;
+  for (const ResiduaryMessage& row : residuaryMessages) {
+    next = row.Flag + 1;
+    if (!c.Res(row.Flag)) continue;
     const Answer answer = screen.System.Boxes.Show(
         BoxStyle::Warning, BoxButtons::YesNoCancel,
         "Doctrine of Aul and Radd applies only in absence of Residuaries (Asaba't).\r\n"
         "The case is not free from Residuary (Asaba'). Want to know the Residuaries (Asaba't)?");
-    if (answer == Answer::Yes) screen.System.Boxes.Inform(BoxStyle::Information, residuaryMessages[i]);
+    if (answer == Answer::Yes) screen.System.Boxes.Inform(BoxStyle::Information, row.Text);
     return true;
   }
-  // The loop ends before the flag of class II, so this message is never shown. Showing it would add a message
-  // to every surplus that goes to class II. Fixed wording; do not correct.
-  if (i == ClassIITicked) {
+  // The loop ends one flag before that of class II, so this message is never shown. It is kept as one of the
+  // fixed texts. Showing it would add a message to every surplus that goes to class II.
+  if (next == ClassIITicked) {
     screen.System.Boxes.Inform(
         BoxStyle::Information,
         "RESIDUARY (ASABA') IS AMONG SECOND CLASS RESIDUARIES [ASABA'T] (e.g UNCLE etc.).");

@@ -52,7 +52,9 @@ void Offer(CaseRecord& c, CaseScreen& screen, int state, const char* message) {
 }  // namespace
 
 void SufficiencyTest(CaseRecord& c, CaseScreen& screen) {
-  // The consanguine brother's amount is not in the sum.
+  // In this order, which is not that of Heirs: a floating-point sum depends on it, and the residue is
+  // compared with 0. The brothers have no fixed share, so their amounts are 0; only the full one's is in the
+  // sum.
   c.TotalQShares = c.WifeShare + c.HusbandShare + c.FatherShare + c.MotherShare + c.GrandMotherShare +
                    c.DaughterShare + c.SonsDaughterShare + c.SonsSonsDaughterShare + c.FullSisterShare +
                    c.FullBrotherShare + c.ConsSisterShare + c.UterineSisterShare + c.UterineBrotherShare;

@@ -26,8 +26,7 @@ enum class Manner : std::uint8_t {
   /// Men two parts and women one, if both take.
   TwoToOne,
   /// Siblings beside a grandfather: first the full sisters, up to 1/2 or 2/3 of the whole, then the
-  /// consanguine
-  /// siblings; two to one within each.
+  /// consanguine siblings; two to one within each.
   FullSiblingsFirst,
 };
 

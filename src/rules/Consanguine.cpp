@@ -64,7 +64,7 @@ void ShareOfConsBrother(CaseRecord& c, CaseScreen& screen) {
     Report(c, ConsBrotherHeir, ConsBrotherTexts[LeftExcluders], ExcludingList(c), ConsBrotherTexts[Excluded],
            NilTail);
   } else if (HasFemaleDescendant(c)) {
-    SetFraction(c, ConsBrotherHeir, Integer(0), Integer(1));
+    SetFraction(c, ConsBrotherHeir, Integer(0), Integer(1));  // no flag: that is for his sister's rule to set
     Report(c, ConsBrotherHeir, ConsBrotherTexts[LeftNoExcluder], CRLF, DaughtersList(c),
            ConsBrotherTexts[ResiduaryBesideDaughters], "\r\n\tRESIDUARY (ASABA')");
   } else if (c.ConsSisters > 0) {

@@ -35,7 +35,7 @@ std::string SonReport(CaseRecord& c) {
 void ShareOfDaughters(CaseRecord& c, CaseScreen& screen) {
   using enum NoDaughterEntry;
   screen.Label2.Caption = "DAUGHTERS' SHARE";
-  SetFraction(c, DaughterHeir, Integer(0), Integer(1));
+  SetFraction(c, DaughterHeir, Integer(0), Integer(1));  // stays if the amount overflows
   if (c.Sons > 0 && c.Daughters == 0) {
     TakeNothing(c, DaughterHeir);
     Report(c, DaughterHeir, NoDaughterText[NoDaughter], "\r\n\tNIL");

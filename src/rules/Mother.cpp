@@ -68,9 +68,9 @@ void DecideMother(CaseRecord& c, CaseScreen& screen) {
 
 void ShareOfMother(CaseRecord& c, CaseScreen& screen) {
   screen.Label2.Caption = "MOTHER'S SHARE";
-  SetFraction(c, MotherHeir, Integer(0), Integer(1));
+  SetFraction(c, MotherHeir, Integer(0), Integer(1));  // stays if a count or the amount overflows
   if (c.Mother == 0) {
-    c.MotherShare = 0;
+    TakeNothing(c, MotherHeir);
     Report(c, MotherHeir, NoMotherText);
     ShowResult(c, screen, MotherHeir, Join(NoMotherText, "\r\n\r\n\tNIL  ", FractionOf(c, MotherHeir)));
   } else {

@@ -25,7 +25,8 @@ std::string EachShare(const CaseRecord& c, const char* each) {
 }  // namespace
 
 /// A run does not reach the second and third row: without a daughter, the son's daughters set the flag
-/// SonsDaughterWithLowerSonsSon only if no son's son's daughter is alive.
+/// SonsDaughterWithLowerSonsSon only if no son's son's daughter is alive. Both rows are kept as part of the
+/// rule; "Re-Write" stands where a narrative is missing. Fixed wording; do not correct.
 void ShareOfSonsSonsDaughter(CaseRecord& c, CaseScreen& screen) {
   using enum SonsSonsDaughterText;
   screen.Label2.Caption = "GRANDSON'S DAUGHTER SHARE";

@@ -6,7 +6,8 @@
 namespace qismora {
 
 /// The fixed texts of a rule, indexed by an enumeration that says what each text states. Rows that are not in
-/// the order of the enumeration do not compile. No rule shows an entry whose name begins with Unshown.
+/// the order of the enumeration do not compile. The names, sizes and order of the tables are fixed, so texts
+/// that no rule shows are kept: the entries whose names begin with Unshown, and what is marked so.
 template <class Entry, std::size_t Size>
 class NarrativeTable {
  public:

@@ -47,8 +47,8 @@ inline constexpr std::string_view NoSonsDaughterText =
 enum class SonsDaughterResiduaryText {
   WithLowerSonsSon,
   WithEqualSonsSon,
-  Empty2,
-  Empty3,
+  UnshownEmpty1,
+  UnshownEmpty2,
   ForSonsSonsDaughter
 };
 inline constexpr NarrativeTable<SonsDaughterResiduaryText, 5> SonsDaughterResiduaryTexts = {{
@@ -64,8 +64,8 @@ inline constexpr NarrativeTable<SonsDaughterResiduaryText, 5> SonsDaughterResidu
      "Under the above situation, Son's daughter will be a Residuary (Asaba') with equal son's son. Her "
      "share in the net estate wealth will be:\r\n\r\n"
      "\tRESIDUARY (Asaba')"},
-    {SonsDaughterResiduaryText::Empty2, ""},
-    {SonsDaughterResiduaryText::Empty3, ""},
+    {SonsDaughterResiduaryText::UnshownEmpty1, ""},
+    {SonsDaughterResiduaryText::UnshownEmpty2, ""},
     {SonsDaughterResiduaryText::ForSonsSonsDaughter, ""},
 }};
 
