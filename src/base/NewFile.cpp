@@ -20,6 +20,7 @@ namespace fs = std::filesystem;
 
 namespace {
 
+// Of all files, case files too, so that each save removes what any earlier one has left.
 constexpr std::string_view prefix = ".report-";
 constexpr std::string_view suffix = ".part";
 
@@ -68,7 +69,7 @@ std::optional<struct stat> FileToReplace(const std::string& path, Replace replac
   }
   if (replace == Replace::Agreed && S_ISLNK(found.st_mode)) return std::nullopt;
   if (reason != nullptr) throw FileFailure(PathFileAccess, reason);
-  if (replace == Replace::OwnFile && found.st_nlink > 1) {
+  if (replace == Replace::WithoutAsking && found.st_nlink > 1) {
     throw FileFailure(PathFileAccess, "the file has a second name");
   }
   if (faccessat(AT_FDCWD, path.c_str(), W_OK, AT_EACCESS) != 0) throw FileFailure(errno);

@@ -11,9 +11,9 @@ namespace qismora {
 /// What a new file may replace. Directories, pipes and devices are never replaced, nor files that the user
 /// may not write to.
 enum class Replace {
-  Nothing,  ///< failure 58 if the name is taken
-  OwnFile,  ///< without a question: an ordinary file without a second name
-  Agreed,   ///< with the user's consent: an ordinary file, or a link, but not its target
+  Nothing,        ///< throws Failure(FileAlreadyExists) if the name is taken
+  WithoutAsking,  ///< an ordinary file that has no second hard link
+  Agreed,         ///< with the user's consent: an ordinary file, or a link, but not its target
 };
 
 /// A file that gets its name when it is complete on the disk. Until then it has a temporary name in the same

@@ -30,7 +30,7 @@ void EndSave(const CaseScreen& screen, const std::string& path, const std::strin
 /// what was printed before it; an abandoned run does not change the file. Returns what was written, because
 /// another program may write its own report to the same file.
 std::string PrintReport(CaseRecord& c, CaseScreen& screen, const std::string& stepOne) {
-  NewFile file(screen.System.Places, WorkingFile(screen), Replace::OwnFile);
+  NewFile file(screen.System.Places, WorkingFile(screen), Replace::WithoutAsking);
   std::string report;
   const auto print = [&](std::string_view text) { report.append(text).append(CRLF); };
   try {

@@ -76,7 +76,7 @@ TEST(Files, LinksPipesDevicesAndFoldersAreRefusedAtOnce) {
   for (const char* name : Obstacles::Names) {
     const std::string path = obstacles.Folder.File(name);
     const fs::file_type type = fs::symlink_status(path).type();
-    EXPECT_THROW(Write(path, "x", Replace::OwnFile), FileFailure) << name;
+    EXPECT_THROW(Write(path, "x", Replace::WithoutAsking), FileFailure) << name;
     EXPECT_THROW(Write(path, "x", Replace::Nothing), FileFailure) << name;
     EXPECT_THROW(AppendLine(path, "x"), FileFailure) << name;
     if (name != std::string("second name")) {
@@ -131,7 +131,7 @@ TEST(Files, AFileThatTheUserMayNotWriteToIsNotReplaced) {
   if (child == 0) {
     constexpr uid_t nobody = 65534;
     if (geteuid() == 0 && setuid(nobody) != 0) _exit(1);
-    for (const Replace replace : {Replace::OwnFile, Replace::Agreed}) {
+    for (const Replace replace : {Replace::WithoutAsking, Replace::Agreed}) {
       try {
         Write(folder.File("a.txt"), "later", replace);
         _exit(2);
