@@ -28,16 +28,16 @@ bool StrikeOut(CaseRecord& c, int candidate) {
 
 void FindLCM(CaseRecord& c) {
   c.LcmResult = Long(1);
-  Array<Integer, 10> Factors;
+  Array<Integer, 10> factors;  // from 1 on; the eleventh factor fails
   int factorCount = 0;
   Integer previous(0);
   for (Integer largest = LargestEntry(c); largest != previous; largest = LargestEntry(c)) {
     for (int candidate = 2; candidate <= largest; ++candidate) {
-      if (StrikeOut(c, candidate)) Factors(++factorCount) = Integer(candidate);
+      if (StrikeOut(c, candidate)) factors(++factorCount) = Integer(candidate);
     }
     previous = largest;
   }
-  for (int i = 1; i <= factorCount; ++i) c.LcmResult *= ToLong(Factors(i));
+  for (int i = 1; i <= factorCount; ++i) c.LcmResult *= ToLong(factors(i));
   for (int i = 0; i < c.LcmCount; ++i) c.LcmResult *= ToLong(c.LcmDen(i));
 }
 
