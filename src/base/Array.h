@@ -6,7 +6,8 @@
 
 namespace qismora {
 
-/// Elements with the indices 0 to Last. An index outside of them is the subscript failure.
+/// Elements with the indices 0 to Last. An index outside of them throws
+/// Failure(SubscriptOutOfRange).
 template <class Element, int Last>
 class Array {
  public:

@@ -5,8 +5,8 @@
 
 namespace qismora {
 
-/// A run-time failure with a fixed number. Code that can handle it catches it. An unhandled failure ends its
-/// event and is shown to the user.
+/// A run-time failure with a number. Code that can handle it catches it. An unhandled failure ends its event
+/// and is shown to the user with its number and text, so both are fixed.
 class Failure : public std::exception {
  public:
   explicit Failure(int number) : Number(number) {}

@@ -40,7 +40,7 @@ class Descriptor {
   int file_;
 };
 
-/// An ordinary file that is open for reading. A missing file is the failure 53.
+/// An ordinary file that is open for reading. Throws Failure(FileNotFound) for a missing file.
 class InputFile {
  public:
   explicit InputFile(const std::string& path);
@@ -58,10 +58,10 @@ std::string ReadWholeFile(const std::string& path);
 /// Whether the path is that of an ordinary file, also through a link.
 bool FileExists(const std::string& path);
 
-/// The length in bytes. A missing file is the failure 53.
+/// The length in bytes. Throws Failure(FileNotFound) for a missing file.
 Long FileLength(const std::string& path);
 
-/// Adds a line to the end of an ordinary file that has no second name (hard link); a missing file is created.
+/// Adds a line to the end of an ordinary file that has no second hard link; a missing file is created.
 /// Programs that add to the same file at the same time do not break each other's lines. A line that is
 /// incomplete because the disk is full is removed; if that fails, it is ended before the next line.
 void AppendLine(const std::string& path, std::string_view line);

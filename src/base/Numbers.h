@@ -10,7 +10,8 @@
 
 namespace qismora {
 
-/// A signed whole number of fixed width. A result beyond its range is the overflow failure and never wraps.
+/// A signed whole number of fixed width. A result beyond its range throws Failure(Overflow)
+/// and never wraps.
 template <std::signed_integral Stored>
 class Whole {
  public:
@@ -55,7 +56,7 @@ using Long = Whole<std::int32_t>;
 
 /// Widens an Integer for arithmetic with a Long.
 constexpr Long ToLong(Integer value) { return Long(value.Value()); }
-/// A Long as an Integer; beyond its range it is the overflow failure.
+/// A Long as an Integer. Throws Failure(Overflow) beyond its range.
 constexpr Integer ToInteger(Long value) { return Integer(value.Value()); }
 
 /// A 64-bit floating point number that is always finite: division by zero and a result beyond the range are
@@ -102,8 +103,8 @@ constexpr Double operator/(Whole<Stored> a, int b) {
   return Double(a) / Double(b);
 }
 
-/// The nearest whole number; of two equally near ones the even one (2.5 gives 2, 3.5 gives 4). Beyond the
-/// range of the type it is the overflow failure.
+/// The nearest whole number; of two equally near ones the even one (2.5 gives 2, 3.5 gives 4). Throws
+/// Failure(Overflow) beyond the range of the type.
 template <class Number>
 Number RoundTo(Double value) {
   const double whole = std::nearbyint(value.Value());

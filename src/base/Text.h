@@ -82,8 +82,8 @@ void AppendHex(std::string& text, unsigned char byte);
 std::string UpperCase(std::string_view text);
 std::string LowerCase(std::string_view text);
 
-/// The text without that number of characters (not bytes) at its end. The invalid call failure if the text is
-/// shorter.
+/// The text without that number of characters (not bytes) at its end. Throws
+/// Failure(InvalidCall) if the text is shorter.
 std::string WithoutEnd(std::string_view text, int characters);
 
 }  // namespace qismora

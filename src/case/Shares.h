@@ -15,8 +15,8 @@ inline void SetFraction(CaseRecord& c, HeirKind heir, Integer numerator, Integer
   c.FractionDen(heir) = denominator;
 }
 
-/// Gives the heir this part of the net estate: amount and fraction. A denominator of 0 is the division
-/// failure, an amount beyond the range of a Double the overflow failure.
+/// Gives the heir this part of the net estate: amount and fraction. Throws Failure(DivisionByZero)
+/// for a denominator of 0, Failure(Overflow) for an amount beyond the range of a Double.
 inline void Take(CaseRecord& c, HeirKind heir, Integer numerator, Integer denominator) {
   c.*Heirs[heir].Amount = numerator * c.NetEstate / denominator;
   SetFraction(c, heir, numerator, denominator);

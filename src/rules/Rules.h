@@ -31,15 +31,15 @@ void ShareOfFather(CaseRecord& c, CaseScreen& screen);
 
 /// The mother's share: one sixth beside a descendant or two brothers or sisters of any kind, else one third
 /// (Quran 4:11); beside a spouse and the father one third of the remainder after the spouse's share (ruling
-/// of Umar, al-Umariyyatan). The spouse's amount is rounded to a Long there; beyond its range it is the
-/// overflow failure, and so is a number of brothers and sisters beyond that of an Integer.
+/// of Umar, al-Umariyyatan). The spouse's amount is rounded to a Long there. Throws
+/// Failure(Overflow) if a Long cannot hold it, or an Integer the number of brothers and sisters.
 void ShareOfMother(CaseRecord& c, CaseScreen& screen);
 
 /// The share of all true grandmothers together: one sixth (report of al-Mughira for one, of Ubada for two who
 /// share it). The mother excludes all of them (consensus), the father those of his own side (the Companions).
 void ShareOfGrandMother(CaseRecord& c, CaseScreen& screen);
 /// Names who makes up the group of grandmothers, counts the women, and copies GrandMotherShare into the slot
-/// of one of them. More women than an Integer holds are the overflow failure.
+/// of one of them. Throws Failure(Overflow) for more women than an Integer holds.
 void SetGrandMotherGroup(CaseRecord& c);
 
 /// The share of the son's daughters. A son excludes them (consensus), and so do two daughters, who have taken
@@ -77,8 +77,8 @@ void ShareOfConsBrother(CaseRecord& c, CaseScreen& screen);
 
 /// The uterine sister: one sixth alone, or the sisters' part of the one third that uterine brothers and
 /// sisters share per head (Quran 4:12). Any descendant and any male ascendant excludes her: the verse gives
-/// to them only if the deceased leaves neither (kalala). Three times their number beyond an Integer is the
-/// overflow failure.
+/// to them only if the deceased leaves neither (kalala). Throws Failure(Overflow) if an Integer cannot
+/// hold three times their number.
 void ShareOfUterineSister(CaseRecord& c, CaseScreen& screen);
 
 /// The uterine brother: like the sister, on the same source.

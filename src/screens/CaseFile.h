@@ -47,8 +47,8 @@ CaseFileReading ParseCaseFile(std::string_view content);
 /// estate. An empty field of an heir is not written.
 std::string WriteCaseFile(const CaseTexts& texts);
 
-/// Reads an ordinary file, also through a link. A missing file is the failure 53, any other that cannot be
-/// read a FileFailure.
+/// Reads an ordinary file, also through a link. Throws Failure(FileNotFound) for a missing file,
+/// FileFailure for any other that cannot be read.
 CaseFileReading OpenCaseFile(const std::string& path);
 
 /// Saves a case file completely or not at all. It may replace a file, as the user has agreed; a link is

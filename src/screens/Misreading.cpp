@@ -18,7 +18,7 @@ bool IsPlain(std::string_view text, bool whole) {
   return AreDigits(text.substr(0, point)) && AreDigits(text.substr(point + 1));
 }
 
-/// The number as its field takes it; beyond the range of the field's type it is the overflow failure.
+/// The number as its field takes it. Throws Failure(Overflow) beyond the range of the field's type.
 std::string ReadAs(Double number, int index) {
   if (index == GrossEstateField) return GeneralNumber(number);
   const bool money = index == FuneralField || index == DebtsField || index == WillsField;

@@ -13,8 +13,8 @@ struct Setting {
   const char* Section;
   const char* Key;
 
-  /// The leading digits of the stored text; 0 for a missing one. A number beyond the range is the overflow
-  /// failure.
+  /// The leading digits of the stored text; 0 for a missing one. Throws Failure(Overflow) for
+  /// a number beyond the range.
   Long Read(Settings& store) const;
   void Write(Settings& store, const std::string& text) const;
 };

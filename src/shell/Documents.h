@@ -6,7 +6,8 @@
 
 namespace qismora {
 
-/// A document that is delivered with the program. Its number is that of its holder, OLE1 to OLE7.
+/// A document that is delivered with the program. Its number is that of the control of Zummy that
+/// holds it, OLE1 to OLE7.
 struct Document {
   int Number;
   const char* Title;
@@ -24,7 +25,8 @@ inline constexpr std::array<Document, 7> Documents = {{
 }};
 
 /// Opens a document in the platform's viewer. The program cannot know whether a viewer appears, so a message
-/// box always shows the path. A number without a document is the subscript failure.
+/// box always shows the path. Throws Failure(SubscriptOutOfRange) for a number
+/// without a document.
 void OpenDocument(int number, ShellPorts& ports);
 
 }  // namespace qismora

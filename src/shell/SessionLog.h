@@ -22,7 +22,8 @@ void Inhp(ShellRecord& shell, const CaseRecord& c, ShellPorts& ports);
 /// A line of the log without its line break.
 std::string SessionLine(Integer number, const DateTime& start, const DateTime& end, Long seconds);
 
-/// The whole seconds from one date to the other. Beyond the range of a Long it is the overflow failure.
+/// The whole seconds from one date to the other. Beyond the range of a Long it throws
+/// Failure(Overflow).
 Long SecondsBetween(const DateTime& start, const DateTime& end);
 
 /// One session of the log.
@@ -40,8 +41,8 @@ struct SessionTable {
   Long TotalSeconds;
 };
 
-/// Reads the log; the fields of a line have fixed positions. More lines than MostSessions are the subscript
-/// failure, a missing file is the failure 53.
+/// Reads the log; the fields of a line have fixed positions. Throws Failure(SubscriptOutOfRange) if there are
+/// more lines than MostSessions, Failure(FileNotFound) without a log.
 SessionTable ReadSessionLog(ShellPorts& ports);
 inline constexpr int MostSessions = 5000;
 

@@ -13,7 +13,7 @@ class Videos {
  public:
   explicit Videos(ShellPorts& ports) : ports_(ports) {}
 
-  /// A missing file is the file failure; CurrentVideoPath has the path already.
+  /// Throws Failure(FileNotFound) for a missing file; CurrentVideoPath has the path already.
   void PlayFirstVideo();
   void PlaySecondVideo();
 
