@@ -1,11 +1,14 @@
 #pragma once
 
-#include "case/RunSharer.h"
+#include "case/LoadCase.h"
 
 namespace qismora {
 
-// The rules of all heirs, each with its source of law. A rule decides the standing of one kind of heir from
-// the counts, stores its amount, fraction and report, and fills the result panel.
+// The rules of all heirs, each with its source of law.
+
+/// A rule decides the standing of one kind of heir from the counts, stores amount, fraction and report, and
+/// fills the result panel.
+using Rule = void (*)(CaseRecord&, CaseScreen&);
 
 /// The share of all the wives together: one fourth, or one eighth beside any descendant (Quran 4:12; that a
 /// son's descendant counts like a child is consensus).
@@ -84,8 +87,21 @@ void ShareOfUterineSister(CaseRecord& c, CaseScreen& screen);
 /// The uterine brother: like the sister, on the same source.
 void ShareOfUterineBrother(CaseRecord& c, CaseScreen& screen);
 
-// The wrapper of each rule, through which commands call it. A caller that has loaded the case may call the
-// rule itself.
+/// The wrapper through which a command calls a rule. It loads the case unless a run has done so. After a hard
+/// failure it shows the text "INPUT ERROR" and does not call the rule.
+template <Rule ShareOf>
+void RunSharer(CaseRecord& c, CaseScreen& screen) {
+  if (!c.CaseLoaded) LoadCase(c, screen);
+  if (c.InputFailed) {
+    c.InputFailed = false;
+    screen.Text2.Text = "\r\nINPUT ERROR";
+    return;
+  }
+  screen.Text2.Text = "";
+  ShareOf(c, screen);
+}
+
+// The wrapper of each rule. A caller that has loaded the case may call the rule itself.
 
 inline constexpr Rule RunWife = RunSharer<ShareOfWife>;
 inline constexpr Rule RunHusband = RunSharer<ShareOfHusband>;
