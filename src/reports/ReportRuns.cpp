@@ -29,6 +29,8 @@ struct SectionRow {
   std::string_view End = "\r\n\r\n";
 };
 
+// The case is loaded, so a rule and its wrapper differ only if the rule fails: a wrapper has emptied Text2 by
+// then, without it the narrative of the section before stays there.
 constexpr SectionRow sections[] = {
     {WifeHeir, "WIFE'S SHARE", RunWife, Male, "\r\n", ""},
     {HusbandHeir, "HUSBAND'S SHARE", RunHusband, Female, ""},

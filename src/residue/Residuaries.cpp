@@ -17,7 +17,7 @@ void RunAllSharers(CaseRecord& c, CaseScreen& screen) {
   }
   if (screen.Combo1.ListIndex == Male) RunWife(c, screen);
   if (screen.Combo1.ListIndex == Female) RunHusband(c, screen);
-  ShareOfDaughters(c, screen);
+  ShareOfDaughters(c, screen);  // without its wrapper, which would only empty Text2 first
   RunUltimateFather(c, screen);
   RunMother(c, screen);
   RunGrandMother(c, screen);
@@ -39,6 +39,8 @@ void RunResiduaries(CaseRecord& c, CaseScreen& screen) {
   ShowLongText(screen, true);
   c.CaseLoaded = true;
   ClearResults(c, screen);
+  // After a hard failure of the load no rule runs, but all that follows does: it distributes by what the
+  // record still holds. Transcripts test it.
   RunAllSharers(c, screen);
   SetGrandMotherGroup(c);
   SufficiencyTest(c, screen);
