@@ -20,6 +20,8 @@ namespace qismora {
 
 namespace {
 
+/// The views, in the order of their captions, Label4.
+enum View { UrduView, EnglishView, ArabicView };
 constexpr const char* viewCaptions[] = {"Urd ", "E", "Arabic "};
 
 /// The rule that a double click on a caption runs; caption 1 is that of the wives or the husband. The
@@ -187,7 +189,7 @@ void CaseStudy::Form_Load(int savedLanguage) {
   Label13.Caption = Join(record_.ExecCount);
   Comb1_Data();
   Frame1.Caption = Join("When deceased is a ", Combo1.Text());
-  ChooseView(savedLanguage >= 0 && savedLanguage < Label4.Size ? savedLanguage : 0);
+  ChooseView(savedLanguage >= 0 && savedLanguage < Label4.Size ? savedLanguage : UrduView);
   FullReportxx = Image40;
 }
 
@@ -203,20 +205,21 @@ void CaseStudy::Combo1_Click() {
   Frame1.Caption = Join("Informations of the deceased ", Combo1.Text());
   Label1(SpouseField).Caption = std::string(CaptionOf(SpouseField, !male));
   (male ? record_.Husband : record_.Wives) = Integer(0);
-  if (Label4(2).BorderStyle == 1) {
+  if (Label4(ArabicView).BorderStyle == 1) {
     ShowArabicCaptions();
-    Image41(0).Visible = male;
-    Image41(1).Visible = !male;
+    Image41(Male).Visible = male;
+    Image41(Female).Visible = !male;
   } else {
     ShowUrduCaptions();
-    Image30(0).Visible = male;
-    Image30(1).Visible = !male;
+    Image30(Male).Visible = male;
+    Image30(Female).Visible = !male;
   }
   answer_.GenderSwitched();
   ReviewAnswer();
   EventsEnded = EventsEnded + 1;
 }
 
+// The first two of Image41, and the two of Image30, are the captions of the spouse by the deceased's gender.
 void CaseStudy::ShowUrduCaptions() {
   for (int i = 9; i <= 29; ++i) Image(i).Visible = true;
   for (int i = 0; i < Image41.Size; ++i) Image41(i).Visible = false;
@@ -225,21 +228,21 @@ void CaseStudy::ShowUrduCaptions() {
 void CaseStudy::ShowArabicCaptions() {
   for (int i = 9; i <= 29; ++i) Image(i).Visible = false;
   for (int i = 0; i < Image41.Size; ++i) Image41(i).Visible = true;
-  Image41(1).Visible = false;
+  Image41(Female).Visible = false;
 }
 
 // Choosing a view also sets the gender to male. The English view shows the same caption pictures as the Urdu
 // view, without the panels over the class II check boxes.
 void CaseStudy::ChooseView(int index) {
-  const bool urdu = index == 0;
-  const bool arabic = index == 2;
+  const bool urdu = index == UrduView;
+  const bool arabic = index == ArabicView;
   for (int i = 0; i < Frame4.Size; ++i) Frame4(i).Visible = urdu;
   for (int i = 0; i < Frame6.Size; ++i) Frame6(i).Visible = arabic;
   Combo1.ListIndex = Male;
-  Image41(0).Visible = arabic;
-  if (!arabic) Image41(1).Visible = false;
-  Image30(0).Visible = !arabic;
-  if (arabic) Image30(1).Visible = false;
+  Image41(Male).Visible = arabic;
+  if (!arabic) Image41(Female).Visible = false;
+  Image30(Male).Visible = !arabic;
+  if (arabic) Image30(Female).Visible = false;
   if (arabic) {
     ShowArabicCaptions();
   } else {
@@ -295,7 +298,7 @@ void CaseStudy::Text1_Change(int) {
 // A refused estate is 0 afterwards, and so is the spouse that a switch of gender takes away. Of the others it
 // depends on the run before.
 std::string CaseStudy::KeptFigure(int index) const {
-  if (index == 1) return Join(Combo1.ListIndex == Male ? record_.Wives : record_.Husband);
+  if (index == SpouseField) return Join(Combo1.ListIndex == Male ? record_.Wives : record_.Husband);
   if (index == GrossEstateField) return GeneralNumber(record_.GrossEstate);
   return {};
 }
