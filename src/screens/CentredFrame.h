@@ -4,7 +4,8 @@
 
 namespace qismora {
 
-/// The position in its window, in twips, of Frame111, which holds all controls of a form.
+/// The position in its window, in twips (1/1440 inch, 15 to a pixel), of Frame111, which holds all controls
+/// of a form.
 struct CentredFrame {
   static constexpr int Width = 12000;
   static constexpr int Height = 9000;

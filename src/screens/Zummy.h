@@ -9,8 +9,8 @@
 
 namespace qismora {
 
-/// The form of the documents without its window. The user normally never sees it. Back hides it; its close
-/// button ends the session.
+/// The form of the documents without its window. A double click on Documents in the main menu shows it. Back
+/// hides it; its close button ends the session.
 class Zummy {
  public:
   Zummy(CaseRecord& record, ShellRecord& shell, ShellPorts& ports);

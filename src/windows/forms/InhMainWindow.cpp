@@ -277,7 +277,8 @@ void InhMainWindow::resizeEvent(QResizeEvent* event) {
   ForceSize();
 }
 
-// Keeps the fixed size, unless the desktop insists on another: a size is not refused twice in a row, unless
+// The menu is laid out for one size, in whose frame everything stands; maximized, the frame is centred. Any
+// other size is taken back, unless the desktop insists on it: a size is not refused twice in a row, unless
 // the window has had its own size for a while in between.
 void InhMainWindow::ForceSize() {
   if (FillsScreen()) return;
