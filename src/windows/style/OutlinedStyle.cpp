@@ -124,6 +124,7 @@ void OutlinedStyle::drawPrimitive(PrimitiveElement element, const QStyleOption* 
                                   const QWidget* widget) const {
   const QPalette& palette = option->palette;
   if (element == PE_FrameFocusRect) return DrawFocus(painter, *option);
+  // Fusion draws this frame from a picture too, which is faint and blurred when it is scaled.
   if (element == PE_FrameGroupBox) {
     const int title = qMax(pixelMetric(PM_IndicatorHeight, option, widget), option->fontMetrics.height());
     return DrawFrame(painter, Line(palette, groupStrength),
