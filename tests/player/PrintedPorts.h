@@ -1,5 +1,6 @@
 #pragma once
 
+#include <array>
 #include <ostream>
 #include <string>
 
@@ -16,14 +17,15 @@ class PrintedMessageBoxes : public FakeMessageBoxes {
   explicit PrintedMessageBoxes(std::ostream& out) : out_(out) {}
 
   Answer Show(BoxStyle style, BoxButtons buttons, const std::string& text) override {
-    static constexpr const char* styles[] = {"plain", "information", "warning", "critical"};
-    static constexpr const char* buttonNames[] = {"OK", "Yes/No", "Yes/No/Cancel"};
-    static constexpr const char* answers[] = {"OK", "Yes", "No", "Cancel"};
-    out_ << "  box " << styles[static_cast<int>(style)] << ' ' << buttonNames[static_cast<int>(buttons)]
-         << '\n';
+    static constexpr std::array styles = {"plain", "information", "warning", "critical"};
+    static constexpr std::array buttonNames = {"OK", "Yes/No", "Yes/No/Cancel", "Save/Discard/Cancel"};
+    static constexpr std::array answers = {"OK", "Yes", "No", "Cancel", "Save", "Discard"};
+    out_ << "  box " << styles.at(static_cast<std::size_t>(style)) << ' '
+         << buttonNames.at(static_cast<std::size_t>(buttons)) << '\n';
     PrintPieces(out_, "  ! ", text);
     const Answer answer = FakeMessageBoxes::Show(style, buttons, text);
-    if (buttons != BoxButtons::Ok) out_ << "  answer " << answers[static_cast<int>(answer)] << '\n';
+    if (buttons != BoxButtons::Ok)
+      out_ << "  answer " << answers.at(static_cast<std::size_t>(answer)) << '\n';
     return answer;
   }
 

@@ -1,5 +1,8 @@
 #pragma once
 
+#include <algorithm>
+#include <array>
+#include <string_view>
 #include <tuple>
 
 #include "case/CaseRecord.h"
@@ -7,11 +10,11 @@
 namespace qismora::testing {
 
 /// A field of the record and its name.
-template <class Value, class Layer>
+template <class Value, class State>
 struct Field {
-  constexpr Field(const char* name, Value Layer::*place) : Name(name), Place(place) {}
+  constexpr Field(const char* name, Value State::*place) : Name(name), Place(place) {}
   const char* Name;
-  Value Layer::*Place;
+  Value State::*Place;
 };
 
 #define FIELD(name) Field(#name, &CaseRecord::name)
@@ -68,14 +71,26 @@ struct AnyValue {
 };
 
 /// How many fields an aggregate has.
-template <class Layer, class... Values>
+template <class State, class... Values>
 constexpr std::size_t FieldCount(Values... values) {
-  if constexpr (requires { Layer{values..., AnyValue()}; }) {
-    return FieldCount<Layer>(values..., AnyValue());
+  if constexpr (requires { State{values..., AnyValue()}; }) {
+    return FieldCount<State>(values..., AnyValue());
   } else {
     return sizeof...(values);
   }
 }
+
+/// Whether one field is in the lists twice. It would hide another that is missing.
+constexpr bool HasDoubledField() {
+  return std::apply(
+      [](const auto&... field) {
+        std::array names = {std::string_view(field.Name)...};
+        std::ranges::sort(names);
+        return std::ranges::adjacent_find(names) != names.end();
+      },
+      std::tuple_cat(PrintedFields, OtherFields));
+}
+static_assert(!HasDoubledField(), "a field of the record is in the lists twice");
 
 static_assert(std::tuple_size_v<decltype(PrintedFields)> + std::tuple_size_v<decltype(OtherFields)> ==
                   FieldCount<ApplicationState>() + FieldCount<ScreenState>(),
