@@ -74,8 +74,8 @@ void ShareOfFullSister(CaseRecord& c, CaseScreen& screen);
 void ShareOfConsSister(CaseRecord& c, CaseScreen& screen);
 
 /// The consanguine brother: excluded by a male descendant or ascendant, or else a residuary, like the full
-/// brother and on the same sources. The rule does not look at full brothers and sisters; the residuary
-/// distribution gives them the residue before him.
+/// brother and on the same sources. The rule does not look at full brothers and sisters; if they are
+/// residuaries, the residuary distribution gives them the residue before him.
 void ShareOfConsBrother(CaseRecord& c, CaseScreen& screen);
 
 /// The uterine sister: one sixth alone, or the sisters' part of the one third that uterine brothers and
