@@ -212,6 +212,10 @@
         <translation>جواب {command}: صافي التركة أقل من 0 فلم يبق ما يُقسم.</translation>
     </message>
     <message>
+        <source>Refused; fields have changed since. Choose Residuaries (F5).</source>
+        <translation>مرفوض؛ وقد تغيّرت الحقول بعد ذلك. اختر Residuaries (F5).</translation>
+    </message>
+    <message>
         <source>Refused: these figures are not your case. {reason}</source>
         <translation>مرفوض: هذه الأرقام ليست أرقام مسألتك. {reason}</translation>
     </message>

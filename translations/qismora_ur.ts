@@ -212,6 +212,10 @@
         <translation>{command} کا جواب: خالص ترکہ 0 سے کم ہے، تقسیم کو کچھ نہیں بچا۔</translation>
     </message>
     <message>
+        <source>Refused; fields have changed since. Choose Residuaries (F5).</source>
+        <translation>نامنظور؛ اس کے بعد خانے بدل گئے ہیں۔ Residuaries (F5) چنیں۔</translation>
+    </message>
+    <message>
         <source>Refused: these figures are not your case. {reason}</source>
         <translation>نامنظور: یہ اعداد آپ کی صورت کے نہیں۔ {reason}</translation>
     </message>

@@ -31,10 +31,8 @@ struct Transition {
   AnswerStanding After;
 };
 
-// The first row that fits holds. Aul and Radd read what the last test has left and the fractions that the
-// last command has left: they are right once, and only on the shares that this test was about. A second press
-// works on fractions that are adjusted already; a press after the share of one heir, on amounts that the test
-// has not seen.
+// The first row that fits decides. Aul/ Radd uses the result of the last sufficiency test and the fractions
+// of the last command. So its answer is right only once, and only directly after that test.
 constexpr Transition transitions[] = {
     {std::nullopt, Outcome::Stopped, Refused},         {std::nullopt, Outcome::OnlyLoaded, NoAnswer},
     {std::nullopt, Outcome::NetBelowZero, BelowZero},  {std::nullopt, Outcome::OneShare, Partial},
@@ -52,6 +50,14 @@ AnswerStanding After(AnswerStanding before, Outcome what) {
 
 bool DoNotFit(int adjustment) {
   return adjustment == AulBesideResiduary || adjustment == Aul || adjustment == Radd;
+}
+
+// The name of the deceased stands in the texts of the answer and in none of its figures. About the consent of
+// the heirs the commands ask themselves.
+bool IsAnotherCase(CaseTexts texts, const CaseTexts& before) {
+  texts.Fields[NameField] = before.Fields[NameField];
+  texts.HeirsConsent = before.HeirsConsent;
+  return texts != before;
 }
 
 /// What a load and the commands behind it come to.
@@ -78,6 +84,7 @@ void AnswerState::Stopped(const std::string& reason) {
 }
 
 void AnswerState::End(int adjustment, bool netBelowZero, const CaseTexts& texts) {
+  ended_ = texts;
   if (stopped_) {
     standing_ = After(standing_, Outcome::Stopped);
     return;
@@ -101,13 +108,9 @@ void AnswerState::End(int adjustment, bool netBelowZero, const CaseTexts& texts)
   }
 }
 
-// The name of the deceased stands in the texts of the answer and in none of its figures. About the consent of
-// the heirs the commands ask themselves.
-void AnswerState::FieldsHold(const CaseTexts& texts) {
-  CaseTexts compared = texts;
-  compared.Fields[NameField] = answered_.Fields[NameField];
-  compared.HeirsConsent = answered_.HeirsConsent;
-  differ_ = compared != answered_;
+void AnswerState::FieldsChanged(const CaseTexts& texts) {
+  differ_ = IsAnotherCase(texts, answered_);
+  changedSince_ = IsAnotherCase(texts, ended_);
 }
 
 void AnswerState::Cleared() { standing_ = NoAnswer; }
@@ -136,6 +139,7 @@ Message AnswerState::Sentence() const {
     case BelowZero:
       return Message{"Answer of {command}: the net estate is below 0, nothing is left to divide.", command};
     case Refused:
+      if (changedSince_) return Message{"Refused; fields have changed since. Choose Residuaries (F5)."};
       return Message{"Refused: these figures are not your case. {reason}", {{"reason", reason_}}};
     case Changed:
       return Message{"Fields have changed since the answer of {command}.", command};

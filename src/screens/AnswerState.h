@@ -24,7 +24,8 @@ enum class AnswerStanding : std::uint8_t {
   Changed,
 };
 
-/// What a command answers: nothing where it only loads the case, the share of one heir, or those of all.
+/// What a command answers: nothing where it only loads the case (a double click on the caption without a
+/// text), the share of one heir, or those of all.
 enum class AnswerOf : std::uint8_t { Nothing, OneShare, AllShares };
 
 /// Follows the commands of the Case Study screen and the changes of its fields, and says what the answer that
@@ -45,8 +46,8 @@ class AnswerState {
   /// The command ends. The state of the adjustment is AulRaddState, the texts are those of the fields.
   void End(int adjustment, bool netBelowZero, const CaseTexts& texts);
 
-  /// The fields hold these texts now.
-  void FieldsHold(const CaseTexts& texts);
+  /// A field was changed, and the fields hold these texts now.
+  void FieldsChanged(const CaseTexts& texts);
   /// The gender was switched, which takes the spouse from the record: only a new load brings the figures
   /// back.
   void GenderSwitched() { spouseLost_ = true; }
@@ -67,6 +68,9 @@ class AnswerState {
   CaseTexts answered_;
   bool differ_ = false;
   bool spouseLost_ = false;
+  // The fields when the last command ended, and whether they hold another case now.
+  CaseTexts ended_;
+  bool changedSince_ = false;
 
   // The command that runs.
   AnswerOf running_ = AnswerOf::Nothing;

@@ -158,7 +158,7 @@ void CaseStudy::WatchCase() {
 
 void CaseStudy::ReviewAnswer() {
   if (!reviewing_) return;
-  answer_.FieldsHold(ReadScreen(*this, HeirsConsent));
+  answer_.FieldsChanged(ReadScreen(*this, HeirsConsent));
   AnswerWords = English(answer_.Sentence());
 }
 

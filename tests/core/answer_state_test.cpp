@@ -155,6 +155,7 @@ TEST_F(AnswerStateTest, EachMessageThatStopsTheLoadRefusesTheFigures) {
       EXPECT_EQ(Words(), std::string("Refused: these figures are not your case. ") + refusal.Reason);
       case_.Type(refusal.Index, before);
       EXPECT_EQ(Standing(), AnswerStanding::Refused) << "the figures are the same";
+      EXPECT_EQ(Words(), "Refused; fields have changed since. Choose Residuaries (F5).");
       (Study().*command)();
       EXPECT_NE(Standing(), AnswerStanding::Refused) << refusal.Reason;
     }
