@@ -303,6 +303,10 @@
         <source>The division differs: F8.</source>
         <translation>القسمة تختلف عنه: F8</translation>
     </message>
+    <message>
+        <source>%1, and %2 more</source>
+        <translation>%1، و%2 غيره</translation>
+    </message>
 </context>
 <context>
     <name>Dialogs</name>

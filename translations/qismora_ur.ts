@@ -303,6 +303,10 @@
         <source>The division differs: F8.</source>
         <translation>تقسیم مختلف ہے: F8</translation>
     </message>
+    <message>
+        <source>%1, and %2 more</source>
+        <translation>%1، اور %2 مزید</translation>
+    </message>
 </context>
 <context>
     <name>Dialogs</name>

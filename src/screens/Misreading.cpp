@@ -31,7 +31,7 @@ TypedReading ReadTyped(std::string_view text, int index) {
   if (!IsNumber(text)) return {Reading::NotAtAll, ""};
   try {
     const std::string read = ReadAs(ParsePrefix(text), index);
-    const bool plain = IsPlain(text, index != GrossEstateField);
+    const bool plain = IsPlain(text, index != GrossEstateField) || Trimmed(text, " ") == read;
     return {plain ? Reading::AsItStands : Reading::AsAnotherNumber, read};
   } catch (const Failure&) {
     return {Reading::TooLarge, ""};

@@ -23,8 +23,8 @@ struct TypedReading {
 TypedReading ReadTyped(std::string_view text, int index);
 
 /// The reading as a sentence, if it differs from what the user sees. Plain digits are read as they are, and
-/// plain decimals in the gross estate; then it is empty. If nothing is read, the sentence says that the kept
-/// figure stays.
+/// so are plain decimals in the gross estate and a whole number below 0; then it is empty. If nothing is
+/// read, the sentence says that the kept figure stays.
 std::string Misreading(std::string_view text, int index, std::string_view kept);
 
 /// How the digits of an amount are grouped: 1,234,567 or, in South Asia, 12,34,567.

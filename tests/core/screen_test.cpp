@@ -138,6 +138,7 @@ TEST(Screen, ReportsWhatIsReadIfItDiffersFromTheText) {
               {GrossEstateField, "2.4e4", "Read as 24000"},
               {GrossEstateField, "9e99", "Read as 9E+99"},
               {GrossEstateField, "1e400", "This is too large and will be refused."},
+              {DebtsField, "-5", ""},
               {DebtsField, "4e4", "Read as 40000"},
               {DebtsField, "4e9", "This is too large and will be refused."}};
   for (const auto& row : rows) {

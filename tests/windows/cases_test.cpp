@@ -169,7 +169,10 @@ class CasesTest : public QObject {
     QVERIFY(readings->isVisible());
     QCOMPARE(readings->text(), QStringLiteral("Gross Estate 18,40,000 is read as 18"));
     Type("Text1(3)", "x");
-    QVERIFY(readings->text().startsWith(QStringLiteral("Daughters x is not read")));
+    const QString first = QStringLiteral("Daughters x is not read: the figure of the run before stays");
+    QCOMPARE(readings->text(), first + QStringLiteral(", and 1 more"));
+    QVERIFY(readings->fontMetrics().horizontalAdvance(first) < readings->width());
+    QVERIFY(readings->toolTip().endsWith(QStringLiteral("; Gross Estate 18,40,000 is read as 18")));
     Type("Text1(25)", "1840000");
     Type("Text1(3)", "2");
     QVERIFY(!readings->isVisible());

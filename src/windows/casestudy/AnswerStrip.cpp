@@ -9,6 +9,7 @@
 #include "windows/casestudy/CaseWords.h"
 #include "windows/division/Languages.h"
 #include "windows/platform/Utf8.h"
+#include "windows/widgets/AccessibleRole.h"
 #include "windows/widgets/Binder.h"
 
 namespace qismora {
@@ -19,7 +20,7 @@ constexpr QMargins margins{8, 0, 8, 0};
 constexpr int gap = 16;
 constexpr int widestTitle = 170;
 
-// As the desktop groups a number of six digits.
+// The grouping of the desktop's locale, taken from a number with six digits.
 Grouping DesktopGrouping() {
   const QString sample = QLocale().toString(100'000);
   return sample.contains(QStringLiteral("1,00,")) ? Grouping::Indian : Grouping::Thousands;
@@ -83,15 +84,21 @@ ReadingsPanel::ReadingsPanel(CaseStudy& form, QWidget* parent)
   Binder::Follow<int>(form.EventsEnded, show);
 }
 
-// A sentence changes with each key; it is announced when another field has come to it.
+// Only the first sentence has the space to be read whole; the tool tip and screen readers have all of them. A
+// sentence changes with each key; it is announced when another field has come to it.
 void ReadingsPanel::SayAll() {
-  const std::vector<Message> sentences = form_.Misreadings(grouping_);
-  QStringList shown;
-  for (const Message& sentence : sentences) shown.append(CaseWords::Of(sentence));
+  QStringList sentences;
+  for (const Message& sentence : form_.Misreadings(grouping_)) sentences.append(CaseWords::Of(sentence));
   setFont(FontBesideEnglish(parentWidget()->font()));
   setLayoutDirection(CurrentDirection());
-  setVisible(!shown.isEmpty());
-  Show(shown.join(QStringLiteral("; ")), sentences.size() > std::exchange(misread_, sentences.size()));
+  setVisible(!sentences.isEmpty());
+  const qsizetype others = sentences.size() - 1;
+  const QString first = sentences.value(0);
+  SetWords(others > 0 ? CaseWords::tr("%1, and %2 more").arg(first).arg(others) : first);
+  const QString all = sentences.join(QStringLiteral("; "));
+  setToolTip(all);
+  setAccessibleName(all);
+  if (sentences.size() > std::exchange(misread_, sentences.size())) Announce(this);
 }
 
 }  // namespace qismora

@@ -24,8 +24,8 @@ class AnswerStrip : public QFrame {
   QLabel* file_;
 };
 
-/// A panel of the status bar that says which fields are read differently from what stands in them; it is
-/// there only while there are such fields.
+/// A panel of the status bar that says which field is read differently from what stands in it, and how many
+/// more there are; it is there only while there are such fields.
 class ReadingsPanel : public AnnouncedLabel {
  public:
   ReadingsPanel(CaseStudy& form, QWidget* parent);
@@ -36,7 +36,7 @@ class ReadingsPanel : public AnnouncedLabel {
  private:
   CaseStudy& form_;
   Grouping grouping_;
-  std::size_t misread_ = 0;
+  qsizetype misread_ = 0;
 };
 
 }  // namespace qismora
