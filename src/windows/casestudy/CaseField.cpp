@@ -111,7 +111,7 @@ void CaseField::paintEvent(QPaintEvent* event) {
                         QPalette::Text);
 }
 
-// A field that only tells has the colour of the form.
+// A read-only field has the colour of the form.
 void CaseField::initStyleOption(QStyleOptionFrame* option) const {
   QLineEdit::initStyleOption(option);
   if (!mark_.isEmpty()) {

@@ -17,8 +17,8 @@ class CaseField : public CleanLineEdit {
   std::function<void()> Explain;
   /// What the field is for; its tool tip.
   void SetTip(const QString& tip);
-  /// Where something else is read than what stands there at first sight: the field is tinted and its tool tip
-  /// says so. No words take the mark away.
+  /// Marks a field whose text is read differently than the user sees it: the field is tinted, and its tool
+  /// tip says how. Empty words remove the mark.
   void Mark(const QString& words);
 
   /// No higher than the rows of the form allow.

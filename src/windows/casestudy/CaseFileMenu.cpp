@@ -1,6 +1,5 @@
 #include "windows/casestudy/CaseFileMenu.h"
 
-#include <QAccessible>
 #include <QAction>
 #include <QApplication>
 #include <QDropEvent>
@@ -13,6 +12,7 @@
 #include "windows/casestudy/CaseWords.h"
 #include "windows/division/Languages.h"
 #include "windows/platform/Utf8.h"
+#include "windows/widgets/Keyboard.h"
 
 namespace qismora {
 
@@ -39,7 +39,7 @@ QString DraggedFile(const QMimeData* data) {
   return urls.size() == 1 && urls.constFirst().isLocalFile() ? urls.constFirst().toLocalFile() : QString();
 }
 
-/// A field would take a dropped file for a text.
+/// Opens a dropped case file, anywhere on the window. Without it, a field would insert the path.
 class DropFilter : public QObject {
  public:
   DropFilter(QWidget* window, CaseDocument& document) : QObject(window), document_(document) {
@@ -90,12 +90,7 @@ CaseFileMenu::CaseFileMenu(QMenuBar* bar, CaseDocument& document) : QMenu(bar), 
     QAction* action = addAction(QString());
     action->setObjectName(QString::fromLatin1(entry.Name));
     action->setShortcut(entry.Key);
-    const auto act = [&document, run = entry.Run] { (document.*run)(); };
-    // As the other entries: a screen reader that chose one must not wait for an answer.
-    connect(action, &QAction::triggered, bar, [bar, act] {
-      if (!QAccessible::isActive()) return act();
-      QMetaObject::invokeMethod(bar, act, Qt::QueuedConnection);
-    });
+    WhenTriggered(action, bar, [&document, run = entry.Run] { (document.*run)(); });
   }
   addSeparator();
   addMenu(recent_);

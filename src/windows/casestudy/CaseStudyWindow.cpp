@@ -167,6 +167,7 @@ void CaseStudyWindow::BuildTimer() {
   });
 }
 
+// Above all other windows, so that the case stays in sight while its figures are read from another program.
 void CaseStudyWindow::KeepOnTop() {
   setWindowFlag(Qt::WindowStaysOnTopHint);
   move(windowPlace);

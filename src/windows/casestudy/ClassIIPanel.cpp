@@ -22,7 +22,7 @@ constexpr int focusMargin = 4;
 }  // namespace
 
 /// The captions of a column as one picture. A click on a line ticks its check box, as one on a plain caption
-/// does. A double click is a question, and takes the tick of its first half back.
+/// does. A double click explains the column, and undoes the tick of its first click.
 class ClassIIPanel::ColumnCaptions : public PictureButton {
  public:
   ColumnCaptions(const QString& name, const QString& file, const Checks& checks, int column, QWidget* parent)

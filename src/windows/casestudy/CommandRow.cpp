@@ -18,7 +18,7 @@ constexpr int rowHeight = 28;
 constexpr int buttonWidth = 84;
 constexpr int wideButton = 104;
 
-/// The clear command. The mouse gives it a border, which it keeps until a text changes.
+/// The clear command. A press gives it a border until a field changes.
 class ClearButton : public IconButton {
  public:
   ClearButton(CaseStudy& form, const QString& text, QWidget* parent)

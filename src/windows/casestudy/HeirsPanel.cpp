@@ -66,8 +66,8 @@ constexpr Row rightRows[] = {
 constexpr int rightColumn = 4;
 constexpr int gapColumn = 3;
 constexpr int gapWidth = 14;
-constexpr int boxWidth = 40;
-// A picture reaches over the end of its caption's column, where only short captions meet long pictures.
+constexpr int fieldWidth = 40;
+// A picture may extend beyond its column; only short captions stand beside long pictures.
 constexpr QSize pictureSize{80, 20};
 constexpr int pictureColumnWidth = 66;
 
@@ -175,7 +175,7 @@ void HeirsPanel::AddPicture(int row, int column, int field, const QString& acces
 void HeirsPanel::AddHeir(int row, int column, int field, const QString& heir) {
   const int number = PictureNumber(field);
   CaseField* input = AddField(field, heir);
-  input->setFixedWidth(boxWidth);
+  input->setFixedWidth(fieldWidth);
   input->Explain = [this, field] { form_.Label1_DblClick(field); };
   grid_->addWidget(AddCaption(field, heir), row, column);
   AddPicture(row, column, field, QString::fromUtf8(inUrdu).arg(heir),
@@ -189,7 +189,7 @@ void HeirsPanel::AddHeir(int row, int column, int field, const QString& heir) {
 // Wives or husband, as the gender of the deceased has it.
 void HeirsPanel::AddSpouse(int row) {
   CaseField* input = AddField(1, {});
-  input->setFixedWidth(boxWidth);
+  input->setFixedWidth(fieldWidth);
   input->Explain = [this] { form_.Label1_DblClick(1); };
   CaptionButton* caption = AddCaption(1, {});
   Binder::Follow(form_.Label1(1).Caption, [this, input, caption] {

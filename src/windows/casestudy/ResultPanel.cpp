@@ -18,7 +18,7 @@ namespace qismora {
 
 namespace {
 
-// Rows of the grid. The long report ends a row below the narrative of one rule.
+// Rows of the grid. The report covers the narrative of one rule and extends one row below it.
 enum Row { CommandLine, HeadingLine, AmountLine, TextLine, LongTextLine };
 constexpr int longTextMore = 8;
 

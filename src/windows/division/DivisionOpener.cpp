@@ -46,7 +46,7 @@ void DivisionOpener::OpenBeside() {
   if (active != nullptr) active->activateWindow();
 }
 
-// A window that is minimized hides spontaneously and takes no other with it.
+// A window that is minimized hides spontaneously; it does not hide this one.
 bool DivisionOpener::eventFilter(QObject* watched, QEvent* event) {
   if (watched == study_ && window_ != nullptr && !event->spontaneous()) {
     if (event->type() == QEvent::Hide) {
