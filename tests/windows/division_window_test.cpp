@@ -8,6 +8,7 @@
 #include <QLineEdit>
 #include <QMenu>
 #include <QScrollArea>
+#include <QScrollBar>
 #include <QSplitter>
 #include <QTableView>
 #include <QTest>
@@ -21,6 +22,7 @@
 #include "windows/division/FamilyTreeView.h"
 #include "windows/division/Languages.h"
 #include "windows/help/HelpWindow.h"
+#include "windows/style/Colours.h"
 
 namespace qismora {
 
@@ -88,8 +90,7 @@ class DivisionWindowTest : public QObject {
     QVERIFY(!Find<QAction>("PrintDivision")->isEnabled());
     auto* field = study_->Find<QLineEdit>("Text1(3)");
     Activate();
-    faults->setFocus(Qt::TabFocusReason);
-    QTest::keyClick(faults, Qt::Key_Tab);  // the first link
+    faults->setFocus(Qt::TabFocusReason);  // marks the first link
     QTest::keyClick(faults, Qt::Key_Return);
     QTRY_COMPARE(QApplication::focusWidget(), field);
     // By the mouse: the link begins behind the stripe.
@@ -251,7 +252,7 @@ class DivisionWindowTest : public QObject {
     QTRY_VERIFY(Row("Father") >= 0);
     auto* tree = Find("FamilyTree");
     tree->setFocus();
-    QTest::keyClick(tree, Qt::Key_Right);
+    QTest::keyClick(tree, Qt::Key_Left);
     QCOMPARE(Find<QTableView>("DivisionTable")->currentIndex().row(), Row("Father"));
     QVERIFY(tree->accessibleName().contains(QStringLiteral("Father: 1/6")));
     QTest::keyClick(tree, Qt::Key_Right);
@@ -325,6 +326,65 @@ class DivisionWindowTest : public QObject {
     ChooseLanguage(study_->Store(), Language::English);
   }
 
+  // The sentences above the table grow after the table has its rows.
+  void cutsNoRowWhileThereIsSpace() {
+    Division()->resize(860, 740);
+    TypeFamily();
+    auto* table = Find<QTableView>("DivisionTable");
+    QTRY_COMPARE(table->verticalScrollBar()->maximum(), 0);
+    const QRect last = table->visualRect(table->model()->index(table->model()->rowCount() - 1, 0));
+    QVERIFY(last.bottom() <= table->viewport()->rect().bottom());
+  }
+
+  void marksTheFocusAtEachTabStopAndKeepsTheChosenRowReadable() {
+    TypeFamily();
+    Activate();
+    auto* table = Find<QTableView>("DivisionTable");
+    QTRY_VERIFY(table->hasFocus());
+    table->selectRow(Row("Consanguine brother"));
+    QTest::qWait(50);  // for the layout
+    const QRect row = table->visualRect(table->currentIndex());
+    const QImage picture = table->viewport()->grab(row.marginsRemoved({8, 2, 2, 2})).toImage();
+    double contrast = 0;
+    for (int x = 0; x < picture.width(); ++x) {
+      for (int y = 0; y < picture.height(); ++y) {
+        contrast = std::max(contrast, Contrast(picture.pixelColor(x, y), picture.pixelColor(0, 0)));
+      }
+    }
+    QVERIFY2(contrast >= LeastContrast, qPrintable(QString::number(contrast)));
+
+    table->selectRow(Row("Sum"));  // whom the tree does not show
+    QList<QWidget*> stops;
+    for (QWidget* stop = table; !stops.contains(stop); stop = QApplication::focusWidget()) {
+      stops.append(stop);
+      const QImage with = Division()->grab().toImage();
+      stop->clearFocus();
+      QVERIFY2(Division()->grab().toImage() != with, qPrintable(stop->objectName()));
+      stop->setFocus(Qt::TabFocusReason);
+      QTest::keyClick(stop, Qt::Key_Tab);
+    }
+    QVERIFY(stops.contains(Find("Notice")));   // for its link
+    QVERIFY(!stops.contains(Find("Estate")));  // has none
+    QCOMPARE(QApplication::focusWidget(), table);
+  }
+
+  void returnsToTheFieldAndToTheWidgetThatHadTheFocus() {
+    study_->Type("Text1(2)", QStringLiteral("1"));
+    auto* field = study_->Find<QLineEdit>("Text1(16)");
+    study_->Type("Text1(16)", QStringLiteral("1"));
+    QTRY_VERIFY(Row("Mother") >= 0);
+    OpenWithKey();
+    QTRY_COMPARE(QApplication::focusWidget(), Find("DivisionTable"));
+    QTest::keyClick(Find("DivisionTable"), Qt::Key_F8);
+    QTRY_COMPARE(QApplication::focusWidget(), field);
+    OpenWithKey();
+    QTRY_COMPARE(QApplication::focusWidget(), Find("DivisionTable"));
+    Find("School")->setFocus();
+    QTest::keyClick(Division(), Qt::Key_F8);
+    OpenWithKey();
+    QTRY_COMPARE(QApplication::focusWidget(), Find("School"));
+  }
+
   // Nothing is cut on a small screen: what has no space scrolls.
   void fitsASmallScreen() {
     for (const char* field : {"Text1(2)", "Text1(3)", "Text1(13)", "Text1(16)", "Text1(22)", "Text1(23)"}) {
@@ -351,6 +411,23 @@ class DivisionWindowTest : public QObject {
     study_->Window().activateWindow();
     QTest::keyClick(&study_->Window(), Qt::Key_F8);
     QTRY_VERIFY(Division() != nullptr && Division()->isVisible());
+  }
+
+  /// A wife, two daughters, a grandfather, the mother and a consanguine brother, who is excluded.
+  void TypeFamily() {
+    for (const auto& [field, number] : {std::pair("Text1(1)", 1),
+                                        {"Text1(3)", 2},
+                                        {"Text1(14)", 1},
+                                        {"Text1(16)", 1},
+                                        {"Text1(31)", 1},
+                                        {"Text1(25)", 24000},
+                                        {"Text1(26)", 0},
+                                        {"Text1(27)", 0},
+                                        {"Text1(28)", 0}}) {
+      study_->Type(field, QString::number(number));
+    }
+    QTRY_VERIFY(Row("Consanguine brother") > Row("Sum"));
+    OpenWithKey();
   }
 
   void Activate() {

@@ -32,8 +32,7 @@ void DivisionOpener::Open() {
   DivisionSettings(store_).SetWanted(true);
   window_->setAttribute(Qt::WA_ShowWithoutActivating, false);
   window_->ShowBeside(*study_);
-  window_->raise();
-  window_->activateWindow();
+  window_->TakeFocus();
 }
 
 void DivisionOpener::OpenBeside() {

@@ -13,7 +13,6 @@ namespace qismora {
 namespace {
 
 constexpr int topMargin = 4;
-constexpr int slack = 10;
 constexpr int leastHeight = 90;
 
 }  // namespace
@@ -66,7 +65,9 @@ void DivisionPictures::SayAll() {
 }
 
 int DivisionPictures::FullHeight() const {
-  return tree_->sizeHint().height() + bar_->sizeHint().height() + slack;
+  const int across =
+      scroll_->horizontalScrollBar()->isVisible() ? scroll_->horizontalScrollBar()->height() : 0;
+  return topMargin + bar_->sizeHint().height() + layout()->spacing() + tree_->sizeHint().height() + across;
 }
 
 }  // namespace qismora

@@ -32,6 +32,8 @@ class RowDelegate : public QStyledItemDelegate {
     QStyledItemDelegate::initStyleOption(option, index);
     option->decorationAlignment = Qt::AlignTop | Qt::AlignHCenter;
     option->textElideMode = Qt::ElideNone;
+    // The whole row is marked; the frame of the current cell would make its text paler.
+    if (option->state.testFlag(QStyle::State_Selected)) option->state &= ~QStyle::State_HasFocus;
     option->rect.adjust(0, cellMargin, 0, 0);
     const bool rightToLeft = option->direction == Qt::RightToLeft;
     if (index.column() == 0)
@@ -127,9 +129,14 @@ void DivisionTableView::Choose(Kind heir) {
   }
 }
 
+// Without the scroll bar, the sentences have more width than they may have now.
 int DivisionTableView::FullHeight() const {
+  int sentence = width() - 2 * frameWidth();
+  for (int column = 0; column < model_->Table().FirstSentence; ++column) sentence -= columnWidth(column);
   int height = horizontalHeader()->height() + 2 * frameWidth() + 1;
-  for (int row = 0; row < model_->rowCount(); ++row) height += rowHeight(row);
+  for (const DivisionTable::Row& row : model_->Table().Rows) {
+    height += HeightOf(row, std::max(leastSentence, sentence));
+  }
   return horizontalScrollBar()->isVisible() ? height + horizontalScrollBar()->height() : height;
 }
 
@@ -154,16 +161,21 @@ void DivisionTableView::Fit() {
   const int last = table.FirstSentence;
   const int sentence = std::max(leastSentence, viewport()->width() - used);
   setColumnWidth(last, sentence);
-  for (int row = 0; row < table.Rows.size(); ++row) {
-    const QStringList& cells = table.Rows[row].Cells;
-    int height = metrics.height();
-    for (int column = 1; column < table.FirstSentence; ++column) {
-      height = std::max(height, metrics.height() * LinesOf(cells[column]));
-    }
-    const QRect place(0, 0, sentence - 3 * cellMargin, QWIDGETSIZE_MAX);
-    height = std::max(height, metrics.boundingRect(place, int(Qt::TextWordWrap), cells[last]).height());
-    setRowHeight(row, height + 2 * cellMargin);
+  for (int row = 0; row < table.Rows.size(); ++row) setRowHeight(row, HeightOf(table.Rows[row], sentence));
+}
+
+int DivisionTableView::HeightOf(const DivisionTable::Row& row, int sentence) const {
+  QFont its = font();
+  its.setBold(row.Where == DivisionTable::Place::Sum);
+  const QFontMetrics metrics(its);
+  const int last = model_->Table().FirstSentence;
+  int height = metrics.height();
+  for (int column = 1; column < last; ++column) {
+    height = std::max(height, metrics.height() * LinesOf(row.Cells[column]));
   }
+  const QRect place(0, 0, sentence - 3 * cellMargin, QWIDGETSIZE_MAX);
+  height = std::max(height, metrics.boundingRect(place, int(Qt::TextWordWrap), row.Cells[last]).height());
+  return height + 2 * cellMargin;
 }
 
 void DivisionTableView::keyPressEvent(QKeyEvent* event) {

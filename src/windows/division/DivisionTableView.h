@@ -40,6 +40,8 @@ class DivisionTableView : public QTableView {
 
  private:
   void Fit();
+  /// The height of a row where its sentence has this width.
+  int HeightOf(const DivisionTable::Row& row, int sentence) const;
 
   DivisionModel* model_;
 };

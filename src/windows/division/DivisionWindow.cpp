@@ -44,6 +44,19 @@ constexpr int spacing = 6;
 /// A change is announced when the typing pauses.
 constexpr int announceAfter = 700;
 
+/// Reports each new size, which it also has when the sentences above it grow.
+class ReportingSplitter : public QSplitter {
+ public:
+  using QSplitter::QSplitter;
+  std::function<void()> Resized;
+
+ protected:
+  void resizeEvent(QResizeEvent* event) override {
+    QSplitter::resizeEvent(event);
+    Resized();
+  }
+};
+
 }  // namespace
 
 DivisionWindow::DivisionWindow(CaseStudy& form, Settings& store)
@@ -75,7 +88,9 @@ void DivisionWindow::BuildContent() {
   rows->setContentsMargins(margin, margin, margin, margin);
   rows->setSpacing(spacing);
   sentences_ = new DivisionSentences(content);
-  splitter_ = new QSplitter(Qt::Vertical, content);
+  auto* splitter = new ReportingSplitter(Qt::Vertical, content);
+  splitter->Resized = [this] { FitSplitter(); };
+  splitter_ = splitter;
   splitter_->setObjectName(QStringLiteral("DivisionSplitter"));
   splitter_->setChildrenCollapsible(false);
   table_ = new DivisionTableView(splitter_);
@@ -287,6 +302,13 @@ void DivisionWindow::ShowBeside(const QWidget& study) {
   show();
 }
 
+void DivisionWindow::TakeFocus() {
+  raise();
+  activateWindow();
+  if (std::exchange(focused_, true) || !splitter_->isVisible()) return;
+  table_->setFocus();
+}
+
 void DivisionWindow::SavePlace() {
   if (!isMaximized() && !isFullScreen()) settings_.SetNumbers("Place", {x(), y(), width(), height()});
   if (splitByUser_) settings_.SetNumbers("Splitter", splitter_->sizes());
@@ -300,11 +322,6 @@ void DivisionWindow::showEvent(QShowEvent* event) {
 void DivisionWindow::hideEvent(QHideEvent* event) {
   if (!event->spontaneous()) SavePlace();
   QMainWindow::hideEvent(event);
-}
-
-void DivisionWindow::resizeEvent(QResizeEvent* event) {
-  QMainWindow::resizeEvent(event);
-  FitSplitter();
 }
 
 // Only the user closes it; with Case Study it is hidden or deleted.

@@ -36,6 +36,8 @@ class DivisionWindow : public QMainWindow {
   std::function<void()> ShowCase;
   /// Places the window beside Case Study, or where it was when it was last closed, and shows it.
   void ShowBeside(const QWidget& study);
+  /// Comes to the front: to the table at first, later to where the focus was.
+  void TakeFocus();
 
   /// What is shown: the case of the screen, or what it would be if an heir had died before.
   const DivisionView& Shown() const { return shown_; }
@@ -49,7 +51,6 @@ class DivisionWindow : public QMainWindow {
   void closeEvent(QCloseEvent* event) override;
   void changeEvent(QEvent* event) override;
   void hideEvent(QHideEvent* event) override;
-  void resizeEvent(QResizeEvent* event) override;
 
  private:
   void BuildContent();
@@ -76,6 +77,7 @@ class DivisionWindow : public QMainWindow {
   faraid::School school_;
   bool pending_ = false;
   bool splitByUser_ = false;
+  bool focused_ = false;
   /// The case that is shown.
   CaseTexts texts_;
   DivisionView shown_;

@@ -248,6 +248,8 @@ void FamilyTreeView::Step(int by) {
 
 bool FamilyTreeView::event(QEvent* event) {
   if (event->type() == QEvent::FontChange || event->type() == QEvent::LayoutDirectionChange) LayOut();
+  // The focus is seen on an heir alone.
+  if (event->type() == QEvent::FocusIn && PlaceOf(chosen_).isEmpty()) Step(1);
   if (event->type() == QEvent::FocusIn || event->type() == QEvent::FocusOut) {
     SayChosen();
     update();

@@ -1,5 +1,6 @@
 #include "windows/division/Notice.h"
 
+#include <QFocusEvent>
 #include <QGuiApplication>
 #include <QPainter>
 
@@ -43,8 +44,6 @@ void Headline::SetFont(QFont font) {
 Sentence::Sentence(const char* name, QWidget* parent) : QLabel(parent) {
   setObjectName(QString::fromLatin1(name));
   setWordWrap(true);
-  setTextInteractionFlags(Qt::TextSelectableByMouse | Qt::LinksAccessibleByMouse |
-                          Qt::LinksAccessibleByKeyboard);
   hide();
 }
 
@@ -53,7 +52,19 @@ void Sentence::Say(const QString& html) {
   const bool rightToLeft = CurrentDirection() == Qt::RightToLeft;
   const QString words = rightToLeft ? QStringLiteral("<div dir=\"rtl\">%1</div>").arg(html) : html;
   setVisible(!html.isEmpty());
-  if (text() != words) setText(words);
+  if (text() == words) return;
+  const bool hasLink = html.contains(QLatin1String("<a "));
+  setTextInteractionFlags(hasLink ? Qt::TextSelectableByMouse | Qt::LinksAccessibleByMouse |
+                                        Qt::LinksAccessibleByKeyboard
+                                  : Qt::TextInteractionFlags(Qt::TextSelectableByMouse));
+  setText(words);
+}
+
+// Qt would mark a link only at the next Tab.
+void Sentence::focusInEvent(QFocusEvent* event) {
+  QLabel::focusInEvent(event);
+  if (event->reason() == Qt::TabFocusReason) focusNextPrevChild(true);
+  if (event->reason() == Qt::BacktabFocusReason) focusNextPrevChild(false);
 }
 
 Notice::Notice(const char* name, QWidget* parent) : Sentence(name, parent) {

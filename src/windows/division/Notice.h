@@ -6,7 +6,7 @@ namespace qismora {
 
 // The sentences of the Division window.
 
-/// What is divided among whom; screen readers announce it as a notification when it is said to appear.
+/// What is divided among whom. It wraps, unlike an AnnouncedLabel; screen readers announce it on request.
 class Headline : public QLabel {
  public:
   explicit Headline(QWidget* parent);
@@ -15,12 +15,15 @@ class Headline : public QLabel {
   void SetFont(QFont font);
 };
 
-/// A sentence that wraps, can be selected, and is hidden while it is empty.
+/// A sentence that wraps, can be selected, and is hidden while it is empty. Tab stops at its links alone.
 class Sentence : public QLabel {
  public:
   Sentence(const char* name, QWidget* parent);
 
   void Say(const QString& html);
+
+ protected:
+  void focusInEvent(QFocusEvent* event) override;
 };
 
 /// A sentence that cannot be missed: framed, with a stripe at its beginning.
