@@ -17,8 +17,8 @@
 #include "base/Files.h"
 #include "shell/SessionLog.h"
 #include "support/FakePorts.h"
-#include "windows/division/Languages.h"
 #include "windows/forms/ProgramWindows.h"
+#include "windows/language/Languages.h"
 #include "windows/platform/QtShellPorts.h"
 #include "windows/style/OutlinedStyle.h"
 

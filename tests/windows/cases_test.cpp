@@ -11,7 +11,7 @@
 
 #include "windows/MessageBoxSpy.h"
 #include "windows/ProgramFixture.h"
-#include "windows/division/Languages.h"
+#include "windows/language/Languages.h"
 #include "windows/style/OutlinedStyle.h"
 
 namespace qismora {

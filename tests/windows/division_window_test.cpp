@@ -20,8 +20,8 @@
 #include "windows/division/DivisionPlace.h"
 #include "windows/division/DivisionWindow.h"
 #include "windows/division/FamilyTreeView.h"
-#include "windows/division/Languages.h"
 #include "windows/help/HelpWindow.h"
+#include "windows/language/Languages.h"
 #include "windows/style/Colours.h"
 
 namespace qismora {

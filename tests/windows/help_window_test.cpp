@@ -5,8 +5,8 @@
 #include <QTextBlock>
 
 #include "screens/Differences.h"
-#include "windows/division/Languages.h"
 #include "windows/help/HelpWindow.h"
+#include "windows/language/Languages.h"
 #include "windows/platform/Utf8.h"
 
 using namespace qismora;

@@ -7,7 +7,7 @@
 
 #include "screens/DivisionView.h"
 #include "windows/casestudy/CaseWords.h"
-#include "windows/division/Languages.h"
+#include "windows/language/Languages.h"
 #include "windows/platform/Utf8.h"
 #include "windows/widgets/AccessibleRole.h"
 #include "windows/widgets/Binder.h"

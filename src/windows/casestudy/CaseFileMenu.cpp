@@ -10,7 +10,7 @@
 #include <QUrl>
 
 #include "windows/casestudy/CaseWords.h"
-#include "windows/division/Languages.h"
+#include "windows/language/Languages.h"
 #include "windows/platform/Utf8.h"
 #include "windows/widgets/Keyboard.h"
 

@@ -1,7 +1,7 @@
 #include "windows/casestudy/CaseWords.h"
 
 #include "windows/division/DivisionWords.h"
-#include "windows/division/Languages.h"
+#include "windows/language/Languages.h"
 #include "windows/platform/Utf8.h"
 
 namespace qismora {

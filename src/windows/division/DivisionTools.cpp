@@ -7,7 +7,7 @@
 #include <QToolButton>
 
 #include "windows/division/DivisionWords.h"
-#include "windows/division/Languages.h"
+#include "windows/language/Languages.h"
 
 namespace qismora {
 

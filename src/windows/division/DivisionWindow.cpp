@@ -26,9 +26,9 @@
 #include "windows/division/DivisionTableView.h"
 #include "windows/division/DivisionTools.h"
 #include "windows/division/DivisionWords.h"
-#include "windows/division/Languages.h"
 #include "windows/division/Paper.h"
 #include "windows/help/HelpWindow.h"
+#include "windows/language/Languages.h"
 #include "windows/platform/Utf8.h"
 #include "windows/widgets/Keyboard.h"
 

@@ -12,7 +12,6 @@
 
 class QLabel;
 class QMenu;
-class QScrollArea;
 class QSplitter;
 
 namespace qismora {

@@ -6,7 +6,7 @@
 
 #include "screens/Differences.h"
 #include "screens/DivisionView.h"
-#include "windows/division/Languages.h"
+#include "windows/language/Languages.h"
 
 /// All words of a division, in the current language (Languages.h). Each function takes data and decides
 /// nothing about the law. A window asks again after QEvent::LanguageChange.

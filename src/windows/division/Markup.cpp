@@ -2,7 +2,7 @@
 
 #include <algorithm>
 
-#include "windows/division/Languages.h"
+#include "windows/language/Languages.h"
 
 namespace qismora::markup {
 

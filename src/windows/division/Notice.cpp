@@ -4,7 +4,7 @@
 #include <QGuiApplication>
 #include <QPainter>
 
-#include "windows/division/Languages.h"
+#include "windows/language/Languages.h"
 #include "windows/style/Colours.h"
 #include "windows/widgets/AccessibleRole.h"
 

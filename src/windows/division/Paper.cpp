@@ -10,7 +10,7 @@
 #include <QPageSize>
 #include <QStandardPaths>
 
-#include "windows/division/Languages.h"
+#include "windows/language/Languages.h"
 #include "windows/platform/BuiltFiles.h"
 #include "windows/platform/QtShellPorts.h"
 #include "windows/print/PrintDialogs.h"

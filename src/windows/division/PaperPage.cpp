@@ -7,7 +7,7 @@
 #include <QPainter>
 #include <QTextDocument>
 
-#include "windows/division/Languages.h"
+#include "windows/language/Languages.h"
 
 namespace qismora {
 

@@ -6,7 +6,7 @@
 #include <QTextDocument>
 #include <algorithm>
 
-#include "windows/division/Languages.h"
+#include "windows/language/Languages.h"
 
 namespace qismora {
 

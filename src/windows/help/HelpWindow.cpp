@@ -23,7 +23,7 @@
 #include <QToolBar>
 #include <QWindow>
 
-#include "windows/division/Languages.h"
+#include "windows/language/Languages.h"
 #include "windows/platform/QtPorts.h"
 
 namespace qismora {

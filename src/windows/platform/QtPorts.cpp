@@ -14,7 +14,7 @@
 #include <algorithm>
 
 #include "base/Files.h"
-#include "windows/division/Languages.h"
+#include "windows/language/Languages.h"
 #include "windows/platform/Utf8.h"
 #include "windows/style/PointerShape.h"
 

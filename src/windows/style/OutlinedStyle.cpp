@@ -5,7 +5,7 @@
 #include <QPainter>
 #include <QStyleOption>
 
-#include "windows/division/Languages.h"
+#include "windows/language/Languages.h"
 #include "windows/style/Colours.h"
 
 namespace qismora {

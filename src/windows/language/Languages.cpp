@@ -1,4 +1,4 @@
-#include "windows/division/Languages.h"
+#include "windows/language/Languages.h"
 
 #include <QCoreApplication>
 #include <QLibraryInfo>
@@ -33,7 +33,7 @@ constexpr char key[] = "Language";
 Language current = Language::English;
 bool started = false;
 
-// Qt drops a translator when it is destroyed; this one is dropped with the application.
+// A destroyed translator removes itself from the application. This one belongs to the application.
 QTranslator* translator = nullptr;
 
 constexpr char dialogs[] = "Dialogs";

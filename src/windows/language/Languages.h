@@ -25,14 +25,14 @@ Language DesktopLanguage();
 
 /// The language that the user has chosen; nothing where it follows the desktop.
 std::optional<Language> ChosenLanguage(Settings& store);
-/// Remembers the choice and speaks the language from now on; nothing follows the desktop again.
+/// Remembers the choice and switches to the language; nothing follows the desktop again.
 void ChooseLanguage(Settings& store, std::optional<Language> choice);
 
-/// Speaks the chosen language from now on. To be called before the first text that may be translated is
-/// shown; it loads a translation only where there is something to load, and does nothing when called again.
+/// Switches to the chosen language. To be called before the first text that may be translated is shown; it
+/// does nothing when called again.
 void StartLanguage(Settings& store);
 
-/// Speaks a language from now on. Every window receives QEvent::LanguageChange.
+/// Switches to a language. Every window receives QEvent::LanguageChange.
 void SetLanguage(Language language);
 Language CurrentLanguage();
 
