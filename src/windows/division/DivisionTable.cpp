@@ -28,7 +28,7 @@ QString Signed(faraid::Hundredths amount) {
   return IsolatedFigure(sign + words::Amount(std::abs(amount)));
 }
 
-/// 33.33 or 33.34: the second figure stands below the first.
+/// 33.33 or 33.34: the second figure stands below the first. No figure of the three languages has a blank.
 QString InTwoLines(QString each) {
   const auto last = each.lastIndexOf(QLatin1Char(' '));
   if (last > 0 && each.count(QLatin1Char(' ')) >= 2) each[last] = QLatin1Char('\n');
@@ -41,6 +41,18 @@ QString WhyOf(const DivisionLine& line) { return words::Why(line.Law.Why); }
 QString OwnAmount(const OwnAnswer& own, Kind heir) {
   if (own.Outcome != OwnOutcome::Figures || heir == Kind::Remainder) return dash;
   return words::Number(static_cast<std::int64_t>(std::nearbyint(own.Of(heir).Together)));
+}
+
+/// The whole row for a screen reader: figures with their headings, sentences without.
+QString SentenceOf(const DivisionTable& table, const DivisionTable::Row& row) {
+  QStringList parts;
+  for (qsizetype i = 1; i < row.Cells.size(); ++i) {
+    if (row.Cells[i].isEmpty() || row.Cells[i] == dash) continue;
+    const bool sentence = i >= table.FirstSentence;
+    parts.append(sentence ? row.Cells[i] : table.Headings[i] + QLatin1Char(' ') + row.Cells[i]);
+  }
+  QString words = row.Cells[0] + QStringLiteral(": ") + parts.join(QStringLiteral(", "));
+  return words.replace(QLatin1Char('\n'), QLatin1Char(' '));
 }
 
 class SchoolTable {
@@ -67,7 +79,7 @@ class SchoolTable {
     for (const DivisionLine& line : view_.Takers) AddHeir(line, Place::Taker);
     if (!view_.Takers.empty()) AddSum();
     for (const DivisionLine& line : view_.Others) AddHeir(line, Place::Other);
-    if (before_) AddThoseWhoAreGone();
+    if (before_) AddFormerHeirs();
     return std::move(table_);
   }
 
@@ -127,7 +139,8 @@ class SchoolTable {
     Add(std::move(sum));
   }
 
-  void AddThoseWhoAreGone() {
+  /// The heirs of the other division who have no line in this one.
+  void AddFormerHeirs() {
     for (const HeirChange& change : ChangesBetween(*before_, view_)) {
       if (change.Now) continue;
       const faraid::Row& row = before_->Find(change.Heir)->Law;
@@ -145,14 +158,7 @@ class SchoolTable {
   }
 
   void Add(DivisionTable::Row row) {
-    QStringList parts;
-    for (qsizetype i = 1; i < row.Cells.size(); ++i) {
-      if (row.Cells[i].isEmpty() || row.Cells[i] == dash) continue;
-      const bool sentence = i >= table_.FirstSentence;
-      parts.append(sentence ? row.Cells[i] : table_.Headings[i] + QLatin1Char(' ') + row.Cells[i]);
-    }
-    row.Sentence = row.Cells[0] + QStringLiteral(": ") + parts.join(QStringLiteral(", "));
-    row.Sentence.replace(QLatin1Char('\n'), QLatin1Char(' '));
+    row.Sentence = SentenceOf(table_, row);
     if (row.Differs) row.Sentence += QStringLiteral(". ") + words::NoticeHeading();
     table_.Rows.append(std::move(row));
   }
@@ -228,12 +234,7 @@ DivisionTable DivisionTable::OfFourSchools(const SchoolViews& views) {
     for (const DivisionView& view : views) row.Cells.append(InSchool(view, heir));
     row.Cells.append(row.Differs ? QStringLiteral("≠ ") + WhySchoolsDiffer(views, heir)
                                  : tr("all four alike"));
-    QStringList parts;
-    for (qsizetype c = 1; c < row.Cells.size(); ++c) {
-      parts.append(table.Headings[c] + QLatin1Char(' ') +
-                   QString(row.Cells[c]).replace(QLatin1Char('\n'), QLatin1Char(' ')));
-    }
-    row.Sentence = row.Cells[0] + QStringLiteral(": ") + parts.join(QStringLiteral(", "));
+    row.Sentence = SentenceOf(table, row);
     table.Rows.append(row);
   }
   return table;

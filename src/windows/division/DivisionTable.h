@@ -42,7 +42,7 @@ struct DivisionTable {
   Q_DECLARE_TR_FUNCTIONS(DivisionTable)
 };
 
-/// The table for a view. A change of some cells leaves the selection and the place of the view alone.
+/// The table for a view. A change of some cells leaves the selection and the scroll position alone.
 class DivisionModel : public QAbstractTableModel {
  public:
   using QAbstractTableModel::QAbstractTableModel;
