@@ -54,10 +54,10 @@ AnswerStrip::AnswerStrip(CaseStudy& form, CaseDocument& document, QWidget* paren
     file_->setAccessibleName(title);
   });
   form.AnswerWords.WhenChanged([this] { ShowAnswer(); });
-  SayAll();
+  Translate();
 }
 
-void AnswerStrip::SayAll() {
+void AnswerStrip::Translate() {
   setAccessibleName(CaseWords::tr("State of the answer"));
   setLayoutDirection(CurrentDirection());
   file_->setFont(FontBesideEnglish(font()));
@@ -79,14 +79,14 @@ void AnswerStrip::ShowAnswer() {
 
 ReadingsPanel::ReadingsPanel(CaseStudy& form, QWidget* parent)
     : AnnouncedLabel(QStringLiteral("Readings"), parent), form_(form), grouping_(DesktopGrouping()) {
-  const auto show = [this] { SayAll(); };
+  const auto show = [this] { Translate(); };
   for (int i = 0; i < form.Text1.Size; ++i) form.Text1(i).Text.WhenChanged(show);
   Binder::Follow<int>(form.EventsEnded, show);
 }
 
 // Only the first sentence has the space to be read whole; the tool tip and screen readers have all of them. A
 // sentence changes with each key; it is announced when another field has come to it.
-void ReadingsPanel::SayAll() {
+void ReadingsPanel::Translate() {
   QStringList sentences;
   for (const Message& sentence : form_.Misreadings(grouping_)) sentences.append(CaseWords::Of(sentence));
   setFont(FontBesideEnglish(parentWidget()->font()));

@@ -14,7 +14,7 @@ class AnswerStrip : public QFrame {
   AnswerStrip(CaseStudy& form, CaseDocument& document, QWidget* parent);
 
   /// All words in the current language, from the side on which it begins.
-  void SayAll();
+  void Translate();
 
  private:
   void ShowAnswer();
@@ -31,7 +31,7 @@ class ReadingsPanel : public AnnouncedLabel {
   ReadingsPanel(CaseStudy& form, QWidget* parent);
 
   /// The sentences in the current language.
-  void SayAll();
+  void Translate();
 
  private:
   CaseStudy& form_;

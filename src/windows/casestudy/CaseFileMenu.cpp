@@ -99,10 +99,10 @@ CaseFileMenu::CaseFileMenu(QMenuBar* bar, CaseDocument& document) : QMenu(bar), 
   connect(recent_, &QMenu::aboutToShow, recent_,
           [recent = recent_, &document] { FillRecent(recent, document); });
   bar->addMenu(this);
-  SayAll();
+  Translate();
 }
 
-void CaseFileMenu::SayAll() {
+void CaseFileMenu::Translate() {
   setTitle(CaseWords::tr("&Case"));
   recent_->setTitle(CaseWords::tr("&Recent"));
   for (QMenu* menu : {static_cast<QMenu*>(this), recent_}) {

@@ -14,7 +14,7 @@ class CaseFileMenu : public QMenu {
   CaseFileMenu(QMenuBar* bar, CaseDocument& document);
 
   /// All words in the current language.
-  void SayAll();
+  void Translate();
 
  private:
   QMenu* recent_;

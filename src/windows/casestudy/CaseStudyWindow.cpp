@@ -64,26 +64,26 @@ CaseStudyWindow::CaseStudyWindow(CaseRecord& record, Ports& ports, int savedLang
   SetSizes(windowSize, margin);
   OrderTabs();
   KeepOnTop();
-  SayAll();
+  Translate();
 }
 
 // What stands beside the form follows the language of the division; the form itself is English.
-void CaseStudyWindow::SayAll() {
+void CaseStudyWindow::Translate() {
   openDivision_->setText(CaseWords::tr("&Division"));
   menuBar()->setFont(FontBesideEnglish(QApplication::font(menuBar())));
   divisionLine_->setText(CaseWords::tr("Who receives what: F8"));
   divisionLine_->setLayoutDirection(CurrentDirection());
   divisionLine_->setAccessibleName(CaseWords::tr("Who receives what: opens the division"));
   divisionLine_->setToolTip(CaseWords::tr("The final division in one table, with its reasons (F8)"));
-  fileMenu_->SayAll();
-  readings_->SayAll();
-  strip_->SayAll();
+  fileMenu_->Translate();
+  readings_->Translate();
+  strip_->Translate();
   document_.Retitle();
 }
 
 void CaseStudyWindow::changeEvent(QEvent* event) {
   FormWindow::changeEvent(event);
-  if (event->type() == QEvent::LanguageChange && strip_ != nullptr) SayAll();
+  if (event->type() == QEvent::LanguageChange && strip_ != nullptr) Translate();
 }
 
 void CaseStudyWindow::BuildFrame() {

@@ -33,7 +33,7 @@ class CaseStudyWindow : public FormHolder<CaseStudy>, public FormWindow {
  private:
   void BuildFrame();
   void BuildDivision(Settings& store);
-  void SayAll();
+  void Translate();
   void BuildStatusBar(Ports& ports);
   void BuildTimer();
   void KeepOnTop();

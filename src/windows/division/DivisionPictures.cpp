@@ -59,7 +59,7 @@ void DivisionPictures::Show(const DivisionView& view) {
 
 void DivisionPictures::Choose(faraid::Kind heir) { tree_->Choose(heir); }
 
-void DivisionPictures::SayAll() {
+void DivisionPictures::Translate() {
   bar_->setAccessibleName(tr("The estate as a bar"));
   tree_->setAccessibleName(tr("Family tree"));
 }

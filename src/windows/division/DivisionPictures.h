@@ -23,7 +23,7 @@ class DivisionPictures : public QWidget {
   void Show(const DivisionView& view);
   void Choose(faraid::Kind heir);
   /// The names for screen readers in the current language.
-  void SayAll();
+  void Translate();
   /// How high it is when nothing of it scrolls.
   int FullHeight() const;
 

@@ -86,7 +86,7 @@ void DivisionSentences::Show(const DivisionView& view, const Supposition& suppos
   unreadable_->Say(UnreadableFields(view));
 }
 
-void DivisionSentences::SayAll(const QFont& font) {
+void DivisionSentences::Translate(const QFont& font) {
   headline_->SetFont(font);
   consent_->setText(tr("The &heirs consent to more than a third"));
   Recolour();

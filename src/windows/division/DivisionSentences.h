@@ -25,7 +25,7 @@ class DivisionSentences : public QWidget {
 
   void Show(const DivisionView& view, const Supposition& supposition, bool heirsConsent);
   /// The words that stay, in the current language and in a font that sets it.
-  void SayAll(const QFont& font);
+  void Translate(const QFont& font);
   void Recolour();
   /// Announces what has changed to screen readers, once.
   void Announce();

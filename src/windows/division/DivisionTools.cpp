@@ -78,7 +78,7 @@ void DivisionTools::AddLanguages(Settings& store) {
   addWidget(language_);
 }
 
-void DivisionTools::SayAll() {
+void DivisionTools::Translate() {
   schoolCaption_->setText(tr("&School"));
   for (int i = 0; i < schools_->count(); ++i)
     schools_->setItemText(i, words::SchoolName(static_cast<faraid::School>(i)));

@@ -20,7 +20,7 @@ class DivisionTools : public QToolBar {
   DivisionTools(faraid::School school, Settings& store, QWidget* parent);
 
   /// All words in the current language.
-  void SayAll();
+  void Translate();
   /// Enables the paper where all fields can be read, and what compares where there is a table. Keep can
   /// always be undone.
   void Enable(bool isReadable, bool isDivided);

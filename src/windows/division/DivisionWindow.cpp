@@ -76,7 +76,7 @@ DivisionWindow::DivisionWindow(CaseStudy& form, Settings& store)
   announcing_.setSingleShot(true);
   announcing_.setInterval(announceAfter);
   connect(&announcing_, &QTimer::timeout, this, [this] { sentences_->Announce(); });
-  SayAll();
+  Translate();
   Watch();
 }
 
@@ -153,15 +153,15 @@ void DivisionWindow::ConnectParts() {
 }
 
 /// All words that stay while figures change, in the current language.
-void DivisionWindow::SayAll() {
+void DivisionWindow::Translate() {
   setLayoutDirection(CurrentDirection());
   const QFont font = FontOfLanguage(QApplication::font());
   setFont(font);
-  sentences_->SayAll(font);
+  sentences_->Translate(font);
   table_->SetTextFont(font);
   table_->setAccessibleName(tr("Who receives what"));
-  pictures_->SayAll();
-  tools_->SayAll();
+  pictures_->Translate();
+  tools_->Translate();
   setAccessibleName(tr("Division"));
 }
 
@@ -334,7 +334,7 @@ void DivisionWindow::changeEvent(QEvent* event) {
   QMainWindow::changeEvent(event);
   if (tools_ == nullptr) return;
   if (event->type() == QEvent::LanguageChange) {
-    SayAll();
+    Translate();
   } else if (event->type() == QEvent::PaletteChange) {
     sentences_->Recolour();
   } else {

@@ -55,7 +55,7 @@ class DivisionWindow : public QMainWindow {
   void BuildContent();
   void BuildTools();
   void ConnectParts();
-  void SayAll();
+  void Translate();
   void Watch();
   void Changed();
 
