@@ -110,6 +110,7 @@ class DivisionPlaceTest : public DivisionFixture {
     Activate();
     auto* table = Find<QTableView>("DivisionTable");
     QTRY_VERIFY(table->hasFocus());
+    QVERIFY(table->selectionModel()->hasSelection());
     table->selectRow(Row("Consanguine brother"));
     QTest::qWait(50);  // for the layout
     const QRect row = table->visualRect(table->currentIndex());

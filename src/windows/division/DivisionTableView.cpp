@@ -33,7 +33,7 @@ class RowDelegate : public QStyledItemDelegate {
     option->decorationAlignment = Qt::AlignTop | Qt::AlignHCenter;
     option->textElideMode = Qt::ElideNone;
     // The whole row is marked; the frame of the current cell would make its text paler.
-    if (option->state.testFlag(QStyle::State_Selected)) option->state &= ~QStyle::State_HasFocus;
+    option->state &= ~QStyle::State_HasFocus;
     option->rect.adjust(0, cellMargin, 0, 0);
     const bool rightToLeft = option->direction == Qt::RightToLeft;
     if (index.column() == 0)
@@ -176,6 +176,12 @@ int DivisionTableView::HeightOf(const DivisionTable::Row& row, int sentence) con
   const QRect place(0, 0, sentence - 3 * cellMargin, QWIDGETSIZE_MAX);
   height = std::max(height, metrics.boundingRect(place, int(Qt::TextWordWrap), row.Cells[last]).height());
   return height + 2 * cellMargin;
+}
+
+// Qt makes the first row the current one without selecting it.
+void DivisionTableView::focusInEvent(QFocusEvent* event) {
+  QTableView::focusInEvent(event);
+  if (currentIndex().isValid() && !selectionModel()->hasSelection()) selectRow(currentIndex().row());
 }
 
 void DivisionTableView::keyPressEvent(QKeyEvent* event) {

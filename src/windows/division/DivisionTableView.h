@@ -34,6 +34,7 @@ class DivisionTableView : public QTableView {
   std::function<void(QMenu*)> FillMenu;
 
  protected:
+  void focusInEvent(QFocusEvent* event) override;
   void keyPressEvent(QKeyEvent* event) override;
   void contextMenuEvent(QContextMenuEvent* event) override;
   void resizeEvent(QResizeEvent* event) override;
