@@ -67,13 +67,13 @@ struct TourPorts {
   QtProgram Running;
   QtMessageBoxes Boxes{Running};
   testing::FakeFolders Folders;
-  QtSaveDialog Dialog{Folders};
+  QtFileDialogs Dialogs{Folders};
   QtSettings Settings;
   testing::FakeDocumentViewer Viewer;
   QtVideoPlayer Player{QStringList()};
   testing::FakeMemoryMeter Memory;
   testing::FakeProgram Program;
-  ShellPorts Ports{{Clock, Boxes, Dialog, Settings, Folders}, Viewer, Player, Memory, Program};
+  ShellPorts Ports{{Clock, Boxes, Dialogs, Settings, Folders}, Viewer, Player, Memory, Program};
 };
 
 /// Plays the steps of the stops. When a message box opens, it takes a picture of it and closes it with

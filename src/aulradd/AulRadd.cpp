@@ -51,17 +51,17 @@ bool AskAboutResiduary(const CaseRecord& c, CaseScreen& screen) {
   for (const ResiduaryMessage& row : residuaryMessages) {
     next = row.Flag + 1;
     if (!c.Res(row.Flag)) continue;
-    const Answer answer = screen.System.Boxes.Show(
+    const Answer answer = screen.Ports.Boxes.Show(
         BoxStyle::Warning, BoxButtons::YesNoCancel,
         "Doctrine of Aul and Radd applies only in absence of Residuaries (Asaba't).\r\n"
         "The case is not free from Residuary (Asaba'). Want to know the Residuaries (Asaba't)?");
-    if (answer == Answer::Yes) screen.System.Boxes.Inform(BoxStyle::Information, row.Text);
+    if (answer == Answer::Yes) screen.Ports.Boxes.Inform(BoxStyle::Information, row.Text);
     return true;
   }
   // The loop ends one flag before that of class II, so this message is never shown. It is kept as one of the
   // fixed texts. Showing it would add a message to every surplus that goes to class II.
   if (next == ClassIITicked) {
-    screen.System.Boxes.Inform(
+    screen.Ports.Boxes.Inform(
         BoxStyle::Information,
         "RESIDUARY (ASABA') IS AMONG SECOND CLASS RESIDUARIES [ASABA'T] (e.g UNCLE etc.).");
   }
@@ -70,7 +70,7 @@ bool AskAboutResiduary(const CaseRecord& c, CaseScreen& screen) {
 
 void ApplyDoctrine(CaseRecord& c, CaseScreen& screen) {
   if (c.AulRaddState == NoAdjustment) {
-    screen.System.Boxes.Inform(BoxStyle::Information, "AUL/RADD NOT APPLICABLE IN THIS CASE.");
+    screen.Ports.Boxes.Inform(BoxStyle::Information, "AUL/RADD NOT APPLICABLE IN THIS CASE.");
     return;
   }
   screen.Frame5.Visible = false;
@@ -92,7 +92,7 @@ void ApplyDoctrine(CaseRecord& c, CaseScreen& screen) {
   BuildAulRaddTexts(c, screen);
   const bool aul = c.Residue < 0;
   screen.Text3.Text =
-      Join(aul ? c.SummaryText : c.RaddText, CRLF, CRLF, GeneratedBy(screen.System.Time.Now()), CRLF, CRLF);
+      Join(aul ? c.SummaryText : c.RaddText, CRLF, CRLF, GeneratedBy(screen.Ports.Time.Now()), CRLF, CRLF);
   screen.Label2.Caption = aul ? "AUL DOCTRINE APPLIED" : "RADD DOCTRINE APPLIED";
   if (screen.Watch.DoctrineApplied) screen.Watch.DoctrineApplied();
 }
@@ -104,7 +104,7 @@ void RunAulRadd(CaseRecord& c, CaseScreen& screen) {
     ApplyDoctrine(c, screen);
   } catch (const Failure& failure) {
     if (failure.Number == DivisionByZero) {
-      screen.System.Boxes.Inform(
+      screen.Ports.Boxes.Inform(
           BoxStyle::Critical,
           "No Quranic Sharer is present, the Residue will go to Distant Kindred, if any.\r\n"
           "In case, there is no any Distant Kindred then only it will go to the Sharer.");

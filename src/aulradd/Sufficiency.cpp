@@ -44,7 +44,7 @@ bool HasTickedHeir(const CaseRecord& c) {
 
 /// Shows the outcome, unless a full report is being made, and the command that applies the doctrine.
 void Offer(CaseRecord& c, CaseScreen& screen, int state, const char* message) {
-  if (!c.ReportToFile) screen.System.Boxes.Inform(BoxStyle::Warning, message);
+  if (!c.ReportToFile) screen.Ports.Boxes.Inform(BoxStyle::Warning, message);
   screen.AulRadd.Visible = true;
   c.AulRaddState = Integer(state);
 }

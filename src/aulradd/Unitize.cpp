@@ -88,7 +88,7 @@ void UnitizeShares(CaseRecord& c, CaseScreen& screen) {
     Unitize(c);
   } catch (const Failure& failure) {
     if (failure.Number == Overflow) return;
-    screen.System.Boxes.Inform(BoxStyle::Plain, "ERROR IN UNITIZING MODULE");
+    screen.Ports.Boxes.Inform(BoxStyle::Plain, "ERROR IN UNITIZING MODULE");
   }
 }
 

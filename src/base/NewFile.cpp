@@ -89,8 +89,8 @@ void CopyPermissions(int file, const struct stat& earlier) {
 
 }  // namespace
 
-NewFile::NewFile(Folders& places, const std::string& path, Replace replace)
-    : places_(places), path_(path), folder_(fs::path(path).parent_path().string()), replace_(replace) {
+NewFile::NewFile(StandardFolders& folders, const std::string& path, Replace replace)
+    : folders_(folders), path_(path), folder_(fs::path(path).parent_path().string()), replace_(replace) {
   RemoveStrays(folder_);
   Create();
 }
@@ -120,11 +120,11 @@ void NewFile::Create() {
 void NewFile::Commit(std::string_view content) {
   WriteAll(file_.Get(), content);
   if (const auto earlier = FileToReplace(path_, replace_)) CopyPermissions(file_.Get(), *earlier);
-  places_.WriteThrough(unfinished_);
-  places_.WriteThrough(folder_);
+  folders_.WriteThrough(unfinished_);
+  folders_.WriteThrough(folder_);
   TakeName();
   unfinished_.clear();
-  places_.WriteThrough(folder_);
+  folders_.WriteThrough(folder_);
 }
 
 void NewFile::TakeName() {
@@ -138,8 +138,9 @@ void NewFile::TakeName() {
   if (rename(unfinished_.c_str(), path_.c_str()) != 0) throw FileFailure(errno);
 }
 
-void WriteSafely(Folders& places, const std::string& path, std::string_view content, Replace replace) {
-  NewFile file(places, path, replace);
+void WriteSafely(StandardFolders& folders, const std::string& path, std::string_view content,
+                 Replace replace) {
+  NewFile file(folders, path, replace);
   file.Commit(content);
 }
 

@@ -23,7 +23,7 @@ enum class Replace {
 class NewFile {
  public:
   /// Fails if the file cannot be written, before there is anything to write.
-  NewFile(Folders& places, const std::string& path, Replace replace);
+  NewFile(StandardFolders& folders, const std::string& path, Replace replace);
   ~NewFile();
   NewFile(const NewFile&) = delete;
   NewFile& operator=(const NewFile&) = delete;
@@ -35,7 +35,7 @@ class NewFile {
   void Create();
   void TakeName();
 
-  Folders& places_;
+  StandardFolders& folders_;
   std::string path_;
   std::string folder_;
   Replace replace_;
@@ -44,6 +44,7 @@ class NewFile {
 };
 
 /// Writes a whole file at once.
-void WriteSafely(Folders& places, const std::string& path, std::string_view content, Replace replace);
+void WriteSafely(StandardFolders& folders, const std::string& path, std::string_view content,
+                 Replace replace);
 
 }  // namespace qismora

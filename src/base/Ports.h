@@ -52,9 +52,9 @@ class MessageBoxes {
 };
 
 /// The dialogs that ask for the path of a file to save or to open. No value if the user cancels.
-class SaveDialog {
+class FileDialogs {
  public:
-  virtual ~SaveDialog() = default;
+  virtual ~FileDialogs() = default;
   virtual std::optional<std::string> AskPath(const std::string& suggestedName, const std::string& filter) = 0;
 
   /// The path of a case file to open. The dialog starts in this folder.
@@ -79,17 +79,17 @@ class Settings {
                      const std::string& value) = 0;
 };
 
-/// The directories of the files, without a separator at the end.
-class Folders {
+/// The folders of the files, without a separator at the end.
+class StandardFolders {
  public:
-  virtual ~Folders() = default;
-  /// The directory of the reports: the current one, or the user's documents if that cannot be written to.
+  virtual ~StandardFolders() = default;
+  /// The folder of the reports: the current one, or the user's documents if that cannot be written to.
   virtual std::string Reports() = 0;
-  /// The directory of the program's own files.
+  /// The folder of the program's own files.
   virtual std::string Application() = 0;
-  /// The directory of the session log: the program's, or the user's data if that cannot be written to.
+  /// The folder of the session log: the program's, or the user's data if that cannot be written to.
   virtual std::string Log() { return Application(); }
-  /// The directory of the documents that come with the program.
+  /// The folder of the documents that come with the program.
   virtual std::string Documents() { return Application() + "/documents"; }
   /// Synchronizes a file or a directory to the disk, as far as the platform can. A disk error is a failure.
   virtual void WriteThrough(const std::string& path) { static_cast<void>(path); }
@@ -143,18 +143,18 @@ struct SaveOutcome {
 };
 
 /// The ports that a case needs.
-struct Ports {
+struct CasePorts {
   Clock& Time;
   MessageBoxes& Boxes;
-  SaveDialog& Dialog;
+  FileDialogs& Dialogs;
   Settings& Store;
-  Folders& Places;
+  StandardFolders& Folders;
   /// Called when a command has saved a file or has failed to, but not when the user cancelled.
   std::function<void(const SaveOutcome&)> SaveEnded = {};
 };
 
 /// All ports, for the screens around the case.
-struct ShellPorts : Ports {
+struct ShellPorts : CasePorts {
   DocumentViewer& Viewer;
   VideoPlayer& MediaPlayer1;
   MemoryMeter& clsMemory;

@@ -65,9 +65,9 @@ struct CaseWatch {
 /// The part of the Case Study screen that the law knows: the fields that a case is read from and the
 /// panel that its results are written to.
 struct CaseScreen {
-  explicit CaseScreen(Ports& ports) : System(ports) {}
+  explicit CaseScreen(CasePorts& ports) : Ports(ports) {}
 
-  Ports& System;
+  CasePorts& Ports;
 
   /// The gender of the deceased.
   ComboBox Combo1;

@@ -83,7 +83,7 @@ void ReadField(const CaseScreen& screen, int index, Number& field) {
 
 /// Shows the message that stops the load.
 void Refuse(const CaseScreen& screen, BoxStyle style, const std::string& message) {
-  screen.System.Boxes.Inform(style, message);
+  screen.Ports.Boxes.Inform(style, message);
   if (screen.Watch.Stopped) screen.Watch.Stopped(message);
 }
 
@@ -103,7 +103,7 @@ bool ReadCount(CaseRecord& c, CaseScreen& screen, const CountRow& row, Grade gra
 /// needs the consent of the heirs. Each load asks for it. If the answer is No, the wills are reduced to the
 /// third.
 void AskAboutWills(CaseRecord& c, CaseScreen& screen, Double third) {
-  const Answer answer = screen.System.Boxes.Show(
+  const Answer answer = screen.Ports.Boxes.Show(
       BoxStyle::Warning, BoxButtons::YesNo,
       Join("Check for the sum of Will(s), it must be positive but NOT more than one third of\r\n"
            "the gross estate (",
@@ -167,9 +167,9 @@ void ReadCase(CaseRecord& c, CaseScreen& screen) {
   screen.Text3.ForeColor = Black;
   screen.Text2.ForeColor = Black;
   if (!(c.NetEstate < 0)) return;
-  screen.System.Boxes.Inform(BoxStyle::Critical,
-                             "NET ESTATE IS NEGATIVE, THE PROGRAM WILL GIVE PROPRTIONATE\r\n"
-                             "NEGATIVE SHARES TO COMPENSATE FOR THE DEFICIT.");
+  screen.Ports.Boxes.Inform(BoxStyle::Critical,
+                            "NET ESTATE IS NEGATIVE, THE PROGRAM WILL GIVE PROPRTIONATE\r\n"
+                            "NEGATIVE SHARES TO COMPENSATE FOR THE DEFICIT.");
   screen.Text3.ForeColor = Red;
   screen.Text2.ForeColor = Red;
 }

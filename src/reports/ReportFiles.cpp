@@ -17,20 +17,20 @@ namespace {
 constexpr const char* nothingToSave = "Execute the program and then try to save.";
 
 std::string ReportPath(const CaseScreen& screen, std::string_view name) {
-  return Join(screen.System.Places.Reports(), "/", name);
+  return Join(screen.Ports.Folders.Reports(), "/", name);
 }
 std::string WorkingFile(const CaseScreen& screen) { return ReportPath(screen, "FullReport"); }
 
 /// Reports the outcome of a save to the port SaveEnded.
 void EndSave(const CaseScreen& screen, const std::string& path, const std::string& reason = "") {
-  if (screen.System.SaveEnded) screen.System.SaveEnded({path, reason});
+  if (screen.Ports.SaveEnded) screen.Ports.SaveEnded({path, reason});
 }
 
 /// Runs the second and the third step and writes all three to the working file. After a failure the file has
 /// what was printed before it; an abandoned run does not change the file. Returns what was written, because
 /// another program may write its own report to the same file.
 std::string PrintReport(CaseRecord& c, CaseScreen& screen, const std::string& stepOne) {
-  NewFile file(screen.System.Places, WorkingFile(screen), Replace::WithoutAsking);
+  NewFile file(screen.Ports.Folders, WorkingFile(screen), Replace::WithoutAsking);
   std::string report;
   const auto print = [&](std::string_view text) { report.append(text).append(CRLF); };
   try {
@@ -47,7 +47,7 @@ std::string PrintReport(CaseRecord& c, CaseScreen& screen, const std::string& st
       print(Join(CRLF, "STEP - 3 (AUL/ RADD):", CRLF, CRLF, screen.Text3.Text));
     } else {
       print(Join(CRLF, "STEP - 3 (AUL/ RADD):", CRLF, CRLF, "AUL OR RADD NOT APPLICABLE IN THIS CASE.", CRLF,
-                 CRLF, GeneratedBy(screen.System.Time.Now()), CRLF, CRLF));
+                 CRLF, GeneratedBy(screen.Ports.Time.Now()), CRLF, CRLF));
     }
   } catch (const Failure&) {
     file.Commit(report);
@@ -71,7 +71,7 @@ void MakeFullReport(CaseRecord& c, CaseScreen& screen) {
 
 /// Whether the user agrees to replace the report of the deceased.
 bool AskToReplaceReport(CaseScreen& screen) {
-  return screen.System.Boxes.Show(
+  return screen.Ports.Boxes.Show(
              BoxStyle::Warning, BoxButtons::YesNo,
              Join("SAVING THIS REPORT: You are already having a file of ", screen.Text1(NameField).Text, ".",
                   CRLF, "Would you like to replace the existing file?")) == Answer::Yes;
@@ -86,9 +86,9 @@ std::string ShownText(const CaseScreen& screen) {
 
 /// Whether the user agrees to replace the file of this name.
 bool AskToReplaceResults(CaseScreen& screen, const std::string& name) {
-  return screen.System.Boxes.Show(BoxStyle::Warning, BoxButtons::YesNoCancel,
-                                  Join("File with the name ", name, " already exists in the folder.", CRLF,
-                                       "Would you like to replace the existing file?")) == Answer::Yes;
+  return screen.Ports.Boxes.Show(BoxStyle::Warning, BoxButtons::YesNoCancel,
+                                 Join("File with the name ", name, " already exists in the folder.", CRLF,
+                                      "Would you like to replace the existing file?")) == Answer::Yes;
 }
 
 /// Saves the shown text under the path that the user has chosen. A link is followed.
@@ -102,10 +102,10 @@ void SaveShownText(CaseScreen& screen, const std::string& path) {
 
   const std::string text = ShownText(screen);
   if (text.empty()) {
-    screen.System.Boxes.Inform(BoxStyle::Warning, nothingToSave);
+    screen.Ports.Boxes.Inform(BoxStyle::Warning, nothingToSave);
     return;
   }
-  WriteSafely(screen.System.Places, exists ? FollowLinks(path) : path,
+  WriteSafely(screen.Ports.Folders, exists ? FollowLinks(path) : path,
               Join(screen.Label2.Caption, CRLF, text, CRLF), exists ? Replace::Agreed : Replace::Nothing);
   EndSave(screen, path);
 }
@@ -140,30 +140,30 @@ void SaveFullReportFile(CaseScreen& screen, const std::string& report) {
   const std::string& deceased = screen.Text1(NameField).Text;
   const std::string name = Join(LowerCase(deceased), ".txt");
   const std::string path = ReportPath(screen, name);
-  Folders& places = screen.System.Places;
+  StandardFolders& folders = screen.Ports.Folders;
   try {
     if (!IsFileName(name)) throw FileFailure(PathFileAccess, "this is no file name");
     try {
-      WriteSafely(places, path, report, Replace::Nothing);
+      WriteSafely(folders, path, report, Replace::Nothing);
     } catch (const Failure& failure) {
       if (failure.Number != FileAlreadyExists) throw;
       if (!AskToReplaceReport(screen)) return EndSave(screen, WorkingFile(screen));
-      WriteSafely(places, path, report, Replace::Agreed);
+      WriteSafely(folders, path, report, Replace::Agreed);
     }
   } catch (const FileFailure& failure) {
     return EndSave(screen, path, failure.Reason);
   }
   EndSave(screen, path);
-  screen.System.Boxes.Inform(BoxStyle::Information, Join("Results of ", deceased, " saved successfully."));
+  screen.Ports.Boxes.Inform(BoxStyle::Information, Join("Results of ", deceased, " saved successfully."));
 }
 
 void SaveResults(CaseScreen& screen) {
   if (screen.Text3.Text.Get().empty() && screen.Text2.Text.Get().empty()) {
-    screen.System.Boxes.Inform(BoxStyle::Warning, nothingToSave);
+    screen.Ports.Boxes.Inform(BoxStyle::Warning, nothingToSave);
     return;
   }
   const std::optional<std::string> path =
-      screen.System.Dialog.AskPath(screen.Text1(NameField).Text, "All Text Files (*.txt)|*.txt");
+      screen.Ports.Dialogs.AskPath(screen.Text1(NameField).Text, "All Text Files (*.txt)|*.txt");
   if (!path) return;
   try {
     SaveShownText(screen, *path);

@@ -86,7 +86,7 @@ bool Start(CaseRecord& c, CaseScreen& screen) {
   return false;
 }
 
-std::string Footer(CaseScreen& screen) { return Join(GeneratedBy(screen.System.Time.Now()), CRLF, CRLF); }
+std::string Footer(CaseScreen& screen) { return Join(GeneratedBy(screen.Ports.Time.Now()), CRLF, CRLF); }
 
 /// Every kind has a section. The section of the spouse whom the deceased cannot have is a heading alone.
 void RunAllSections(CaseRecord& c, CaseScreen& screen) {

@@ -57,7 +57,7 @@ void ExplainClassII(CaseScreen& screen) {
   screen.Text2.Text = text;
   screen.Label2.Caption = "CLASS II RESIDUARY (ASABA')";
   screen.Label3.Caption = "0(0/1)";
-  screen.System.Boxes.Inform(BoxStyle::Information, text);
+  screen.Ports.Boxes.Inform(BoxStyle::Information, text);
 }
 
 }  // namespace qismora

@@ -278,7 +278,7 @@ void ResiduaryDistribution(CaseRecord& c, CaseScreen& screen) {
   } else {
     GiveToOthers(c);
   }
-  screen.Text3.Text = Join(c.ResiduaryReport, CRLF, CRLF, GeneratedBy(screen.System.Time.Now()), CRLF);
+  screen.Text3.Text = Join(c.ResiduaryReport, CRLF, CRLF, GeneratedBy(screen.Ports.Time.Now()), CRLF);
 }
 
 }  // namespace qismora

@@ -26,7 +26,7 @@ Message ReasonOf(const Failure& failure) {
 
 }  // namespace
 
-CaseDocument::CaseDocument(CaseStudy& form, Ports& ports) : form_(form), ports_(ports), kept_(Texts()) {
+CaseDocument::CaseDocument(CaseStudy& form, CasePorts& ports) : form_(form), ports_(ports), kept_(Texts()) {
   const auto review = [this] { Review(); };
   for (int i = 0; i < form.Text1.Size; ++i) form.Text1(i).Text.WhenChanged(review);
   for (int i = 0; i < form.Check1.Size; ++i) form.Check1(i).Value.WhenChanged(review);
@@ -90,7 +90,7 @@ void CaseDocument::New() {
 
 void CaseDocument::Open() {
   GuardedEvent(ports_.Boxes, [&] {
-    if (const auto path = ports_.Dialog.AskCaseToOpen(Folder())) OpenFile(*path);
+    if (const auto path = ports_.Dialogs.AskCaseToOpen(Folder())) OpenFile(*path);
   });
 }
 
@@ -131,14 +131,14 @@ void CaseDocument::SaveAs() {
 bool CaseDocument::SaveOrAsk() { return path_.empty() || incomplete_ ? AskAndSave() : SaveTo(path_); }
 
 bool CaseDocument::AskAndSave() {
-  const auto path = ports_.Dialog.AskCaseToSave(SuggestedPath());
+  const auto path = ports_.Dialogs.AskCaseToSave(SuggestedPath());
   return path && SaveTo(*path);
 }
 
 bool CaseDocument::SaveTo(const std::string& path) {
   const CaseTexts texts = Texts();
   try {
-    SaveCaseFile(ports_.Places, path, texts);
+    SaveCaseFile(ports_.Folders, path, texts);
   } catch (const Failure& failure) {
     ports_.Boxes.Inform(BoxStyle::Critical,
                         Join(Say(Message{"{file} could not be saved.", {{"file", FileName(path)}}}), CRLF,
@@ -195,7 +195,7 @@ void CaseDocument::Remember(const std::string& path, bool exists) {
 std::string CaseDocument::Folder() const {
   const std::vector<std::string> recent = Recent();
   const std::string& known = !path_.empty() || recent.empty() ? path_ : recent.front();
-  return known.empty() ? ports_.Places.Reports() : known.substr(0, known.rfind('/'));
+  return known.empty() ? ports_.Folders.Reports() : known.substr(0, known.rfind('/'));
 }
 
 std::string CaseDocument::SuggestedPath() const {

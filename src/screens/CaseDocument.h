@@ -15,7 +15,7 @@ namespace qismora {
 class CaseDocument {
  public:
   /// The example that a new screen shows counts as saved, because it is not the user's work.
-  CaseDocument(CaseStudy& form, Ports& ports);
+  CaseDocument(CaseStudy& form, CasePorts& ports);
 
   /// How messages are said to the user.
   std::function<std::string(const Message&)> Say = [](const Message& message) { return English(message); };
@@ -61,7 +61,7 @@ class CaseDocument {
   std::string SuggestedPath() const;
 
   CaseStudy& form_;
-  Ports& ports_;
+  CasePorts& ports_;
   std::string path_;
   CaseTexts kept_;
   /// The file has lines of a newer version, which saving under its name would lose.

@@ -206,8 +206,8 @@ CaseFileReading OpenCaseFile(const std::string& path) {
   return ParseCaseFile(content);
 }
 
-void SaveCaseFile(Folders& places, const std::string& path, const CaseTexts& texts) {
-  WriteSafely(places, FollowLinks(path), WriteCaseFile(texts), Replace::Agreed);
+void SaveCaseFile(StandardFolders& folders, const std::string& path, const CaseTexts& texts) {
+  WriteSafely(folders, FollowLinks(path), WriteCaseFile(texts), Replace::Agreed);
 }
 
 }  // namespace qismora

@@ -53,6 +53,6 @@ CaseFileReading OpenCaseFile(const std::string& path);
 
 /// Saves a case file completely or not at all. It may replace a file, as the user has agreed; a link is
 /// followed. A file that cannot be written is a failure.
-void SaveCaseFile(Folders& places, const std::string& path, const CaseTexts& texts);
+void SaveCaseFile(StandardFolders& folders, const std::string& path, const CaseTexts& texts);
 
 }  // namespace qismora

@@ -74,7 +74,7 @@ void UntickClassII(CaseScreen& screen) {
 // An abandoned command must not leave CaseLoaded set.
 template <class Body>
 void CaseStudy::Event(Body body) {
-  GuardedEvent(System.Boxes, [&] {
+  GuardedEvent(Ports.Boxes, [&] {
     const bool loaded = record_.CaseLoaded;
     try {
       body();
@@ -109,7 +109,7 @@ void CaseStudy::Command(AnswerOf what, const std::string& name, Body body) {
   });
 }
 
-CaseStudy::CaseStudy(CaseRecord& record, Ports& ports, int savedLanguage)
+CaseStudy::CaseStudy(CaseRecord& record, CasePorts& ports, int savedLanguage)
     : CaseScreen(ports), record_(record) {
   static_cast<ScreenState&>(record) = ScreenState{};
 
@@ -252,7 +252,7 @@ void CaseStudy::ChooseView(int index) {
     Label4(i).BorderStyle = i == index ? 1 : 0;
     Label4(i).ForeColor = i == index ? DarkRed : ButtonTextColour;
   }
-  LblPressed.Write(System.Store, Join(index));
+  LblPressed.Write(Ports.Store, Join(index));
 }
 
 void CaseStudy::Label4_Click(int index) {
@@ -275,7 +275,7 @@ void CaseStudy::Label1_DblClick(int index) {
     }
     RunHeir(index);
     StatusBar1.Caption = Join("Share of ", Label1(index).Caption);
-    System.Boxes.Inform(BoxStyle::Information, "Current data executed successfully.");
+    Ports.Boxes.Inform(BoxStyle::Information, "Current data executed successfully.");
     Frame5.Visible = false;
   });
 }
@@ -387,15 +387,15 @@ void CaseStudy::TestValues_Click() {
 
 void CaseStudy::Label13_DblClick() {
   Event([&] {
-    System.Boxes.Inform(BoxStyle::Information,
-                        Join("Number of executions of this program = ", Label13.Caption));
+    Ports.Boxes.Inform(BoxStyle::Information,
+                       Join("Number of executions of this program = ", Label13.Caption));
   });
 }
 
 void CaseStudy::Label6_Click() {
   Event([&] {
     Call(HideCatalogue);
-    System.Boxes.Inform(BoxStyle::Information, "YOU ARE WORKING ON THIS PROGRAM");
+    Ports.Boxes.Inform(BoxStyle::Information, "YOU ARE WORKING ON THIS PROGRAM");
   });
 }
 void CaseStudy::Image38_Click() { Label6_Click(); }

@@ -19,7 +19,7 @@ class CaseStudy : public CaseScreen, public CentredFrame {
  public:
   /// Resets the screen state of the record and runs the start sequence. The saved language is the first view,
   /// an index of Label4.
-  CaseStudy(CaseRecord& record, Ports& ports, int savedLanguage);
+  CaseStudy(CaseRecord& record, CasePorts& ports, int savedLanguage);
 
   /// Called to show the main menu, and the program catalogue.
   std::function<void()> ShowMainMenu;

@@ -44,7 +44,7 @@ class SilentBoxes : public MessageBoxes {
   Answer aboutWills_;
 };
 
-class NoDialog : public SaveDialog {
+class NoDialogs : public FileDialogs {
  public:
   std::optional<std::string> AskPath(const std::string&, const std::string&) override { return {}; }
 };
@@ -55,7 +55,7 @@ class NoSettings : public Settings {
   void Write(const std::string&, const std::string&, const std::string&, const std::string&) override {}
 };
 
-class NoFolders : public Folders {
+class NoFolders : public StandardFolders {
  public:
   std::string Reports() override { return {}; }
   std::string Application() override { return {}; }
@@ -71,12 +71,12 @@ struct OwnCase {
 
   NoClock Time;
   SilentBoxes Boxes;
-  NoDialog Dialog;
+  NoDialogs Dialogs;
   NoSettings Store;
-  NoFolders Places;
-  Ports System{Time, Boxes, Dialog, Store, Places};
+  NoFolders Folders;
+  CasePorts Ports{Time, Boxes, Dialogs, Store, Folders};
   CaseRecord Record;
-  CaseScreen Screen{System};
+  CaseScreen Screen{Ports};
 };
 
 /// Where the record has the count of a kind, its fixed share, and the residue per head.

@@ -11,7 +11,7 @@ namespace qismora {
 void OpenDocument(int number, ShellPorts& ports) {
   const auto* document = std::ranges::find(Documents, number, &Document::Number);
   if (document == Documents.end()) throw Failure(SubscriptOutOfRange);
-  const std::string path = Join(ports.Places.Documents(), "/", document->FileName);
+  const std::string path = Join(ports.Folders.Documents(), "/", document->FileName);
   if (!FileExists(path)) {
     ports.Boxes.Inform(BoxStyle::Warning, Join("The document \"", document->Title,
                                                "\" is missing. It should lie at", CRLF, path));

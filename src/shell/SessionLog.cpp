@@ -25,7 +25,7 @@ constexpr std::size_t lengthWidth = 8;
 
 constexpr std::size_t blockLength = 1 << 16;
 
-std::string LogPath(ShellPorts& ports) { return Join(ports.Places.Log(), "/popuQism.ppl"); }
+std::string LogPath(ShellPorts& ports) { return Join(ports.Folders.Log(), "/popuQism.ppl"); }
 
 void PrintZone(std::string& line, std::string_view field) {
   line.append((zone - line.size() % zone) % zone, ' ').append(field);

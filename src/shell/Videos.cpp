@@ -10,7 +10,7 @@ void Videos::PlayFirstVideo() { Play("brindhaven.avi", FirstVideoLength); }
 void Videos::PlaySecondVideo() { Play("brindhaven1.avi", SecondVideoLength); }
 
 void Videos::Play(const char* fileName, int expectedLength) {
-  CurrentVideoPath = Join(ports_.Places.Application(), "/", fileName);
+  CurrentVideoPath = Join(ports_.Folders.Application(), "/", fileName);
   CurrentVideoLength = FileLength(CurrentVideoPath);
   if (CurrentVideoLength == expectedLength) Start();
 }

@@ -8,19 +8,19 @@ namespace qismora {
 /// The program as it runs: its ports and its windows, which depend on them.
 struct RunningProgram {
   /// Takes the directory of the program's binary.
-  explicit RunningProgram(const QString& binaries) : Places(binaries) {}
+  explicit RunningProgram(const QString& binaries) : Folders(binaries) {}
 
   SystemClock Time;
   QtProgram Running;
   QtMessageBoxes Boxes{Running};
-  ProgramFolders Places;
-  QtSaveDialog Dialog{Places};
+  ProgramFolders Folders;
+  QtFileDialogs Dialogs{Folders};
   QtSettings Store;
   QtDocumentViewer Viewer;
-  QtVideoPlayer Player{Places.Plugins()};
+  QtVideoPlayer Player{Folders.Plugins()};
   SystemMemory Memory;
-  ShellPorts System{{Time, Boxes, Dialog, Store, Places}, Viewer, Player, Memory, Running};
-  ProgramWindows Windows{System, Player};
+  ShellPorts Ports{{Time, Boxes, Dialogs, Store, Folders}, Viewer, Player, Memory, Running};
+  ProgramWindows Windows{Ports, Player};
 };
 
 }  // namespace qismora

@@ -168,21 +168,21 @@ TEST(CaseFile, OpeningOneReplacesWhatIsTyped) {
 
 TEST(CaseFile, IsSavedAndOpened) {
   const TemporaryFolder folder;
-  FakeFolders places;
+  FakeFolders folders;
   CaseTexts texts;
   texts.Fields[2] = "1";
-  SaveCaseFile(places, folder.File("a.qismora"), texts);
+  SaveCaseFile(folders, folder.File("a.qismora"), texts);
   EXPECT_EQ(OpenCaseFile(folder.File("a.qismora")).Case, texts);
 
   std::filesystem::create_symlink("a.qismora", folder.File("link.qismora"));
   texts.Fields[2] = "2";
-  SaveCaseFile(places, folder.File("link.qismora"), texts);
+  SaveCaseFile(folders, folder.File("link.qismora"), texts);
   EXPECT_EQ(OpenCaseFile(folder.File("a.qismora")).Case, texts);
   EXPECT_EQ(OpenCaseFile(folder.File("link.qismora")).Case, texts);
 
   EXPECT_THROW(OpenCaseFile(folder.File("b.qismora")), Failure);
   EXPECT_THROW(OpenCaseFile(folder.Path()), Failure);
-  EXPECT_THROW(SaveCaseFile(places, folder.File("no/a.qismora"), texts), Failure);
+  EXPECT_THROW(SaveCaseFile(folders, folder.File("no/a.qismora"), texts), Failure);
   std::ofstream(folder.File("large.qismora")) << std::string(MostBytesOfCaseFile + 1, '\n');
   EXPECT_EQ(OpenCaseFile(folder.File("large.qismora")).Fault->Fault, CaseFault::FileTooLarge);
 }

@@ -21,8 +21,8 @@ using testing::NamesIn;
 using testing::TemporaryFolder;
 
 void Write(const std::string& path, const std::string& content, Replace replace = Replace::Agreed) {
-  FakeFolders places;
-  WriteSafely(places, path, content, replace);
+  FakeFolders folders;
+  WriteSafely(folders, path, content, replace);
 }
 
 TEST(Files, AFullDiskLeavesTheEarlierFile) {
@@ -173,8 +173,8 @@ TEST(Files, ADiskErrorLeavesTheEarlierFile) {
 
 TEST(Files, ASaveRemovesTheUnfinishedFilesOfKilledProgramsAlone) {
   const TemporaryFolder folder;
-  FakeFolders places;
-  NewFile running(places, folder.File("b.txt"), Replace::Nothing);
+  FakeFolders folders;
+  NewFile running(folders, folder.File("b.txt"), Replace::Nothing);
   for (const char* name : {".report-7.part", ".report-of-mine.part"}) std::ofstream(folder.File(name)) << "x";
   Write(folder.File("a.txt"), "later");
   running.Commit("b");

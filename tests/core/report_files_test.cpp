@@ -82,7 +82,7 @@ TEST_F(ReportFiles, ResultsSavedOntoALinkGoToTheFileThatItLeadsTo) {
   std::ofstream(Folder.File("far/file")) << "earlier";
   fs::create_symlink("far/file", Folder.File("link.txt"));
   Case.Study->Label1_DblClick(1);
-  Case.Fakes.Dialog.Paths = {Folder.File("link.txt")};
+  Case.Fakes.Dialogs.Paths = {Folder.File("link.txt")};
   Case.Fakes.Boxes.Answers = {Answer::Yes};
   Case.Study->SaveResults_Click();
   EXPECT_TRUE(fs::is_symlink(Folder.File("link.txt")));
@@ -95,11 +95,11 @@ TEST_F(ReportFiles, ResultsAreNotSavedOverAFolder) {
   fs::create_directory(Folder.File("results"));
   Case.Study->Label1_DblClick(1);
   Case.Fakes.Boxes.Shown.clear();
-  Case.Fakes.Dialog.Paths = {Folder.File("results")};
+  Case.Fakes.Dialogs.Paths = {Folder.File("results")};
   Case.Study->SaveResults_Click();
   EXPECT_TRUE(Case.Fakes.Boxes.Shown.empty());
   EXPECT_EQ(Outcome(), Ended("results", "a folder has this name"));
-  Case.Fakes.Dialog.Paths = {"/proc"};
+  Case.Fakes.Dialogs.Paths = {"/proc"};
   Case.Study->SaveResults_Click();
   EXPECT_EQ(Outcome().second, "a folder has this name") << "the root of all folders is found too";
 }
@@ -109,7 +109,7 @@ TEST_F(ReportFiles, AnEmptyPanelLeavesAnEarlierFileThatTheUserAgreedToReplace) {
   Case.Study->Text2.Text = "hidden";
   Case.Study->Text2.Visible = false;
   Case.Study->Text3.Visible = true;
-  Case.Fakes.Dialog.Paths = {Folder.File("earlier.txt")};
+  Case.Fakes.Dialogs.Paths = {Folder.File("earlier.txt")};
   Case.Fakes.Boxes.Answers = {Answer::Yes};
   Case.Study->SaveResults_Click();
   EXPECT_EQ(ReadWholeFile(Folder.File("earlier.txt")), "earlier");
@@ -128,7 +128,7 @@ TEST_F(ReportFiles, AnUnansweredQuestionAbandonsItsCommand) {
 
   Case.Type(WillsField, "0");
   std::ofstream(Folder.File("abdullah.txt")) << "earlier";
-  Case.Fakes.Dialog.Paths = {Folder.File("abdullah.txt")};
+  Case.Fakes.Dialogs.Paths = {Folder.File("abdullah.txt")};
   Case.Study->CreateSaveFullReport_Click();
   Case.Study->SaveResults_Click();
   EXPECT_EQ(Case.Fakes.Boxes.Shown.size(), 3U) << "no message follows";

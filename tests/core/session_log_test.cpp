@@ -144,7 +144,7 @@ TEST(SessionLog, OnlyAnOpenFileIsReported) {
     FakePorts fakes;
     FailingFolders folders;
     folders.Number = failure;
-    ShellPorts ports{{fakes.Clock, fakes.Boxes, fakes.Dialog, fakes.Settings, folders},
+    ShellPorts ports{{fakes.Clock, fakes.Boxes, fakes.Dialogs, fakes.Settings, folders},
                      fakes.Viewer,
                      fakes.Player,
                      fakes.Memory,

@@ -58,10 +58,10 @@ class Player {
   CaseRecord& record_;
   FakeClock clock_;
   PrintedMessageBoxes boxes_;
-  PrintedSaveDialog dialog_;
+  PrintedFileDialogs dialog_;
   FakeSettings settings_;
   FakeFolders folders_;
-  Ports ports_{clock_, boxes_, dialog_, settings_, folders_};
+  CasePorts ports_{clock_, boxes_, dialog_, settings_, folders_};
   std::unique_ptr<CaseStudy> study_;
   std::vector<ControlValue> shown_;
 };

@@ -34,13 +34,13 @@ class PrintedMessageBoxes : public FakeMessageBoxes {
 };
 
 /// Prints each save dialog. It answers with the file names of the queue, in the directory of the script.
-class PrintedSaveDialog : public FakeSaveDialog {
+class PrintedFileDialogs : public FakeFileDialogs {
  public:
-  PrintedSaveDialog(std::ostream& out, const std::string& folder) : out_(out), folder_(folder) {}
+  PrintedFileDialogs(std::ostream& out, const std::string& folder) : out_(out), folder_(folder) {}
 
   std::optional<std::string> AskPath(const std::string& suggestedName, const std::string& filter) override {
     out_ << "  dialog " << Escaped(suggestedName) << '\n';
-    const std::optional<std::string> name = FakeSaveDialog::AskPath(suggestedName, filter);
+    const std::optional<std::string> name = FakeFileDialogs::AskPath(suggestedName, filter);
     out_ << (name ? "  file " + Escaped(*name) : "  cancel") << '\n';
     if (!name) return name;
     // A name outside the directory becomes "..", which is not a valid file name either.

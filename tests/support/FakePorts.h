@@ -47,7 +47,7 @@ class FakeMessageBoxes : public MessageBoxes {
 };
 
 /// Answers with the paths of a queue, and cancels when the queue is empty.
-class FakeSaveDialog : public SaveDialog {
+class FakeFileDialogs : public FileDialogs {
  public:
   std::optional<std::string> AskPath(const std::string& suggestedName, const std::string&) override {
     Suggested = suggestedName;
@@ -91,7 +91,7 @@ class FakeSettings : public Settings {
 };
 
 /// One directory for everything, on a disk that does as the test wants when it is written through.
-class FakeFolders : public Folders {
+class FakeFolders : public StandardFolders {
  public:
   void WriteThrough(const std::string& path) override {
     if (Disk) Disk(path);
@@ -142,14 +142,14 @@ class FakeProgram : public Program {
 struct FakePorts {
   FakeClock Clock;
   FakeMessageBoxes Boxes;
-  FakeSaveDialog Dialog;
+  FakeFileDialogs Dialogs;
   FakeSettings Settings;
   FakeFolders Folders;
   FakeDocumentViewer Viewer;
   FakeVideoPlayer Player;
   FakeMemoryMeter Memory;
   FakeProgram Program;
-  ShellPorts Ports{{Clock, Boxes, Dialog, Settings, Folders}, Viewer, Player, Memory, Program};
+  ShellPorts Ports{{Clock, Boxes, Dialogs, Settings, Folders}, Viewer, Player, Memory, Program};
 };
 
 }  // namespace qismora::testing

@@ -28,7 +28,7 @@ class SavingProgram {
   }
   void SaveResults() {
     case_.Fakes.Boxes.Answers = {Answer::Yes};
-    case_.Fakes.Dialog.Paths = {folder_ + "/results.txt"};
+    case_.Fakes.Dialogs.Paths = {folder_ + "/results.txt"};
     case_.Study->SaveResults_Click();
   }
   /// Adds the session's line to the log.

@@ -42,9 +42,9 @@ int RunWindowTest(int argc, char** argv) {
 }
 
 /// Answers the dialogs for case files from a queue; they are cancelled when it is empty.
-class QueuedDialog : public QtSaveDialog {
+class QueuedDialog : public QtFileDialogs {
  public:
-  using QtSaveDialog::QtSaveDialog;
+  using QtFileDialogs::QtFileDialogs;
   std::optional<std::string> AskCaseToOpen(const std::string&) override { return Next(); }
   std::optional<std::string> AskCaseToSave(const std::string&) override { return Next(); }
 

@@ -128,8 +128,8 @@ class DivisionWindowTest : public DivisionFixture {
     const std::string file = FromQt(QDir::current().filePath(QStringLiteral("consent.qismora")));
     const CaseTexts consented = ReadScreen(study_->Form(), study_->Form().HeirsConsent);
     QVERIFY(consented.HeirsConsent);
-    SystemFolders places;
-    SaveCaseFile(places, file, consented);
+    SystemFolders folders;
+    SaveCaseFile(folders, file, consented);
     study_->Boxes.Press(QMessageBox::Discard);
     document.New();
     QCOMPARE(study_->Boxes.Take().size(), 1);

@@ -40,11 +40,11 @@ constexpr int largestText = 12;
 
 }  // namespace
 
-CaseStudyWindow::CaseStudyWindow(CaseRecord& record, Ports& ports, int savedLanguage)
+CaseStudyWindow::CaseStudyWindow(CaseRecord& record, CasePorts& ports, int savedLanguage)
     : FormHolder(record, ports, savedLanguage),
       FormWindow(form_, "CaseStudy", QStringLiteral("Case Study"), largestText),
       dialogs_(ports),
-      ports_{ports.Time, dialogs_, dialogs_, ports.Store, ports.Places},
+      ports_{ports.Time, dialogs_, dialogs_, ports.Store, ports.Folders},
       document_(form_, ports_) {
   StartLanguage(ports.Store);
   document_.Say = [](const Message& message) { return FromQt(CaseWords::Of(message)); };
@@ -139,14 +139,14 @@ void CaseStudyWindow::BuildDivision(Settings& store) {
   menuBar()->setCornerWidget(divisionLine_);
 }
 
-void CaseStudyWindow::BuildStatusBar(Ports& ports) {
+void CaseStudyWindow::BuildStatusBar(CasePorts& ports) {
   Binder::Result(form_.StatusBar1, AddPanel("StatusBar1.Panel1", QStringLiteral("What was last computed")));
 
   readings_ = new ReadingsPanel(form_, this);
   statusBar()->addWidget(readings_, readingsStretch);
   readings_->hide();  // the first texts are read as they stand
 
-  auto* saves = new SavePanel(ToQt(ports.Places.Reports()), this);
+  auto* saves = new SavePanel(ToQt(ports.Folders.Reports()), this);
   statusBar()->addPermanentWidget(saves, 1);
   ports.SaveEnded = [saves = QPointer<SavePanel>(saves)](const SaveOutcome& outcome) {
     if (saves != nullptr) saves->ShowOutcome(outcome);

@@ -19,7 +19,7 @@ class ReadingsPanel;
 /// with a new one.
 class CaseStudyWindow : public FormHolder<CaseStudy>, public FormWindow {
  public:
-  CaseStudyWindow(CaseRecord& record, Ports& ports, int savedLanguage);
+  CaseStudyWindow(CaseRecord& record, CasePorts& ports, int savedLanguage);
 
   /// The Division window, which shows what the fields come to.
   DivisionOpener& Division() { return *division_; }
@@ -34,13 +34,13 @@ class CaseStudyWindow : public FormHolder<CaseStudy>, public FormWindow {
   void BuildFrame();
   void BuildDivision(Settings& store);
   void Translate();
-  void BuildStatusBar(Ports& ports);
+  void BuildStatusBar(CasePorts& ports);
   void BuildTimer();
   void KeepOnTop();
   void OrderTabs();
 
   CaseDialogs dialogs_;
-  Ports ports_;
+  CasePorts ports_;
   CaseDocument document_;
   DivisionOpener* division_ = nullptr;
   QAction* openDivision_ = nullptr;

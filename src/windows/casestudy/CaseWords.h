@@ -19,9 +19,9 @@ class CaseWords {
 };
 
 /// The dialogs of the case files, in the current language.
-class CaseDialogs : public MessageBoxes, public SaveDialog {
+class CaseDialogs : public MessageBoxes, public FileDialogs {
  public:
-  explicit CaseDialogs(Ports& ports) : boxes_(ports.Boxes), dialog_(ports.Dialog) {}
+  explicit CaseDialogs(CasePorts& ports) : boxes_(ports.Boxes), dialog_(ports.Dialogs) {}
 
   Answer Show(BoxStyle style, BoxButtons buttons, const std::string& text) override;
   std::optional<std::string> AskPath(const std::string& suggestedName, const std::string& filter) override;
@@ -30,7 +30,7 @@ class CaseDialogs : public MessageBoxes, public SaveDialog {
 
  private:
   MessageBoxes& boxes_;
-  SaveDialog& dialog_;
+  FileDialogs& dialog_;
 };
 
 }  // namespace qismora

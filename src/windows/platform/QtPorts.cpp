@@ -184,11 +184,11 @@ Answer QtMessageBoxes::Show(BoxStyle style, BoxButtons buttons, const std::strin
   return std::ranges::find(answers, pressed, &ButtonRow::Button)->Meaning;
 }
 
-std::optional<std::string> QtSaveDialog::AskPath(const std::string& suggestedName,
-                                                 const std::string& filter) {
-  const QString program = ToQt(places_.Application());
+std::optional<std::string> QtFileDialogs::AskPath(const std::string& suggestedName,
+                                                  const std::string& filter) {
+  const QString program = ToQt(folders_.Application());
   const QString words = ToQt(filter.substr(0, filter.find('|')));
-  QFileDialog dialog(Owner(), QString(), CanWrite(program) ? program : ToQt(places_.Reports()), words);
+  QFileDialog dialog(Owner(), QString(), CanWrite(program) ? program : ToQt(folders_.Reports()), words);
   dialog.setObjectName(QStringLiteral("CommonDialog1"));
   KeepInSight(dialog);
   dialog.setAcceptMode(QFileDialog::AcceptSave);
@@ -221,14 +221,14 @@ std::optional<std::string> Asked(QFileDialog& dialog) {
 
 }  // namespace
 
-std::optional<std::string> QtSaveDialog::AskCaseToOpen(const std::string& folder) {
+std::optional<std::string> QtFileDialogs::AskCaseToOpen(const std::string& folder) {
   QFileDialog dialog(Owner(), Case::tr("Open case"), ToQt(folder), CaseFilter());
   dialog.setObjectName(QStringLiteral("OpenCaseDialog"));
   dialog.setFileMode(QFileDialog::ExistingFile);
   return Asked(dialog);
 }
 
-std::optional<std::string> QtSaveDialog::AskCaseToSave(const std::string& suggestedPath) {
+std::optional<std::string> QtFileDialogs::AskCaseToSave(const std::string& suggestedPath) {
   const QFileInfo suggested(ToQt(suggestedPath));
   QFileDialog dialog(Owner(), Case::tr("Save case"), suggested.path(), CaseFilter());
   dialog.setObjectName(QStringLiteral("SaveCaseDialog"));

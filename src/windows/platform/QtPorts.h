@@ -43,15 +43,15 @@ class MessageBoxOwner {
 };
 
 /// The dialog opens in the program's directory, or in that of the reports if the program's is not writable.
-class QtSaveDialog : public SaveDialog {
+class QtFileDialogs : public FileDialogs {
  public:
-  explicit QtSaveDialog(Folders& places) : places_(places) {}
+  explicit QtFileDialogs(StandardFolders& folders) : folders_(folders) {}
   std::optional<std::string> AskPath(const std::string& suggestedName, const std::string& filter) override;
   std::optional<std::string> AskCaseToOpen(const std::string& folder) override;
   std::optional<std::string> AskCaseToSave(const std::string& suggestedPath) override;
 
  private:
-  Folders& places_;
+  StandardFolders& folders_;
 };
 
 /// One file for each application, in the user's directory for settings.
@@ -63,7 +63,7 @@ class QtSettings : public Settings {
              const std::string& value) override;
 };
 
-class SystemFolders : public Folders {
+class SystemFolders : public StandardFolders {
  public:
   std::string Reports() override;
   std::string Application() override;
