@@ -182,6 +182,7 @@ void DivisionWindow::Watch() {
 
 // A command may change many fields: they are read once, when it has ended.
 void DivisionWindow::Changed() {
+  statusBar()->clearMessage();  // a file that was saved holds the case before
   if (!isVisible() || std::exchange(pending_, true)) return;
   QMetaObject::invokeMethod(
       this,

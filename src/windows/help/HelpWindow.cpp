@@ -16,9 +16,11 @@
 #include <QMenuBar>
 #include <QPointer>
 #include <QRegularExpression>
+#include <QScreen>
 #include <QSet>
 #include <QShortcut>
 #include <QStatusBar>
+#include <QStyle>
 #include <QTextBlock>
 #include <QToolBar>
 #include <QWindow>
@@ -209,7 +211,8 @@ HelpWindow::HelpWindow(const QString& pages) : folder_(pages), page_(new HelpPag
   connect(list_, &QListWidget::itemClicked, list_, &QListWidget::itemActivated);
   connect(new QShortcut(Qt::Key_Escape, this), &QShortcut::activated, this, &QWidget::close);
   Translate();
-  resize(windowSize);
+  const int titleBar = style()->pixelMetric(QStyle::PM_TitleBarHeight);
+  resize(windowSize.boundedTo(screen()->availableSize() - QSize(0, titleBar)));
 }
 
 void HelpWindow::BuildToolBar() {
