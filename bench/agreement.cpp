@@ -14,7 +14,7 @@
 #include <string>
 #include <string_view>
 
-#include "screens/Differences.h"
+#include "division/Differences.h"
 #include "support/RandomCases.h"
 
 namespace qismora {

@@ -4,9 +4,9 @@
 
 #include <string>
 
+#include "casefile/HeirFields.h"
+#include "division/Differences.h"
 #include "faraid/Amounts.h"
-#include "screens/Differences.h"
-#include "screens/HeirFields.h"
 
 namespace faraid {
 namespace {

@@ -4,8 +4,8 @@
 #include <cstdio>
 #include <cstdlib>
 
+#include "division/Differences.h"
 #include "player/RecordFields.h"
-#include "screens/Differences.h"
 
 namespace qismora::testing {
 

@@ -6,7 +6,7 @@
 #include <algorithm>
 #include <filesystem>
 
-#include "screens/Differences.h"
+#include "division/Differences.h"
 #include "support/CasePlayer.h"
 
 namespace qismora {

@@ -5,14 +5,14 @@
 #include <string_view>
 #include <vector>
 
+#include "casefile/Captions.h"
 #include "divide/Options.h"
+#include "division/Differences.h"
+#include "division/DivisionText.h"
+#include "division/OwnAnswer.h"
 #include "faraid/Amounts.h"
 #include "faraid/Division.h"
 #include "faraid/Estate.h"
-#include "screens/Captions.h"
-#include "screens/Differences.h"
-#include "screens/DivisionText.h"
-#include "screens/OwnAnswer.h"
 
 namespace qismora::divide {
 

@@ -5,8 +5,8 @@
 
 #include "base/Encoding.h"
 #include "base/Text.h"
+#include "casefile/CaseFile.h"
 #include "divide/Records.h"
-#include "screens/CaseFile.h"
 
 namespace qismora::divide {
 

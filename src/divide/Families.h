@@ -8,7 +8,7 @@
 
 #include "divide/Options.h"
 #include "divide/Streams.h"
-#include "screens/DivisionInput.h"
+#include "division/DivisionInput.h"
 
 namespace qismora::divide {
 

@@ -4,7 +4,7 @@
 #include <string>
 
 #include "base/Message.h"
-#include "screens/CaseTexts.h"
+#include "casefile/CaseTexts.h"
 
 namespace qismora {
 

@@ -4,7 +4,7 @@
 
 #include "base/Files.h"
 #include "base/Text.h"
-#include "screens/CaseFile.h"
+#include "casefile/CaseFile.h"
 #include "screens/Event.h"
 
 namespace qismora {

@@ -5,7 +5,7 @@
 #include <string>
 #include <vector>
 
-#include "screens/CaseFile.h"
+#include "casefile/CaseFile.h"
 #include "screens/CaseStudy.h"
 
 namespace qismora {

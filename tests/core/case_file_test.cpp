@@ -5,7 +5,7 @@
 #include <random>
 
 #include "base/Failure.h"
-#include "screens/CaseFile.h"
+#include "casefile/CaseFile.h"
 #include "support/ScreenFixture.h"
 #include "support/TemporaryFolder.h"
 

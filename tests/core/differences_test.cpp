@@ -1,7 +1,7 @@
 // Every difference between the commands and the division has a kind, and every kind is a difference, for all
 // families. QISMORA_FAMILIES draws another number of them: a million takes a minute.
 
-#include "screens/Differences.h"
+#include "division/Differences.h"
 
 #include <gtest/gtest.h>
 

@@ -1,8 +1,8 @@
 #include <gtest/gtest.h>
 
-#include "screens/Captions.h"
-#include "screens/DivisionInput.h"
-#include "screens/HeirFields.h"
+#include "casefile/Captions.h"
+#include "casefile/HeirFields.h"
+#include "division/DivisionInput.h"
 #include "support/ScreenFixture.h"
 
 namespace qismora {

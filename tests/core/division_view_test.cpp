@@ -3,9 +3,9 @@
 #include <algorithm>
 #include <random>
 
-#include "screens/DivisionView.h"
-#include "screens/FamilyTree.h"
-#include "screens/HeirFields.h"
+#include "casefile/HeirFields.h"
+#include "division/DivisionView.h"
+#include "division/FamilyTree.h"
 
 namespace qismora {
 namespace {

@@ -10,7 +10,7 @@
 #include <sstream>
 #include <utility>
 
-#include "screens/OwnAnswer.h"
+#include "division/OwnAnswer.h"
 #include "support/RandomCases.h"
 #include "support/ScreenFixture.h"
 

@@ -7,7 +7,7 @@
 #include "aulradd/FindLCM.h"
 #include "base/NewFile.h"
 #include "base/Text.h"
-#include "screens/DivisionText.h"
+#include "division/DivisionText.h"
 #include "screens/Event.h"
 #include "support/TemporaryFolder.h"
 

@@ -7,8 +7,8 @@
 #include <string>
 #include <vector>
 
+#include "division/DivisionText.h"
 #include "screens/CaseStudy.h"
-#include "screens/DivisionText.h"
 #include "support/FakePorts.h"
 #include "support/TemporaryFolder.h"
 #include "support/WorkedCase.h"

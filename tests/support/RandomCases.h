@@ -5,10 +5,10 @@
 #include <ostream>
 #include <string>
 
+#include "casefile/Captions.h"
+#include "casefile/CaseTexts.h"
+#include "casefile/HeirFields.h"
 #include "faraid/Families.h"
-#include "screens/Captions.h"
-#include "screens/CaseTexts.h"
-#include "screens/HeirFields.h"
 
 namespace qismora::testing {
 

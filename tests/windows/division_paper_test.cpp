@@ -10,7 +10,7 @@
 #include <QTest>
 #include <QTimer>
 
-#include "screens/HeirFields.h"
+#include "casefile/HeirFields.h"
 #include "support/FakePorts.h"
 #include "windows/division/DivisionWords.h"
 #include "windows/division/Paper.h"

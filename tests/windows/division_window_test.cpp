@@ -11,7 +11,7 @@
 #include <QToolButton>
 
 #include "DivisionFixture.h"
-#include "screens/CaseFile.h"
+#include "casefile/CaseFile.h"
 #include "windows/division/DivisionWindow.h"
 #include "windows/division/FamilyTreeView.h"
 #include "windows/help/HelpWindow.h"

@@ -6,8 +6,8 @@
 #include <QTest>
 #include <QXmlStreamReader>
 
+#include "casefile/HeirFields.h"
 #include "faraid/Families.h"
-#include "screens/HeirFields.h"
 #include "support/FakePorts.h"
 #include "windows/division/DivisionWords.h"
 #include "windows/platform/QtPorts.h"

@@ -4,7 +4,7 @@
 #include <QTest>
 #include <QTextBlock>
 
-#include "screens/Differences.h"
+#include "division/Differences.h"
 #include "windows/help/HelpWindow.h"
 #include "windows/language/Languages.h"
 #include "windows/platform/Utf8.h"

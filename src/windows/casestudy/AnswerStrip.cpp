@@ -5,7 +5,7 @@
 #include <QLocale>
 #include <utility>
 
-#include "screens/DivisionView.h"
+#include "division/DivisionView.h"
 #include "windows/casestudy/CaseWords.h"
 #include "windows/language/Languages.h"
 #include "windows/platform/Utf8.h"

@@ -7,7 +7,7 @@
 #include <optional>
 #include <utility>
 
-#include "screens/DivisionView.h"
+#include "division/DivisionView.h"
 
 class QMimeData;
 class QPageSize;

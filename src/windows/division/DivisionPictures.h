@@ -4,7 +4,7 @@
 #include <QWidget>
 #include <functional>
 
-#include "screens/DivisionView.h"
+#include "division/DivisionView.h"
 
 class QScrollArea;
 

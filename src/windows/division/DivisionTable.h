@@ -6,7 +6,7 @@
 #include <QList>
 #include <optional>
 
-#include "screens/DivisionView.h"
+#include "division/DivisionView.h"
 
 namespace qismora {
 

@@ -17,8 +17,8 @@
 #include <algorithm>
 #include <utility>
 
+#include "casefile/HeirFields.h"
 #include "screens/CaseStudy.h"
-#include "screens/HeirFields.h"
 #include "windows/division/DivisionDocument.h"
 #include "windows/division/DivisionPictures.h"
 #include "windows/division/DivisionPlace.h"

@@ -6,7 +6,7 @@
 #include <functional>
 #include <optional>
 
-#include "screens/DivisionView.h"
+#include "division/DivisionView.h"
 #include "windows/division/DivisionSettings.h"
 #include "windows/division/Supposition.h"
 

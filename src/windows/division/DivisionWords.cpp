@@ -3,7 +3,7 @@
 #include <QCoreApplication>
 #include <algorithm>
 
-#include "screens/HeirFields.h"
+#include "casefile/HeirFields.h"
 #include "windows/platform/Utf8.h"
 
 namespace qismora::words {

@@ -4,8 +4,8 @@
 #include <QStringList>
 #include <vector>
 
-#include "screens/Differences.h"
-#include "screens/DivisionView.h"
+#include "division/Differences.h"
+#include "division/DivisionView.h"
 #include "windows/language/Languages.h"
 
 /// All words of a division, in the current language (Languages.h). Each function takes data and decides

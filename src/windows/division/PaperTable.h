@@ -1,6 +1,6 @@
 #pragma once
 
-#include "screens/DivisionView.h"
+#include "division/DivisionView.h"
 #include "windows/division/Markup.h"
 
 // The tables of a division, for the paper and the clipboard.

@@ -5,7 +5,7 @@
 #include <utility>
 #include <vector>
 
-#include "screens/DivisionView.h"
+#include "division/DivisionView.h"
 
 class QMenu;
 

@@ -6,7 +6,7 @@
 #include <QString>
 #include <QStringList>
 
-#include "screens/FamilyTree.h"
+#include "division/FamilyTree.h"
 
 namespace qismora {
 

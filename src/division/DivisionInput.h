@@ -4,9 +4,9 @@
 #include <string_view>
 #include <vector>
 
+#include "casefile/CaseTexts.h"
 #include "faraid/Estate.h"
 #include "faraid/Family.h"
-#include "screens/CaseTexts.h"
 
 namespace qismora {
 

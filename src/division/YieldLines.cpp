@@ -1,4 +1,4 @@
-#include "screens/YieldLines.h"
+#include "division/YieldLines.h"
 
 #include <algorithm>
 #include <cstdint>

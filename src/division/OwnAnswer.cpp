@@ -1,4 +1,4 @@
-#include "screens/OwnAnswer.h"
+#include "division/OwnAnswer.h"
 
 #include <algorithm>
 #include <string_view>
@@ -6,8 +6,8 @@
 #include "aulradd/AulRadd.h"
 #include "case/CaseRecord.h"
 #include "case/ResiduaryFlags.h"
+#include "casefile/HeirFields.h"
 #include "residue/Residuaries.h"
-#include "screens/HeirFields.h"
 
 namespace qismora {
 

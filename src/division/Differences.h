@@ -3,10 +3,10 @@
 #include <span>
 #include <string_view>
 
+#include "division/DivisionInput.h"
+#include "division/OwnAnswer.h"
 #include "faraid/Division.h"
 #include "faraid/List.h"
-#include "screens/DivisionInput.h"
-#include "screens/OwnAnswer.h"
 
 namespace qismora {
 

@@ -1,4 +1,4 @@
-#include "screens/CaseFile.h"
+#include "casefile/CaseFile.h"
 
 #include <algorithm>
 #include <charconv>
@@ -7,8 +7,8 @@
 #include "base/Files.h"
 #include "base/NewFile.h"
 #include "base/Text.h"
+#include "casefile/Captions.h"
 #include "residue/ClassII.h"
-#include "screens/Captions.h"
 
 namespace qismora {
 

@@ -1,4 +1,4 @@
-#include "screens/Differences.h"
+#include "division/Differences.h"
 
 #include <algorithm>
 #include <cmath>

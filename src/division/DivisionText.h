@@ -3,9 +3,9 @@
 #include <string>
 #include <vector>
 
+#include "division/DivisionInput.h"
 #include "faraid/Amounts.h"
 #include "faraid/Division.h"
-#include "screens/DivisionInput.h"
 
 namespace qismora {
 

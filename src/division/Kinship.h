@@ -2,8 +2,8 @@
 
 #include <array>
 
+#include "division/TreeRows.h"
 #include "faraid/Kinds.h"
-#include "screens/TreeRows.h"
 
 // Who is related through whom, for the family tree.
 namespace qismora {

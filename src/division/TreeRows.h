@@ -4,7 +4,7 @@
 #include <utility>
 #include <vector>
 
-#include "screens/FamilyTree.h"
+#include "division/FamilyTree.h"
 
 namespace qismora {
 

@@ -6,7 +6,7 @@
 #include <vector>
 
 #include "base/Ports.h"
-#include "screens/CaseTexts.h"
+#include "casefile/CaseTexts.h"
 
 namespace qismora {
 

@@ -5,11 +5,11 @@
 #include <string>
 #include <vector>
 
+#include "casefile/CaseTexts.h"
+#include "division/Differences.h"
+#include "division/DivisionInput.h"
 #include "faraid/Amounts.h"
 #include "faraid/Division.h"
-#include "screens/CaseTexts.h"
-#include "screens/Differences.h"
-#include "screens/DivisionInput.h"
 
 namespace qismora {
 

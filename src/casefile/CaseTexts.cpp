@@ -1,11 +1,11 @@
-#include "screens/CaseTexts.h"
+#include "casefile/CaseTexts.h"
 
 #include <algorithm>
 
 #include "base/Text.h"
+#include "casefile/Captions.h"
+#include "casefile/HeirFields.h"
 #include "residue/ClassII.h"
-#include "screens/Captions.h"
-#include "screens/HeirFields.h"
 
 namespace qismora {
 

@@ -4,8 +4,8 @@
 #include <cstdint>
 #include <string>
 
+#include "casefile/CaseTexts.h"
 #include "faraid/Kinds.h"
-#include "screens/CaseTexts.h"
 
 namespace qismora {
 

@@ -1,9 +1,9 @@
-#include "screens/DivisionView.h"
+#include "division/DivisionView.h"
 
 #include <algorithm>
 
 #include "base/Text.h"
-#include "screens/HeirFields.h"
+#include "casefile/HeirFields.h"
 
 namespace qismora {
 

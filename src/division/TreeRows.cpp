@@ -1,4 +1,4 @@
-#include "screens/TreeRows.h"
+#include "division/TreeRows.h"
 
 #include <algorithm>
 

@@ -1,13 +1,13 @@
-#include "screens/FamilyTree.h"
+#include "division/FamilyTree.h"
 
 #include <algorithm>
 #include <array>
 #include <optional>
 #include <utility>
 
-#include "screens/Kinship.h"
-#include "screens/TreeRows.h"
-#include "screens/YieldLines.h"
+#include "division/Kinship.h"
+#include "division/TreeRows.h"
+#include "division/YieldLines.h"
 
 namespace qismora {
 

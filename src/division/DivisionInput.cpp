@@ -1,8 +1,8 @@
-#include "screens/DivisionInput.h"
+#include "division/DivisionInput.h"
 
 #include "base/Text.h"
-#include "screens/Captions.h"
-#include "screens/HeirFields.h"
+#include "casefile/Captions.h"
+#include "casefile/HeirFields.h"
 
 namespace qismora {
 

@@ -1,10 +1,10 @@
-#include "screens/Captions.h"
+#include "casefile/Captions.h"
 
 #include <algorithm>
 #include <array>
 
+#include "casefile/HeirFields.h"
 #include "residue/ClassII.h"
-#include "screens/HeirFields.h"
 
 namespace qismora {
 

@@ -2,7 +2,7 @@
 
 #include <vector>
 
-#include "screens/FamilyTree.h"
+#include "division/FamilyTree.h"
 
 namespace qismora {
 

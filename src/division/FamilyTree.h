@@ -3,7 +3,7 @@
 #include <span>
 #include <vector>
 
-#include "screens/DivisionView.h"
+#include "division/DivisionView.h"
 
 namespace qismora {
 

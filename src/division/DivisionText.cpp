@@ -1,7 +1,7 @@
-#include "screens/DivisionText.h"
+#include "division/DivisionText.h"
 
 #include "base/Text.h"
-#include "screens/Captions.h"
+#include "casefile/Captions.h"
 
 namespace qismora {
 
