@@ -42,8 +42,28 @@ inline constexpr int UterineBrothersField = 33;
 
 /// The fields of the heirs, in the order of the screen. The arrays Text1 and Label1 have no elements between
 /// 8 and 11; Label1(12) is a caption without a field.
-inline constexpr std::array HeirFieldIndexes = {1,  2,  3,  4,  5,  6,  7,  13, 14, 15, 16,
-                                                17, 18, 19, 20, 21, 22, 23, 30, 31, 32, 33};
+inline constexpr std::array HeirFieldIndexes = {SpouseField,
+                                                SonsField,
+                                                DaughtersField,
+                                                GrandSonsField,
+                                                GrandDaughtersField,
+                                                GtGrandSonsField,
+                                                GtGrandDaughtersField,
+                                                FatherField,
+                                                GrandFatherField,
+                                                GtGrandFatherField,
+                                                MotherField,
+                                                MothersMotherField,
+                                                MothersMothersMotherField,
+                                                FathersMotherField,
+                                                GrandFathersMotherField,
+                                                FathersGrandMotherField,
+                                                FullBrothersField,
+                                                FullSistersField,
+                                                ConsSistersField,
+                                                ConsBrothersField,
+                                                UterineSistersField,
+                                                UterineBrothersField};
 /// The fields of the estate that the user types.
 inline constexpr std::array EstateFieldIndexes = {GrossEstateField, FuneralField, DebtsField, WillsField};
 
