@@ -5,9 +5,9 @@
 
 namespace qismora {
 
-/// The panel of the status bar that says where full reports are saved and, from the first command that saves
-/// on, what came of the last one. A path that is too long for it is shortened in the middle; its tool tip
-/// shows the whole. A screen reader announces what comes of a save.
+/// The panel of the status bar that says where full reports are saved and, after a command that saves, what
+/// came of it, until the next case is typed. A path that is too long for it is shortened in the middle; its
+/// tool tip shows the whole. A screen reader announces what comes of a save.
 class SavePanel : public AnnouncedLabel {
  public:
   SavePanel(const QString& folder, QWidget* parent);
