@@ -18,8 +18,7 @@ class CaseStudyFixture {
   Settings& Store() { return program_.Store(); }
   /// Starts the program with the settings of the earlier start, and opens the window.
   void Open() {
-    // The offscreen platform would activate the Division window when it opens by itself.
-    Store().Write("Qismora", "Division", "Open", "no");
+    program_.KeepDivisionClosed();
     windows_ = &program_.Start();
     windows_->MainMenu().Form().ShowCaseStudy();
     Activate();

@@ -26,6 +26,13 @@ Widget* Find(QWidget* window, const char* name) {
   return found;
 }
 
+/// Sets all windows in this font, 12 pixels high, whatever the platform's own.
+inline void UseFont(const char* name = "DejaVu Sans") {
+  QFont font(QString::fromLatin1(name));
+  font.setPixelSize(12);
+  QApplication::setFont(font);
+}
+
 /// The main function of a test of the whole program, for a new user in an empty directory.
 template <class Test>
 int RunWindowTest(int argc, char** argv) {
@@ -86,6 +93,9 @@ class ProgramFixture : public QObject {
     windows_->ShowMainMenu();
     return *windows_;
   }
+
+  /// The offscreen platform would activate the Division window when it opens by itself.
+  void KeepDivisionClosed() { settings_.Write("Qismora", "Division", "Open", "no"); }
 
   QString File(const QString& name) const { return folder_.filePath(QStringLiteral("bin/") + name); }
 

@@ -29,11 +29,7 @@ class CaseStudyLookTest : public QObject {
   Q_OBJECT
 
  private slots:
-  void initTestCase() {
-    QFont font(QStringLiteral("DejaVu Sans"));
-    font.setPixelSize(12);
-    QApplication::setFont(font);
-  }
+  void initTestCase() { qismora::testing::UseFont(); }
   void init() { fixture_.emplace(); }
   void cleanup() { fixture_.reset(); }
 

@@ -131,8 +131,7 @@ class ComfortTest : public QObject {
     program_ = std::make_unique<ProgramFixture>();
     windows_ = &program_->Start();
     menu_ = &windows_->MainMenu();
-    // The offscreen platform would activate the Division window when it opens by itself.
-    program_->Store().Write("Qismora", "Division", "Open", "no");
+    program_->KeepDivisionClosed();
     InhMain& form = menu_->Form();
     form.ShowCaseStudy();
     study_ = windows_->Study();

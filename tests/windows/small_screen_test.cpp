@@ -40,17 +40,17 @@ class SmallScreenTest : public QObject {
   void cleanup() { program_.reset(); }
 
   void everythingCanBeReached_data() {
-    QTest::addColumn<QString>("font");
+    QTest::addColumn<QByteArray>("font");
     QTest::addColumn<bool>("maximized");
     for (const char* font : {usualFont, tallFont}) {
-      QTest::addRow("%s", font) << font << false;
-      QTest::addRow("%s, maximized", font) << font << true;
+      QTest::addRow("%s", font) << QByteArray(font) << false;
+      QTest::addRow("%s, maximized", font) << QByteArray(font) << true;
     }
   }
   // Nothing lies to the left of the window or above it, and a scroll bar leads to all that lies beyond its
   // other edges. A screen of 800 by 600 shows both forms whole, below a title bar.
   void everythingCanBeReached() {
-    QFETCH(const QString, font);
+    QFETCH(const QByteArray, font);
     QFETCH(const bool, maximized);
     Start(font);
     const QSize screen = windows_->MainMenu().screen()->availableSize();
@@ -115,10 +115,8 @@ class SmallScreenTest : public QObject {
   }
 
  private:
-  void Start(const QString& fontName) {
-    QFont font(fontName);
-    font.setPixelSize(12);
-    QApplication::setFont(font);
+  void Start(const char* fontName) {
+    testing::UseFont(fontName);
     program_.reset();
     program_ = std::make_unique<ProgramFixture>();
     windows_ = &program_->Start();
