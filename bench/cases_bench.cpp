@@ -2,15 +2,14 @@
 //   qismora_bench --count NAME    runs one command for callgrind, which counts the instructions of Counted
 
 #include <benchmark/benchmark.h>
-#include <unistd.h>
 
 #include <filesystem>
-#include <fstream>
 #include <iostream>
 
 #include "aulradd/AulRadd.h"
 #include "reports/ReportRuns.h"
 #include "residue/Residuaries.h"
+#include "support/Memory.h"
 #include "support/ScreenFixture.h"
 #include "support/TemporaryFolder.h"
 
@@ -18,6 +17,7 @@ namespace qismora {
 namespace {
 
 namespace fs = std::filesystem;
+using testing::ResidentKilobytes;
 using testing::ScreenFixture;
 
 /// A wife, two daughters, father and mother, a full sister and a uterine brother.
@@ -100,14 +100,6 @@ void Count(const std::string& name) {
       Counted(command, played);
     }
   }
-}
-
-long ResidentKilobytes() {
-  std::ifstream statm("/proc/self/statm");
-  long size = 0;
-  long resident = 0;
-  statm >> size >> resident;
-  return resident * sysconf(_SC_PAGESIZE) / 1024;
 }
 
 void PrintMemoryOverAMillionCases() {

@@ -9,13 +9,13 @@
 #include <chrono>
 #include <cstring>
 #include <filesystem>
-#include <fstream>
 #include <iostream>
 
 #include "fuzz/Invariants.h"
 #include "fuzz/Obstacles.h"
 #include "fuzz/RandomLines.h"
 #include "player/Player.h"
+#include "support/Memory.h"
 #include "support/TemporaryFolder.h"
 
 namespace fs = std::filesystem;
@@ -33,14 +33,6 @@ constexpr bool memoryIsMeasured = true;
 constexpr long mostGrowth = 1024;
 constexpr unsigned longestSession = 20;
 constexpr int sessionsBetweenClearings = 100;
-
-long ResidentKilobytes() {
-  std::ifstream statm("/proc/self/statm");
-  long size = 0;
-  long resident = 0;
-  statm >> size >> resident;
-  return resident * sysconf(_SC_PAGESIZE) / 1024;
-}
 
 void Clear(const TemporaryFolder& folder) {
   for (const auto& entry : fs::directory_iterator(folder.Path())) fs::remove_all(entry.path());
