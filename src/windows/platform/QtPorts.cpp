@@ -184,22 +184,6 @@ Answer QtMessageBoxes::Show(BoxStyle style, BoxButtons buttons, const std::strin
   return std::ranges::find(answers, pressed, &ButtonRow::Button)->Meaning;
 }
 
-std::optional<std::string> QtFileDialogs::AskPath(const std::string& suggestedName,
-                                                  const std::string& filter) {
-  const QString program = ToQt(folders_.Application());
-  const QString words = ToQt(filter.substr(0, filter.find('|')));
-  QFileDialog dialog(Owner(), QString(), CanWrite(program) ? program : ToQt(folders_.Reports()), words);
-  dialog.setObjectName(QStringLiteral("CommonDialog1"));
-  KeepInSight(dialog);
-  dialog.setAcceptMode(QFileDialog::AcceptSave);
-  dialog.setOption(QFileDialog::DontConfirmOverwrite);  // the command itself asks about replacing
-  dialog.setDefaultSuffix(QStringLiteral("txt"));
-  dialog.selectFile(ToQt(suggestedName));
-  const PointerShape usersTurn(Qt::ArrowCursor);
-  if (dialog.exec() != QDialog::Accepted || dialog.selectedFiles().isEmpty()) return std::nullopt;
-  return FromQt(dialog.selectedFiles().constFirst());
-}
-
 namespace {
 
 /// The context of the translations.
@@ -211,21 +195,40 @@ QString CaseFilter() {
   return Case::tr("Qismora cases (*.qismora)") + QStringLiteral(";;") + Case::tr("All files (*)");
 }
 
-std::optional<std::string> Asked(QFileDialog& dialog) {
-  dialog.setFont(FontBesideEnglish(dialog.font()));  // not mirrored, which would turn paths around
+/// The path that the user chooses; none if the dialog is cancelled.
+std::optional<std::string> Ask(QFileDialog& dialog) {
   KeepInSight(dialog);
   const PointerShape usersTurn(Qt::ArrowCursor);
   if (dialog.exec() != QDialog::Accepted || dialog.selectedFiles().isEmpty()) return std::nullopt;
   return FromQt(dialog.selectedFiles().constFirst());
 }
 
+/// The same for a dialog in the language of the division. It is not mirrored, which would turn paths around.
+std::optional<std::string> AskInLanguage(QFileDialog& dialog) {
+  dialog.setFont(FontBesideEnglish(dialog.font()));
+  return Ask(dialog);
+}
+
 }  // namespace
+
+std::optional<std::string> QtFileDialogs::AskPath(const std::string& suggestedName,
+                                                  const std::string& filter) {
+  const QString program = ToQt(folders_.Application());
+  const QString words = ToQt(filter.substr(0, filter.find('|')));
+  QFileDialog dialog(Owner(), QString(), CanWrite(program) ? program : ToQt(folders_.Reports()), words);
+  dialog.setObjectName(QStringLiteral("CommonDialog1"));
+  dialog.setAcceptMode(QFileDialog::AcceptSave);
+  dialog.setOption(QFileDialog::DontConfirmOverwrite);  // the command itself asks about replacing
+  dialog.setDefaultSuffix(QStringLiteral("txt"));
+  dialog.selectFile(ToQt(suggestedName));
+  return Ask(dialog);
+}
 
 std::optional<std::string> QtFileDialogs::AskCaseToOpen(const std::string& folder) {
   QFileDialog dialog(Owner(), Case::tr("Open case"), ToQt(folder), CaseFilter());
   dialog.setObjectName(QStringLiteral("OpenCaseDialog"));
   dialog.setFileMode(QFileDialog::ExistingFile);
-  return Asked(dialog);
+  return AskInLanguage(dialog);
 }
 
 std::optional<std::string> QtFileDialogs::AskCaseToSave(const std::string& suggestedPath) {
@@ -235,7 +238,7 @@ std::optional<std::string> QtFileDialogs::AskCaseToSave(const std::string& sugge
   dialog.setAcceptMode(QFileDialog::AcceptSave);
   dialog.setDefaultSuffix(QStringLiteral("qismora"));
   dialog.selectFile(suggested.fileName());
-  return Asked(dialog);
+  return AskInLanguage(dialog);
 }
 
 std::string QtSettings::Read(const std::string& application, const std::string& section,
