@@ -51,9 +51,7 @@ class DivisionFixture : public QObject {
 
   template <class Found = QWidget>
   Found* Find(const char* name) {
-    auto* found = Division()->findChild<Found*>(QString::fromLatin1(name));
-    if (found == nullptr) qFatal("there is no %s", name);
-    return found;
+    return testing::Find<Found>(Division(), name);
   }
 
   /// The row of an heir; -1 without.
