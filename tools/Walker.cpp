@@ -17,7 +17,7 @@
 #include "base/Files.h"
 #include "shell/SessionLog.h"
 #include "support/FakePorts.h"
-#include "windows/forms/ProgramWindows.h"
+#include "windows/ProgramWindows.h"
 #include "windows/language/Languages.h"
 #include "windows/platform/QtShellPorts.h"
 #include "windows/style/OutlinedStyle.h"

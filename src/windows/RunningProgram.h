@@ -1,6 +1,6 @@
 #pragma once
 
-#include "windows/forms/ProgramWindows.h"
+#include "windows/ProgramWindows.h"
 #include "windows/platform/QtShellPorts.h"
 
 namespace qismora {

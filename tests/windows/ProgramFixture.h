@@ -11,7 +11,7 @@
 #include <memory>
 
 #include "support/FakePorts.h"
-#include "windows/forms/ProgramWindows.h"
+#include "windows/ProgramWindows.h"
 #include "windows/platform/QtShellPorts.h"
 #include "windows/platform/Utf8.h"
 #include "windows/style/OutlinedStyle.h"

@@ -19,7 +19,7 @@
 #include <optional>
 
 #include "CaseStudyFixture.h"
-#include "windows/style/Pictures.h"
+#include "windows/widgets/PictureWidgets.h"
 
 using qismora::testing::CaseStudyFixture;
 

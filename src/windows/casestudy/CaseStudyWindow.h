@@ -2,8 +2,8 @@
 
 #include "screens/CaseDocument.h"
 #include "windows/casestudy/CaseWords.h"
-#include "windows/forms/FormHolder.h"
-#include "windows/forms/FormWindow.h"
+#include "windows/widgets/FormHolder.h"
+#include "windows/widgets/FormWindow.h"
 
 class QAction;
 class QToolButton;

@@ -7,8 +7,8 @@
 #include <QStyle>
 
 #include "windows/platform/Utf8.h"
-#include "windows/style/Pictures.h"
 #include "windows/widgets/Names.h"
+#include "windows/widgets/PictureWidgets.h"
 
 namespace qismora {
 

@@ -6,9 +6,9 @@
 #include <QShortcut>
 
 #include "windows/platform/Utf8.h"
-#include "windows/style/Pictures.h"
 #include "windows/style/PointerShape.h"
 #include "windows/widgets/HoverFilter.h"
+#include "windows/widgets/PictureWidgets.h"
 
 namespace qismora {
 

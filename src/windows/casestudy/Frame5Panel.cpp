@@ -3,7 +3,7 @@
 #include <QBoxLayout>
 
 #include "windows/style/Fonts.h"
-#include "windows/style/Pictures.h"
+#include "windows/widgets/PictureWidgets.h"
 
 namespace qismora {
 

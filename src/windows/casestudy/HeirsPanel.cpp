@@ -7,9 +7,9 @@
 
 #include "windows/casestudy/CaseField.h"
 #include "windows/platform/Utf8.h"
-#include "windows/style/Pictures.h"
 #include "windows/widgets/CaptionButton.h"
 #include "windows/widgets/Names.h"
+#include "windows/widgets/PictureWidgets.h"
 
 namespace qismora {
 

@@ -5,9 +5,9 @@
 #include <QWheelEvent>
 
 #include "windows/casestudy/CaseField.h"
-#include "windows/style/Pictures.h"
 #include "windows/widgets/HoverFilter.h"
 #include "windows/widgets/Names.h"
+#include "windows/widgets/PictureWidgets.h"
 
 namespace qismora {
 

@@ -23,6 +23,7 @@
 #include "windows/style/Pictures.h"
 #include "windows/widgets/Keyboard.h"
 #include "windows/widgets/Names.h"
+#include "windows/widgets/PictureWidgets.h"
 #include "windows/widgets/ReadingText.h"
 
 namespace qismora {

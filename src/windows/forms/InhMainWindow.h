@@ -1,9 +1,9 @@
 #pragma once
 
 #include "screens/InhMain.h"
-#include "windows/forms/FormHolder.h"
-#include "windows/forms/FormWindow.h"
 #include "windows/platform/QtVideoPlayer.h"
+#include "windows/widgets/FormHolder.h"
+#include "windows/widgets/FormWindow.h"
 
 namespace qismora {
 

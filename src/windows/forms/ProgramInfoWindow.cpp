@@ -8,7 +8,7 @@
 
 #include "windows/platform/Utf8.h"
 #include "windows/style/Fonts.h"
-#include "windows/style/Pictures.h"
+#include "windows/widgets/PictureWidgets.h"
 
 namespace qismora {
 

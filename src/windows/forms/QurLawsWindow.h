@@ -1,8 +1,8 @@
 #pragma once
 
 #include "screens/QurLaws.h"
-#include "windows/forms/FormHolder.h"
-#include "windows/forms/FormWindow.h"
+#include "windows/widgets/FormHolder.h"
+#include "windows/widgets/FormWindow.h"
 
 namespace qismora {
 

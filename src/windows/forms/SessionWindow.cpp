@@ -12,9 +12,9 @@
 
 #include "windows/platform/Utf8.h"
 #include "windows/style/Fonts.h"
-#include "windows/style/Pictures.h"
 #include "windows/widgets/HoverFilter.h"
 #include "windows/widgets/Names.h"
+#include "windows/widgets/PictureWidgets.h"
 
 namespace qismora {
 

@@ -3,8 +3,8 @@
 #include <QMainWindow>
 
 #include "screens/Session.h"
-#include "windows/forms/FormHolder.h"
 #include "windows/widgets/Binder.h"
+#include "windows/widgets/FormHolder.h"
 
 class QTableWidget;
 

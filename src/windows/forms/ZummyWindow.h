@@ -3,7 +3,7 @@
 #include <QMainWindow>
 
 #include "screens/Zummy.h"
-#include "windows/forms/FormHolder.h"
+#include "windows/widgets/FormHolder.h"
 
 namespace qismora {
 

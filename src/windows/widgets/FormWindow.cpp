@@ -1,4 +1,4 @@
-#include "windows/forms/FormWindow.h"
+#include "windows/widgets/FormWindow.h"
 
 #include <QBoxLayout>
 #include <QEvent>

@@ -1,4 +1,4 @@
-#include "windows/forms/ProgramWindows.h"
+#include "windows/ProgramWindows.h"
 
 #include <QGuiApplication>
 #include <QTimer>
