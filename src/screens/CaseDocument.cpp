@@ -27,20 +27,20 @@ Message ReasonOf(const Failure& failure) {
 }  // namespace
 
 CaseDocument::CaseDocument(CaseStudy& form, CasePorts& ports) : form_(form), ports_(ports), kept_(Texts()) {
-  const auto review = [this] { Review(); };
-  for (int i = 0; i < form.Text1.Size; ++i) form.Text1(i).Text.WhenChanged(review);
-  for (int i = 0; i < form.Check1.Size; ++i) form.Check1(i).Value.WhenChanged(review);
-  form.Combo1.ListIndex.WhenChanged(review);
-  form.HeirsConsent.WhenChanged(review);
-  Review();
+  const auto update = [this] { UpdateTitle(); };
+  for (int i = 0; i < form.Text1.Size; ++i) form.Text1(i).Text.WhenChanged(update);
+  for (int i = 0; i < form.Check1.Size; ++i) form.Check1(i).Value.WhenChanged(update);
+  form.Combo1.ListIndex.WhenChanged(update);
+  form.HeirsConsent.WhenChanged(update);
+  UpdateTitle();
 }
 
 CaseTexts CaseDocument::Texts() const { return ReadScreen(form_, form_.HeirsConsent); }
 
 std::string CaseDocument::SentenceOf(const CaseFileFault& fault) const {
-  std::string sentence = Say(MessageOf(fault.Fault, fault.Line.Text));
+  std::string sentence = Translate(MessageOf(fault.Fault, fault.Line.Text));
   if (fault.Line.Number == 0) return sentence;
-  return Say(Message{"Line {line}: {text}", {{"line", Join(fault.Line.Number)}, {"text", sentence}}});
+  return Translate(Message{"Line {line}: {text}", {{"line", Join(fault.Line.Number)}, {"text", sentence}}});
 }
 
 std::string CaseDocument::SentenceOf(const std::vector<CaseLine>& unknown) const {
@@ -48,28 +48,28 @@ std::string CaseDocument::SentenceOf(const std::vector<CaseLine>& unknown) const
   std::string lines;
   for (std::size_t i = 0; i < std::min(most, unknown.size()); ++i) {
     const Message line{"Line {line}: {text}", {{"line", Join(unknown[i].Number)}, {"text", unknown[i].Text}}};
-    Append(lines, CRLF, Say(line));
+    Append(lines, CRLF, Translate(line));
   }
   if (unknown.size() > most) {
     const int more = static_cast<int>(unknown.size() - most);
-    Append(lines, CRLF, Say(Message{"and {number} more", {{"number", Join(more)}}}));
+    Append(lines, CRLF, Translate(Message{"and {number} more", {{"number", Join(more)}}}));
   }
   const Message newer{
       "A newer version of Qismora has written this file. These lines are not known here and were not read:"};
   const Message save{"Save asks for a name, so that the file keeps them."};
-  return Join(Say(newer), lines, CRLF, CRLF, Say(save));
+  return Join(Translate(newer), lines, CRLF, CRLF, Translate(save));
 }
 
 bool CaseDocument::IsChanged() const { return Texts() != kept_; }
 
-void CaseDocument::Review() {
+void CaseDocument::UpdateTitle() {
   if (starting_) return;
   const bool changed = IsChanged();
   const std::string file = FileName(path_);
   if (path_.empty()) {
-    Title = changed ? Say(Message{"Not saved"}) : "";
+    Title = changed ? Translate(Message{"Not saved"}) : "";
   } else {
-    Title = changed ? Say(Message{"{file}, changed", {{"file", file}}}) : file;
+    Title = changed ? Translate(Message{"{file}, changed", {{"file", file}}}) : file;
   }
 }
 
@@ -79,7 +79,7 @@ void CaseDocument::Start(const CaseTexts& texts, const std::string& path) {
   starting_ = false;
   path_ = path;
   kept_ = Texts();
-  Review();
+  UpdateTitle();
 }
 
 void CaseDocument::New() {
@@ -100,14 +100,14 @@ bool CaseDocument::OpenFile(const std::string& path) {
   GuardedEvent(ports_.Boxes, [&] {
     const auto refuse = [&](const std::string& reason) {
       const Message refusal{"{file} was not opened.", {{"file", FileName(path)}}};
-      ports_.Boxes.Inform(BoxStyle::Warning, Join(Say(refusal), CRLF, CRLF, reason));
+      ports_.Boxes.Inform(BoxStyle::Warning, Join(Translate(refusal), CRLF, CRLF, reason));
     };
     CaseFileReading reading;
     try {
       reading = OpenCaseFile(path);
     } catch (const Failure& failure) {
       Remember(path, false);
-      return refuse(Say(ReasonOf(failure)));
+      return refuse(Translate(ReasonOf(failure)));
     }
     if (reading.Fault) return refuse(SentenceOf(*reading.Fault));
     if (!MayLeave()) return;
@@ -141,15 +141,15 @@ bool CaseDocument::SaveTo(const std::string& path) {
     SaveCaseFile(ports_.Folders, path, texts);
   } catch (const Failure& failure) {
     ports_.Boxes.Inform(BoxStyle::Critical,
-                        Join(Say(Message{"{file} could not be saved.", {{"file", FileName(path)}}}), CRLF,
-                             CRLF, Say(ReasonOf(failure))));
+                        Join(Translate(Message{"{file} could not be saved.", {{"file", FileName(path)}}}),
+                             CRLF, CRLF, Translate(ReasonOf(failure))));
     return false;
   }
   path_ = path;
   kept_ = texts;
   incomplete_ = false;
   Remember(path, true);
-  Review();
+  UpdateTitle();
   return true;
 }
 
@@ -162,10 +162,10 @@ bool CaseDocument::MayLeave() {
                              : Message{"{file} has changed since it was saved.", {{"file", FileName(path_)}}};
     const Answer answer =
         ports_.Boxes.Show(BoxStyle::Warning, BoxButtons::SaveDiscardCancel,
-                          Join(Say(what), CRLF, Say(Message{"Save it before it is closed?"})));
+                          Join(Translate(what), CRLF, Translate(Message{"Save it before it is closed?"})));
     leave = answer == Answer::Discard || (answer == Answer::Save && SaveOrAsk());
     if (answer == Answer::Discard) kept_ = Texts();  // so that nothing asks again
-    Review();
+    UpdateTitle();
   });
   return leave;
 }

@@ -17,10 +17,12 @@ class CaseDocument {
   /// The example that a new screen shows counts as saved, because it is not the user's work.
   CaseDocument(CaseStudy& form, CasePorts& ports);
 
-  /// How messages are said to the user.
-  std::function<std::string(const Message&)> Say = [](const Message& message) { return English(message); };
-  /// Says the title again, in another language.
-  void Retitle() { Review(); }
+  /// Puts a message into the language of the user; English unless a window sets it.
+  std::function<std::string(const Message&)> Translate = [](const Message& message) {
+    return English(message);
+  };
+  /// Writes the title again, for when that language has changed.
+  void UpdateTitle();
 
   // The commands of the menu.
   /// Empties all fields, including the example's estate.
@@ -53,7 +55,6 @@ class CaseDocument {
   bool AskAndSave();
   void Start(const CaseTexts& texts, const std::string& path);
   CaseTexts Texts() const;
-  void Review();
   std::string SentenceOf(const CaseFileFault& fault) const;
   std::string SentenceOf(const std::vector<CaseLine>& unknown) const;
   void Remember(const std::string& path, bool exists);

@@ -47,7 +47,7 @@ CaseStudyWindow::CaseStudyWindow(CaseRecord& record, CasePorts& ports, int saved
       ports_{ports.Time, dialogs_, dialogs_, ports.Store, ports.Folders},
       document_(form_, ports_) {
   StartLanguage(ports.Store);
-  document_.Say = [](const Message& message) { return FromQt(CaseWords::Of(message)); };
+  document_.Translate = [](const Message& message) { return FromQt(CaseWords::Of(message)); };
   setWindowTitle(QStringLiteral("Case Study - Finding shares of Quranic Sharers"));
   setAttribute(Qt::WA_DeleteOnClose);
   form_.Hide = [this] { hide(); };
@@ -78,7 +78,7 @@ void CaseStudyWindow::Translate() {
   fileMenu_->Translate();
   readings_->Translate();
   strip_->Translate();
-  document_.Retitle();
+  document_.UpdateTitle();
 }
 
 void CaseStudyWindow::changeEvent(QEvent* event) {

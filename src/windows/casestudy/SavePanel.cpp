@@ -14,18 +14,18 @@ SavePanel::SavePanel(const QString& folder, QWidget* parent)
   ShowFolder();
 }
 
-void SavePanel::ShowFolder() { Say(QStringLiteral("Full reports are saved in "), folder_); }
+void SavePanel::ShowFolder() { SetText(QStringLiteral("Full reports are saved in "), folder_); }
 
-void SavePanel::Say(const QString& words, const QString& path) {
+void SavePanel::SetText(const QString& words, const QString& path) {
   words_ = words;
   path_ = QDir::toNativeSeparators(path);
   SetWords(words_ + path_);
 }
 
 void SavePanel::ShowOutcome(const SaveOutcome& outcome) {
-  Say(outcome.Saved() ? QStringLiteral("Saved: ")
-                      : QStringLiteral("Not saved (%1): ").arg(ToQt(outcome.Reason)),
-      ToQt(outcome.Path));
+  SetText(outcome.Saved() ? QStringLiteral("Saved: ")
+                          : QStringLiteral("Not saved (%1): ").arg(ToQt(outcome.Reason)),
+          ToQt(outcome.Path));
   Announce(this);
 }
 

@@ -20,7 +20,7 @@ class SavePanel : public AnnouncedLabel {
   void paintEvent(QPaintEvent* event) override;
 
  private:
-  void Say(const QString& words, const QString& path);
+  void SetText(const QString& words, const QString& path);
 
   QString folder_;
   QString words_;
