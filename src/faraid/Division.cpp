@@ -51,14 +51,14 @@ Reason WhyOf(const Heirs& heirs, const Allotment& allotment, Kind kind) {
 Reason WhyNothingIsLeft(const Allotment& allotment) {
   const bool besideGrandfather = allotment.Divided == Manner::FullSiblingsFirst;
   return {.Code = ReasonCode::NothingIsLeft,
-          .Ground = besideGrandfather ? allotment.Why.Ground : Source::ReportOfIbnAbbas};
+          .Basis = besideGrandfather ? allotment.Why.Basis : Source::ReportOfIbnAbbas};
 }
 
 /// Female descendants and consanguine sisters whose two thirds others have taken, and whom no man makes
 /// residuary.
 Reason WhyTwoThirdsAreTaken(Kind kind) {
   return {.Code = ReasonCode::TwoThirdsAreTaken,
-          .Ground = FemaleDescendants.Has(kind) ? Source::Quran4_11 : Source::Quran4_176};
+          .Basis = FemaleDescendants.Has(kind) ? Source::Quran4_11 : Source::Quran4_176};
 }
 
 /// The line of an heir who is not excluded.
@@ -96,20 +96,20 @@ Row RowOf(const Heirs& heirs, const Exclusions& exclusions, const Claims& claims
   Row row = {.Heir = kind, .Heads = heirs.Counts[kind]};
   if (heirs.Law.NotHeirs.Has(kind)) {
     row.As = Standing::NotAnHeir;
-    row.Why = {.Code = ReasonCode::NotAnHeir, .Ground = Source::RulingOfMalik};
+    row.Why = {.Code = ReasonCode::NotAnHeir, .Basis = Source::RulingOfMalik};
     return row;
   }
   const Exclusion& exclusion = exclusions.Why[static_cast<std::size_t>(kind)];
   row.As = Standing::Excluded;
   row.Excluder = exclusion.By;
-  row.Why = {.Code = ReasonCode::ExcludedBy, .Ground = exclusion.Ground, .Named = exclusion.By};
+  row.Why = {.Code = ReasonCode::ExcludedBy, .Basis = exclusion.Basis, .Named = exclusion.By};
   return row;
 }
 
 Row RemainderOf(const Heirs& heirs, const Fraction& rest) {
   const ReasonCode code =
       heirs.Has(Spouses) ? heirs.Law.RemainderBesideSpouse : ReasonCode::KindredThenTreasury;
-  return {.Heads = 1, .Share = rest, .PerHead = rest, .Why = {.Code = code, .Ground = Source::Quran8_75}};
+  return {.Heads = 1, .Share = rest, .PerHead = rest, .Why = {.Code = code, .Basis = Source::Quran8_75}};
 }
 
 }  // namespace

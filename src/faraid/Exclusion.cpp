@@ -30,7 +30,7 @@ struct Row {
   KindSet Excluded;
   KindSet By;
   bool (*When)(const Survivors&);
-  Source Ground;
+  Source Basis;
 };
 
 // For each kind, the first row that applies names who excludes it. If several of a row are alive, it is the
@@ -76,7 +76,7 @@ Exclusions Exclude(const Survivors& survivors) {
     for (const Kind kind : open) {
       if (kind == by.First()) continue;
       exclusions.Excluded = exclusions.Excluded | kind;
-      exclusions.Why[static_cast<std::size_t>(kind)] = {by.First(), row.Ground};
+      exclusions.Why[static_cast<std::size_t>(kind)] = {by.First(), row.Basis};
     }
   }
   return exclusions;

@@ -6,10 +6,10 @@
 
 namespace faraid {
 
-/// Who excludes a kind, and on what ground.
+/// Who excludes a kind, and the source of that.
 struct Exclusion {
   Kind By = Kind::Remainder;
-  Source Ground = Source::None;
+  Source Basis = Source::None;
 };
 
 /// Exclusion (hajb), decided before all else.

@@ -24,7 +24,7 @@ struct Row {
   ReasonCode Why = Open;
   /// Whom the reason names.
   KindSet Named = Nobody;
-  Source Ground = Source::None;
+  Source Basis = Source::None;
 };
 
 constexpr Fraction noShare;
@@ -110,8 +110,7 @@ Allotments FixedShares(const Heirs& heirs) {
     shares.Add(
         {.Takers = takers,
          .Share = row.Share,
-         .Why = {
-             .Code = row.Why, .Ground = row.Ground, .Named = Named(heirs, row.Named), .Share = row.Share}});
+         .Why = {.Code = row.Why, .Basis = row.Basis, .Named = Named(heirs, row.Named), .Share = row.Share}});
   }
   return shares;
 }

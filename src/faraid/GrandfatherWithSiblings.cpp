@@ -74,21 +74,21 @@ Allotments ShareWithGrandfather(const Heirs& heirs, const Allotments& others) {
          .Share = Sixth + Half,
          .Divided = Manner::TwoToOne,
          .As = Standing::SharerAndResiduary,
-         .Why = {.Code = ReasonCode::Akdariyya, .Ground = Source::RulingOfZayd, .Share = Sixth + Half}});
+         .Why = {.Code = ReasonCode::Akdariyya, .Basis = Source::RulingOfZayd, .Share = Sixth + Half}});
     return shares;
   }
   const Fraction remainder = 1 - Total(others);
   const Choice his = ShareOfGrandfather(heirs, grandfather, !others.IsEmpty(), remainder);
-  const Source ground = his.Why == ReasonCode::Malikiyya ? Source::RulingOfMalik : Source::RulingOfZayd;
+  const Source basis = his.Why == ReasonCode::Malikiyya ? Source::RulingOfMalik : Source::RulingOfZayd;
   shares.Add({.Takers = grandfather,
               .Share = his.Share,
               .As = his.As,
-              .Why = {.Code = his.Why, .Ground = ground, .Share = his.Share}});
+              .Why = {.Code = his.Why, .Basis = basis, .Share = his.Share}});
   shares.Add({.Takers = siblings,
               .Share = std::max(Fraction(0), remainder - his.Share),
               .Divided = Manner::FullSiblingsFirst,
               .As = Standing::Residuary,
-              .Why = {.Ground = ground}});
+              .Why = {.Basis = basis}});
   return shares;
 }
 

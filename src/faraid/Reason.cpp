@@ -216,7 +216,7 @@ std::string English(const Reason& reason) {
     AppendField(text, pattern.substr(open + 1, close - open - 1), reason);
     pattern.remove_prefix(close + 1);
   }
-  if (reason.Ground != Source::None) text.append(" (").append(Words(reason.Ground)).append(")");
+  if (reason.Basis != Source::None) text.append(" (").append(Words(reason.Basis)).append(")");
   if (reason.Sixth == Beyond::TheResidue) text += ", and what is left beyond it";
   if (reason.Sixth == Beyond::Nothing) text += "; nothing is left beyond it";
   if (reason.Changed != Change::None) {

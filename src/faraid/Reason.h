@@ -96,7 +96,7 @@ struct Ratio {
 /// The reason of one row of a division, as data for any language.
 struct Reason {
   ReasonCode Code = ReasonCode::Open;
-  Source Ground = Source::None;
+  Source Basis = Source::None;
   /// The heir whom the sentence names, such as the one who excludes.
   Kind Named = Kind::Remainder;
   Beyond Sixth = Beyond::NoResiduary;

@@ -10,7 +10,7 @@ struct Row {
   KindSet Men;
   KindSet Women;
   Condition When;
-  Source Ground;
+  Source Basis;
 };
 
 // The first row that applies takes all that is left. A row that names men needs one of them; its women
@@ -42,7 +42,7 @@ Allotment Residuaries(const Heirs& heirs, KindSet sharers, const Fraction& resid
             .Share = residue,
             .Divided = Manner::TwoToOne,
             .As = Standing::Residuary,
-            .Why = {.Ground = row.Ground, .Share = residue}};
+            .Why = {.Basis = row.Basis, .Share = residue}};
   }
   return {};
 }

@@ -192,7 +192,7 @@ TEST(EveryDivision, HasAReasonWithASourceForEachHeir) {
     for (const Row& row : Divide(family, school).Rows) {
       const std::string sentence = English(row.Why);
       ASSERT_NE(row.Why.Code, ReasonCode::Open);
-      ASSERT_NE(row.Why.Ground, Source::None);
+      ASSERT_NE(row.Why.Basis, Source::None);
       ASSERT_LT(sentence.size(), 111U) << sentence;
       ASSERT_EQ(sentence.find_first_of("{}"), std::string::npos) << sentence;
       ASSERT_EQ(sentence.find("  "), std::string::npos) << sentence;

@@ -164,7 +164,7 @@ QString EachOfThem(const faraid::Amount& amount, int heads) {
   return Words::tr("%1; %2 of them %3", "an amount, heads, their amount").arg(least, Number(more), most);
 }
 
-QString Why(const faraid::Reason& reason) { return Sentence(reason, SourceOf(reason.Ground)); }
+QString Why(const faraid::Reason& reason) { return Sentence(reason, SourceOf(reason.Basis)); }
 
 QString WhyWithoutSource(const faraid::Reason& reason) { return Sentence(reason, {}); }
 

@@ -50,7 +50,7 @@ QString CellText(Column column, const DivisionLine& line) {
     case Column::Why:
       return words::WhyWithoutSource(line.Law.Why);
     case Column::Source:
-      return words::SourceOf(line.Law.Why.Ground);
+      return words::SourceOf(line.Law.Why.Basis);
     case Column::CaseStudy:
       break;
   }
