@@ -21,15 +21,15 @@ constexpr qreal stroke = 2.2;
 
 enum class Pattern { Full, Rising, Level, Upright, Falling, Dotted, Checked };
 
-// In the order of the kinds, so that heirs who often take together differ without colours; all of class II
-// are alike, since one of them takes alone. Hue and pattern together differ for any two others.
+// By kind, so that heirs who often take together differ without colours. Class II has one pattern, because
+// one of them takes alone.
 constexpr std::array<Pattern, 23> patterns = {
     Pattern::Full,     // wives
     Pattern::Full,     // husband
     Pattern::Rising,   // sons
     Pattern::Falling,  // daughters
     Pattern::Rising,   // sons' sons
-    Pattern::Rising,   // sons' daughters
+    Pattern::Checked,  // sons' daughters
     Pattern::Rising,   // sons' sons' sons
     Pattern::Upright,  // sons' sons' daughters
     Pattern::Level,    // father
@@ -48,6 +48,17 @@ constexpr std::array<Pattern, 23> patterns = {
     Pattern::Level,    // uterine sisters
     Pattern::Falling,  // uterine brothers
 };
+
+/// Whether hue and pattern together differ for any two kinds that are not of class II.
+constexpr bool AllDiffer() {
+  for (std::size_t i = 0; i < patterns.size(); ++i) {
+    for (std::size_t j = 0; j < i; ++j) {
+      if (i % hues.size() == j % hues.size() && patterns[i] == patterns[j]) return false;
+    }
+  }
+  return true;
+}
+static_assert(AllDiffer());
 
 Pattern PatternOf(faraid::Kind heir) {
   const auto i = static_cast<std::size_t>(heir);
