@@ -104,7 +104,7 @@ class Parser {
     }
     line_ = spouseLine_;
     if (!reading_.Fault) {
-      if (const auto fault = entries_.Settle()) Refuse(*fault);
+      if (const auto fault = entries_.Complete()) Refuse(*fault);
     }
     if (!reading_.Fault) reading_.Case = entries_.Texts();
     return reading_;

@@ -150,7 +150,7 @@ std::optional<CaseFault> CaseEntries::Set(Entry entry, std::string_view value) {
   return std::nullopt;
 }
 
-std::optional<CaseFault> CaseEntries::Settle() {
+std::optional<CaseFault> CaseEntries::Complete() {
   const bool wives = !CountsNobody(wives_);
   const bool husband = !CountsNobody(husband_);
   if (wives && husband) return CaseFault::WivesAndHusband;

@@ -97,7 +97,7 @@ class CaseEntries {
   /// Completes the case when all entries are set. The field that wives and husband share gets the count of
   /// the right spouse. Without an entry for the gender, the deceased is a woman if a husband is named, else a
   /// man.
-  std::optional<CaseFault> Settle();
+  std::optional<CaseFault> Complete();
   const CaseTexts& Texts() const { return texts_; }
 
   /// Removes all entries, and keeps the memory for the next case.

@@ -112,7 +112,7 @@ class Columns {
         family.Faults.push_back(English(*fault, column.Words));
       }
     }
-    if (const auto fault = entries_.Settle()) family.Faults.push_back(English(*fault, {}));
+    if (const auto fault = entries_.Complete()) family.Faults.push_back(English(*fault, {}));
     ReadFields(entries_.Texts(), family);
     return true;
   }

@@ -55,7 +55,7 @@ class CasePlayer {
         EXPECT_TRUE(entry && !typed_.Set(*entry, value)) << "the screen has no " << caption << " = " << value;
       }
     }
-    EXPECT_FALSE(typed_.Settle());
+    EXPECT_FALSE(typed_.Complete());
     TypeIntoScreen(typed_.Texts(), screen_);
   }
 
