@@ -13,7 +13,7 @@
 #include "casefile/HeirFields.h"
 #include "support/FakePorts.h"
 #include "windows/division/DivisionWords.h"
-#include "windows/division/Paper.h"
+#include "windows/division/PaperCommands.h"
 #include "windows/division/PaperTree.h"
 #include "windows/platform/Utf8.h"
 #include "windows/print/PrintDialogs.h"

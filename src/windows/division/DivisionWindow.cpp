@@ -26,7 +26,7 @@
 #include "windows/division/DivisionTableView.h"
 #include "windows/division/DivisionTools.h"
 #include "windows/division/DivisionWords.h"
-#include "windows/division/Paper.h"
+#include "windows/division/PaperCommands.h"
 #include "windows/help/HelpWindow.h"
 #include "windows/language/Languages.h"
 #include "windows/platform/Utf8.h"

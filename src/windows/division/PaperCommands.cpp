@@ -1,4 +1,4 @@
-#include "windows/division/Paper.h"
+#include "windows/division/PaperCommands.h"
 
 #include <QClipboard>
 #include <QCoreApplication>
