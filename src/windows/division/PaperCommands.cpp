@@ -4,7 +4,6 @@
 #include <QCoreApplication>
 #include <QFileDialog>
 #include <QGuiApplication>
-#include <QLibrary>
 #include <QMessageBox>
 #include <QMimeData>
 #include <QPageSize>
@@ -35,14 +34,9 @@ void Warn(QWidget* window, const QString& words) {
 /// Printing is loaded when it is first used. Null where the plugin is missing or damaged.
 ShowPrintDialog LoadPrinting() {
   static ShowPrintDialog show = nullptr;
-  if (show != nullptr) return show;
-  for (const QString& folder : ProgramFolders(QCoreApplication::applicationDirPath()).Plugins()) {
-    const QString file = folder + QLatin1Char('/') + QLatin1String(PrintPluginName);
-    if (!IsAsBuilt(file)) continue;
-    QLibrary plugin(file);
-    plugin.setLoadHints(QLibrary::PreventUnloadHint);
-    show = reinterpret_cast<ShowPrintDialog>(plugin.resolve(ShowPrintDialogName));
-    if (show != nullptr) break;
+  if (show == nullptr) {
+    const QStringList directories = ProgramFolders(QCoreApplication::applicationDirPath()).Plugins();
+    show = reinterpret_cast<ShowPrintDialog>(LoadPlugin(directories, PrintPluginName, ShowPrintDialogName));
   }
   return show;
 }

@@ -1,6 +1,7 @@
 #pragma once
 
-#include <QString>
+#include <QFunctionPointer>
+#include <QStringList>
 #include <span>
 
 namespace qismora {
@@ -18,5 +19,9 @@ extern const std::span<const BuiltFile> builtFiles;
 /// Whether a file has the content that the build has made. Playing or loading a damaged file could crash the
 /// program.
 bool IsAsBuilt(const QString& path);
+
+/// Loads a plugin of the program, which stays loaded, and finds its function. Null if the plugin is in none
+/// of the directories, or is not as built.
+QFunctionPointer LoadPlugin(const QStringList& directories, const char* plugin, const char* function);
 
 }  // namespace qismora

@@ -1,7 +1,6 @@
 #include "windows/platform/QtVideoPlayer.h"
 
 #include <QEvent>
-#include <QLibrary>
 #include <QTimer>
 #include <utility>
 
@@ -39,22 +38,16 @@ void QtVideoPlayer::Start() {
 
 void QtVideoPlayer::Load() {
   if (std::exchange(tried_, true)) return;
-  for (const QString& folder : folders_) {
-    const QString file = folder + QLatin1Char('/') + QLatin1String(VideoPluginName);
-    if (!IsAsBuilt(file)) continue;
-    QLibrary plugin(file);
-    plugin.setLoadHints(QLibrary::PreventUnloadHint);
-    const auto make = reinterpret_cast<MakeVideoScreen>(plugin.resolve(MakeVideoScreenName));
-    if (make == nullptr) continue;
-    screen_ = make(panel_);
-    if (screen_ == nullptr) return;
-    screen_->EndOfPlay = [this] {
-      if (EndOfPlay) EndOfPlay();
-    };
-    connect(panel_, &QObject::destroyed, this, [this] { screen_ = nullptr; });
-    panel_->setFocusPolicy(Qt::StrongFocus);
-    return;
-  }
+  const auto make =
+      reinterpret_cast<MakeVideoScreen>(LoadPlugin(folders_, VideoPluginName, MakeVideoScreenName));
+  if (make == nullptr) return;
+  screen_ = make(panel_);
+  if (screen_ == nullptr) return;
+  screen_->EndOfPlay = [this] {
+    if (EndOfPlay) EndOfPlay();
+  };
+  connect(panel_, &QObject::destroyed, this, [this] { screen_ = nullptr; });
+  panel_->setFocusPolicy(Qt::StrongFocus);
 }
 
 }  // namespace qismora
