@@ -65,8 +65,8 @@ constexpr char dialogs[] = "Dialogs";
     QT_TRANSLATE_NOOP("Dialogs", "%1 already exists.\nDo you want to replace it?"),
 };
 
-/// Qt's own words. It has its say only while a dialog speaks the current language: the message boxes of the
-/// screens keep their English buttons.
+/// Qt's own words. It translates only while a dialog is in the current language, so that the message boxes of
+/// the screens keep their English buttons.
 class DialogTranslator : public QTranslator {
  public:
   using QTranslator::QTranslator;
@@ -119,7 +119,6 @@ void StartLanguage(Settings& store) {
 void SetLanguage(Language language) {
   if (language == current) return;
   current = language;
-  // Removing and installing each announce the change: of the two, only the last may be heard.
   if (language == Language::English) {
     delete translator;
     translator = nullptr;
@@ -129,6 +128,7 @@ void SetLanguage(Language language) {
   const QString file =
       QStringLiteral(":/translations/qismora_%1.qm").arg(QLatin1String(RowOf(language).Code));
   if (!next->load(file)) qWarning("the translation %s cannot be read", qPrintable(file));
+  // The new translator comes first, so that no window is put into English in between.
   QTranslator* before = std::exchange(translator, next);
   QCoreApplication::installTranslator(next);
   delete before;
@@ -171,9 +171,9 @@ QString IsolatedFigure(const QString& figure) { return InIsolate(0x2066, figure)
 
 // Nothing is loaded before the first dialog opens in another language than English. Debian has the catalogues
 // of Qt in a package of their own, and none for Urdu.
-DialogsInLanguage::DialogsInLanguage() : speaks_(current != Language::English) {
+DialogsInLanguage::DialogsInLanguage() : translates_(current != Language::English) {
   static Language loaded = Language::English;
-  if (!speaks_) return;
+  if (!translates_) return;
   if (std::exchange(loaded, current) != current) {
     delete dialogTranslator;
     dialogTranslator = new DialogTranslator(QCoreApplication::instance());
@@ -185,12 +185,12 @@ DialogsInLanguage::DialogsInLanguage() : speaks_(current != Language::English) {
 }
 
 DialogsInLanguage::~DialogsInLanguage() {
-  if (speaks_) --dialogTranslator->Open;
+  if (translates_) --dialogTranslator->Open;
 }
 
 Qt::LayoutDirection DialogsInLanguage::Direction() {
-  const bool speaks = dialogTranslator != nullptr && dialogTranslator->Open > 0;
-  return speaks ? CurrentDirection() : Qt::LeftToRight;
+  const bool translates = dialogTranslator != nullptr && dialogTranslator->Open > 0;
+  return translates ? CurrentDirection() : Qt::LeftToRight;
 }
 
 }  // namespace qismora

@@ -50,8 +50,8 @@ QString Isolated(const QString& text);
 /// Keeps a signed figure from the left to the right, or the sign would stand behind it.
 QString IsolatedFigure(const QString& figure);
 
-/// While it lives, dialogs speak the current language: the words that they have from Qt, and their direction.
-/// All other dialogs belong to the screens of the program, which are English.
+/// During its lifetime, dialogs are in the current language: the words that they have from Qt, and their
+/// direction. All other dialogs belong to the screens of the program, which are English.
 class DialogsInLanguage {
  public:
   DialogsInLanguage();
@@ -63,7 +63,7 @@ class DialogsInLanguage {
   static Qt::LayoutDirection Direction();
 
  private:
-  bool speaks_;
+  bool translates_;
 };
 
 }  // namespace qismora
