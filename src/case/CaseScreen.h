@@ -40,8 +40,11 @@ inline constexpr int ConsBrothersField = 31;
 inline constexpr int UterineSistersField = 32;
 inline constexpr int UterineBrothersField = 33;
 
+/// A caption of Label1 without a field: it loads the case and computes nothing.
+inline constexpr int BlankCaption = 12;
+
 /// The fields of the heirs, in the order of the screen. The arrays Text1 and Label1 have no elements between
-/// 8 and 11; Label1(12) is a caption without a field.
+/// 8 and 11.
 inline constexpr std::array HeirFieldIndexes = {SpouseField,
                                                 SonsField,
                                                 DaughtersField,

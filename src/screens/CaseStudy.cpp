@@ -51,9 +51,6 @@ constexpr Dispatch dispatchTable[] = {
     {UterineBrothersField, RunUterineBrother},
 };
 
-/// The caption without words or field: it loads the case and computes nothing.
-constexpr int blankCaption = 12;
-
 constexpr int brightestColour = 0xFFFFFF;
 
 void SetHeirs(CaseScreen& screen, const char* count) {
@@ -183,7 +180,7 @@ void CaseStudy::StartCase(const CaseTexts& texts) {
 // loads it again.
 void CaseStudy::Label1_DblClick(int index) {
   if (index == 0 || (index >= NameField && index <= NetEstateField)) return;
-  const bool computes = index != blankCaption;
+  const bool computes = index != BlankCaption;
   Command(computes ? AnswerOf::OneShare : AnswerOf::Nothing, Join("Share of ", Label1(index).Caption), [&] {
     ShowLongText(*this, false);
     Text2.Text = "";

@@ -40,7 +40,7 @@ constexpr Row leftRows[] = {
     {Kind::Heir, ConsBrothersField, "Consanguine brothers (same father)"},
     {Kind::Heir, UterineSistersField, "Uterine sisters (same mother)"},
     {Kind::Heir, UterineBrothersField, "Uterine brothers (same mother)"},
-    {Kind::Blank, 12, ""},
+    {Kind::Blank, BlankCaption, ""},
 };
 
 constexpr Row rightRows[] = {
@@ -188,12 +188,12 @@ void HeirsPanel::AddHeir(int row, int column, int field, const QString& heir) {
 
 // Wives or husband, as the gender of the deceased has it.
 void HeirsPanel::AddSpouse(int row) {
-  CaseField* input = AddField(1, {});
+  CaseField* input = AddField(SpouseField, {});
   input->setFixedWidth(fieldWidth);
-  input->Explain = [this] { form_.Label1_DblClick(1); };
-  CaptionButton* caption = AddCaption(1, {});
-  Binder::Follow(form_.Label1(1).Caption, [this, input, caption] {
-    const QString words = ToQt(form_.Label1(1).Caption.Get());
+  input->Explain = [this] { form_.Label1_DblClick(SpouseField); };
+  CaptionButton* caption = AddCaption(SpouseField, {});
+  Binder::Follow(form_.Label1(SpouseField).Caption, [this, input, caption] {
+    const QString words = ToQt(form_.Label1(SpouseField).Caption.Get());
     input->setAccessibleName(words);
     input->SetTip(QString::fromUtf8(fieldTip).arg(words));
     caption->setAccessibleName(words);
@@ -203,11 +203,11 @@ void HeirsPanel::AddSpouse(int row) {
   const QString spouses[] = {QStringLiteral("Wives"), QStringLiteral("Husband")};
   const QString files[] = {QStringLiteral("wives"), QStringLiteral("husband")};
   for (const int i : {0, 1}) {
-    AddPicture(row, 0, 1, QString::fromUtf8(inUrdu).arg(spouses[i]), Indexed("Image30", i),
+    AddPicture(row, 0, SpouseField, QString::fromUtf8(inUrdu).arg(spouses[i]), Indexed("Image30", i),
                QStringLiteral("urdu-") + files[i], form_.Image30(i));
   }
   for (const int i : {0, 1}) {
-    AddPicture(row, 0, 1, QString::fromUtf8(inArabic).arg(spouses[i]), Indexed("Image41", i),
+    AddPicture(row, 0, SpouseField, QString::fromUtf8(inArabic).arg(spouses[i]), Indexed("Image41", i),
                QStringLiteral("arabic-") + files[i], form_.Image41(i));
   }
   grid_->addWidget(input, row, 2, Qt::AlignVCenter);
@@ -221,10 +221,9 @@ void HeirsPanel::AddEstate(int row, int field, const QString& figure) {
   grid_->addWidget(input, row, rightColumn + 1, 1, 2, Qt::AlignVCenter);
 }
 
-// A caption without text or field: it loads the case and computes nothing. Its name is shown while it has the
-// focus.
+// It has no text; its name is shown while it has the focus.
 void HeirsPanel::AddBlankCaption(int row) {
-  CaptionButton* caption = AddCaption(12, QStringLiteral("Load the case only"));
+  CaptionButton* caption = AddCaption(BlankCaption, QStringLiteral("Load the case only"));
   caption->setToolTip({});
   grid_->addWidget(caption, row, 0, 1, 3);
 }
