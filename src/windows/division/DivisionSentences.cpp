@@ -74,16 +74,16 @@ DivisionSentences::DivisionSentences(QWidget* parent)
 
 void DivisionSentences::Show(const DivisionView& view, const Supposition& supposition, bool heirsConsent) {
   headline_->setText(words::Headline(view));
-  supposition_->Say(supposition.Words());
+  supposition_->Show(supposition.Words());
   const QString supposed = QTextDocumentFragment::fromHtml(supposition.Words()).toPlainText();
   headline_->setAccessibleName((headline_->text() + QLatin1Char(' ') + supposed).trimmed());
-  estate_->Say(view.Unreadable.empty() ? words::EstateSummary(view).toHtmlEscaped() : QString());
-  examples_->Say(Examples(view, tr("Type what is true")));
-  bequests_->Say(words::BequestNotice(view).toHtmlEscaped());
+  estate_->Show(view.Unreadable.empty() ? words::EstateSummary(view).toHtmlEscaped() : QString());
+  examples_->Show(Examples(view, tr("Type what is true")));
+  bequests_->Show(words::BequestNotice(view).toHtmlEscaped());
   consent_->setVisible(view.ConsentMatters());
   consent_->setChecked(heirsConsent);
-  notice_->Say(WhereTheCommandsDiffer(view));
-  unreadable_->Say(UnreadableFields(view));
+  notice_->Show(WhereTheCommandsDiffer(view));
+  unreadable_->Show(UnreadableFields(view));
 }
 
 void DivisionSentences::Translate(const QFont& font) {

@@ -48,7 +48,7 @@ Sentence::Sentence(const char* name, QWidget* parent) : QLabel(parent) {
 }
 
 // A sentence may begin with a name in another script, which must not turn it around.
-void Sentence::Say(const QString& html) {
+void Sentence::Show(const QString& html) {
   const bool rightToLeft = CurrentDirection() == Qt::RightToLeft;
   const QString words = rightToLeft ? QStringLiteral("<div dir=\"rtl\">%1</div>").arg(html) : html;
   setVisible(!html.isEmpty());

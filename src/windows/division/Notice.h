@@ -20,7 +20,8 @@ class Sentence : public QLabel {
  public:
   Sentence(const char* name, QWidget* parent);
 
-  void Say(const QString& html);
+  /// Shows rich text; nothing is shown if it is empty.
+  void Show(const QString& html);
 
  protected:
   void focusInEvent(QFocusEvent* event) override;
