@@ -7,7 +7,6 @@
 #include <QTemporaryDir>
 #include <QTest>
 #include <QUrl>
-#include <deque>
 #include <memory>
 
 #include "support/FakePorts.h"
@@ -48,22 +47,18 @@ int RunWindowTest(int argc, char** argv) {
   return QTest::qExec(&test, argc, argv);
 }
 
-/// Answers the dialogs for case files from a queue; they are cancelled when it is empty.
+/// Answers the dialogs for case files from a queue.
 class QueuedDialog : public QtFileDialogs {
  public:
   using QtFileDialogs::QtFileDialogs;
-  std::optional<std::string> AskCaseToOpen(const std::string&) override { return Next(); }
-  std::optional<std::string> AskCaseToSave(const std::string&) override { return Next(); }
-
-  std::deque<std::string> CasePaths;
-
- private:
-  std::optional<std::string> Next() {
-    if (CasePaths.empty()) return std::nullopt;
-    std::string path = CasePaths.front();
-    CasePaths.pop_front();
-    return path;
+  std::optional<std::string> AskCaseToOpen(const std::string& folder) override {
+    return Cases.AskCaseToOpen(folder);
   }
+  std::optional<std::string> AskCaseToSave(const std::string& path) override {
+    return Cases.AskCaseToSave(path);
+  }
+
+  FakeFileDialogs Cases;
 };
 
 /// The program with its real windows and ports, in a temporary directory or where it is installed. Only its

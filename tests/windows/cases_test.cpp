@@ -306,7 +306,7 @@ class CasesTest : public QObject {
   }
 
   /// The next dialog for case files is answered with this file.
-  void InDialog(const QString& file) { program_->Dialog().CasePaths.push_back(FromQt(file)); }
+  void InDialog(const QString& file) { program_->Dialog().Cases.Paths.push_back(FromQt(file)); }
 
   static QByteArray Content(const QString& file) {
     QFile opened(file);
