@@ -82,7 +82,7 @@ class Line {
 
 char SeparatorOf(const Options& options) { return options.Separator != 0 ? options.Separator : ','; }
 
-void Begin(const Options& options, std::string& text) {
+void BeginCsv(const Options& options, std::string& text) {
   if (!options.Header) return;
   Line line(text, SeparatorOf(options));
   for (const std::string_view column : columns) line.Words(column);
@@ -165,17 +165,17 @@ void WriteShortfall(const Answer& answer, const Options& options, std::string& t
   line.End();
 }
 
-void Write(const Answer& answer, const Options& options, bool, std::string& text) {
+void WriteCsv(const Answer& answer, const Options& options, bool, std::string& text) {
   if (answer.Settlement.Shortfall > 0) return WriteShortfall(answer, options, text);
   for (const SchoolDivision& school : answer.Schools) {
     for (std::size_t i = 0; i < school.Division.Rows.Size(); ++i) WriteRow(answer, school, i, options, text);
   }
 }
 
-void End(std::string&) {}
+void EndCsv(std::string&) {}
 
 }  // namespace
 
-const AnswerFormat CsvFormat = {Begin, Write, End};
+const AnswerFormat CsvFormat = {BeginCsv, WriteCsv, EndCsv};
 
 }  // namespace qismora::divide

@@ -93,7 +93,7 @@ constexpr std::array<Choice<Format>, 4> formats = {{
     {"jsonl", Format::JsonLines},
 }};
 constexpr std::array<Choice<InputKind>, 2> inputs = {{{"csv", InputKind::Csv}, {"case", InputKind::Case}}};
-constexpr std::array<Choice<char>, 6> separators = {{
+constexpr std::array<Choice<char>, 6> separatorWords = {{
     {"comma", ','},
     {"semicolon", ';'},
     {"tab", '\t'},
@@ -166,7 +166,7 @@ Options ReadOptions(int count, char** words) {
         options.Input = Chosen("--input", word, inputs);
         break;
       case 'd':
-        options.Separator = Chosen("--separator", word, separators);
+        options.Separator = Chosen("--separator", word, separatorWords);
         break;
       case ColumnsOption:
         options.Columns = word;

@@ -307,9 +307,9 @@ void AppendSideBySide(const Answer& answer, bool reasons, std::string& text) {
   for (const Kind kind : kinds) AppendReasons(answer, kind, text);
 }
 
-void Begin(const Options&, std::string&) {}
+void BeginTable(const Options&, std::string&) {}
 
-void Write(const Answer& answer, const Options& options, bool first, std::string& text) {
+void WriteTable(const Answer& answer, const Options& options, bool first, std::string& text) {
   if (!first) text += '\n';
   AppendHead(answer, text);
   if (answer.Schools.empty() && answer.Commands) AppendCommandsOfShortfall(answer, text);
@@ -317,10 +317,10 @@ void Write(const Answer& answer, const Options& options, bool first, std::string
   if (answer.Schools.size() > 1) AppendSideBySide(answer, options.Reasons, text);
 }
 
-void End(std::string&) {}
+void EndTable(std::string&) {}
 
 }  // namespace
 
-const AnswerFormat TableFormat = {Begin, Write, End};
+const AnswerFormat TableFormat = {BeginTable, WriteTable, EndTable};
 
 }  // namespace qismora::divide

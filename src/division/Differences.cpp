@@ -19,7 +19,6 @@ namespace {
 
 using faraid::Division;
 using faraid::Family;
-using faraid::Fraction;
 using faraid::Kind;
 using faraid::KindSet;
 using enum faraid::Kind;
@@ -35,16 +34,16 @@ const faraid::Row* RowOf(const Division& division, Kind kind) {
   return row == division.Rows.end() ? nullptr : row;
 }
 
-Fraction ShareOf(const Division& division, Kind kind) {
+faraid::Fraction ShareOf(const Division& division, Kind kind) {
   const faraid::Row* row = RowOf(division, kind);
-  return row == nullptr ? Fraction() : row->Share;
+  return row == nullptr ? faraid::Fraction() : row->Share;
 }
-Fraction PerHead(const Division& division, Kind kind) {
+faraid::Fraction PerHead(const Division& division, Kind kind) {
   const faraid::Row* row = RowOf(division, kind);
-  return row == nullptr ? Fraction() : row->PerHead;
+  return row == nullptr ? faraid::Fraction() : row->PerHead;
 }
 
-double PartOf(double amount, const Fraction& share) {
+double PartOf(double amount, const faraid::Fraction& share) {
   return amount * static_cast<double>(share.Num()) / static_cast<double>(share.Den());
 }
 
@@ -86,7 +85,7 @@ bool IsThirdOfRemainder(const Division& division) {
 /// Before the mother takes a third of the remainder, the spouse's amount is rounded; here it is too large for
 /// that.
 bool IsSpousesAmountTooLarge(const Compared& c) {
-  const Fraction share = ShareOf(c.Hanafi, Husband) + ShareOf(c.Hanafi, Wives);
+  const faraid::Fraction share = ShareOf(c.Hanafi, Husband) + ShareOf(c.Hanafi, Wives);
   return c.Own.Outcome == OwnOutcome::Failed && IsThirdOfRemainder(c.Hanafi) &&
          std::nearbyint(PartOf(c.Own.NetEstate, share)) > largestLong;
 }
@@ -110,7 +109,7 @@ bool BesideLowestMan(const Compared& c) {
 
 /// Fixed share and residue may happen to be two to one.
 bool IsTwoToOne(const Compared& c) {
-  return PerHead(c.Hanafi, SonsSonsSons) == Fraction(2) * PerHead(c.Hanafi, SonsDaughters);
+  return PerHead(c.Hanafi, SonsSonsSons) == faraid::Fraction(2) * PerHead(c.Hanafi, SonsDaughters);
 }
 
 bool SonsDaughtersLoseTheirShare(const Compared& c) {

@@ -26,7 +26,7 @@ bool ConsanguineSisterIsResiduary(const Survivors& s) {
   return s.Has(FemaleDescendants) && !s.Has(ConsanguineBrothers);
 }
 
-struct Row {
+struct ExclusionRow {
   KindSet Excluded;
   KindSet By;
   bool (*When)(const Survivors&);
@@ -35,7 +35,7 @@ struct Row {
 
 // For each kind, the first row that applies names who excludes it. If several of a row are alive, it is the
 // first in the order of the kinds.
-constexpr Row table[] = {
+constexpr ExclusionRow exclusionTable[] = {
     {SonsSons | SonsDaughters, Sons, InEverySchool, Source::Consensus},
     {SonsSonsSons | SonsSonsDaughters, Sons | SonsSons, InEverySchool, Source::Consensus},
     {Grandfather, Father, InEverySchool, Source::Consensus},
@@ -69,7 +69,7 @@ constexpr Row table[] = {
 Exclusions Exclude(const Survivors& survivors) {
   const KindSet heirs = survivors.Alive - survivors.Law.NotHeirs;
   Exclusions exclusions;
-  for (const Row& row : table) {
+  for (const ExclusionRow& row : exclusionTable) {
     const KindSet by = row.By & survivors.Alive;
     const KindSet open = (row.Excluded & heirs) - exclusions.Excluded;
     if (by.IsEmpty() || open.IsEmpty() || !row.When(survivors)) continue;

@@ -17,7 +17,7 @@ bool IsMushtaraka(const Heirs& h) {
          h.Entitled.Has(FullBrothers) && h.CountEntitled(UterineSiblings) >= 2;
 }
 
-struct Row {
+struct SharerRow {
   KindSet Takers;
   Fraction Share;
   Condition When;
@@ -33,7 +33,7 @@ constexpr Fraction thirdOfWhatWivesLeave = Third * (1 - Quarter);
 
 // For each heir the first row that applies decides. Several kinds in one row take its share together. An heir
 // with noShare is a residuary, or one whose two thirds others have taken.
-constexpr Row table[] = {
+constexpr SharerRow sharerTable[] = {
     {Husband, Quarter, Beside<Descendants>, BecauseOfDescendants, Descendants, Quran4_12},
     {Husband, Half, Always, WithoutDescendants, Nobody, Quran4_12},
 
@@ -102,7 +102,7 @@ Kind Named(const Heirs& heirs, KindSet named) {
 Allotments FixedShares(const Heirs& heirs) {
   Allotments shares;
   KindSet open = heirs.Entitled;
-  for (const Row& row : table) {
+  for (const SharerRow& row : sharerTable) {
     const KindSet takers = row.Takers & open;
     if (takers.IsEmpty() || !row.When(heirs)) continue;
     open = open - takers;

@@ -6,7 +6,7 @@ namespace {
 
 using enum Kind;
 
-struct Row {
+struct ResiduaryRow {
   KindSet Men;
   KindSet Women;
   Condition When;
@@ -15,7 +15,7 @@ struct Row {
 
 // The first row that applies takes all that is left. A row that names men needs one of them; its women
 // without a fixed share take with him. In a row without men the women take alone.
-constexpr Row table[] = {
+constexpr ResiduaryRow residuaryTable[] = {
     {Sons, Daughters, Always, Source::Quran4_11},
     {SonsSons, SonsDaughters, Always, Source::Quran4_11},
     // He also makes son's daughters above him residuaries, if they would otherwise have nothing.
@@ -35,7 +35,7 @@ constexpr KindSet bothSharerAndResiduary = Father | Grandfathers;
 
 Allotment Residuaries(const Heirs& heirs, KindSet sharers, const Fraction& residue) {
   const KindSet free = heirs.Entitled - (sharers - bothSharerAndResiduary);
-  for (const Row& row : table) {
+  for (const ResiduaryRow& row : residuaryTable) {
     const KindSet leaders = row.Men.IsEmpty() ? row.Women : row.Men;
     if (!free.HasAny(leaders) || !row.When(heirs)) continue;
     return {.Takers = free & (row.Men | row.Women),

@@ -15,13 +15,13 @@ namespace {
 enum class Target { LawPage, LawPageInFocus, Document, CaseStudy, None };
 
 /// An entry of the menu. The document is the number of its holder.
-struct Entry {
+struct MenuCommand {
   const char* Caption;
   Target Opens;
   int Document = 0;
 };
 
-constexpr Entry entries[] = {
+constexpr MenuCommand entries[] = {
     {"Quranic Laws Described", Target::LawPageInFocus},
     {"Rules of Inheritance (.pdf)", Target::Document, 4},
     {"Historical Background (.pdf)", Target::Document, 1},
@@ -126,7 +126,7 @@ void InhMain::Option1_Click(int index) {
 }
 
 void InhMain::RunEntry(int index) {
-  const Entry& entry = entries[index];
+  const MenuCommand& entry = entries[index];
   switch (entry.Opens) {
     case Target::LawPage:
       return Call(ShowQurLaws);

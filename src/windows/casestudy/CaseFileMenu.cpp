@@ -18,14 +18,14 @@ namespace qismora {
 
 namespace {
 
-struct MenuRow {
+struct FileEntry {
   const char* Name;
   const char* Caption;
   void (CaseDocument::*Run)();
   QKeyCombination Key;
 };
 
-constexpr MenuRow entries[] = {
+constexpr FileEntry fileEntries[] = {
     {"NewCase", QT_TRANSLATE_NOOP("Case", "&New"), &CaseDocument::New, Qt::CTRL | Qt::Key_N},
     {"OpenCase", QT_TRANSLATE_NOOP("Case", "&Open..."), &CaseDocument::Open, Qt::CTRL | Qt::Key_O},
     {"SaveCase", QT_TRANSLATE_NOOP("Case", "&Save"), &CaseDocument::Save, Qt::CTRL | Qt::Key_S},
@@ -86,7 +86,7 @@ void FillRecent(QMenu* recent, CaseDocument& document) {
 
 CaseFileMenu::CaseFileMenu(QMenuBar* bar, CaseDocument& document) : QMenu(bar), recent_(new QMenu(this)) {
   menuAction()->setObjectName(QStringLiteral("Case"));
-  for (const MenuRow& entry : entries) {
+  for (const FileEntry& entry : fileEntries) {
     QAction* action = addAction(QString());
     action->setObjectName(QString::fromLatin1(entry.Name));
     action->setShortcut(entry.Key);
@@ -109,8 +109,8 @@ void CaseFileMenu::Translate() {
     menu->setLayoutDirection(CurrentDirection());
     menu->setFont(FontBesideEnglish(QApplication::font(menu)));
   }
-  for (std::size_t i = 0; i < std::size(entries); ++i) {
-    actions().at(static_cast<qsizetype>(i))->setText(CaseWords::tr(entries[i].Caption));
+  for (std::size_t i = 0; i < std::size(fileEntries); ++i) {
+    actions().at(static_cast<qsizetype>(i))->setText(CaseWords::tr(fileEntries[i].Caption));
   }
 }
 

@@ -13,7 +13,7 @@ namespace {
 
 enum class Place { Bar, Hidden, Menu, UnderMenu };
 
-struct MenuRow {
+struct BarEntry {
   const char* Name;
   const char* Caption;
   Place Where;
@@ -23,7 +23,7 @@ struct MenuRow {
 
 constexpr Qt::Key noKey = Qt::Key_unknown;
 
-constexpr MenuRow entries[] = {
+constexpr BarEntry barEntries[] = {
     {"Back", "&Back", Place::Bar, &CaseStudy::Back_Click, noKey},
     {"AulRaddxx", "±Aul&Radd", Place::Hidden, nullptr, noKey},
     {"TestValues", "&TestValues", Place::Hidden, &CaseStudy::TestValues_Click, noKey},
@@ -41,7 +41,7 @@ constexpr MenuRow entries[] = {
 
 void FillCaseMenu(QMenuBar* bar, CaseStudy& form, Binder& binder) {
   QMenu* menu = nullptr;
-  for (const MenuRow& entry : entries) {
+  for (const BarEntry& entry : barEntries) {
     const QString caption = QString::fromUtf8(entry.Caption);
     if (entry.Where == Place::Menu) menu = new QMenu(caption, bar);
     QAction* action = entry.Where == Place::Menu ? menu->menuAction() : new QAction(caption, bar);

@@ -19,7 +19,7 @@ namespace qismora {
 namespace {
 
 // Rows of the grid. The report covers the narrative of one rule and extends one row below it.
-enum Row { CommandLine, HeadingLine, AmountLine, TextLine, LongTextLine };
+enum { CommandLine, HeadingLine, AmountLine, TextLine, LongTextLine };
 constexpr int longTextMore = 8;
 
 /// A line of the answer. One that is too long, such as an amount of hundreds of digits, is broken anywhere.

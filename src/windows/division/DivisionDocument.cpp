@@ -2,7 +2,6 @@
 
 #include <QAbstractTextDocumentLayout>
 #include <QBuffer>
-#include <QCoreApplication>
 #include <QFileInfo>
 #include <QMimeData>
 #include <QPageSize>
@@ -20,6 +19,7 @@
 #include "windows/division/PaperPage.h"
 #include "windows/division/PaperTable.h"
 #include "windows/division/PaperTree.h"
+#include "windows/division/TranslationContexts.h"
 #include "windows/platform/Utf8.h"
 
 namespace qismora {
@@ -33,11 +33,6 @@ using markup::Paragraph;
 using markup::Row;
 using markup::Side;
 using markup::Tag;
-
-/// The context of the translations.
-class Paper {
-  Q_DECLARE_TR_FUNCTIONS(Paper)
-};
 
 /// Per cent: fonts of Naskh have room between the lines for marks that no sentence of the paper has.
 constexpr double lineHeightOfNaskh = 80;

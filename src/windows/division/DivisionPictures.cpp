@@ -13,7 +13,7 @@ namespace qismora {
 namespace {
 
 constexpr int topMargin = 4;
-constexpr int leastHeight = 90;
+constexpr int leastPicturesHeight = 90;
 
 }  // namespace
 
@@ -25,7 +25,7 @@ DivisionPictures::DivisionPictures(QWidget* parent)
   scroll_->setFrameShape(QFrame::NoFrame);
   scroll_->setWidgetResizable(true);
   scroll_->setFocusPolicy(Qt::NoFocus);
-  scroll_->setMinimumHeight(leastHeight);
+  scroll_->setMinimumHeight(leastPicturesHeight);
   scroll_->setWidget(tree_);
   // A tree that is too wide is seen from its middle, one that is too high from the deceased.
   QScrollBar* across = scroll_->horizontalScrollBar();

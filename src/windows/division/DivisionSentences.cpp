@@ -15,7 +15,7 @@ namespace qismora {
 
 namespace {
 
-constexpr int spacing = 6;
+constexpr int betweenSentences = 6;
 
 QString LinkToField(int index, const QString& words) {
   return Link(QStringLiteral("field:%1").arg(index), words);
@@ -62,7 +62,7 @@ DivisionSentences::DivisionSentences(QWidget* parent)
   connect(consent_, &QCheckBox::toggled, this, [this](bool consent) { Consented(consent); });
   auto* rows = new QVBoxLayout(this);
   rows->setContentsMargins(0, 0, 0, 0);
-  rows->setSpacing(spacing);
+  rows->setSpacing(betweenSentences);
   for (QWidget* widget : std::initializer_list<QWidget*>{headline_, supposition_, estate_, examples_,
                                                          bequests_, consent_, notice_, unreadable_}) {
     rows->addWidget(widget);

@@ -20,7 +20,7 @@ using faraid::Kind;
 
 constexpr int cellMargin = 5;
 constexpr int leastSentence = 165;
-constexpr int leastHeight = 110;
+constexpr int leastTableHeight = 110;
 
 /// Lines between the rows, a stronger one above the sum, and a stripe where something differs.
 class RowDelegate : public QStyledItemDelegate {
@@ -92,7 +92,7 @@ DivisionTableView::DivisionTableView(QWidget* parent) : QTableView(parent), mode
   setShowGrid(false);
   setWordWrap(true);
   setTabKeyNavigation(false);
-  setMinimumHeight(leastHeight);
+  setMinimumHeight(leastTableHeight);
   verticalHeader()->hide();
   verticalHeader()->setMinimumSectionSize(1);
   horizontalHeader()->setMinimumSectionSize(1);  // or it would be the widest letter of the font

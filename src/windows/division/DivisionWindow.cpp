@@ -39,8 +39,8 @@ namespace {
 using faraid::Kind;
 using faraid::School;
 
-constexpr int margin = 10;
-constexpr int spacing = 6;
+constexpr int windowMargin = 10;
+constexpr int betweenParts = 6;
 /// A change is announced when the typing pauses.
 constexpr int announceAfter = 700;
 
@@ -71,7 +71,7 @@ DivisionWindow::DivisionWindow(CaseStudy& form, Settings& store)
   statusBar()->setObjectName(QStringLiteral("DivisionStatus"));
   state_ = new QLabel(statusBar());
   state_->setObjectName(QStringLiteral("DivisionState"));
-  state_->setContentsMargins(spacing, 0, spacing, 0);
+  state_->setContentsMargins(betweenParts, 0, betweenParts, 0);
   statusBar()->addWidget(state_, 1);
   announcing_.setSingleShot(true);
   announcing_.setInterval(announceAfter);
@@ -85,8 +85,8 @@ DivisionWindow::DivisionWindow(CaseStudy& form, Settings& store)
 void DivisionWindow::BuildContent() {
   auto* content = new QWidget;
   auto* rows = new QVBoxLayout(content);
-  rows->setContentsMargins(margin, margin, margin, margin);
-  rows->setSpacing(spacing);
+  rows->setContentsMargins(windowMargin, windowMargin, windowMargin, windowMargin);
+  rows->setSpacing(betweenParts);
   sentences_ = new DivisionSentences(content);
   auto* splitter = new ReportingSplitter(Qt::Vertical, content);
   splitter->Resized = [this] { FitSplitter(); };

@@ -4,6 +4,7 @@
 #include <algorithm>
 
 #include "casefile/HeirFields.h"
+#include "windows/division/TranslationContexts.h"
 #include "windows/platform/Utf8.h"
 
 namespace qismora::words {
@@ -11,11 +12,6 @@ namespace qismora::words {
 namespace {
 
 using faraid::Kind;
-
-/// The context of the translations.
-class Words {
-  Q_DECLARE_TR_FUNCTIONS(Words)
-};
 
 /// Translates a text of the core, which is a string literal and so ends with a zero byte.
 QString Translated(const char* context, std::string_view literal) {

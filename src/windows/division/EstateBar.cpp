@@ -12,7 +12,7 @@ namespace qismora {
 
 namespace {
 
-constexpr int margin = 5;
+constexpr int barMargin = 5;
 
 double Value(const faraid::Fraction& share) {
   return static_cast<double>(share.Num()) / static_cast<double>(share.Den());
@@ -35,7 +35,7 @@ void EstateBar::Show(std::vector<Part> parts) {
   update();
 }
 
-QSize EstateBar::sizeHint() const { return {200, fontMetrics().height() + 2 * margin}; }
+QSize EstateBar::sizeHint() const { return {200, fontMetrics().height() + 2 * barMargin}; }
 
 QRectF EstateBar::PlaceOf(std::size_t part) const {
   const QRectF inside = QRectF(rect()).adjusted(0.5, 0.5, -0.5, -0.5);
@@ -56,8 +56,8 @@ void EstateBar::paintEvent(QPaintEvent*) {
     FillPattern(painter, place, part.Heir, palette());
     painter.setPen(line);
     painter.drawRect(place);
-    const qreal width = fontMetrics().horizontalAdvance(part.Name) + 2 * margin;
-    if (width + 2 * margin > place.width()) continue;
+    const qreal width = fontMetrics().horizontalAdvance(part.Name) + 2 * barMargin;
+    if (width + 2 * barMargin > place.width()) continue;
     QRectF field(0, 0, width, fontMetrics().height());
     field.moveCenter(place.center());
     painter.fillRect(field, palette().base());

@@ -1,15 +1,10 @@
-#include <QCoreApplication>
 
 #include "windows/division/DivisionWords.h"
+#include "windows/division/TranslationContexts.h"
 
 namespace qismora::words {
 
 namespace {
-
-/// The context of the translations.
-class Words {
-  Q_DECLARE_TR_FUNCTIONS(Words)
-};
 
 QString OffFor(const QString& summary, const QString& what, faraid::Hundredths amount) {
   if (amount == 0) return summary;

@@ -17,12 +17,12 @@ namespace {
 constexpr int linePadding = 5;
 /// The strip at the beginning of a node, with the pattern of the heir.
 constexpr int keyWidth = 6;
-constexpr int margin = 6;
+constexpr int treeMargin = 6;
 constexpr qreal roundness = 4;
 constexpr double faint = 0.45;
 constexpr int stacked = 3;
-constexpr qreal arrow = 6;
-constexpr WrittenTree::Spacing spacing = {
+constexpr qreal arrowLength = 6;
+constexpr WrittenTree::Spacing treeSpacing = {
     .AcrossText = 11, .DownText = linePadding, .LeastWidth = 96, .Gap = 16, .RowGap = 34, .Link = 8};
 
 QString SentenceOf(const TreeText& text) { return text.Name + QStringLiteral(": ") + text.Receives; }
@@ -42,12 +42,12 @@ void FamilyTreeView::Show(const DivisionView& view) {
 }
 
 int FamilyTreeView::PlaceWidth() const {
-  return (parentWidget() == nullptr ? width() : parentWidget()->width()) - 2 * margin;
+  return (parentWidget() == nullptr ? width() : parentWidget()->width()) - 2 * treeMargin;
 }
 
 void FamilyTreeView::LayOut() {
   laidOutFor_ = PlaceWidth();
-  tree_.LayOut(font(), spacing, laidOutFor_);
+  tree_.LayOut(font(), treeSpacing, laidOutFor_);
   QStringList sentences;
   for (const TreeNode& node : tree_.Tree().Nodes) {
     if (node.What == TreeNode::Role::Heir) sentences.append(SentenceOf(tree_.Of(node)));
@@ -72,11 +72,11 @@ void FamilyTreeView::SayChosen() {
 }
 
 QSize FamilyTreeView::sizeHint() const {
-  return QSize(tree_.Tree().Width, tree_.Tree().Height) + QSize(2 * margin, 2 * margin);
+  return QSize(tree_.Tree().Width, tree_.Tree().Height) + QSize(2 * treeMargin, 2 * treeMargin);
 }
 
 QPoint FamilyTreeView::Origin() const {
-  return {std::max(margin, (width() - tree_.Tree().Width) / 2), margin};
+  return {std::max(treeMargin, (width() - tree_.Tree().Width) / 2), treeMargin};
 }
 
 QPointF FamilyTreeView::Mirrored(const TreePoint& point) const {
@@ -156,7 +156,7 @@ void FamilyTreeView::DrawYields(QPainter& painter) const {
 void FamilyTreeView::DrawArrow(QPainter& painter, const TreeLine& line, const QColor& colour) const {
   painter.setPen(Qt::NoPen);
   painter.setBrush(colour);
-  painter.drawPolygon(ArrowAt(Mirrored(line.back()), Mirrored(line[line.size() - 2]), arrow));
+  painter.drawPolygon(ArrowAt(Mirrored(line.back()), Mirrored(line[line.size() - 2]), arrowLength));
 }
 
 void FamilyTreeView::DrawNode(QPainter& painter, const TreeNode& node) const {

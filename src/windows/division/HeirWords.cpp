@@ -2,17 +2,13 @@
 
 #include "faraid/Family.h"
 #include "windows/division/DivisionWords.h"
+#include "windows/division/TranslationContexts.h"
 
 namespace qismora::words {
 
 namespace {
 
 using faraid::Kind;
-
-/// The context of the translations.
-class Words {
-  Q_DECLARE_TR_FUNCTIONS(Words)
-};
 
 /// The names of a kind of heir: of one, of several, and of one within a sentence, where other languages
 /// inflect it. The translations of Several, or else of One, are those of pictures/terms.tsv.

@@ -9,6 +9,7 @@
 #include <QPageSize>
 #include <QStandardPaths>
 
+#include "windows/division/TranslationContexts.h"
 #include "windows/language/Languages.h"
 #include "windows/platform/BuiltFiles.h"
 #include "windows/platform/QtShellPorts.h"
@@ -17,11 +18,6 @@
 namespace qismora {
 
 namespace {
-
-/// The context of the translations.
-class Paper {
-  Q_DECLARE_TR_FUNCTIONS(Paper)
-};
 
 void Warn(QWidget* window, const QString& words) {
   const DialogsInLanguage ours;

@@ -1,9 +1,9 @@
 #include "windows/division/PaperTable.h"
 
-#include <QCoreApplication>
 #include <algorithm>
 
 #include "windows/division/DivisionWords.h"
+#include "windows/division/TranslationContexts.h"
 
 namespace qismora {
 
@@ -15,11 +15,6 @@ using markup::Order;
 using markup::Row;
 using markup::Side;
 using words::Column;
-
-/// The context of the translations.
-class Paper {
-  Q_DECLARE_TR_FUNCTIONS(Paper)
-};
 
 constexpr struct {
   Column Which;

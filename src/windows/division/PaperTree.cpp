@@ -17,8 +17,8 @@ constexpr int pointsPerInch = 72;
 constexpr int textSizes[] = {8, 7};
 /// Of a page.
 constexpr double highest = 0.6;
-constexpr double arrow = 4;
-constexpr WrittenTree::Spacing spacing = {
+constexpr double paperArrow = 4;
+constexpr WrittenTree::Spacing paperSpacing = {
     .AcrossText = 4, .DownText = 2, .LeastWidth = 50, .Gap = 6, .RowGap = 16, .Link = 4};
 
 }  // namespace
@@ -29,7 +29,7 @@ PaperTree::PaperTree(const DivisionView& view, const QString& title, const QFont
   for (const int size : textSizes) {
     font_.setPixelSize(size);
     titleHeight_ = 2 * QFontMetricsF(font_).lineSpacing();
-    tree_.LayOut(font_, spacing, static_cast<int>(page.width()) - 2);
+    tree_.LayOut(font_, paperSpacing, static_cast<int>(page.width()) - 2);
     if (Size().width() <= page.width() && Size().height() <= highest * page.height()) break;
   }
 }
@@ -91,7 +91,7 @@ void PaperTree::DrawYields(QPainter& painter) const {
     painter.setPen(Qt::NoPen);
     painter.setBrush(grey);
     const std::size_t last = yield.Line.size() - 1;
-    painter.drawPolygon(ArrowAt(PlaceOf(yield.Line[last]), PlaceOf(yield.Line[last - 1]), arrow));
+    painter.drawPolygon(ArrowAt(PlaceOf(yield.Line[last]), PlaceOf(yield.Line[last - 1]), paperArrow));
   }
 }
 

@@ -15,7 +15,7 @@ constexpr std::array<QRgb, 7> hues = {0xFF205C67, 0xFFB8860B, 0xFFB0503A, 0xFF5B
                                       0xFF6A4C93, 0xFF2F6DB5, 0xFF8C6239};
 constexpr double leastContrast = 3;
 constexpr double paleness = 0.78;
-constexpr int spacing = 6;
+constexpr int patternSpacing = 6;
 constexpr int slantedSpacing = 8;
 constexpr qreal stroke = 2.2;
 
@@ -76,14 +76,16 @@ void DrawStripes(QPainter& painter, const QRectF& rect, Pattern pattern) {
     }
   }
   if (pattern == Pattern::Level || pattern == Pattern::Checked) {
-    for (int y = spacing / 2; y < height; y += spacing) painter.drawLine(place(0, y), place(width, y));
+    for (int y = patternSpacing / 2; y < height; y += patternSpacing)
+      painter.drawLine(place(0, y), place(width, y));
   }
   if (pattern == Pattern::Upright || pattern == Pattern::Checked) {
-    for (int x = spacing / 2; x < width; x += spacing) painter.drawLine(place(x, 0), place(x, height));
+    for (int x = patternSpacing / 2; x < width; x += patternSpacing)
+      painter.drawLine(place(x, 0), place(x, height));
   }
   if (pattern != Pattern::Dotted) return;
-  for (int y = spacing / 2; y < height; y += spacing) {
-    for (int x = spacing / 2; x < width; x += spacing) painter.drawPoint(place(x, y));
+  for (int y = patternSpacing / 2; y < height; y += patternSpacing) {
+    for (int x = patternSpacing / 2; x < width; x += patternSpacing) painter.drawPoint(place(x, y));
   }
 }
 

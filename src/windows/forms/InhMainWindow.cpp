@@ -16,6 +16,7 @@
 #include <utility>
 
 #include "windows/forms/MenuOption.h"
+#include "windows/forms/Sizes.h"
 #include "windows/forms/VideoPanel.h"
 #include "windows/help/HelpWindow.h"
 #include "windows/platform/Utf8.h"
@@ -31,13 +32,8 @@ namespace qismora {
 namespace {
 
 constexpr QSize bannerSize{420, 80};
-constexpr QSize pictureSize{320, 240};
-constexpr QSize windowSize{800, 600};
-constexpr int margin = 12;
-constexpr int largestText = 14;
+constexpr QSize videoSize{320, 240};
 constexpr QMargins focusMargins{2, 2, 2, 2};
-constexpr int headingSize = 20;
-constexpr int gap = 12;
 constexpr QMargins panelMargins{6, 6, 6, 6};
 constexpr std::chrono::milliseconds settled{500};
 
@@ -100,7 +96,7 @@ InhMainWindow::InhMainWindow(CaseRecord& record, ShellRecord& shell, ShellPorts&
   });
   Binder::Follow(form_.ShowsWaitCursor,
                  [this] { form_.ShowsWaitCursor ? setCursor(Qt::WaitCursor) : unsetCursor(); });
-  SetSizes(windowSize, margin);
+  SetSizes(largeForm, gap);
 }
 
 void InhMainWindow::BuildMenuBar() {
@@ -130,7 +126,7 @@ QWidget* InhMainWindow::Head() {
   ShowBanner();
   auto* heading = new QLabel(head);
   heading->setObjectName(QStringLiteral("Label1"));
-  heading->setFont(HeadingFont(font(), headingSize));
+  heading->setFont(HeadingFont(font(), largeHeading));
   heading->setAlignment(Qt::AlignCenter);
   Binder::Caption(form_.Label1, heading);
   row->addWidget(place);
@@ -194,13 +190,13 @@ QWidget* InhMainWindow::Side(QtVideoPlayer& player) {
 QWidget* InhMainWindow::Pictures() {
   auto* place = new CaptionButton(QStringLiteral("Image3"), Gesture::Click,
                                   QStringLiteral("Show the next picture"), Frame111());
-  place->setFixedSize(pictureSize);
+  place->setFixedSize(videoSize);
   place->setAccessibleName(QStringLiteral("Picture"));
   place->setToolTip(QStringLiteral("Click for the next picture"));
   for (int i = 0; i < form_.Image3.Size; ++i) {
     auto* picture = new PictureLabel(Indexed("Image3", i), QStringLiteral("image3-%1").arg(i),
                                      QStringLiteral("Picture %1").arg(i + 1), place);
-    picture->setGeometry(QRect(QPoint(), pictureSize).marginsRemoved(focusMargins));
+    picture->setGeometry(QRect(QPoint(), videoSize).marginsRemoved(focusMargins));
     binder_.Visible(form_.Image3(i).Visible, picture);
   }
   connect(place, &QAbstractButton::clicked, this, [this] {
@@ -214,7 +210,7 @@ QWidget* InhMainWindow::Pictures() {
 QWidget* InhMainWindow::SessionNumber() {
   auto* number = new CaptionButton(QStringLiteral("Label22"), Gesture::Click,
                                    QStringLiteral("Show the sessions"), Frame111());
-  number->setFont(HeadingFont(font(), headingSize));
+  number->setFont(HeadingFont(font(), largeHeading));
   number->setToolTip(QStringLiteral("Popularity details"));
   number->SetBorder(QFrame::StyledPanel);
   number->setContentsMargins(panelMargins);

@@ -6,6 +6,7 @@
 #include <QLabel>
 #include <QPushButton>
 
+#include "windows/forms/Sizes.h"
 #include "windows/platform/Utf8.h"
 #include "windows/style/Fonts.h"
 #include "windows/widgets/PictureWidgets.h"
@@ -16,7 +17,6 @@ namespace {
 
 constexpr QSize iconSize{96, 96};
 constexpr int textWidth = 340;
-constexpr int gap = 12;
 
 void AddRow(QFormLayout* rows, const QString& heading, const QString& text) {
   auto* label = new QLabel(text, rows->parentWidget());

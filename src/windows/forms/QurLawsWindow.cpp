@@ -9,6 +9,7 @@
 #include <QStatusBar>
 #include <utility>
 
+#include "windows/forms/Sizes.h"
 #include "windows/platform/Utf8.h"
 #include "windows/style/Fonts.h"
 #include "windows/widgets/HoverFilter.h"
@@ -18,10 +19,6 @@ namespace qismora {
 
 namespace {
 
-constexpr QSize windowSize{800, 600};
-constexpr int margin = 12;
-constexpr int largestText = 14;
-constexpr int headingSize = 20;
 constexpr int titleSize = 15;
 constexpr int pageMargin = 12;
 
@@ -66,13 +63,13 @@ QurLawsWindow::QurLawsWindow(const ShellRecord& shell, MessageBoxes& boxes)
     WhenMouseMoves(widget, [this] { form_.Form_MouseMove(); });
   }
   binder_.Recolour();
-  SetSizes(windowSize, margin);
+  SetSizes(largeForm, gap);
 }
 
 QWidget* QurLawsWindow::MakeHeading() {
   auto* heading = new Heading(form_, Frame111());
   heading->setObjectName(QStringLiteral("Label2"));
-  heading->setFont(HeadingFont(font(), headingSize));
+  heading->setFont(HeadingFont(font(), largeHeading));
   heading->setAlignment(Qt::AlignCenter);
   Binder::Caption(form_.Label2, heading);
   binder_.TextColour(form_.Label2, heading);

@@ -10,6 +10,7 @@
 #include <QStyle>
 #include <QTableWidget>
 
+#include "windows/forms/Sizes.h"
 #include "windows/platform/Utf8.h"
 #include "windows/style/Fonts.h"
 #include "windows/widgets/HoverFilter.h"
@@ -22,7 +23,6 @@ namespace {
 
 constexpr QSize pictureSize{40, 40};
 constexpr int headingSize = 18;
-constexpr int gap = 12;
 constexpr int cellMargin = 12;
 constexpr int shownRows = 14;
 

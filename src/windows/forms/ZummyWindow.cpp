@@ -9,6 +9,7 @@
 #include <QPushButton>
 
 #include "shell/Documents.h"
+#include "windows/forms/Sizes.h"
 #include "windows/platform/Utf8.h"
 #include "windows/widgets/Keyboard.h"
 
@@ -16,7 +17,6 @@ namespace qismora {
 
 namespace {
 
-constexpr int gap = 12;
 constexpr QSize leastButton{170, 34};
 
 }  // namespace

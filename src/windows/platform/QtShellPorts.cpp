@@ -23,8 +23,6 @@ QString FirstFolder(const QStringList& folders) {
   return QDir::cleanPath(folders.last());
 }
 
-bool CanWrite(const QString& path) { return QFileInfo(path).isWritable(); }
-
 /// The figure of a line in kibibytes, converted to bytes; 0 if the file has no such line.
 double FigureOf(const char* file, const std::string& name) {
   std::ifstream stream(file);
@@ -48,7 +46,7 @@ std::string ProgramFolders::Log() {
   const QString program = ToQt(Application());
   const QString log = program + QStringLiteral("/popuQism.ppl");
   const bool installed = program != QDir::cleanPath(binaries_);
-  if (!installed && CanWrite(QFileInfo::exists(log) ? log : program)) return FromQt(program);
+  if (!installed && QFileInfo(QFileInfo::exists(log) ? log : program).isWritable()) return FromQt(program);
   const QString own =
       QStandardPaths::writableLocation(QStandardPaths::GenericDataLocation) + QStringLiteral("/qismora");
   QDir().mkpath(own);
