@@ -1103,10 +1103,6 @@ Do you want to replace it?</source>
         <translation>المذهب</translation>
     </message>
     <message>
-        <source>The estate</source>
-        <translation>التركة</translation>
-    </message>
-    <message>
         <source>Alive, and receive nothing</source>
         <translation>أحياء لا يأخذون شيئًا</translation>
     </message>
@@ -1119,20 +1115,12 @@ Do you want to replace it?</source>
         <translation>التوقيع</translation>
     </message>
     <message>
-        <source>Place and date</source>
-        <translation>المكان والتاريخ</translation>
-    </message>
-    <message>
         <source>The family</source>
         <translation>الأسرة</translation>
     </message>
     <message>
         <source>Division of an estate</source>
         <translation>قسمة تركة</translation>
-    </message>
-    <message>
-        <source>The division</source>
-        <translation>القسمة</translation>
     </message>
     <message>
         <source>Computed by %1 from the figures above. This paper is no judgment of a court and no fatwa: ask a scholar before the estate is divided.</source>
@@ -1201,6 +1189,23 @@ Do you want to replace it?</source>
         <source>Alive: %1.</source>
         <comment>a list of heirs</comment>
         <translation>الأحياء: %1.</translation>
+    </message>
+    <message>
+        <source>%1 %2</source>
+        <comment>one of several heirs: daughter 2</comment>
+        <translation>%1 %2</translation>
+    </message>
+    <message>
+        <source>names and signatures on a list, attached to this paper</source>
+        <translation>الأسماء والتوقيعات في كشف مرفق بهذه الورقة</translation>
+    </message>
+    <message>
+        <source>Prepared by</source>
+        <translation>مُعِدّ الورقة</translation>
+    </message>
+    <message>
+        <source>Witness %1</source>
+        <translation>الشاهد %1</translation>
     </message>
 </context>
 <context>
@@ -1760,6 +1765,10 @@ Do you want to replace it?</source>
     <message>
         <source>Shortfall</source>
         <translation>العجز</translation>
+    </message>
+    <message>
+        <source>Bequests of %1 lapse: funeral expenses and debts leave nothing for them.</source>
+        <translation>تسقط الوصايا البالغة %1: فلا يبقى لها شيء بعد نفقات التجهيز والديون.</translation>
     </message>
 </context>
 </TS>

@@ -1103,10 +1103,6 @@ Do you want to replace it?</source>
         <translation>فقہی مسلک</translation>
     </message>
     <message>
-        <source>The estate</source>
-        <translation>ترکہ</translation>
-    </message>
-    <message>
         <source>Alive, and receive nothing</source>
         <translation>زندہ ہیں مگر حصہ نہیں پاتے</translation>
     </message>
@@ -1119,20 +1115,12 @@ Do you want to replace it?</source>
         <translation>دستخط</translation>
     </message>
     <message>
-        <source>Place and date</source>
-        <translation>مقام اور تاریخ</translation>
-    </message>
-    <message>
         <source>The family</source>
         <translation>خاندان</translation>
     </message>
     <message>
         <source>Division of an estate</source>
         <translation>ترکے کی تقسیم</translation>
-    </message>
-    <message>
-        <source>The division</source>
-        <translation>تقسیم</translation>
     </message>
     <message>
         <source>Computed by %1 from the figures above. This paper is no judgment of a court and no fatwa: ask a scholar before the estate is divided.</source>
@@ -1201,6 +1189,23 @@ Do you want to replace it?</source>
         <source>Alive: %1.</source>
         <comment>a list of heirs</comment>
         <translation>زندہ وارث: %1۔</translation>
+    </message>
+    <message>
+        <source>%1 %2</source>
+        <comment>one of several heirs: daughter 2</comment>
+        <translation>%1 %2</translation>
+    </message>
+    <message>
+        <source>names and signatures on a list, attached to this paper</source>
+        <translation>نام اور دستخط ایک الگ فہرست میں جو اس کاغذ کے ساتھ منسلک ہے</translation>
+    </message>
+    <message>
+        <source>Prepared by</source>
+        <translation>تیار کنندہ</translation>
+    </message>
+    <message>
+        <source>Witness %1</source>
+        <translation>گواہ %1</translation>
     </message>
 </context>
 <context>
@@ -1760,6 +1765,10 @@ Do you want to replace it?</source>
     <message>
         <source>Shortfall</source>
         <translation>کمی</translation>
+    </message>
+    <message>
+        <source>Bequests of %1 lapse: funeral expenses and debts leave nothing for them.</source>
+        <translation>%1 کی وصیت ساقط ہے: تجہیز و تکفین اور قرض کے بعد اس کے لیے کچھ نہیں بچتا۔</translation>
     </message>
 </context>
 </TS>

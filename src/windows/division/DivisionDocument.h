@@ -1,11 +1,9 @@
 #pragma once
 
 #include <QDate>
-#include <QList>
 #include <QString>
 #include <memory>
 #include <optional>
-#include <utility>
 
 #include "division/DivisionView.h"
 
@@ -27,36 +25,27 @@ class DivisionDocument {
   QString FileName() const;
 
   /// The part with which a second page begins. A tree that needs a page stands after the signatures.
-  enum class Break { None, BeforeOthers, BeforeTree, BeforeTreeAlone };
+  enum class Break { None, BeforeOthers, BeforeTree, BeforeSignatures, BeforeTreeAlone };
   /// The contents of the pages. The family tree is an object in it.
   QString Html(Break where = Break::None) const;
   /// The last line of a page: a page that is found alone says whose it is. Pages are counted from 1.
   QString Foot(int page, int pages) const;
 
+  /// The text laid out for the device, in one or two pages.
+  std::unique_ptr<QTextDocument> LaidOutFor(QPagedPaintDevice& device) const;
   /// Fills the pages of a printer, a preview or a file. Margins are those of the device's layout.
   void Print(QPagedPaintDevice& device) const;
   /// Writes a PDF file, whole or not at all. What went wrong, in words; nothing if all went well.
   std::optional<QString> SavePdf(const QString& path) const;
 
-  /// Whose division it is, when, by whose law and what happened, with the table: HTML for letters,
-  /// tab-separated text for spreadsheets.
+  /// The same as HTML and as tab-separated text, for letters and spreadsheets, but for the tree and the
+  /// signatures.
   std::unique_ptr<QMimeData> ForClipboard() const;
 
  private:
-  /// A caption and what stands beside it.
-  using Fact = std::pair<QString, QString>;
-
-  /// The text laid out for the device, in one or two pages.
-  std::unique_ptr<QTextDocument> LaidOutFor(QPagedPaintDevice& device) const;
   std::unique_ptr<QTextDocument> LaidOutFor(QPagedPaintDevice& device, double points, Break where) const;
   QString Supposition() const;
-  QString Date() const;
-  QList<Fact> Facts() const;
   QString FactsTable() const;
-  QString Estate() const;
-  QString NothingLeft() const;
-  QString Hundredths() const;
-  QString OtherReport() const;
   QString Signatures() const;
 
   DivisionView view_;

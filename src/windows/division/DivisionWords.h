@@ -75,14 +75,15 @@ QString Bases(const faraid::Division& division);
 /// One line of the estate, such as "less debts" and the amount.
 struct EstateLine {
   QString Caption;
-  QString Amount;
+  faraid::Hundredths Amount;
 };
 /// The gross estate, what is paid before the heirs unless it is 0, and the net estate or the shortfall.
 std::vector<EstateLine> EstateLines(const DivisionView& view);
 /// The same in one line: "Gross estate 18,40,000.00 − debts 2,40,000.00 − bequests 1,00,000.00".
 QString EstateSummary(const DivisionView& view);
-/// "Bequests of 8,000.00 are limited to 4,000.00, ...", and that the heirs consent to more than a third, so
-/// that those who sign the paper read it. Empty where the bequests are neither cut nor above a third.
+/// "Bequests of 8,000.00 are limited to 4,000.00, ...", or lapse, and that the heirs consent to more than a
+/// third, so that those who sign the paper read it. Empty where the bequests are neither cut nor above a
+/// third.
 QString BequestNotice(const DivisionView& view);
 /// Names the fields that still hold the example; empty without any.
 QString ExampleNotice(const DivisionView& view);

@@ -15,18 +15,18 @@ QString OffFor(const QString& summary, const QString& what, faraid::Hundredths a
 }  // namespace
 
 std::vector<EstateLine> EstateLines(const DivisionView& view) {
-  std::vector<EstateLine> lines = {{Words::tr("Gross estate"), Amount(view.Estate.Gross)}};
+  std::vector<EstateLine> lines = {{Words::tr("Gross estate"), view.Estate.Gross}};
   const auto take = [&](const QString& caption, faraid::Hundredths amount) {
-    if (amount > 0) lines.push_back({Words::tr("less %1").arg(caption), Amount(amount)});
+    if (amount > 0) lines.push_back({Words::tr("less %1").arg(caption), amount});
   };
   take(Words::tr("funeral expenses"), view.Estate.Funeral);
   take(Words::tr("debts"), view.Estate.Debts);
   take(Words::tr("bequests"), view.Settlement.Bequests);
   if (view.Settlement.Shortfall > 0) {
-    lines.push_back({Words::tr("Shortfall"), Amount(view.Settlement.Shortfall)});
+    lines.push_back({Words::tr("Shortfall"), view.Settlement.Shortfall});
     return lines;
   }
-  lines.push_back({Words::tr("Net estate"), Amount(view.Settlement.Net)});
+  lines.push_back({Words::tr("Net estate"), view.Settlement.Net});
   return lines;
 }
 
@@ -38,8 +38,10 @@ QString EstateSummary(const DivisionView& view) {
 }
 
 QString BequestNotice(const DivisionView& view) {
-  if (!view.IsDivided()) return {};
+  if (!view.IsReadable() || view.Estate.Bequests == 0) return {};
   const QString asked = Amount(view.Estate.Bequests);
+  if (view.Estate.Gross <= view.Estate.Funeral + view.Estate.Debts)
+    return Words::tr("Bequests of %1 lapse: funeral expenses and debts leave nothing for them.").arg(asked);
   const QString limit = Amount(view.Settlement.Bequests);
   if (!view.Estate.HeirsConsent) {
     if (!view.BequestsAreCut()) return {};

@@ -15,17 +15,21 @@ enum class Order { FromTheLeft, AsRead };
 /// too, where numbers run from the left as well.
 enum class Side { Start, Figures };
 
+/// The side on which the text of the language begins: "left" or "right".
+QString StartSide();
+
 QString Escaped(const QString& words);
 QString Tag(const char* tag, const QString& words);
-/// Empty where there are no words.
-QString Paragraph(const QString& words);
+/// Empty where there are no words. A style is a class of the style sheet.
+QString Paragraph(const QString& words, const char* style = nullptr);
 
-/// A cell, of so many per cent of the table's width where that is not 0.
+/// A cell, of so many per cent of the table's width where that is not 0. Figures are not broken over two
+/// lines; a line break in the words is one in the cell.
 QString Cell(const QString& words, Side side = Side::Start, const char* tag = "td", int percent = 0,
              const QString& attributes = {});
 QString Row(QStringList cells, Order order = Order::FromTheLeft);
 /// The row that is repeated on every page.
 QString Head(const QString& row);
-QString Table(const QString& rows, bool ruled);
+QString Table(const QString& rows, bool ruled, bool onNewPage = false);
 
 }  // namespace qismora::markup

@@ -16,15 +16,14 @@ using markup::Row;
 using markup::Side;
 using words::Column;
 
+// Without widths, each column takes what its words need, and the reasons the rest.
 constexpr struct {
   Column Which;
   Side Where;
-  int Percent;
 } columns[] = {
-    {Column::Heir, Side::Start, 13},       {Column::Heads, Side::Figures, 6},
-    {Column::Share, Side::Figures, 7},     {Column::Parts, Side::Figures, 8},
-    {Column::Together, Side::Figures, 12}, {Column::Each, Side::Figures, 15},
-    {Column::Why, Side::Start, 27},        {Column::Source, Side::Start, 12},
+    {Column::Heir, Side::Start},    {Column::Heads, Side::Figures},    {Column::Share, Side::Figures},
+    {Column::Parts, Side::Figures}, {Column::Together, Side::Figures}, {Column::Each, Side::Figures},
+    {Column::Why, Side::Start},     {Column::Source, Side::Start},
 };
 
 QString CellText(Column column, const DivisionLine& line) {
@@ -64,6 +63,8 @@ QString SumText(Column column, const DivisionView& view) {
       return words::Number(view.Sum.Parts);
     case Column::Together:
       return words::Amount(view.Sum.Together);
+    case Column::Why:
+      return words::Bases(view.Division);
     default:
       return {};
   }
@@ -99,19 +100,21 @@ QString WithDecimalSeparator(QString number) {
   return number;
 }
 
-/// What a spreadsheet that reads text computes with: a share is a formula, since it would read 1/6 as a date,
-/// and amounts have the decimal separator of the desktop, as the spreadsheet has.
-QString SpreadsheetText(Column column, const DivisionLine& line) {
+/// A cell of the plain text. Amounts have the decimal separator of the desktop and no groups, which a
+/// spreadsheet may not know. A share reads as in a letter, 1/9: a spreadsheet, which would take it for a
+/// date, pastes the HTML, where the share is marked as text.
+QString PlainText(Column column, const DivisionLine& line) {
   const faraid::Fraction& share = line.Law.Share;
   if (column == Column::Share) {
     return share.Den() == 1 ? QString::number(share.Num())
-                            : QStringLiteral("=%1/%2").arg(share.Num()).arg(share.Den());
+                            : QStringLiteral("%1/%2").arg(share.Num()).arg(share.Den());
   }
   const QString number = NumberOf(column, line);
   return number.isEmpty() ? CellText(column, line) : WithDecimalSeparator(number);
 }
 
-QString SpreadsheetSum(Column column, const DivisionView& view) {
+/// As NumberOf, for the row of the sum.
+QString NumberOfSum(Column column, const DivisionView& view) {
   switch (column) {
     case Column::Heads:
       return QString::number(view.Sum.Heads);
@@ -120,19 +123,42 @@ QString SpreadsheetSum(Column column, const DivisionView& view) {
     case Column::Parts:
       return QString::number(view.Sum.Parts);
     case Column::Together:
-      return WithDecimalSeparator(PlainAmount(view.Sum.Together));
+      return PlainAmount(view.Sum.Together);
     default:
-      return SumText(column, view);
+      return {};
   }
 }
 
+QString PlainSum(Column column, const DivisionView& view) {
+  const QString number = NumberOfSum(column, view);
+  return number.isEmpty() ? SumText(column, view) : WithDecimalSeparator(number);
+}
+
 /// What a spreadsheet that reads HTML goes by instead of the words, whatever their digits.
-QString ForSpreadsheets(Column column, const DivisionLine& line) {
-  const QString number = NumberOf(column, line);
+QString ForSpreadsheets(const QString& number) {
   return number.isEmpty() ? QString() : QStringLiteral(" x:num=\"%1\" sdval=\"%1\"").arg(number);
 }
 
+/// 33.33; one of them 33.34: on paper, the words stand between the figures, and the figures below each other.
+/// No figure of the three languages has a blank. A spreadsheet would make three cells of the lines.
+QString InLines(QString each) {
+  for (const auto blank : {each.indexOf(QLatin1Char(' ')), each.lastIndexOf(QLatin1Char(' '))}) {
+    if (blank > 0) each[blank] = QLatin1Char('\n');
+  }
+  return each;
+}
+
 }  // namespace
+
+QString TableOfEstate(const DivisionView& view, Order order) {
+  QString rows;
+  for (const words::EstateLine& line : words::EstateLines(view)) {
+    rows += Row({Cell(line.Caption), Cell(words::Amount(line.Amount), Side::Figures, "td", 0,
+                                          ForSpreadsheets(PlainAmount(line.Amount)))},
+                order);
+  }
+  return markup::Table(rows, true);
+}
 
 QString TableOfTakers(const DivisionView& view, Order order) {
   const auto row = [&](auto cellOf) {
@@ -141,16 +167,25 @@ QString TableOfTakers(const DivisionView& view, Order order) {
     return Row(cells, order);
   };
   QString rows = Head(row([&](const auto& column) {
-    return Cell(words::Heading(column.Which, view.Division.CorrectedBase), column.Where, "th",
-                column.Percent);
+    return Cell(words::Heading(column.Which, view.Division.CorrectedBase), column.Where, "th");
   }));
   for (const DivisionLine& line : view.Takers) {
     rows += row([&](const auto& column) {
-      return Cell(CellText(column.Which, line), column.Where, "td", 0, ForSpreadsheets(column.Which, line));
+      const QString words = CellText(column.Which, line);
+      const bool inLines = column.Which == Column::Each && order == Order::FromTheLeft;
+      return Cell(inLines ? InLines(words) : words, column.Where, "td", 0,
+                  ForSpreadsheets(NumberOf(column.Which, line)));
     });
   }
-  rows += row([&](const auto& column) { return Cell(SumText(column.Which, view), column.Where, "th"); });
-  return markup::Table(rows, true);
+  QStringList sum;
+  for (const auto& column : columns) {
+    if (column.Which != Column::Why && column.Which != Column::Source) {
+      sum.append(Cell(SumText(column.Which, view), column.Where, "th", 0,
+                      ForSpreadsheets(NumberOfSum(column.Which, view))));
+    }
+  }
+  sum.append(Cell(SumText(Column::Why, view), Side::Start, "td", 0, QStringLiteral(" colspan=\"2\"")));
+  return markup::Table(rows + Row(sum, order), true);
 }
 
 QString TableOfOthers(const DivisionView& view, Order order) {
@@ -165,13 +200,16 @@ QString TableOfOthers(const DivisionView& view, Order order) {
   QString rows =
       Head(row([&](Column column) { return Cell(words::Heading(column, 0), side(column), "th"); }));
   for (const DivisionLine& line : view.Others) {
-    rows += row([&](Column column) { return Cell(CellText(column, line), side(column)); });
+    rows += row([&](Column column) {
+      const QString number = column == Column::Heads ? NumberOf(column, line) : QString();
+      return Cell(CellText(column, line), side(column), "td", 0, ForSpreadsheets(number));
+    });
   }
   return markup::Tag("h3", HeadingOfOthers()) + markup::Table(rows, true);
 }
 
 // Who stand for the same reason stand in one row.
-QString OthersByReason(const DivisionView& view) {
+QString OthersByReason(const DivisionView& view, bool onNewPage) {
   struct Group {
     const DivisionLine* First;
     QStringList Names;
@@ -189,14 +227,23 @@ QString OthersByReason(const DivisionView& view) {
       same->Names.append(heads);
     }
   }
-  QString rows = Head(Row({Cell(words::Heading(Column::Heir, 0), Side::Start, "th", 50),
-                           Cell(words::Heading(Column::Why, 0), Side::Start, "th", 30),
-                           Cell(words::Heading(Column::Source, 0), Side::Start, "th", 20)}));
+  QString rows = Head(Row({Cell(HeadingOfOthers(), Side::Start, "th"),
+                           Cell(words::Heading(Column::Why, 0), Side::Start, "th"),
+                           Cell(words::Heading(Column::Source, 0), Side::Start, "th")}));
   for (const Group& group : std::as_const(groups)) {
     rows += Row({Cell(group.Names.join(words::ListSeparator())), Cell(CellText(Column::Why, *group.First)),
                  Cell(CellText(Column::Source, *group.First))});
   }
-  return groups.isEmpty() ? QString() : markup::Table(rows, true);
+  return markup::Table(rows, true, onNewPage);
+}
+
+QString EstateAsText(const DivisionView& view) {
+  QString text;
+  for (const words::EstateLine& line : words::EstateLines(view)) {
+    text +=
+        line.Caption + QLatin1Char('\t') + WithDecimalSeparator(PlainAmount(line.Amount)) + QLatin1Char('\n');
+  }
+  return text;
 }
 
 QString TableAsText(const DivisionView& view) {
@@ -208,9 +255,9 @@ QString TableAsText(const DivisionView& view) {
   };
   add([&](Column column) { return words::Heading(column, view.Division.CorrectedBase); });
   for (const auto* group : {&view.Takers, &view.Others}) {
-    for (const DivisionLine& line : *group) add([&](Column column) { return SpreadsheetText(column, line); });
+    for (const DivisionLine& line : *group) add([&](Column column) { return PlainText(column, line); });
   }
-  add([&](Column column) { return SpreadsheetSum(column, view); });
+  add([&](Column column) { return PlainSum(column, view); });
   return lines.join(QLatin1Char('\n')) + QLatin1Char('\n');
 }
 

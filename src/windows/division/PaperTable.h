@@ -6,13 +6,16 @@
 // The tables of a division, for the paper and the clipboard.
 namespace qismora {
 
-/// Those who take, with the sum.
+/// How the estate became what is divided.
+QString TableOfEstate(const DivisionView& view, markup::Order order);
+/// Those who take, with the sum and the bases.
 QString TableOfTakers(const DivisionView& view, markup::Order order);
 /// Those who are alive and receive nothing; empty where there are none.
 QString TableOfOthers(const DivisionView& view, markup::Order order);
-/// The same with those in one row who stand there for the same reason.
-QString OthersByReason(const DivisionView& view);
-/// All heirs and the sum as tab-separated text.
+/// The same with those in one row who stand there for the same reason; for paper.
+QString OthersByReason(const DivisionView& view, bool onNewPage);
+/// The estate, and all heirs and the sum, as tab-separated text.
+QString EstateAsText(const DivisionView& view);
 QString TableAsText(const DivisionView& view);
 
 /// The heading of those who receive nothing.

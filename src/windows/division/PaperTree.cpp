@@ -13,13 +13,14 @@ namespace qismora {
 namespace {
 
 constexpr int pointsPerInch = 72;
-/// In points, whatever the resolution of the device. A tree that is too large takes the smaller size.
+/// In points, whatever the resolution of the device. The smaller size is that of a tree that is too large, or
+/// whose larger size would not be below that of the text around it.
 constexpr int textSizes[] = {8, 7};
 /// Of a page.
 constexpr double highest = 0.6;
 constexpr double paperArrow = 4;
 constexpr WrittenTree::Spacing paperSpacing = {
-    .AcrossText = 4, .DownText = 2, .LeastWidth = 50, .Gap = 6, .RowGap = 16, .Link = 4};
+    .AcrossText = 4, .DownText = 2, .LeastWidth = 50, .Gap = 6, .RowGap = 14, .Link = 4};
 
 }  // namespace
 
@@ -28,9 +29,10 @@ PaperTree::PaperTree(const DivisionView& view, const QString& title, const QFont
     : QObject(parent), tree_(view), title_(title), font_(font), page_(page) {
   for (const int size : textSizes) {
     font_.setPixelSize(size);
-    titleHeight_ = 2 * QFontMetricsF(font_).lineSpacing();
+    titleHeight_ = 1.3 * QFontMetricsF(font_).lineSpacing();
     tree_.LayOut(font_, paperSpacing, static_cast<int>(page.width()) - 2);
-    if (Size().width() <= page.width() && Size().height() <= highest * page.height()) break;
+    const bool fits = Size().width() <= page.width() && Size().height() <= highest * page.height();
+    if (fits && size < font.pointSizeF()) break;
   }
 }
 
