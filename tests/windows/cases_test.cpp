@@ -1,5 +1,6 @@
 // The state of the answer and the case files on the real windows, with real clicks and keys.
 #include <QAction>
+#include <QApplication>
 #include <QComboBox>
 #include <QDragEnterEvent>
 #include <QLabel>
@@ -57,6 +58,33 @@ class CasesTest : public QObject {
     study_->Document().New();  // asks, and is closed: nothing is lost
     QCOMPARE(boxes_.Take().size(), 1);
     QVERIFY(Find<QLineEdit>(study_, "Text1(2)")->text() == QLatin1String("101"));
+  }
+
+  // Nothing of the state is clipped in any language. Where its end is cut, Tab leads to it and Return shows
+  // all of it.
+  void aLongStateCanBeReadWhole() {
+    auto* state = Find<QLabel>(study_, "AnswerState");
+    Type("Text1(3)", "40000");
+    Key(Qt::Key_F5, Qt::NoModifier);
+    boxes_.Take();
+    for (const Language language : AllLanguages) {
+      SetLanguage(language);
+      QTRY_VERIFY(state->height() >= state->fontMetrics().tightBoundingRect(state->text()).height());
+    }
+    SetLanguage(Language::English);
+    QVERIFY(state->text().endsWith(QStringLiteral("Funeral expenses")));
+    QFont font = state->font();
+    font.setPixelSize(2 * font.pixelSize());
+    state->setFont(font);
+    for (int i = 0; i < 100 && study_->focusWidget() != state; ++i) Key(Qt::Key_Tab, Qt::NoModifier);
+    QCOMPARE(study_->focusWidget(), state);
+    QTest::keyClick(state, Qt::Key_Return);
+    QTRY_VERIFY(QApplication::activePopupWidget() != nullptr);
+    QTest::keyClick(QApplication::activePopupWidget(), Qt::Key_Escape);
+    Type("Text1(3)", "1");
+    Key(Qt::Key_F5, Qt::NoModifier);
+    boxes_.Take();
+    QCOMPARE(state->focusPolicy(), Qt::NoFocus);
   }
 
   // What the commands call final may differ from classical law; the state leads to the division.

@@ -36,11 +36,8 @@ bool IsWarning(AnswerStanding standing) {
 AnswerStrip::AnswerStrip(CaseStudy& form, CaseDocument& document, QWidget* parent)
     : QFrame(parent), form_(form), answer_(new AnnouncedLabel(QStringLiteral("AnswerState"), this)) {
   setObjectName(QStringLiteral("AnswerStrip"));
-  file_ = new QLabel(this);
-  file_->setObjectName(QStringLiteral("CaseTitle"));
-  file_->setTextFormat(Qt::PlainText);
-  // The form leaves little more than the height of the text.
-  setFixedHeight(fontInfo().pixelSize() + 2);
+  file_ = new AnnouncedLabel(QStringLiteral("CaseTitle"), this);
+  file_->setSizePolicy(QSizePolicy::Fixed, QSizePolicy::Preferred);
   auto* row = new QHBoxLayout(this);
   row->setContentsMargins(margins);
   row->setSpacing(gap);
@@ -49,9 +46,8 @@ AnswerStrip::AnswerStrip(CaseStudy& form, CaseDocument& document, QWidget* paren
 
   Binder::Follow(document.Title, [this, &document] {
     const QString title = ToQt(document.Title.Get());
-    file_->setText(file_->fontMetrics().elidedText(title, Qt::ElideMiddle, widestTitle));
-    file_->setToolTip(document.Path().empty() ? title : ToQt(document.Path()));
-    file_->setAccessibleName(title);
+    file_->SetWords(file_->fontMetrics().elidedText(title, Qt::ElideMiddle, widestTitle), title);
+    if (!document.Path().empty()) file_->setToolTip(ToQt(document.Path()));
   });
   form.AnswerWords.WhenChanged([this] { ShowAnswer(); });
   Translate();
@@ -84,8 +80,8 @@ ReadingsPanel::ReadingsPanel(CaseStudy& form, QWidget* parent)
   Binder::Follow<int>(form.EventsEnded, show);
 }
 
-// Only the first sentence has the space to be read whole; the tool tip and screen readers have all of them. A
-// sentence changes with each key; it is announced when another field has come to it.
+// Only the first sentence has the space to be read whole; Return or a click shows all of them. A sentence
+// changes with each key; it is announced when another field has come to it.
 void ReadingsPanel::Translate() {
   QStringList sentences;
   for (const Message& sentence : form_.Misreadings(grouping_)) sentences.append(CaseWords::Of(sentence));
@@ -94,10 +90,8 @@ void ReadingsPanel::Translate() {
   setVisible(!sentences.isEmpty());
   const qsizetype others = sentences.size() - 1;
   const QString first = sentences.value(0);
-  SetWords(others > 0 ? CaseWords::tr("%1, and %2 more").arg(first).arg(others) : first);
-  const QString all = sentences.join(QStringLiteral("; "));
-  setToolTip(all);
-  setAccessibleName(all);
+  SetWords(others > 0 ? CaseWords::tr("%1, and %2 more").arg(first).arg(others) : first,
+           sentences.join(QStringLiteral("; ")));
   if (sentences.size() > std::exchange(misread_, sentences.size())) Announce(this);
 }
 

@@ -16,12 +16,15 @@ class AnswerStrip : public QFrame {
   /// All words in the current language, from the side on which it begins.
   void Translate();
 
+  /// In the order of the Tab key.
+  QList<QWidget*> Lines() { return {answer_, file_}; }
+
  private:
   void ShowAnswer();
 
   CaseStudy& form_;
   AnnouncedLabel* answer_;
-  QLabel* file_;
+  AnnouncedLabel* file_;
 };
 
 /// A panel of the status bar that says which field is read differently from what stands in it, and how many

@@ -146,14 +146,14 @@ void CaseStudyWindow::BuildStatusBar(CasePorts& ports) {
   statusBar()->addWidget(readings_, readingsStretch);
   readings_->hide();  // the first texts are read as they stand
 
-  auto* saves = new SavePanel(ToQt(ports.Folders.Reports()), this);
-  statusBar()->addPermanentWidget(saves, 1);
-  ports.SaveEnded = [saves = QPointer<SavePanel>(saves)](const SaveOutcome& outcome) {
+  saves_ = new SavePanel(ToQt(ports.Folders.Reports()), this);
+  statusBar()->addPermanentWidget(saves_, 1);
+  ports.SaveEnded = [saves = QPointer<SavePanel>(saves_)](const SaveOutcome& outcome) {
     if (saves != nullptr) saves->ShowOutcome(outcome);
   };
   // What became of a save is said until the next case is typed.
   for (int i = 0; i < form_.Text1.Size; ++i)
-    form_.Text1(i).Text.WhenChanged([saves] { saves->ShowFolder(); });
+    form_.Text1(i).Text.WhenChanged([saves = saves_] { saves->ShowFolder(); });
 }
 
 void CaseStudyWindow::BuildTimer() {
@@ -173,9 +173,9 @@ void CaseStudyWindow::KeepOnTop() {
   move(windowPlace);
 }
 
-// Tab moves from field to field, as a case is typed, then to the text of the answer, and only then to the
-// captions that compute. The texts, still covered, take the focus for a moment to get their place in the
-// order.
+// Tab moves from field to field, as a case is typed, then to the text of the answer and the lines below that
+// are cut, and only then to the captions that compute. The texts, still covered, and the lines take the focus
+// for a moment to get their place in the order.
 void CaseStudyWindow::OrderTabs() {
   QWidget* last = nullptr;
   const auto chain = [&](const QList<QWidget*>& widgets, bool captions) {
@@ -190,6 +190,10 @@ void CaseStudyWindow::OrderTabs() {
   const auto texts = Frame111()->findChildren<QPlainTextEdit*>();
   for (QPlainTextEdit* text : texts) text->setFocusPolicy(Qt::StrongFocus);
   chain(all, false);
+  const QList<QWidget*> lines = strip_->Lines() + QList<QWidget*>{readings_, saves_};
+  for (QWidget* line : lines) line->setFocusPolicy(Qt::TabFocus);
+  chain(lines, false);
+  for (QWidget* line : lines) line->setFocusPolicy(Qt::NoFocus);
   chain(all, true);
   for (QPlainTextEdit* text : texts) text->setFocusPolicy(Qt::NoFocus);
 }

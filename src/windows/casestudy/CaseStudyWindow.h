@@ -14,6 +14,7 @@ class AnswerStrip;
 class CaseFileMenu;
 class DivisionOpener;
 class ReadingsPanel;
+class SavePanel;
 
 /// The window of the Case Study screen. Closing it destroys it with its form, so that the next opening starts
 /// with a new one.
@@ -47,6 +48,7 @@ class CaseStudyWindow : public FormHolder<CaseStudy>, public FormWindow {
   QToolButton* divisionLine_ = nullptr;
   CaseFileMenu* fileMenu_ = nullptr;
   ReadingsPanel* readings_ = nullptr;
+  SavePanel* saves_ = nullptr;
   AnswerStrip* strip_ = nullptr;
 };
 

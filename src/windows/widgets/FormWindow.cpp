@@ -19,6 +19,8 @@ namespace qismora {
 namespace {
 
 constexpr int twips = 15;
+/// Pixels above the panels of a status bar.
+constexpr int statusMargin = 3;
 constexpr QSize formSize{CentredFrame::Width / twips, CentredFrame::Height / twips};
 
 }  // namespace
@@ -54,13 +56,23 @@ QLabel* FormWindow::AddPanel(const char* name, const QString& accessibleName) {
 
 void FormWindow::AddStrip(QWidget* strip) {
   strip_ = strip;
+  stripPlace_ = new QWidget(this);
+  stripPlace_->setFixedHeight(strip->fontInfo().pixelSize() + 2);
   auto* place = new QWidget(this);
   auto* rows = new QVBoxLayout(place);
   rows->setContentsMargins(0, 0, 0, 0);
   rows->setSpacing(0);
   rows->addWidget(takeCentralWidget(), 1);
-  rows->addWidget(strip);
+  rows->addWidget(stripPlace_);
   setCentralWidget(place);
+  place->installEventFilter(this);
+  stripPlace_->installEventFilter(this);
+  strip->raise();
+}
+
+void FormWindow::PlaceStrip() {
+  const QRect place(stripPlace_->mapTo(this, QPoint()), stripPlace_->size());
+  strip_->setGeometry(place.adjusted(0, 0, 0, statusMargin));
 }
 
 // The frame extends below the status bar, because the menu and the status bar are part of the form's height.
@@ -103,7 +115,9 @@ void FormWindow::BringIntoSight(const QWidget* widget) {
 
 // The background is resized after the window, so the size of the window is known.
 bool FormWindow::eventFilter(QObject* watched, QEvent* event) {
+  const bool isPlaced = event->type() == QEvent::Resize || event->type() == QEvent::Move;
   if (watched == background_ && event->type() == QEvent::Resize) PlaceFrame();
+  if (isPlaced && strip_ != nullptr && (watched == stripPlace_ || watched == centralWidget())) PlaceStrip();
   return QMainWindow::eventFilter(watched, event);
 }
 

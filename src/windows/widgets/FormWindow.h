@@ -24,7 +24,8 @@ class FormWindow : public QMainWindow {
   QWidget* Background() { return background_; }
   /// Adds a panel to the status bar.
   QLabel* AddPanel(const char* name, const QString& accessibleName);
-  /// Adds a widget of full width above the status bar, instead of the margin there.
+  /// Adds a line of full width above the status bar, instead of the margin there. The form leaves it little
+  /// more than the height of its text, so that it also has the margin within the status bar.
   void AddStrip(QWidget* strip);
   /// Call it when all controls exist. A window with larger text than usual grows instead of cutting it.
   void SetSizes(const QSize& window, int margin);
@@ -41,10 +42,12 @@ class FormWindow : public QMainWindow {
 
  private:
   void PlaceFrame();
+  void PlaceStrip();
 
   CentredFrame& placed_;
   QScrollArea* scroll_;
   QWidget* strip_ = nullptr;
+  QWidget* stripPlace_ = nullptr;
   QWidget* background_;
   QWidget* frame_;
   QSize frameSize_;
