@@ -2,6 +2,7 @@
 
 #include <algorithm>
 #include <array>
+#include <cstdlib>
 #include <optional>
 #include <utility>
 
@@ -16,25 +17,28 @@ namespace {
 using faraid::Kind;
 using faraid::KindSet;
 
+constexpr KindSet halfSiblings = faraid::ConsanguineSiblings | faraid::UterineSiblings;
+constexpr int father = 0;
+constexpr int mother = 1;
+static_assert(Ascendants[father].Heir == Kind::Father && Ascendants[mother].Heir == Kind::Mother);
+
 /// Where no arrangement is narrow enough, so much height is worth one more of width.
 constexpr int costOfWidth = 3;
 
-/// Of class II, the further ones stand beside the descendants.
+/// Of those who stand beside the deceased in more rows, the further ones stand beside the descendants.
 constexpr int mostRowsBeside = 6;
 
 /// How brothers and sisters and class II stand beside the deceased.
 struct Arrangement {
   /// Sisters beside their brothers, or below them.
   bool SistersBeside;
+  /// Of class II, to the left of brothers and sisters; 0 where class II stands below them.
   int MostClassIIRows;
-  /// Below the deceased, beside the line of the descendants.
-  bool SpouseBelow;
 };
 
 // From the lowest to the narrowest.
 constexpr Arrangement arrangements[] = {
-    {true, 3, false},  {true, 4, false}, {true, 6, false},
-    {false, 6, false}, {false, 6, true}, {false, 12, true},
+    {true, 3}, {true, 4}, {true, 6}, {true, 0}, {false, 4}, {false, 6}, {false, 12}, {false, 0},
 };
 
 class Layout {
@@ -51,9 +55,8 @@ class Layout {
         0, DeceasedRow);
     AddAscendants();
     AddDescendants();
-    AddSiblings();
-    AddSpouse();
-    AddClassII();
+    AddLeftSide();
+    AddRightSide();
   }
 
   int Width() const {
@@ -71,7 +74,7 @@ class Layout {
 
   FamilyTree Finish() {
     FamilyTree tree;
-    rows_.Place(tree, Sides(), Margin(), alive_.HasAny(faraid::Siblings | faraid::ClassII));
+    rows_.Place(tree, Sides(), Margin(), alive_.HasAny(faraid::FullSiblings));
     // The deceased stays the first.
     std::ranges::sort(tree.Nodes.begin() + 1, tree.Nodes.end(), [](const TreeNode& a, const TreeNode& b) {
       return std::pair(a.Y, a.X) < std::pair(b.Y, b.X);
@@ -84,30 +87,24 @@ class Layout {
  private:
   int Step() const { return m_.NodeWidth + m_.Gap; }
   int HeightOf(Kind heir) const { return taking_.Has(heir) ? m_.NodeHeight : m_.OtherHeight; }
-  int GridStep(KindSet heirs) const {
-    return (taking_.HasAny(heirs) ? m_.NodeHeight : m_.OtherHeight) + m_.Gap;
-  }
 
-  void Add(const TreeNode& node, int middle, int row) {
-    const bool isBesideDescendants = middle > mostRowsBeside * GridStep(faraid::ClassII) / 2;
-    if (isBesideDescendants) {
-      rows_.AddBesideRows(node, middle, row);
-    } else {
-      rows_.Add(node, middle, row);
-    }
+  void Add(const TreeNode& node, int middle, int row) { rows_.Add(node, middle, row); }
+  TreeNode HeirNode(Kind heir, int centre) const {
+    return {TreeNode::Role::Heir, heir, centre - m_.NodeWidth / 2, 0, m_.NodeWidth, HeightOf(heir)};
   }
-  void AddHeir(Kind heir, int centre, int row, int middle = 0) {
-    Add({TreeNode::Role::Heir, heir, centre - m_.NodeWidth / 2, 0, m_.NodeWidth, HeightOf(heir)}, middle,
-        row);
+  TreeNode LinkNode(Kind heir, int centre) const {
+    return {TreeNode::Role::Link, heir, centre - m_.Link / 2, 0, m_.Link, m_.Link};
   }
-  void AddLink(int centre, int row) {
-    Add({TreeNode::Role::Link, Kind::Remainder, centre - m_.Link / 2, 0, m_.Link, m_.Link}, 0, row);
-  }
+  void AddHeir(Kind heir, int centre, int row) { Add(HeirNode(heir, centre), 0, row); }
+  void AddLink(Kind heir, int centre, int row) { Add(LinkNode(heir, centre), 0, row); }
   void AddLine(std::vector<TreeEnd> ends) { rows_.AddLine(std::move(ends)); }
 
+  /// Half brothers and sisters need both parents, so that the picture shows which of them is theirs too.
   bool IsNeeded(int ascendant) const {
     if (ascendant == Nobody) return false;
     const Ascendant& person = Ascendants[ascendant];
+    if (ascendant == father && alive_.HasAny(halfSiblings | faraid::ClassII)) return true;
+    if (ascendant == mother && alive_.HasAny(halfSiblings)) return true;
     return alive_.Has(person.Heir) || std::ranges::any_of(person.Parents, [&](int p) { return IsNeeded(p); });
   }
 
@@ -135,8 +132,9 @@ class Layout {
       if (alive) {
         AddHeir(person.Heir, block.Centre, parentRow);
       } else {
-        AddLink(block.Centre, parentRow);
+        AddLink(person.Heir, block.Centre, parentRow);
       }
+      if (person.Generation == 1) parents_[static_cast<std::size_t>(parent)] = block.Centre;
       centres.push_back(block.Centre);
       x += block.Width + m_.Gap;
       width += block.Width + (width > 0 ? m_.Gap : 0);
@@ -167,8 +165,9 @@ class Layout {
   // Laid out from 0 and then moved, so that the deceased stands between the parents.
   void AddAscendants() {
     const auto before = rows_.Count();
-    const Block block = PlaceParents({0, 1}, 0, DeceasedRow, 0);
+    const Block block = PlaceParents({father, mother}, 0, DeceasedRow, 0);
     rows_.MoveRight(before, -block.Centre);
+    for (int& centre : parents_) centre -= block.Centre;
   }
 
   // The trunk runs down the middle, through the child who has died.
@@ -185,7 +184,7 @@ class Layout {
       const bool alone = !goesOn && male != female;
       const int side = alone ? 0 : (Step() + (goesOn ? m_.Link + m_.Gap : 0)) / 2;
       if (goesOn) {
-        AddLink(0, row);
+        AddLink(Kind::Remainder, 0, row);
         AddLine({{0, row - 1}, {0, row}});
       }
       for (const auto& [heir, centre] :
@@ -200,91 +199,180 @@ class Layout {
     }
   }
 
-  // One row for each kind of kinship, or for each kind of heir; the whole hangs from a line that leaves above
-  // the deceased.
-  void AddSiblings() {
-    const int edge = -m_.DeceasedWidth / 2 - m_.Gap;
-    const int spine = edge - m_.Gap / 2;
-    const int nearest = spine - m_.Gap - m_.NodeWidth / 2;
-    std::vector<std::vector<Kind>> rows;
-    for (const Descent& pair : SiblingKinds) {
-      std::vector<Kind> row;
-      for (const Kind heir : {pair.Female, pair.Male}) {
-        if (!alive_.Has(heir)) continue;
-        if (!row.empty() && !arrangement_.SistersBeside) rows.push_back(std::exchange(row, {}));
-        row.push_back(heir);
-      }
-      if (!row.empty()) rows.push_back(row);
+  /// Heirs who stand side by side beside the deceased, the nearest first.
+  struct Rank {
+    std::vector<Kind> Heirs;
+    int Middle = 0;
+    std::vector<int> Centres;
+    /// Where a line from beside meets it: its only heir, or the line above several.
+    int Meets = 0;
+  };
+  using Ranks = std::vector<Rank>;
+
+  /// One rank for each kind of kinship, or for each kind of heir.
+  Ranks RanksOf(const Descent& kinship) const {
+    Ranks ranks;
+    for (const Kind heir : {kinship.Female, kinship.Male}) {
+      if (!alive_.Has(heir)) continue;
+      if (ranks.empty() || !arrangement_.SistersBeside) ranks.emplace_back();
+      ranks.back().Heirs.push_back(heir);
     }
-    const int count = static_cast<int>(rows.size());
-    std::vector<std::pair<int, int>> hanging;
-    for (int i = 0; i < count; ++i) {
-      const int middle = MiddleOf(i, count, GridStep(faraid::Siblings));
-      int x = nearest;
-      for (const Kind heir : rows[static_cast<std::size_t>(i)]) {
-        AddHeir(heir, x, DeceasedRow, middle);
-        x -= Step();
-      }
-      hanging.emplace_back(x + Step(), middle);
-    }
-    Hang(spine, hanging);
+    return ranks;
   }
-
-  static int MiddleOf(int line, int count, int step) { return (2 * line - count + 1) * step / 2; }
-
-  /// Each row hangs from a line that goes down beside them; a row is its end and its middle.
-  void Hang(int spine, const std::vector<std::pair<int, int>>& rows) {
-    if (rows.empty()) return;
-    AddLine({{0, DeceasedRow},
-             {0, DeceasedRow, TreeEnd::Edge::Above},
-             {spine, DeceasedRow, TreeEnd::Edge::Above},
-             {spine, DeceasedRow, TreeEnd::Edge::Middle, rows.back().second}});
-    for (const auto& [end, middle] : rows) {
-      AddLine({{spine, DeceasedRow, TreeEnd::Edge::Middle, middle},
-               {end, DeceasedRow, TreeEnd::Edge::Middle, middle}});
-    }
-  }
-
-  void AddSpouse() {
-    const int edge = m_.DeceasedWidth / 2 + m_.Gap;
-    right_ = edge;
-    const KindSet spouses = alive_ & faraid::Spouses;
-    for (const Kind spouse : spouses) {
-      const bool below = arrangement_.SpouseBelow;
-      const int left = below ? m_.Gap : edge + m_.Gap;
-      const int middle = below ? (m_.DeceasedHeight + HeightOf(spouse)) / 2 + m_.Gap : 0;
-      AddHeir(spouse, left + m_.NodeWidth / 2, DeceasedRow, middle);
-      right_ = std::max(right_, left + m_.NodeWidth + m_.Gap);
-      if (below) {
-        AddLine({{0, DeceasedRow},
-                 {edge, DeceasedRow},
-                 {edge, DeceasedRow, TreeEnd::Edge::Middle, middle},
-                 {left + m_.NodeWidth / 2, DeceasedRow, TreeEnd::Edge::Middle, middle}});
-      } else {
-        AddLine({{0, DeceasedRow}, {left + m_.NodeWidth / 2, DeceasedRow}});
-      }
-    }
-  }
-
-  void AddClassII() {
+  Ranks RanksOfClassII() const {
     std::vector<Kind> heirs;
     const KindSet classII = alive_ & faraid::ClassII;
     for (const Kind heir : classII) heirs.push_back(heir);
-    if (heirs.empty()) return;
     const int count = static_cast<int>(heirs.size());
-    const int columns = (count + arrangement_.MostClassIIRows - 1) / arrangement_.MostClassIIRows;
-    const int rows = (count + columns - 1) / columns;
-    if (rows > mostRowsBeside) right_ = std::max(right_, rows_.RightBelow());
-    const int spine = right_ + m_.Gap / 2;
-    const int nearest = spine + m_.Gap + m_.NodeWidth / 2;
-    std::vector<std::pair<int, int>> hanging;
+    const int most = arrangement_.MostClassIIRows;
+    const int columns = most == 0 ? (arrangement_.SistersBeside ? 2 : 1) : (count + most - 1) / most;
+    Ranks ranks;
     for (int i = 0; i < count; ++i) {
-      const int middle = MiddleOf(i / columns, std::min(rows, mostRowsBeside), GridStep(faraid::ClassII));
-      const int x = nearest + i % columns * Step();
-      AddHeir(heirs[static_cast<std::size_t>(i)], x, DeceasedRow, middle);
-      if (i % columns == columns - 1 || i == count - 1) hanging.emplace_back(x, middle);
+      if (i % columns == 0) ranks.emplace_back();
+      ranks.back().Heirs.push_back(heirs[static_cast<std::size_t>(i)]);
     }
-    Hang(spine, hanging);
+    return ranks;
+  }
+
+  /// Where so many ranks can stand: those that stand beside the descendants are clear of them.
+  int ClearOfDescendants(std::size_t ranks, int side, int from) const {
+    if (ranks <= mostRowsBeside) return from;
+    return side * std::max(side * from, side * rows_.SideBelow(side) + m_.Gap);
+  }
+
+  /// Places ranks one below the other, to the left (-1) or to the right (1) of a vertical line. Returns their
+  /// other side.
+  int PlaceRanks(std::initializer_list<Ranks*> groups, int side, int from) {
+    int count = 0;
+    int step = 0;
+    std::size_t columns = 0;
+    for (const Ranks* group : groups) {
+      for (const Rank& rank : *group) {
+        ++count;
+        columns = std::max(columns, rank.Heirs.size());
+        for (const Kind heir : rank.Heirs) step = std::max(step, HeightOf(heir) + m_.Gap);
+      }
+    }
+    int i = 0;
+    for (Ranks* group : groups) {
+      for (Rank& rank : *group) {
+        rank.Middle = (2 * i - std::min(count, mostRowsBeside) + 1) * step / 2;
+        int x = from + side * m_.NodeWidth / 2;
+        for (const Kind heir : rank.Heirs) {
+          rank.Centres.push_back(x);
+          if (i < mostRowsBeside) {
+            rows_.Add(HeirNode(heir, x), rank.Middle, DeceasedRow);
+          } else {
+            rows_.AddBesideRows(HeirNode(heir, x), rank.Middle, DeceasedRow);
+          }
+          x += side * Step();
+        }
+        rank.Meets = rank.Heirs.size() == 1 ? rank.Middle : rank.Middle - step / 2;
+        ++i;
+      }
+    }
+    return from + side * (static_cast<int>(columns) * Step() - m_.Gap);
+  }
+
+  /// A place for a line down from a parent, so far out at least: it leaves below the outer half of the node
+  /// or beside it, but never along its edge, and does not meet the line of the couple.
+  int PlaceBelow(int parent, int side, int least) const {
+    const int centre = parents_[static_cast<std::size_t>(parent)];
+    if (!IsAlive(parent)) return side * std::max(side * least, side * centre + m_.Gap);
+    const int out = std::max(side * (least - centre), m_.NodeWidth / 4);
+    const int half = m_.NodeWidth / 2;
+    const bool alongEdge = out > half - m_.Gap / 2 && out < half + m_.Gap / 2;
+    return centre + side * (alongEdge ? half + m_.Gap / 2 : out);
+  }
+  /// The beginning of a line from a parent down to there.
+  std::vector<TreeEnd> Leave(int parent, int x) const {
+    const int centre = parents_[static_cast<std::size_t>(parent)];
+    if (IsAlive(parent) && std::abs(x - centre) < m_.NodeWidth / 2) return {{x, DeceasedRow - 1}};
+    return {{centre, DeceasedRow - 1}, {x, DeceasedRow - 1}};
+  }
+  bool IsAlive(int ascendant) const { return alive_.Has(Ascendants[ascendant].Heir); }
+
+  /// A rank at the top hangs from a line above it, which begins as told.
+  void HangBelow(const std::vector<TreeEnd>& begin, const Rank& rank) {
+    for (const int centre : rank.Centres) {
+      std::vector<TreeEnd> line = begin;
+      line.push_back({begin.back().X, DeceasedRow, TreeEnd::Edge::Above});
+      line.push_back({centre, DeceasedRow, TreeEnd::Edge::Above});
+      line.push_back({centre, DeceasedRow, TreeEnd::Edge::Middle, rank.Middle});
+      AddLine(std::move(line));
+    }
+  }
+  /// Several ranks hang from a spine beside them.
+  void HangBeside(const std::vector<TreeEnd>& begin, int spine, const Ranks& ranks) {
+    for (const Rank& rank : ranks) {
+      for (const int centre : rank.Centres) {
+        std::vector<TreeEnd> line = begin;
+        line.push_back({spine, DeceasedRow, TreeEnd::Edge::Middle, rank.Meets});
+        line.push_back({centre, DeceasedRow, TreeEnd::Edge::Middle, rank.Meets});
+        line.push_back({centre, DeceasedRow, TreeEnd::Edge::Middle, rank.Middle});
+        AddLine(std::move(line));
+      }
+    }
+  }
+  /// The children of one parent alone, who stand above or below others on their side. Returns how far out
+  /// their lines run.
+  int HangFrom(int parent, int side, const Ranks& ranks, bool atTop, int outer) {
+    if (ranks.empty()) return outer;
+    if (atTop && ranks.size() == 1) {
+      const int x = PlaceBelow(parent, side, ranks.front().Centres.back());
+      HangBelow(Leave(parent, x), ranks.front());
+      return side * std::max(side * outer, side * x);
+    }
+    const int spine = PlaceBelow(parent, side, outer + side * m_.Gap);
+    HangBeside(Leave(parent, spine), spine, ranks);
+    return spine;
+  }
+
+  int BesideDeceased() const { return m_.DeceasedWidth / 2 + 2 * m_.Gap; }
+
+  // Full brothers and sisters hang from the line of the deceased, that is of both parents; consanguine ones
+  // from the father alone. Class II is related through him too, and through others who are left out.
+  void AddLeftSide() {
+    constexpr int left = -1;
+    Ranks full = RanksOf(FullKinship);
+    Ranks consanguine = RanksOf(ConsanguineKinship);
+    Ranks classII = RanksOfClassII();
+    const bool below = arrangement_.MostClassIIRows == 0;
+    Ranks none;
+    Ranks& lowest = below ? classII : none;
+    const int from =
+        ClearOfDescendants(full.size() + consanguine.size() + lowest.size(), left, left * BesideDeceased());
+    int outer = PlaceRanks({&full, &consanguine, &lowest}, left, from);
+    if (full.size() == 1) {
+      HangBelow({{0, DeceasedRow}}, full.front());
+    } else if (!full.empty()) {
+      const int spine = full.front().Centres.front() + m_.NodeWidth / 2 + m_.Gap;
+      HangBeside({{0, DeceasedRow},
+                  {0, DeceasedRow, TreeEnd::Edge::Above},
+                  {spine, DeceasedRow, TreeEnd::Edge::Above}},
+                 spine, full);
+    }
+    outer = HangFrom(father, left, consanguine, full.empty(), outer);
+    if (classII.empty()) return;
+    const bool shared = below && !consanguine.empty() && (consanguine.size() > 1 || !full.empty());
+    const int beyond = ClearOfDescendants(classII.size(), left, outer + left * m_.Gap);
+    const int spine = shared ? outer : PlaceBelow(father, left, beyond);
+    if (!below) PlaceRanks({&classII}, left, spine + left * m_.Gap);
+    HangBeside(Leave(father, spine), spine, classII);
+    rows_.Add(LinkNode(Kind::Remainder, spine), classII.front().Meets, DeceasedRow);
+  }
+
+  // Uterine brothers and sisters hang from the mother alone.
+  void AddRightSide() {
+    constexpr int right = 1;
+    Ranks uterine = RanksOf(UterineKinship);
+    Ranks spouses;
+    const KindSet alive = alive_ & faraid::Spouses;
+    for (const Kind spouse : alive) spouses.push_back({{spouse}, 0, {}});
+    const int outer = PlaceRanks({&uterine, &spouses}, right, right * BesideDeceased());
+    HangFrom(mother, right, uterine, true, outer);
+    const int edge = m_.DeceasedWidth / 2 + m_.Gap;
+    HangBeside({{0, DeceasedRow}, {edge, DeceasedRow}}, edge, spouses);
   }
 
   bool Excludes() const {
@@ -299,8 +387,7 @@ class Layout {
 
   std::pair<int, int> Sides() const {
     const auto [left, right] = rows_.Sides();
-    const int least = arrangement_.SpouseBelow ? m_.DeceasedWidth / 2 + m_.Gap : 0;
-    return {left - Margin(), std::max(right, least) + Margin()};
+    return {left - Margin(), right + Margin()};
   }
 
   void AddYields(FamilyTree& tree) const {
@@ -319,7 +406,8 @@ class Layout {
   KindSet taking_;
   KindSet alive_;
   TreeRows rows_;
-  int right_ = 0;
+  /// The centres of father and mother, where they are shown.
+  std::array<int, 2> parents_{};
 };
 
 }  // namespace

@@ -36,6 +36,7 @@ struct TreeNode {
     Link,
   };
   Role What = Role::Heir;
+  /// Of a link the ascendant who has died; the remainder for other links and for the deceased.
   faraid::Kind Heir = faraid::Kind::Remainder;
   int X = 0;
   int Y = 0;
@@ -59,8 +60,10 @@ struct TreeYield {
 };
 
 /// The family as a picture from 0, 0 to its width and height: ascendants above the deceased, those of the
-/// father on the left, the spouse beside, descendants below, brothers and sisters on the left, class II on
-/// the right.
+/// father on the left, descendants below. Full and consanguine brothers and sisters and class II stand on the
+/// left, uterine ones and the spouse on the right. Each hangs from a line of the own parents alone: full
+/// brothers and sisters from that of the deceased, consanguine ones from the father, uterine ones from the
+/// mother.
 struct FamilyTree {
   /// The deceased is the first; then in the order in which a reader goes through them, from the top left.
   std::vector<TreeNode> Nodes;

@@ -42,10 +42,9 @@ inline constexpr Descent Descents[Generations] = {
     {faraid::Kind::SonsSonsSons, faraid::Kind::SonsSonsDaughters},
 };
 
-inline constexpr Descent SiblingKinds[] = {
-    {faraid::Kind::FullBrothers, faraid::Kind::FullSisters},
-    {faraid::Kind::ConsanguineBrothers, faraid::Kind::ConsanguineSisters},
-    {faraid::Kind::UterineBrothers, faraid::Kind::UterineSisters},
-};
+inline constexpr Descent FullKinship = {faraid::Kind::FullBrothers, faraid::Kind::FullSisters};
+inline constexpr Descent ConsanguineKinship = {faraid::Kind::ConsanguineBrothers,
+                                               faraid::Kind::ConsanguineSisters};
+inline constexpr Descent UterineKinship = {faraid::Kind::UterineBrothers, faraid::Kind::UterineSisters};
 
 }  // namespace qismora

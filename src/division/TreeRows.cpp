@@ -31,15 +31,22 @@ std::pair<int, int> TreeRows::Sides() const {
     left = std::min(left, placed.Node.X);
     right = std::max(right, placed.Node.X + placed.Node.Width);
   }
+  for (const auto& line : lines_) {
+    for (const TreeEnd& end : line) {
+      left = std::min(left, end.X);
+      right = std::max(right, end.X);
+    }
+  }
   return {left, right};
 }
 
-int TreeRows::RightBelow() const {
-  int right = 0;
+int TreeRows::SideBelow(int side) const {
+  int out = 0;
   for (const Placed& placed : placed_) {
-    if (placed.Row > DeceasedRow) right = std::max(right, placed.Node.X + placed.Node.Width);
+    const int edge = side < 0 ? placed.Node.X : placed.Node.X + placed.Node.Width;
+    if (placed.Row > DeceasedRow) out = std::max(out, side * edge);
   }
-  return right;
+  return side * out;
 }
 
 int TreeRows::Height() const {

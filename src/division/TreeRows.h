@@ -38,10 +38,10 @@ class TreeRows {
   /// Moves what was added since then.
   void MoveRight(std::pair<std::size_t, std::size_t> since, int by);
 
-  /// The left and right edges of the nodes, 0 included.
+  /// The left and right edges of nodes and lines, 0 included.
   std::pair<int, int> Sides() const;
-  /// The right edge of the nodes below the deceased, 0 included.
-  int RightBelow() const;
+  /// The left (-1) or right (1) edge of the nodes below the deceased, 0 included.
+  int SideBelow(int side) const;
   int Height() const;
 
   /// Puts nodes and lines into the tree. What hangs above the deceased needs space though there are no

@@ -1,7 +1,9 @@
 #include <gtest/gtest.h>
 
 #include <algorithm>
+#include <cstdlib>
 #include <random>
+#include <utility>
 
 #include "casefile/HeirFields.h"
 #include "division/DivisionView.h"
@@ -152,10 +154,161 @@ void ExpectLeads(const FamilyTree& tree, const TreeYield& yield) {
   }
 }
 
+/// What a reader sees: the parts of all lines between nodes, joined where they touch. Lines that cross look
+/// joined too.
+class SeenLines {
+ public:
+  explicit SeenLines(const FamilyTree& tree) : tree_(tree) {
+    for (const TreeLine& line : tree.Lines) {
+      for (std::size_t i = 1; i < line.size(); ++i) Add(line[i - 1], line[i]);
+    }
+    for (bool joins = true; joins;) {
+      joins = false;
+      for (Part& a : parts_) {
+        for (Part& b : parts_) {
+          if (a.Joined <= b.Joined || !Meet(a, b)) continue;
+          a.Joined = b.Joined;
+          joins = true;
+        }
+      }
+    }
+  }
+
+  /// The nodes to which any line leads that touches this one.
+  std::vector<const TreeNode*> From(const TreeNode& node) const {
+    std::vector<const TreeNode*> found;
+    for (const Part& part : parts_) {
+      if (!Touches(node, part.A, part.B)) continue;
+      for (const Part& other : parts_) {
+        if (other.Joined != part.Joined) continue;
+        for (const TreeNode& end : tree_.Nodes) {
+          if (Touches(end, other.A, other.B)) found.push_back(&end);
+        }
+      }
+    }
+    return found;
+  }
+
+ private:
+  struct Part {
+    TreePoint A;
+    TreePoint B;
+    std::size_t Joined;
+  };
+
+  static bool Meet(const Part& a, const Part& b) {
+    return std::max(std::min(a.A.X, a.B.X), std::min(b.A.X, b.B.X)) <=
+               std::min(std::max(a.A.X, a.B.X), std::max(b.A.X, b.B.X)) &&
+           std::max(std::min(a.A.Y, a.B.Y), std::min(b.A.Y, b.B.Y)) <=
+               std::min(std::max(a.A.Y, a.B.Y), std::max(b.A.Y, b.B.Y));
+  }
+
+  // Without what lies behind a node, in steps of a pixel, since every line is straight across or down.
+  void Add(const TreePoint& from, const TreePoint& to) {
+    ASSERT_TRUE(from.X == to.X || from.Y == to.Y);
+    const int length = std::max(std::abs(to.X - from.X), std::abs(to.Y - from.Y));
+    const int x = (to.X > from.X) - (to.X < from.X);
+    const int y = (to.Y > from.Y) - (to.Y < from.Y);
+    bool open = false;
+    for (int i = 0; i <= length; ++i) {
+      const TreePoint point = {from.X + i * x, from.Y + i * y};
+      const bool hidden = std::ranges::any_of(tree_.Nodes, [&](const TreeNode& node) {
+        return point.X > node.X && point.X < node.X + node.Width && point.Y > node.Y &&
+               point.Y < node.Y + node.Height;
+      });
+      if (!hidden && !std::exchange(open, true)) parts_.push_back({point, point, parts_.size()});
+      if (hidden) open = false;
+      if (open) parts_.back().B = point;
+    }
+  }
+
+  const FamilyTree& tree_;
+  std::vector<Part> parts_;
+};
+
+// No line passes behind a node: it leads to a node at its ends alone, or through a link.
+void ExpectNothingBehind(const FamilyTree& tree) {
+  for (const TreeLine& line : tree.Lines) {
+    for (std::size_t i = 1; i < line.size(); ++i) {
+      for (const TreeNode& node : tree.Nodes) {
+        if (node.What == TreeNode::Role::Link || !Touches(node, line[i - 1], line[i])) continue;
+        ASSERT_TRUE(Touches(node, line.front(), line.front()) || Touches(node, line.back(), line.back()));
+      }
+    }
+  }
+}
+
+// Each brother, sister and spouse is seen to belong to his or her own parents, or to the deceased, alone.
+void ExpectOwnParents(const FamilyTree& tree) {
+  const SeenLines lines(tree);
+  for (const TreeNode& node : tree.Nodes) {
+    if (node.What != TreeNode::Role::Heir) continue;
+    const faraid::KindSet kin = node.Heir;
+    const bool full = faraid::FullSiblings.HasAny(kin);
+    const bool consanguine = faraid::ConsanguineSiblings.HasAny(kin);
+    const bool uterine = faraid::UterineSiblings.HasAny(kin);
+    const bool spouse = faraid::Spouses.HasAny(kin);
+    if (!full && !consanguine && !uterine && !spouse && !faraid::ClassII.HasAny(kin)) continue;
+    bool deceased = false;
+    bool father = false;
+    bool mother = false;
+    for (const TreeNode* other : lines.From(node)) {
+      deceased = deceased || other->What == TreeNode::Role::Deceased;
+      father = father || (other->Heir == Kind::Father && other->What != TreeNode::Role::Deceased);
+      mother = mother || (other->Heir == Kind::Mother && other->What != TreeNode::Role::Deceased);
+      // Nobody else hangs there than one's own kind, and class II behind a link.
+      const faraid::KindSet both = faraid::Siblings | faraid::Spouses | faraid::ClassII;
+      if (other->What != TreeNode::Role::Heir || !both.HasAny(other->Heir)) continue;
+      ASSERT_EQ(faraid::FullSiblings.Has(other->Heir), full);
+      ASSERT_EQ(faraid::ConsanguineSiblings.Has(other->Heir), consanguine);
+      ASSERT_EQ(faraid::UterineSiblings.Has(other->Heir), uterine);
+      ASSERT_EQ(faraid::Spouses.Has(other->Heir), spouse);
+    }
+    ASSERT_EQ(deceased, full || spouse) << static_cast<int>(node.Heir);
+    ASSERT_EQ(father && !full, consanguine) << static_cast<int>(node.Heir);
+    ASSERT_EQ(mother && !full, uterine) << static_cast<int>(node.Heir);
+  }
+}
+
+constexpr TreeMetrics walkedSizes[] = {{}, {300, 90, 70, 20, 30, 8, 12, 6}, {40, 20, 16, 300, 20, 16, 34, 8}};
+
+// All brothers and sisters who can stand together, beside every choice of ascendants, spouse and class II.
+TEST(FamilyTree, EachSiblingHangsFromTheOwnParentsAlone) {
+  constexpr Kind siblings[] = {Kind::FullBrothers,        Kind::FullSisters,    Kind::ConsanguineSisters,
+                               Kind::ConsanguineBrothers, Kind::UterineSisters, Kind::UterineBrothers};
+  const std::vector<Kind> others[] = {
+      {},
+      {Kind::Mother},
+      {Kind::Father, Kind::Daughters},
+      {Kind::Father, Kind::Mother, Kind::Wives},
+      {Kind::Mother, Kind::Wives, Kind::FullUncle},
+      {Kind::Grandfather, Kind::FathersMother, Kind::MothersMother, Kind::Wives, Kind::Sons, Kind::Daughters},
+      {Kind::Father, Kind::Mother, Kind::Grandfather, Kind::GreatGrandfather, Kind::GrandfathersMother,
+       Kind::FathersMothersMother, Kind::MothersMothersMother, Kind::FullUncle, Kind::ConsanguineUncle},
+  };
+  int run = 0;
+  for (unsigned choice = 0; choice < 64; ++choice) {
+    for (const std::vector<Kind>& beside : others) {
+      CaseTexts texts;
+      for (const Kind heir : beside) texts = WithHeads(texts, heir, 1);
+      for (unsigned i = 0; i < 6; ++i) {
+        if ((choice >> i & 1U) != 0) texts = WithHeads(texts, siblings[i], 2);
+      }
+      const DivisionView view = ViewDivision(texts, School::Maliki);
+      for (const int widest : {0, 600, 2000}) {
+        const TreeMetrics& metrics = walkedSizes[run++ % std::size(walkedSizes)];
+        const FamilyTree tree = LayOutFamily(view, {&metrics, 1}, widest);
+        ASSERT_NO_FATAL_FAILURE(ExpectApart(tree, metrics)) << choice;
+        ASSERT_NO_FATAL_FAILURE(ExpectNothingBehind(tree)) << choice;
+        ASSERT_NO_FATAL_FAILURE(ExpectOwnParents(tree)) << choice << " at " << widest;
+      }
+    }
+  }
+}
+
 // Every kind that is alive has one node of its own, and those who are excluded a line to whom they yield.
 TEST(FamilyTree, NodesNeverOverlapWhateverTheFamily) {
   std::mt19937 random(7);
-  const TreeMetrics sizes[] = {{}, {300, 90, 70, 20, 30, 8, 12, 6}, {40, 20, 16, 300, 20, 16, 34, 8}};
   for (int run = 0; run < 1500; ++run) {
     CaseTexts texts;
     const auto density = 1 + random() % 6;
@@ -170,9 +323,11 @@ TEST(FamilyTree, NodesNeverOverlapWhateverTheFamily) {
       ++alive;
     }
     const DivisionView view = ViewDivision(texts, static_cast<School>(run % 4));
-    const TreeMetrics& metrics = sizes[run % 3];
+    const TreeMetrics& metrics = walkedSizes[run % 3];
     const FamilyTree tree = LayOutFamily(view, {&metrics, 1}, static_cast<int>(random() % 2000));
-    ASSERT_NO_FATAL_FAILURE(ExpectApart(tree, metrics));
+    ASSERT_NO_FATAL_FAILURE(ExpectApart(tree, metrics)) << run;
+    ASSERT_NO_FATAL_FAILURE(ExpectNothingBehind(tree)) << run;
+    ASSERT_NO_FATAL_FAILURE(ExpectOwnParents(tree)) << run;
     const auto heirs = std::ranges::count(tree.Nodes, TreeNode::Role::Heir, &TreeNode::What);
     ASSERT_EQ(static_cast<std::size_t>(heirs), alive);
     ASSERT_EQ(tree.Nodes[0].What, TreeNode::Role::Deceased);
