@@ -249,13 +249,16 @@ void DivisionModel::Show(DivisionTable table) {
     return endResetModel();
   }
   const DivisionTable old = std::exchange(table_, std::move(table));
-  if (old.Headings != table_.Headings) {
-    emit headerDataChanged(Qt::Horizontal, 0, static_cast<int>(table_.Headings.size()) - 1);
-  }
   for (int row = 0; row < rowCount(); ++row) {
     if (old.Rows[row] == table_.Rows[row]) continue;
     emit dataChanged(index(row, 0), index(row, columnCount() - 1));
   }
+}
+
+void DivisionModel::SetHeadings(QStringList headings) {
+  if (headings == headings_) return;
+  headings_ = std::move(headings);
+  emit headerDataChanged(Qt::Horizontal, 0, static_cast<int>(headings_.size()) - 1);
 }
 
 // Units stand below units in every language.
@@ -317,7 +320,9 @@ QVariant DivisionModel::data(const QModelIndex& index, int role) const {
 
 QVariant DivisionModel::headerData(int section, Qt::Orientation orientation, int role) const {
   if (orientation == Qt::Vertical || section >= table_.Headings.size()) return {};
-  if (role == Qt::DisplayRole) return table_.Headings[section];
+  if (role == Qt::DisplayRole)
+    return section < headings_.size() ? headings_[section] : table_.Headings[section];
+  if (role == Qt::AccessibleTextRole) return table_.Headings[section];
   if (role == Qt::TextAlignmentRole) {
     return QVariant::fromValue(SideOf(section) | Qt::AlignVCenter);
   }

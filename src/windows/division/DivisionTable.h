@@ -52,6 +52,8 @@ class DivisionModel : public QAbstractTableModel {
   /// The swatches of the heirs are painted again: with other colours, or at another scale.
   void ForgetSwatches() { swatches_.clear(); }
   void SetFont(const QFont& font) { font_ = font; }
+  /// The headings as the view sets them, in one line or two.
+  void SetHeadings(QStringList headings);
 
   int rowCount(const QModelIndex& parent = {}) const override;
   int columnCount(const QModelIndex& parent = {}) const override;
@@ -63,6 +65,7 @@ class DivisionModel : public QAbstractTableModel {
   Qt::Alignment SideOf(int column) const;
 
   DivisionTable table_;
+  QStringList headings_;
   QFont font_;
   mutable QHash<int, QVariant> swatches_;
 };

@@ -19,6 +19,8 @@ namespace {
 using faraid::Kind;
 
 constexpr int cellMargin = 5;
+/// The swatch beside a name.
+constexpr int besideName = 25;
 constexpr int leastSentence = 165;
 constexpr int leastTableHeight = 110;
 
@@ -76,6 +78,21 @@ int WidthOf(const QString& cell, const QFontMetrics& font, bool figures) {
   return width;
 }
 
+/// The width that a name needs when it is wrapped, in about two lines.
+int WidthOfWrapped(const QString& name, const QFontMetrics& font) {
+  int width = font.horizontalAdvance(name) / 2;
+  for (const QString& word : name.split(QLatin1Char(' ')))
+    width = std::max(width, font.horizontalAdvance(word));
+  return width;
+}
+
+/// A heading that is wider than the figures below it, in two lines.
+QString InTwoLines(QString heading, int width, const QFontMetrics& font) {
+  const auto blank = heading.lastIndexOf(QLatin1Char(' '));
+  if (blank > 0 && font.horizontalAdvance(heading) > width) heading[blank] = QLatin1Char('\n');
+  return heading;
+}
+
 int LinesOf(const QString& cell) { return static_cast<int>(cell.count(QLatin1Char('\n'))) + 1; }
 
 }  // namespace
@@ -129,42 +146,84 @@ void DivisionTableView::Choose(Kind heir) {
   }
 }
 
-// Without the scroll bar, the sentences have more width than they may have now.
-int DivisionTableView::FullHeight() const {
-  int sentence = width() - 2 * frameWidth();
-  for (int column = 0; column < model_->Table().FirstSentence; ++column) sentence -= columnWidth(column);
-  int height = horizontalHeader()->height() + 2 * frameWidth() + 1;
+int DivisionTableView::FullHeight() const { return HeightOfRows(false); }
+
+int DivisionTableView::HeightOfTakers() const { return HeightOfRows(true); }
+
+// The scroll bar takes width from the sentences.
+int DivisionTableView::HeightOfRows(bool takersAlone) const {
+  const bool scrolls = takersAlone && !model_->Table().Rows.isEmpty() &&
+                       model_->Table().Rows.back().Where == DivisionTable::Place::Other;
+  const int across = width() - 2 * frameWidth() - (scrolls ? verticalScrollBar()->sizeHint().width() : 0);
+  const Columns columns = ColumnsIn(across);
+  int height = HeightOfHeadings(columns) + 2 * frameWidth() + 1;
   for (const DivisionTable::Row& row : model_->Table().Rows) {
-    height += HeightOf(row, std::max(leastSentence, sentence));
+    if (takersAlone && row.Where == DivisionTable::Place::Other) continue;
+    height += HeightOf(row, columns);
   }
-  return horizontalScrollBar()->isVisible() ? height + horizontalScrollBar()->height() : height;
+  return columns.Sum > across ? height + horizontalScrollBar()->sizeHint().height() : height;
+}
+
+DivisionTableView::Columns DivisionTableView::ColumnsThatNeed(bool tight) const {
+  const DivisionTable& table = model_->Table();
+  QFont bold = font();
+  bold.setBold(true);
+  const QFontMetrics wide(bold);
+  Columns columns = {table.Headings, {}, 0};
+  for (int column = 0; column < table.FirstSentence; ++column) {
+    const bool name = column == 0;
+    int width = 0;
+    for (const DivisionTable::Row& row : table.Rows) {
+      const QFontMetrics& font = row.Where == DivisionTable::Place::Sum ? wide : fontMetrics();
+      const QString& cell = row.Cells[column];
+      width = std::max(
+          width, tight && name ? WidthOfWrapped(cell, font) : WidthOf(cell, font, table.Figures[column]));
+    }
+    QString& heading = columns.Headings[column];
+    if (tight && !name) heading = InTwoLines(heading, width, wide);
+    width = std::max(width, WidthOf(heading, wide, true));
+    width += (tight ? 2 : 3) * cellMargin + (name ? besideName : 0);
+    columns.Widths.append(width);
+    columns.Sum += width;
+  }
+  return columns;
+}
+
+DivisionTableView::Columns DivisionTableView::ColumnsIn(int width) const {
+  // The choice is the same with a scroll bar and without, since the bar depends on the height of the rows.
+  const int least = this->width() - 2 * frameWidth() - verticalScrollBar()->sizeHint().width();
+  Columns columns = ColumnsThatNeed(false);
+  if (columns.Sum + leastSentence > least) columns = ColumnsThatNeed(true);
+  columns.Widths.append(std::max(leastSentence, width - columns.Sum));
+  columns.Sum += columns.Widths.back();
+  return columns;
 }
 
 // Figures get the width that they need, and sentences what is left; a row is as high as its sentence.
 void DivisionTableView::Fit() {
   const DivisionTable& table = model_->Table();
   if (table.Headings.isEmpty()) return;
-  QFont bold = font();
-  bold.setBold(true);
-  const QFontMetrics wide(bold);
-  const QFontMetrics metrics = fontMetrics();
-  int used = 0;
-  for (int column = 0; column < table.FirstSentence; ++column) {
-    int width = wide.horizontalAdvance(table.Headings[column]);
-    for (const DivisionTable::Row& row : table.Rows) {
-      const QFontMetrics& font = row.Where == DivisionTable::Place::Sum ? wide : metrics;
-      width = std::max(width, WidthOf(row.Cells[column], font, table.Figures[column]));
-    }
-    setColumnWidth(column, width + 3 * cellMargin + (column == 0 ? 5 * cellMargin : 0));
-    used += columnWidth(column);
+  const Columns columns = ColumnsIn(viewport()->width());
+  model_->SetHeadings(columns.Headings);
+  if (horizontalHeader()->minimumHeight() != HeightOfHeadings(columns)) {
+    horizontalHeader()->setFixedHeight(HeightOfHeadings(columns));
+    updateGeometries();
   }
-  const int last = table.FirstSentence;
-  const int sentence = std::max(leastSentence, viewport()->width() - used);
-  setColumnWidth(last, sentence);
-  for (int row = 0; row < table.Rows.size(); ++row) setRowHeight(row, HeightOf(table.Rows[row], sentence));
+  for (int column = 0; column < columns.Widths.size(); ++column)
+    setColumnWidth(column, columns.Widths[column]);
+  for (int row = 0; row < table.Rows.size(); ++row) setRowHeight(row, HeightOf(table.Rows[row], columns));
 }
 
-int DivisionTableView::HeightOf(const DivisionTable::Row& row, int sentence) const {
+int DivisionTableView::HeightOfHeadings(const Columns& columns) const {
+  QFont bold = horizontalHeader()->font();
+  bold.setBold(true);  // which Qt leaves space for
+  int height = 0;
+  for (const QString& heading : columns.Headings)
+    height = std::max(height, QFontMetrics(bold).size(0, heading).height());
+  return height + 2 * style()->pixelMetric(QStyle::PM_HeaderMargin, nullptr, horizontalHeader());
+}
+
+int DivisionTableView::HeightOf(const DivisionTable::Row& row, const Columns& columns) const {
   QFont its = font();
   its.setBold(row.Where == DivisionTable::Place::Sum);
   const QFontMetrics metrics(its);
@@ -173,8 +232,11 @@ int DivisionTableView::HeightOf(const DivisionTable::Row& row, int sentence) con
   for (int column = 1; column < last; ++column) {
     height = std::max(height, metrics.height() * LinesOf(row.Cells[column]));
   }
-  const QRect place(0, 0, sentence - 3 * cellMargin, QWIDGETSIZE_MAX);
-  height = std::max(height, metrics.boundingRect(place, int(Qt::TextWordWrap), row.Cells[last]).height());
+  const auto wrapped = [&](int column, int beside) {
+    const QRect place(0, 0, columns.Widths[column] - beside, QWIDGETSIZE_MAX);
+    return metrics.boundingRect(place, int(Qt::TextWordWrap), row.Cells[column]).height();
+  };
+  height = std::max({height, wrapped(0, besideName + 2 * cellMargin), wrapped(last, 3 * cellMargin)});
   return height + 2 * cellMargin;
 }
 

@@ -23,6 +23,8 @@ class DivisionTableView : public QTableView {
   void Choose(faraid::Kind heir);
   /// How high it is when nothing of it scrolls.
   int FullHeight() const;
+  /// How high it is when all that is seen of it is those who take and their sum.
+  int HeightOfTakers() const;
 
   /// Called when another row was chosen.
   std::function<void()> RowChosen;
@@ -40,9 +42,20 @@ class DivisionTableView : public QTableView {
   void resizeEvent(QResizeEvent* event) override;
 
  private:
+  /// Headings and widths; the sentences have what the others leave.
+  struct Columns {
+    QStringList Headings;
+    QList<int> Widths;
+    int Sum = 0;
+  };
+  /// What the columns need: with some space around the figures, or with as little as can be, long headings in
+  /// two lines and names wrapped.
+  Columns ColumnsThatNeed(bool tight) const;
+  Columns ColumnsIn(int width) const;
   void Fit();
-  /// The height of a row where its sentence has this width.
-  int HeightOf(const DivisionTable::Row& row, int sentence) const;
+  int HeightOf(const DivisionTable::Row& row, const Columns& columns) const;
+  int HeightOfHeadings(const Columns& columns) const;
+  int HeightOfRows(bool takersAlone) const;
 
   DivisionModel* model_;
 };
