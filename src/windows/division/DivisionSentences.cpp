@@ -31,7 +31,7 @@ QString WhereTheCommandsDiffer(const DivisionView& view) {
   if (!view.Own || view.Differs.None()) return {};
   QString notice = QStringLiteral("<b>%1</b>").arg(words::NoticeHeading().toHtmlEscaped());
   for (const DifferenceKind* kind : view.Differs.Kinds) {
-    notice += QStringLiteral("<br>%1 ").arg(words::DifferenceSentence(*kind).toHtmlEscaped());
+    notice += QStringLiteral(" %1 ").arg(words::DifferenceSentence(*kind).toHtmlEscaped());
     notice += Link(QStringLiteral("differs:") + ToQt(kind->Section), words::PageOfDifferences());
   }
   return notice;
@@ -79,7 +79,8 @@ void DivisionSentences::Show(const DivisionView& view, const Supposition& suppos
   headline_->setAccessibleName((headline_->text() + QLatin1Char(' ') + supposed).trimmed());
   estate_->Show(view.Unreadable.empty() ? words::EstateSummary(view).toHtmlEscaped() : QString());
   examples_->Show(Examples(view, tr("Type what is true")));
-  bequests_->Show(words::BequestNotice(view).toHtmlEscaped());
+  // Where nothing is cut, the check box says it.
+  bequests_->Show(view.BequestsAreCut() ? words::BequestNotice(view).toHtmlEscaped() : QString());
   consent_->setVisible(view.ConsentMatters());
   consent_->setChecked(heirsConsent);
   notice_->Show(WhereTheCommandsDiffer(view));
