@@ -27,10 +27,11 @@ DivisionPictures::DivisionPictures(QWidget* parent)
   scroll_->setFocusPolicy(Qt::NoFocus);
   scroll_->setMinimumHeight(leastPicturesHeight);
   scroll_->setWidget(tree_);
-  // A tree that is too wide is seen from its middle, one that is too high from the deceased.
+  // Of a tree that is too large, the deceased is seen first.
   QScrollBar* across = scroll_->horizontalScrollBar();
-  connect(across, &QScrollBar::rangeChanged, this,
-          [across](int from, int to) { across->setValue((from + to) / 2); });
+  connect(across, &QScrollBar::rangeChanged, this, [this, across] {
+    across->setValue(tree_->PlaceOfDeceased().center().x() - across->pageStep() / 2);
+  });
   QScrollBar* down = scroll_->verticalScrollBar();
   connect(down, &QScrollBar::rangeChanged, this,
           [this, down] { down->setValue(tree_->PlaceOfDeceased().center().y() - down->pageStep() / 2); });
@@ -64,10 +65,14 @@ void DivisionPictures::Translate() {
   tree_->setAccessibleName(tr("Family tree"));
 }
 
-int DivisionPictures::FullHeight() const {
-  const int across =
-      scroll_->horizontalScrollBar()->isVisible() ? scroll_->horizontalScrollBar()->height() : 0;
-  return topMargin + bar_->sizeHint().height() + layout()->spacing() + tree_->sizeHint().height() + across;
+int DivisionPictures::FullHeight() const { return HeightBeside(tree_->FullHeight()); }
+
+int DivisionPictures::LeastHeight() const { return HeightBeside(tree_->LeastHeight()); }
+
+int DivisionPictures::HeightBeside(int tree) const {
+  const bool across = tree_->sizeHint().width() > scroll_->width();
+  return topMargin + bar_->sizeHint().height() + layout()->spacing() + tree +
+         (across ? scroll_->horizontalScrollBar()->sizeHint().height() : 0);
 }
 
 }  // namespace qismora

@@ -24,13 +24,16 @@ class DivisionPictures : public QWidget {
   void Choose(faraid::Kind heir);
   /// The names for screen readers in the current language.
   void Translate();
-  /// How high it is when nothing of it scrolls.
+  /// How high it is when nothing of it scrolls: with text in full size, and in the smallest size.
   int FullHeight() const;
+  int LeastHeight() const;
 
   /// Called when the user has chosen an heir in the tree.
   std::function<void(faraid::Kind)> Chosen;
 
  private:
+  int HeightBeside(int tree) const;
+
   EstateBar* bar_;
   FamilyTreeView* tree_;
   QScrollArea* scroll_;

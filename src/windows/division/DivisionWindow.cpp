@@ -26,6 +26,7 @@
 #include "windows/division/DivisionTableView.h"
 #include "windows/division/DivisionTools.h"
 #include "windows/division/DivisionWords.h"
+#include "windows/division/PageSplitter.h"
 #include "windows/division/PaperCommands.h"
 #include "windows/help/HelpWindow.h"
 #include "windows/language/Languages.h"
@@ -44,18 +45,8 @@ constexpr int betweenParts = 6;
 /// A change is announced when the typing pauses.
 constexpr int announceAfter = 700;
 
-/// Reports each new size, which it also has when the sentences above it grow.
-class ReportingSplitter : public QSplitter {
- public:
-  using QSplitter::QSplitter;
-  std::function<void()> Resized;
-
- protected:
-  void resizeEvent(QResizeEvent* event) override {
-    QSplitter::resizeEvent(event);
-    Resized();
-  }
-};
+/// The least height for the pictures, where they scroll.
+constexpr int leastPart = 180;
 
 }  // namespace
 
@@ -88,9 +79,8 @@ void DivisionWindow::BuildContent() {
   rows->setContentsMargins(windowMargin, windowMargin, windowMargin, windowMargin);
   rows->setSpacing(betweenParts);
   sentences_ = new DivisionSentences(content);
-  auto* splitter = new ReportingSplitter(Qt::Vertical, content);
-  splitter->Resized = [this] { FitSplitter(); };
-  splitter_ = splitter;
+  splitter_ = new PageSplitter(content);
+  splitter_->Resized = [this] { FitSplitter(); };
   splitter_->setObjectName(QStringLiteral("DivisionSplitter"));
   splitter_->setChildrenCollapsible(false);
   table_ = new DivisionTableView(splitter_);
@@ -104,12 +94,12 @@ void DivisionWindow::BuildContent() {
   if (splitByUser_) splitter_->setSizes(split);
   connect(splitter_, &QSplitter::splitterMoved, this, [this] { splitByUser_ = true; });
 
-  auto* scroll = new QScrollArea(this);
-  scroll->setFrameShape(QFrame::NoFrame);
-  scroll->setFocusPolicy(Qt::NoFocus);
-  scroll->setWidgetResizable(true);
-  scroll->setWidget(content);
-  setCentralWidget(scroll);
+  page_ = new QScrollArea(this);
+  page_->setFrameShape(QFrame::NoFrame);
+  page_->setFocusPolicy(Qt::NoFocus);
+  page_->setWidgetResizable(true);
+  page_->setWidget(content);
+  setCentralWidget(page_);
 }
 
 void DivisionWindow::BuildTools() {
@@ -232,15 +222,34 @@ void DivisionWindow::ShowState() {
   state_->setText(words::SchoolLaw(school_) + QStringLiteral(" · ") + state);
 }
 
-// The table gets the height that it needs, up to a half where the pictures need more, until the user moves
-// the line between.
+// Where table and pictures do not fit, the pictures take a smaller text, then the heirs without a share and
+// the pictures scroll in their parts. Where even the sum would be out of sight so, the whole window scrolls
+// as one page, and nothing in it is cut. The user may move the line between.
 void DivisionWindow::FitSplitter() {
-  if (splitByUser_ || !shown_.IsDivided()) return;
-  const int all = splitter_->height() - splitter_->handleWidth();
-  const int least = table_->minimumHeight();
-  const int most = std::max(all / 2, all - pictures_->FullHeight());
-  const int table = std::clamp(table_->FullHeight(), least, std::max(least, most));
-  splitter_->setSizes({table, std::max(1, all - table)});
+  if (!shown_.IsDivided()) return;
+  const int window = page_->viewport()->height();
+  const int free = window - (splitter_->y() + windowMargin) - splitter_->handleWidth();
+  const int whole = table_->FullHeight();
+  int table = whole;
+  int pictures = pictures_->FullHeight();
+  if (table + pictures > free) {
+    const int takers = std::min(table_->HeightOfTakers(), window);
+    pictures = pictures_->LeastHeight();
+    const int part = std::min(pictures, std::max(leastPart, window / 3));
+    const bool isPage = takers + part > free;
+    table = isPage && whole <= window ? whole : takers;
+    pictures = isPage ? std::min(pictures, window) : part;
+  }
+  splitter_->SetLeastHeight(table + splitter_->handleWidth() + pictures);
+  if (splitByUser_) return;
+  const int all = std::max(free, table + pictures);
+  const int own = std::max(table, std::min(whole, all - pictures));
+  splitter_->setSizes({own, all - own});
+}
+
+void DivisionWindow::resizeEvent(QResizeEvent* event) {
+  QMainWindow::resizeEvent(event);
+  FitSplitter();
 }
 
 // What the user does

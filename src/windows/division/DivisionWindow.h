@@ -12,7 +12,7 @@
 
 class QLabel;
 class QMenu;
-class QSplitter;
+class QScrollArea;
 
 namespace qismora {
 
@@ -21,6 +21,7 @@ class DivisionPictures;
 class DivisionSentences;
 class DivisionTableView;
 class DivisionTools;
+class PageSplitter;
 
 /// The division of what the fields of Case Study hold, at every keystroke: one sentence, one table with its
 /// reasons, the estate as a bar and the family as a tree. It changes nothing on the screen.
@@ -50,6 +51,7 @@ class DivisionWindow : public QMainWindow {
   void closeEvent(QCloseEvent* event) override;
   void changeEvent(QEvent* event) override;
   void hideEvent(QHideEvent* event) override;
+  void resizeEvent(QResizeEvent* event) override;
 
  private:
   void BuildContent();
@@ -88,7 +90,8 @@ class DivisionWindow : public QMainWindow {
 
   DivisionTools* tools_ = nullptr;
   DivisionSentences* sentences_ = nullptr;
-  QSplitter* splitter_ = nullptr;
+  QScrollArea* page_ = nullptr;
+  PageSplitter* splitter_ = nullptr;
   DivisionTableView* table_ = nullptr;
   DivisionPictures* pictures_ = nullptr;
   QLabel* state_ = nullptr;

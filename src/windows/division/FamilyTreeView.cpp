@@ -22,8 +22,19 @@ constexpr qreal roundness = 4;
 constexpr double faint = 0.45;
 constexpr int stacked = 3;
 constexpr qreal arrowLength = 6;
+/// Of the text, in the size of the font; the smallest can still be read well.
+constexpr double textSizes[] = {1, 0.92, 0.84};
 constexpr WrittenTree::Spacing treeSpacing = {
     .AcrossText = 11, .DownText = linePadding, .LeastWidth = 96, .Gap = 16, .RowGap = 34, .Link = 8};
+
+QFont Scaled(QFont font, double size) {
+  if (font.pointSizeF() > 0) {
+    font.setPointSizeF(font.pointSizeF() * size);
+  } else {
+    font.setPixelSize(qRound(font.pixelSize() * size));
+  }
+  return font;
+}
 
 QString SentenceOf(const TreeText& text) { return text.Name + QStringLiteral(": ") + text.Receives; }
 
@@ -37,67 +48,96 @@ FamilyTreeView::FamilyTreeView(QWidget* parent) : QWidget(parent) {
 }
 
 void FamilyTreeView::Show(const DivisionView& view) {
-  tree_ = WrittenTree(view);
+  written_ = WrittenTree(view);
   LayOut();
 }
 
-int FamilyTreeView::PlaceWidth() const {
-  return (parentWidget() == nullptr ? width() : parentWidget()->width()) - 2 * treeMargin;
+QSize FamilyTreeView::Place() const {
+  return (parentWidget() == nullptr ? size() : parentWidget()->size()) - QSize(2 * treeMargin, 2 * treeMargin);
 }
 
 void FamilyTreeView::LayOut() {
-  laidOutFor_ = PlaceWidth();
-  tree_.LayOut(font(), treeSpacing, laidOutFor_);
+  laidOutFor_ = Place().width();
+  for (Sized& sized : sized_) sized.IsLaidOut = false;
+  ChooseSize();
   QStringList sentences;
-  for (const TreeNode& node : tree_.Tree().Nodes) {
-    if (node.What == TreeNode::Role::Heir) sentences.append(SentenceOf(tree_.Of(node)));
+  for (const TreeNode& node : Tree().Tree().Nodes) {
+    if (node.What == TreeNode::Role::Heir) sentences.append(SentenceOf(Tree().Of(node)));
   }
   setAccessibleDescription(tr("%1, and in the picture from the top: %2")
-                               .arg(tree_.Deceased(), sentences.join(QStringLiteral("; "))));
+                               .arg(Tree().Deceased(), sentences.join(QStringLiteral("; "))));
   SayChosen();
+}
+
+const FamilyTreeView::Sized& FamilyTreeView::InSize(std::size_t size) const {
+  Sized& sized = sized_[size];
+  if (!std::exchange(sized.IsLaidOut, true)) {
+    sized.Font = Scaled(font(), textSizes[size]);
+    sized.Tree = written_;
+    sized.Tree.LayOut(sized.Font, treeSpacing, laidOutFor_);
+  }
+  return sized;
+}
+
+/// The largest size that fits, else the smallest.
+void FamilyTreeView::ChooseSize() {
+  const QSize place = Place();
+  size_ = 0;
+  while (size_ + 1 < Sizes && !FitsIn(size_, place)) ++size_;
   updateGeometry();
   update();
 }
+
+bool FamilyTreeView::FitsIn(std::size_t size, const QSize& place) const {
+  const FamilyTree& tree = InSize(size).Tree.Tree();
+  return tree.Width <= place.width() && tree.Height <= place.height();
+}
+
+int FamilyTreeView::HeightIn(std::size_t size) const { return InSize(size).Tree.Tree().Height + 2 * treeMargin; }
+
+int FamilyTreeView::FullHeight() const { return HeightIn(0); }
+
+int FamilyTreeView::LeastHeight() const { return HeightIn(Sizes - 1); }
 
 // While the keys lead through the tree, its name ends with the heir that they have come to, so that a screen
 // reader says who it is.
 void FamilyTreeView::SayChosen() {
   const bool led = window()->focusWidget() == this;
   QString name = tr("Family tree");
-  for (const TreeNode& node : tree_.Tree().Nodes) {
+  for (const TreeNode& node : Tree().Tree().Nodes) {
     if (led && node.What == TreeNode::Role::Heir && node.Heir == chosen_)
-      name += QStringLiteral(": ") + SentenceOf(tree_.Of(node));
+      name += QStringLiteral(": ") + SentenceOf(Tree().Of(node));
   }
   setAccessibleName(name);
 }
 
 QSize FamilyTreeView::sizeHint() const {
-  return QSize(tree_.Tree().Width, tree_.Tree().Height) + QSize(2 * treeMargin, 2 * treeMargin);
+  return QSize(Tree().Tree().Width, Tree().Tree().Height) + QSize(2 * treeMargin, 2 * treeMargin);
 }
 
 QPoint FamilyTreeView::Origin() const {
-  return {std::max(treeMargin, (width() - tree_.Tree().Width) / 2), treeMargin};
+  return {std::max(treeMargin, (width() - Tree().Tree().Width) / 2), treeMargin};
 }
 
 QPointF FamilyTreeView::Mirrored(const TreePoint& point) const {
-  const int x = layoutDirection() == Qt::RightToLeft ? tree_.Tree().Width - point.X : point.X;
+  const int x = layoutDirection() == Qt::RightToLeft ? Tree().Tree().Width - point.X : point.X;
   return QPointF(Origin() + QPoint(x, point.Y)) + QPointF(0.5, 0.5);
 }
 
 QRect FamilyTreeView::RectOf(const TreeNode& node) const {
-  const int x = layoutDirection() == Qt::RightToLeft ? tree_.Tree().Width - node.X - node.Width : node.X;
+  const int x = layoutDirection() == Qt::RightToLeft ? Tree().Tree().Width - node.X - node.Width : node.X;
   return {Origin() + QPoint(x, node.Y), QSize(node.Width, node.Height)};
 }
 
 QRect FamilyTreeView::PlaceOf(faraid::Kind heir) const {
-  for (const TreeNode& node : tree_.Tree().Nodes) {
+  for (const TreeNode& node : Tree().Tree().Nodes) {
     if (node.What == TreeNode::Role::Heir && node.Heir == heir) return RectOf(node);
   }
   return {};
 }
 
 QRect FamilyTreeView::PlaceOfDeceased() const {
-  const auto& nodes = tree_.Tree().Nodes;
+  const auto& nodes = Tree().Tree().Nodes;
   const auto deceased = std::ranges::find(nodes, TreeNode::Role::Deceased, &TreeNode::What);
   return deceased == nodes.end() ? QRect() : RectOf(*deceased);
 }
@@ -110,10 +150,11 @@ void FamilyTreeView::Choose(faraid::Kind heir) {
 
 void FamilyTreeView::paintEvent(QPaintEvent*) {
   QPainter painter(this);
+  painter.setFont(InSize(size_).Font);
   painter.setRenderHint(QPainter::Antialiasing);
   DrawLines(painter);
   DrawYields(painter);
-  for (const TreeNode& node : tree_.Tree().Nodes) DrawNode(painter, node);
+  for (const TreeNode& node : Tree().Tree().Nodes) DrawNode(painter, node);
 }
 
 void FamilyTreeView::DrawLines(QPainter& painter) const {
@@ -123,7 +164,7 @@ void FamilyTreeView::DrawLines(QPainter& painter) const {
   painter.setBrush(Qt::NoBrush);
   // As one path, since lines that are drawn over each other would be bolder.
   QPainterPath path;
-  for (const TreeLine& line : tree_.Tree().Lines) {
+  for (const TreeLine& line : Tree().Tree().Lines) {
     path.moveTo(Mirrored(line.front()));
     for (const TreePoint& point : line) path.lineTo(Mirrored(point));
   }
@@ -142,12 +183,12 @@ void FamilyTreeView::DrawYields(QPainter& painter) const {
     painter.setBrush(Qt::NoBrush);
     painter.drawPolyline(points);
   };
-  for (const TreeYield& yield : tree_.Tree().Yields) {
+  for (const TreeYield& yield : Tree().Tree().Yields) {
     draw(yield.Alone, QPen(pale, 1, Qt::DashLine));
     DrawArrow(painter, yield.Line, pale);
   }
-  for (const TreeYield& yield : tree_.Tree().Yields) {
-    if (tree_.Tree().Nodes[yield.From].Heir != chosen_) continue;
+  for (const TreeYield& yield : Tree().Tree().Yields) {
+    if (Tree().Tree().Nodes[yield.From].Heir != chosen_) continue;
     draw(yield.Line, QPen(text, 2, Qt::DashLine));
     DrawArrow(painter, yield.Line, text);
   }
@@ -175,7 +216,7 @@ void FamilyTreeView::DrawNode(QPainter& painter, const TreeNode& node) const {
     return DrawText(painter, node, rect);
   }
 
-  const TreeText& words = tree_.Of(node);
+  const TreeText& words = Tree().Of(node);
   const bool emphasised = chosen_ == node.Heir;
   const QColor base = palette().color(words.Takes ? QPalette::Base : QPalette::Window);
   const QColor own = ColourOf(node.Heir, palette());
@@ -210,11 +251,11 @@ void FamilyTreeView::DrawNode(QPainter& painter, const TreeNode& node) const {
 }
 
 void FamilyTreeView::DrawText(QPainter& painter, const TreeNode& node, const QRectF& place) const {
-  painter.drawText(place, Qt::AlignCenter, tree_.LinesIn(node).join(QLatin1Char('\n')));
+  painter.drawText(place, Qt::AlignCenter, Tree().LinesIn(node).join(QLatin1Char('\n')));
 }
 
 void FamilyTreeView::mousePressEvent(QMouseEvent* event) {
-  for (const TreeNode& node : tree_.Tree().Nodes) {
+  for (const TreeNode& node : Tree().Tree().Nodes) {
     if (node.What != TreeNode::Role::Heir || !RectOf(node).contains(event->pos())) continue;
     Choose(node.Heir);
     if (Chosen) Chosen(node.Heir);
@@ -236,7 +277,7 @@ void FamilyTreeView::keyPressEvent(QKeyEvent* event) {
 
 void FamilyTreeView::Step(int by) {
   QList<faraid::Kind> heirs;
-  for (const TreeNode& node : tree_.Tree().Nodes) {
+  for (const TreeNode& node : Tree().Tree().Nodes) {
     if (node.What == TreeNode::Role::Heir) heirs.append(node.Heir);
   }
   if (heirs.isEmpty()) return;
@@ -261,7 +302,13 @@ bool FamilyTreeView::event(QEvent* event) {
 
 // A tree that is wider than its place keeps its own size while the place changes.
 bool FamilyTreeView::eventFilter(QObject* watched, QEvent* event) {
-  if (watched == parentWidget() && event->type() == QEvent::Resize && laidOutFor_ != PlaceWidth()) LayOut();
+  if (watched == parentWidget() && event->type() == QEvent::Resize) {
+    if (laidOutFor_ != Place().width()) {
+      LayOut();
+    } else {
+      ChooseSize();
+    }
+  }
   return QWidget::eventFilter(watched, event);
 }
 

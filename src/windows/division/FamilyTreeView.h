@@ -1,7 +1,9 @@
 #pragma once
 
 #include <QCoreApplication>
+#include <QFont>
 #include <QWidget>
+#include <array>
 #include <functional>
 
 #include "windows/division/WrittenTree.h"
@@ -9,8 +11,8 @@
 namespace qismora {
 
 /// The family as a tree: each heir with name, heads, share and amount; those who are excluded are paler, with
-/// a dashed line to whom they yield. Text keeps the size of the font: a tree that is wider than its place
-/// becomes higher. A click or the arrow keys choose an heir.
+/// a dashed line to whom they yield. A tree that does not fit its place takes a smaller text, down to what
+/// can be read well, and is larger than its place then. A click or the arrow keys choose an heir.
 class FamilyTreeView : public QWidget {
   Q_DECLARE_TR_FUNCTIONS(FamilyTreeView)
 
@@ -25,6 +27,10 @@ class FamilyTreeView : public QWidget {
   QRect PlaceOf(faraid::Kind heir) const;
   QRect PlaceOfDeceased() const;
 
+  /// How high it is in the width that it has: with text in the size of the font, and in the smallest size.
+  int FullHeight() const;
+  int LeastHeight() const;
+
   QSize sizeHint() const override;
   QSize minimumSizeHint() const override { return sizeHint(); }
 
@@ -36,8 +42,21 @@ class FamilyTreeView : public QWidget {
   bool eventFilter(QObject* watched, QEvent* event) override;
 
  private:
+  /// The tree with its text in one of the sizes, laid out when it is first needed.
+  struct Sized {
+    bool IsLaidOut = false;
+    QFont Font;
+    WrittenTree Tree;
+  };
+  static constexpr std::size_t Sizes = 3;
+
   void LayOut();
-  int PlaceWidth() const;
+  void ChooseSize();
+  const Sized& InSize(std::size_t size) const;
+  const WrittenTree& Tree() const { return InSize(size_).Tree; }
+  int HeightIn(std::size_t size) const;
+  bool FitsIn(std::size_t size, const QSize& place) const;
+  QSize Place() const;
   QPoint Origin() const;
   QRect RectOf(const TreeNode& node) const;
   void DrawLines(QPainter& painter) const;
@@ -50,9 +69,12 @@ class FamilyTreeView : public QWidget {
   /// Mirrored in a language that is written from the right.
   QPointF Mirrored(const TreePoint& point) const;
 
-  WrittenTree tree_;
+  WrittenTree written_;
   /// The width for which it is laid out.
   int laidOutFor_ = 0;
+  mutable std::array<Sized, Sizes> sized_;
+  /// The size that is shown.
+  std::size_t size_ = 0;
   faraid::Kind chosen_ = faraid::Kind::Remainder;
 };
 
