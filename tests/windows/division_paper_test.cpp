@@ -2,6 +2,7 @@
 #include <QApplication>
 #include <QBuffer>
 #include <QClipboard>
+#include <QComboBox>
 #include <QLibrary>
 #include <QMessageBox>
 #include <QMimeData>
@@ -302,17 +303,23 @@ class DivisionPaperTest : public QObject {
     QVERIFY(foot.size() < 120);
   }
 
-  // The preview lays out the same pages as the file, for the paper that the user sets.
+  // The preview lays out the same pages as the file, for the paper that the user sets, and opens so that they
+  // can be read.
   void previews() {
     QLibrary plugin(QStringLiteral(PRINT_PLUGIN));
     const auto show = reinterpret_cast<ShowPrintDialog>(plugin.resolve(ShowPrintDialogName));
     QVERIFY2(show != nullptr, qPrintable(plugin.errorString()));
     const DivisionDocument document = DocumentOf(Abdullah());
     int paints = 0;
+    double percent = 0;
     QTimer closer;
     connect(&closer, &QTimer::timeout, this, [&] {
       QWidget* dialog = QApplication::activeModalWidget();
-      if (dialog != nullptr && paints > 0) dialog->close();
+      if (dialog == nullptr || paints == 0) return;
+      for (const QComboBox* box : dialog->findChildren<QComboBox*>()) {
+        if (box->currentText().endsWith(QLatin1Char('%'))) percent = box->currentText().chopped(1).toDouble();
+      }
+      dialog->close();
     });
     closer.start(20);
     show(nullptr,
@@ -323,6 +330,7 @@ class DivisionPaperTest : public QObject {
           }},
          true);
     QVERIFY(paints > 0);
+    QVERIFY2(percent > 80, qPrintable(QString::number(percent)));
   }
 
   // Without the plugin, as here beside the test, the user is told what to do instead.

@@ -1,11 +1,21 @@
 #include "windows/print/PrintDialogs.h"
 
+#include <QAction>
 #include <QPageSize>
 #include <QPrintDialog>
 #include <QPrintPreviewDialog>
 #include <QPrinter>
+#include <QScreen>
 
 namespace qismora {
+
+namespace {
+
+constexpr QSize previewSize{900, 820};
+/// Qt's own text of the action, which it also translates.
+constexpr const char* fitWidth = "Fit width";
+
+}  // namespace
 
 extern "C" Q_DECL_EXPORT void ShowQismoraPrintDialog(QWidget* window, const PrintJob& job, bool preview) {
   QPrinter printer(QPrinter::HighResolution);
@@ -19,6 +29,11 @@ extern "C" Q_DECL_EXPORT void ShowQismoraPrintDialog(QWidget* window, const Prin
     if (window != nullptr) dialog.setLayoutDirection(window->layoutDirection());
     QObject::connect(&dialog, &QPrintPreviewDialog::paintRequested, &dialog,
                      [&job](QPrinter* pages) { job.Paint(*pages); });
+    // At the width of the page text can be read, unlike that of a page that fits as a whole.
+    for (QAction* action : dialog.findChildren<QAction*>()) {
+      if (action->text() == QPrintPreviewDialog::tr(fitWidth)) action->trigger();
+    }
+    dialog.resize(previewSize.boundedTo(dialog.screen()->availableSize()));
     dialog.exec();
     return;
   }
