@@ -578,10 +578,6 @@ Do you want to replace it?</source>
         <translation>القسمة - %1</translation>
     </message>
     <message>
-        <source>What if these had died before: %1.</source>
-        <translation>لو مات هؤلاء قبله: %1.</translation>
-    </message>
-    <message>
         <source>The fields of Case Study are as they were.</source>
         <translation>حقول Case Study كما كانت.</translation>
     </message>

@@ -578,10 +578,6 @@ Do you want to replace it?</source>
         <translation>تقسیم - %1</translation>
     </message>
     <message>
-        <source>What if these had died before: %1.</source>
-        <translation>اگر یہ پہلے وفات پا چکے ہوتے: %1۔</translation>
-    </message>
-    <message>
         <source>The fields of Case Study are as they were.</source>
         <translation>Case Study کے خانے جوں کے توں ہیں۔</translation>
     </message>

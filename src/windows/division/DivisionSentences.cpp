@@ -74,9 +74,11 @@ DivisionSentences::DivisionSentences(QWidget* parent)
 
 void DivisionSentences::Show(const DivisionView& view, const Supposition& supposition, bool heirsConsent) {
   headline_->setText(words::Headline(view));
-  supposition_->Show(supposition.Words());
-  const QString supposed = QTextDocumentFragment::fromHtml(supposition.Words()).toPlainText();
-  headline_->setAccessibleName((headline_->text() + QLatin1Char(' ') + supposed).trimmed());
+  const QString supposed = supposition.Words(view);
+  supposition_->Show(supposed);
+  headline_->setAccessibleName(
+      (headline_->text() + QLatin1Char(' ') + QTextDocumentFragment::fromHtml(supposed).toPlainText())
+          .trimmed());
   estate_->Show(view.Unreadable.empty() ? words::EstateSummary(view).toHtmlEscaped() : QString());
   examples_->Show(Examples(view, tr("Type what is true")));
   // Where nothing is cut, the check box says it.

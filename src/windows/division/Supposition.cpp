@@ -33,14 +33,10 @@ CaseTexts Supposition::Applied(CaseTexts texts, const DivisionView& asItIs) cons
   return texts;
 }
 
-QString Supposition::Words() const {
+QString Supposition::Words(const DivisionView& supposed) const {
   if (IsEmpty()) return {};
-  QStringList dead;
-  for (const auto& [heir, heads] : deaths_) {
-    dead.append(words::Number(heads) + QLatin1Char(' ') + words::Heir(heir, heads));
-  }
   return QStringLiteral("<b>%1</b> %2 %3")
-      .arg(tr("What if these had died before: %1.").arg(dead.join(QStringLiteral(", "))).toHtmlEscaped(),
+      .arg(words::Supposition(supposed).toHtmlEscaped(),
            tr("The fields of Case Study are as they were.").toHtmlEscaped(),
            Link(QStringLiteral("back:"), tr("Back to the case (Esc)")));
 }

@@ -24,8 +24,9 @@ class Supposition {
   std::vector<SupposedDeath> DeathsIn(const DivisionView& asItIs) const;
   /// The case without those who are supposed to be dead. The division is that of the case as it is.
   CaseTexts Applied(CaseTexts texts, const DivisionView& asItIs) const;
-  /// The supposition as rich text, with a link back to the case; empty without.
-  QString Words() const;
+  /// The supposition as rich text, with a link back to the case; empty without. The division is that of the
+  /// supposition.
+  QString Words(const DivisionView& supposed) const;
 
   /// The entries of a context menu that suppose an heir of a division dead.
   static void FillMenu(QMenu* menu, const DivisionLine& line,
