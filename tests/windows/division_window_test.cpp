@@ -199,6 +199,9 @@ class DivisionWindowTest : public DivisionFixture {
     QTest::keyClick(table, Qt::Key_Delete);
     QTRY_COMPARE(Cell("Full brother", 4), QStringLiteral("10,000.00"));
     QVERIFY(Find<QLabel>("Supposition")->isVisible());
+    QVERIFY(Find<QLabel>("Supposition")
+                ->text()
+                .contains(QStringLiteral("Supposition: as if the son had died before the deceased.")));
     Find<QAction>("CopyDivision")->trigger();
     QVERIFY(QApplication::clipboard()->text().startsWith(
         QStringLiteral("Supposition: as if the son had died before the deceased.")));
@@ -221,6 +224,20 @@ class DivisionWindowTest : public DivisionFixture {
     QVERIFY(cell->text(QAccessible::Name).contains(QStringLiteral("Quran 4:11")));
     const QString tree = Find("FamilyTree")->accessibleDescription();
     QVERIFY(tree.contains(QStringLiteral("Full brother: yields to a son")));
+  }
+
+  // The parts of the bar that are too narrow for a name have it below.
+  void namesEveryPartOfTheEstate() {
+    TypeFamily();
+    auto* bar = Find("EstateBar");
+    Division()->resize(900, 700);
+    QTRY_VERIFY(bar->width() > 800);
+    const int without = bar->height();
+    const int line = bar->fontMetrics().height();
+    Division()->resize(460, 700);
+    QTRY_COMPARE_GE(bar->height(), without + line);
+    Division()->resize(900, 700);
+    QTRY_COMPARE(bar->height(), without);
   }
 
   // Of a tree that has no room the deceased is seen first, in the middle of the family.

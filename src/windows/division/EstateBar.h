@@ -8,7 +8,8 @@
 
 namespace qismora {
 
-/// The net estate as one bar, divided by heir.
+/// The net estate as one bar, divided by heir. The parts that are too narrow for a name are named below the
+/// bar, each beside its pattern.
 class EstateBar : public QWidget {
  public:
   explicit EstateBar(QWidget* parent);
@@ -27,11 +28,21 @@ class EstateBar : public QWidget {
 
  protected:
   void paintEvent(QPaintEvent* event) override;
+  void resizeEvent(QResizeEvent* event) override;
   bool event(QEvent* event) override;
 
  private:
+  int BarHeight() const;
   /// From the side on which the language begins.
   QRectF PlaceOf(std::size_t part) const;
+  bool HasRoomForName(std::size_t part) const;
+  /// The names below the bar: the pattern of each, and its name beside.
+  struct Entry {
+    std::size_t Part;
+    QRect Pattern;
+    QRect Name;
+  };
+  std::vector<Entry> Legend() const;
 
   std::vector<Part> parts_;
 };
