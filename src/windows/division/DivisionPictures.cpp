@@ -30,11 +30,12 @@ DivisionPictures::DivisionPictures(QWidget* parent)
   // Of a tree that is too large, the deceased is seen first.
   QScrollBar* across = scroll_->horizontalScrollBar();
   connect(across, &QScrollBar::rangeChanged, this, [this, across] {
-    across->setValue(tree_->PlaceOfDeceased().center().x() - across->pageStep() / 2);
+    across->setValue(tree_->PlaceOfDeceased().center().x() - scroll_->viewport()->width() / 2);
   });
   QScrollBar* down = scroll_->verticalScrollBar();
-  connect(down, &QScrollBar::rangeChanged, this,
-          [this, down] { down->setValue(tree_->PlaceOfDeceased().center().y() - down->pageStep() / 2); });
+  connect(down, &QScrollBar::rangeChanged, this, [this, down] {
+    down->setValue(tree_->PlaceOfDeceased().center().y() - scroll_->viewport()->height() / 2);
+  });
   auto* rows = new QVBoxLayout(this);
   rows->setContentsMargins(0, topMargin, 0, 0);
   rows->addWidget(bar_);

@@ -46,7 +46,7 @@ constexpr int betweenParts = 6;
 constexpr int announceAfter = 700;
 
 /// The least height for the pictures, where they scroll.
-constexpr int leastPart = 180;
+constexpr int leastPart = 150;
 
 }  // namespace
 
@@ -235,7 +235,7 @@ void DivisionWindow::FitSplitter() {
   if (table + pictures > free) {
     const int takers = std::min(table_->HeightOfTakers(), window);
     pictures = pictures_->LeastHeight();
-    const int part = std::min(pictures, std::max(leastPart, window / 3));
+    const int part = std::min(pictures, std::max(leastPart, window / 4));
     const bool isPage = takers + part > free;
     table = isPage && whole <= window ? whole : takers;
     pictures = isPage ? std::min(pictures, window) : part;
