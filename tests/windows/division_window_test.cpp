@@ -251,8 +251,15 @@ class DivisionWindowTest : public DivisionFixture {
     QTRY_VERIFY(tree->visibleRegion().contains(tree->PlaceOfDeceased()));
   }
 
+  void treeAndTableChooseTheSameHeir_data() {
+    QTest::addColumn<bool>("mirrored");
+    QTest::newRow("left to right") << false;
+    QTest::newRow("right to left") << true;
+  }
   // By the keyboard: the tree leads through the heirs, and the row goes along.
   void treeAndTableChooseTheSameHeir() {
+    QFETCH(const bool, mirrored);
+    if (mirrored) Division()->setLayoutDirection(Qt::RightToLeft);
     study_->Type("Text1(2)", QStringLiteral("1"));
     study_->Type("Text1(13)", QStringLiteral("1"));
     QTRY_VERIFY(Row("Father") >= 0);

@@ -139,10 +139,16 @@ Kind DivisionTableView::ChosenHeir() const {
   return current.isValid() && current.row() < rows.size() ? rows[current.row()].Heir : Kind::Remainder;
 }
 
+// Qt's selectRow finds no column where the table runs from right to left.
+void DivisionTableView::ChooseRow(int row) {
+  setCurrentIndex(model_->index(row, 0));
+  selectionModel()->select(currentIndex(), QItemSelectionModel::ClearAndSelect | QItemSelectionModel::Rows);
+}
+
 void DivisionTableView::Choose(Kind heir) {
   const auto& rows = model_->Table().Rows;
   for (int row = 0; row < rows.size(); ++row) {
-    if (rows[row].Heir == heir && rows[row].Where != DivisionTable::Place::Sum) selectRow(row);
+    if (rows[row].Heir == heir && rows[row].Where != DivisionTable::Place::Sum) ChooseRow(row);
   }
 }
 
@@ -243,7 +249,7 @@ int DivisionTableView::HeightOf(const DivisionTable::Row& row, const Columns& co
 // Qt makes the first row the current one without selecting it.
 void DivisionTableView::focusInEvent(QFocusEvent* event) {
   QTableView::focusInEvent(event);
-  if (currentIndex().isValid() && !selectionModel()->hasSelection()) selectRow(currentIndex().row());
+  if (currentIndex().isValid() && !selectionModel()->hasSelection()) ChooseRow(currentIndex().row());
 }
 
 void DivisionTableView::keyPressEvent(QKeyEvent* event) {
@@ -255,7 +261,7 @@ void DivisionTableView::contextMenuEvent(QContextMenuEvent* event) {
   const bool byKey = event->reason() == QContextMenuEvent::Keyboard;
   const QPoint place = byKey ? visualRect(currentIndex()).center() : event->pos();
   const QModelIndex index = indexAt(place);
-  if (index.isValid()) selectRow(index.row());
+  if (index.isValid()) ChooseRow(index.row());
   auto* menu = new QMenu(this);
   menu->setAttribute(Qt::WA_DeleteOnClose);
   FillMenu(menu);

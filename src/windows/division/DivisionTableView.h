@@ -42,6 +42,7 @@ class DivisionTableView : public QTableView {
   void resizeEvent(QResizeEvent* event) override;
 
  private:
+  void ChooseRow(int row);
   /// Headings and widths; the sentences have what the others leave.
   struct Columns {
     QStringList Headings;
