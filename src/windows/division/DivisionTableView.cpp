@@ -242,7 +242,7 @@ int DivisionTableView::HeightOf(const DivisionTable::Row& row, const Columns& co
     const QRect place(0, 0, columns.Widths[column] - beside, QWIDGETSIZE_MAX);
     return metrics.boundingRect(place, int(Qt::TextWordWrap), row.Cells[column]).height();
   };
-  height = std::max({height, wrapped(0, besideName + 2 * cellMargin), wrapped(last, 3 * cellMargin)});
+  height = std::max({height, wrapped(0, besideName + 2 * cellMargin), wrapped(last, 2 * cellMargin)});
   return height + 2 * cellMargin;
 }
 
