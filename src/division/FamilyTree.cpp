@@ -8,7 +8,6 @@
 
 #include "division/Kinship.h"
 #include "division/TreeRows.h"
-#include "division/YieldLines.h"
 
 namespace qismora {
 
@@ -80,7 +79,6 @@ class Layout {
       return std::pair(a.Y, a.X) < std::pair(b.Y, b.X);
     });
     AddYields(tree);
-    DrawYieldLines(tree, m_.Gap, m_.RowGap, rows_.Lanes());
     return tree;
   }
 

@@ -73,12 +73,14 @@ struct FamilyTree {
   int Height = 0;
   /// The sizes that were chosen, by their place among those given.
   std::size_t Sizes = 0;
+  /// The heights between the rows, where the lines of those who yield can run.
+  std::vector<int> Lanes;
 };
 
 /// Lays out all who are alive. No two nodes overlap, whatever the family. Brothers and sisters and class II
 /// stand in as many rows, and the nodes have those of the sizes given, with which the tree is lowest without
 /// being wider than it should be. Where nothing is narrow enough, it is neither much wider nor much higher
-/// than it must be.
+/// than it must be. The lines of those who yield are drawn apart.
 FamilyTree LayOutFamily(const DivisionView& view, std::span<const TreeMetrics> sizes, int widest);
 
 }  // namespace qismora

@@ -69,13 +69,13 @@ void TreeRows::Place(FamilyTree& tree, std::pair<int, int> sides, int margin, bo
     const auto r = static_cast<std::size_t>(row);
     if (!IsUsed(row)) continue;
     middles[r] = y + halfHeights_[r];
-    if (y > 0) lanes_.push_back(y - m_.RowGap / 2);
+    if (y > 0) tree.Lanes.push_back(y - m_.RowGap / 2);
     y += 2 * halfHeights_[r] + m_.RowGap;
   }
   tree.Width = right - left;
   const int bottom = std::max(y - m_.RowGap, middles[DeceasedRow] + lowest_);
   tree.Height = bottom + margin;
-  lanes_.push_back(bottom + margin / 2);
+  tree.Lanes.push_back(bottom + margin / 2);
   for (Placed& placed : placed_) {
     placed.Node.X -= left;
     placed.Node.Y += middles[static_cast<std::size_t>(placed.Row)];

@@ -47,8 +47,6 @@ class TreeRows {
   /// Puts nodes and lines into the tree. What hangs above the deceased needs space though there are no
   /// parents.
   void Place(FamilyTree& tree, std::pair<int, int> sides, int margin, bool hangs);
-  /// The heights between the rows of a placed tree.
-  const std::vector<int>& Lanes() const { return lanes_; }
 
  private:
   /// A node whose column is known, while rows have no height yet: the vertical place is counted from the
@@ -67,7 +65,6 @@ class TreeRows {
   std::array<int, TreeRowCount> halfHeights_{};
   /// What stands beside the rows below ends so far below the middle of the deceased.
   int lowest_ = 0;
-  std::vector<int> lanes_;
 };
 
 }  // namespace qismora

@@ -237,9 +237,9 @@ class Grid {
 
 }  // namespace
 
-void DrawYieldLines(FamilyTree& tree, int gap, int rowGap, const std::vector<int>& lanes) {
+void DrawYieldLines(FamilyTree& tree, const TreeMetrics& metrics) {
   if (tree.Yields.empty()) return;
-  Grid grid(tree, gap, rowGap, lanes);
+  Grid grid(tree, metrics.Gap, metrics.RowGap, tree.Lanes);
   std::vector<std::size_t> targets;
   for (const TreeYield& yield : tree.Yields) {
     if (std::ranges::find(targets, yield.To) == targets.end()) targets.push_back(yield.To);

@@ -8,7 +8,8 @@ namespace qismora {
 
 /// Draws a line from each heir who yields to the heir who excludes him or her, between the nodes. Lines to
 /// the same heir join on their way. They cross the lines of the family as little as can be, and never run
-/// along them. Beside nodes they keep half a gap away, between rows they run at the heights given.
-void DrawYieldLines(FamilyTree& tree, int gap, int rowGap, const std::vector<int>& lanes);
+/// along them. Beside nodes they keep half a gap away, between rows they run in the lanes of the tree, which
+/// has the sizes given.
+void DrawYieldLines(FamilyTree& tree, const TreeMetrics& metrics);
 
 }  // namespace qismora

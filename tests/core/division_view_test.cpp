@@ -8,6 +8,7 @@
 #include "casefile/HeirFields.h"
 #include "division/DivisionView.h"
 #include "division/FamilyTree.h"
+#include "division/YieldLines.h"
 
 namespace qismora {
 namespace {
@@ -324,7 +325,8 @@ TEST(FamilyTree, NodesNeverOverlapWhateverTheFamily) {
     }
     const DivisionView view = ViewDivision(texts, static_cast<School>(run % 4));
     const TreeMetrics& metrics = walkedSizes[run % 3];
-    const FamilyTree tree = LayOutFamily(view, {&metrics, 1}, static_cast<int>(random() % 2000));
+    FamilyTree tree = LayOutFamily(view, {&metrics, 1}, static_cast<int>(random() % 2000));
+    DrawYieldLines(tree, metrics);
     ASSERT_NO_FATAL_FAILURE(ExpectApart(tree, metrics)) << run;
     ASSERT_NO_FATAL_FAILURE(ExpectNothingBehind(tree)) << run;
     ASSERT_NO_FATAL_FAILURE(ExpectOwnParents(tree)) << run;

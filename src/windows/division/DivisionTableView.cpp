@@ -9,6 +9,7 @@
 #include <QScrollBar>
 #include <QStyledItemDelegate>
 #include <algorithm>
+#include <cmath>
 
 #include "windows/style/Colours.h"
 
@@ -70,26 +71,24 @@ class RowDelegate : public QStyledItemDelegate {
 };
 
 // A figure that comes in two parts, such as 33.33 or 33.34, stands in two lines.
-int WidthOf(const QString& cell, const QFontMetrics& font, bool figures) {
-  if (!figures) return font.horizontalAdvance(cell);
+int WidthOf(const QString& cell, const TextRuler& font, bool figures) {
+  if (!figures) return font.Width(cell);
   int width = 0;
-  for (const QString& line : cell.split(QLatin1Char('\n')))
-    width = std::max(width, font.horizontalAdvance(line));
+  for (const QString& line : cell.split(QLatin1Char('\n'))) width = std::max(width, font.Width(line));
   return width;
 }
 
 /// The width that a name needs when it is wrapped, in about two lines.
-int WidthOfWrapped(const QString& name, const QFontMetrics& font) {
-  int width = font.horizontalAdvance(name) / 2;
-  for (const QString& word : name.split(QLatin1Char(' ')))
-    width = std::max(width, font.horizontalAdvance(word));
+int WidthOfWrapped(const QString& name, const TextRuler& font) {
+  int width = font.Width(name) / 2;
+  for (const QString& word : name.split(QLatin1Char(' '))) width = std::max(width, font.Width(word));
   return width;
 }
 
 /// A heading that is wider than the figures below it, in two lines.
-QString InTwoLines(QString heading, int width, const QFontMetrics& font) {
+QString InTwoLines(QString heading, int width, const TextRuler& font) {
   const auto blank = heading.lastIndexOf(QLatin1Char(' '));
-  if (blank > 0 && font.horizontalAdvance(heading) > width) heading[blank] = QLatin1Char('\n');
+  if (blank > 0 && font.Width(heading) > width) heading[blank] = QLatin1Char('\n');
   return heading;
 }
 
@@ -128,8 +127,16 @@ void DivisionTableView::Show(DivisionTable table) {
   Fit();
 }
 
+const TextRuler& DivisionTableView::RulerOf(const DivisionTable::Row& row) const {
+  return row.Where == DivisionTable::Place::Sum ? bold_ : ruler_;
+}
+
 void DivisionTableView::SetTextFont(const QFont& font) {
   setFont(font);
+  QFont bold = this->font();
+  bold.setBold(true);
+  ruler_ = TextRuler(this->font());
+  bold_ = TextRuler(bold);
   model_->SetFont(font);
 }
 
@@ -172,22 +179,19 @@ int DivisionTableView::HeightOfRows(bool takersAlone) const {
 
 DivisionTableView::Columns DivisionTableView::ColumnsThatNeed(bool tight) const {
   const DivisionTable& table = model_->Table();
-  QFont bold = font();
-  bold.setBold(true);
-  const QFontMetrics wide(bold);
   Columns columns = {table.Headings, {}, 0};
   for (int column = 0; column < table.FirstSentence; ++column) {
     const bool name = column == 0;
     int width = 0;
     for (const DivisionTable::Row& row : table.Rows) {
-      const QFontMetrics& font = row.Where == DivisionTable::Place::Sum ? wide : fontMetrics();
+      const TextRuler& font = RulerOf(row);
       const QString& cell = row.Cells[column];
       width = std::max(
           width, tight && name ? WidthOfWrapped(cell, font) : WidthOf(cell, font, table.Figures[column]));
     }
     QString& heading = columns.Headings[column];
-    if (tight && !name) heading = InTwoLines(heading, width, wide);
-    width = std::max(width, WidthOf(heading, wide, true));
+    if (tight && !name) heading = InTwoLines(heading, width, bold_);
+    width = std::max(width, WidthOf(heading, bold_, true));
     width += (tight ? 2 : 3) * cellMargin + (name ? besideName : 0);
     columns.Widths.append(width);
     columns.Sum += width;
@@ -230,17 +234,18 @@ int DivisionTableView::HeightOfHeadings(const Columns& columns) const {
 }
 
 int DivisionTableView::HeightOf(const DivisionTable::Row& row, const Columns& columns) const {
-  QFont its = font();
-  its.setBold(row.Where == DivisionTable::Place::Sum);
-  const QFontMetrics metrics(its);
+  const TextRuler& ruler = RulerOf(row);
   const int last = model_->Table().FirstSentence;
-  int height = metrics.height();
-  for (int column = 1; column < last; ++column) {
-    height = std::max(height, metrics.height() * LinesOf(row.Cells[column]));
-  }
+  const int line = ruler.Height(1);
+  int height = line;
+  for (int column = 1; column < last; ++column) height = std::max(height, line * LinesOf(row.Cells[column]));
   const auto wrapped = [&](int column, int beside) {
-    const QRect place(0, 0, columns.Widths[column] - beside, QWIDGETSIZE_MAX);
-    return metrics.boundingRect(place, int(Qt::TextWordWrap), row.Cells[column]).height();
+    const QString& cell = row.Cells[column];
+    const int width = columns.Widths[column] - beside;
+    if (LinesOf(cell) == 1 && ruler.Width(cell) <= width) return line;
+    const QRectF place(0, 0, width, QWIDGETSIZE_MAX);
+    return static_cast<int>(
+        std::ceil(ruler.Metrics().boundingRect(place, int(Qt::TextWordWrap), cell).height()));
   };
   height = std::max({height, wrapped(0, besideName + 2 * cellMargin), wrapped(last, 2 * cellMargin)});
   return height + 2 * cellMargin;

@@ -4,6 +4,7 @@
 #include <functional>
 
 #include "windows/division/DivisionTable.h"
+#include "windows/division/TextRuler.h"
 
 namespace qismora {
 
@@ -58,7 +59,12 @@ class DivisionTableView : public QTableView {
   int HeightOfHeadings(const Columns& columns) const;
   int HeightOfRows(bool takersAlone) const;
 
+  /// The ruler of a row.
+  const TextRuler& RulerOf(const DivisionTable::Row& row) const;
+
   DivisionModel* model_;
+  TextRuler ruler_;
+  TextRuler bold_;
 };
 
 }  // namespace qismora

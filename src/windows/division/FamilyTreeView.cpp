@@ -53,7 +53,8 @@ void FamilyTreeView::Show(const DivisionView& view) {
 }
 
 QSize FamilyTreeView::Place() const {
-  return (parentWidget() == nullptr ? size() : parentWidget()->size()) - QSize(2 * treeMargin, 2 * treeMargin);
+  return (parentWidget() == nullptr ? size() : parentWidget()->size()) -
+         QSize(2 * treeMargin, 2 * treeMargin);
 }
 
 void FamilyTreeView::LayOut() {
@@ -72,9 +73,10 @@ void FamilyTreeView::LayOut() {
 const FamilyTreeView::Sized& FamilyTreeView::InSize(std::size_t size) const {
   Sized& sized = sized_[size];
   if (!std::exchange(sized.IsLaidOut, true)) {
-    sized.Font = Scaled(font(), textSizes[size]);
+    const QFont font = Scaled(this->font(), textSizes[size]);
+    if (sized.Ruler.Font() != font) sized.Ruler = TextRuler(font);
     sized.Tree = written_;
-    sized.Tree.LayOut(sized.Font, treeSpacing, laidOutFor_);
+    sized.Tree.LayOut(sized.Ruler, treeSpacing, laidOutFor_);
   }
   return sized;
 }
@@ -84,6 +86,8 @@ void FamilyTreeView::ChooseSize() {
   const QSize place = Place();
   size_ = 0;
   while (size_ + 1 < Sizes && !FitsIn(size_, place)) ++size_;
+  InSize(size_);
+  sized_[size_].Tree.DrawYields();
   updateGeometry();
   update();
 }
@@ -93,7 +97,9 @@ bool FamilyTreeView::FitsIn(std::size_t size, const QSize& place) const {
   return tree.Width <= place.width() && tree.Height <= place.height();
 }
 
-int FamilyTreeView::HeightIn(std::size_t size) const { return InSize(size).Tree.Tree().Height + 2 * treeMargin; }
+int FamilyTreeView::HeightIn(std::size_t size) const {
+  return InSize(size).Tree.Tree().Height + 2 * treeMargin;
+}
 
 int FamilyTreeView::FullHeight() const { return HeightIn(0); }
 
@@ -150,7 +156,7 @@ void FamilyTreeView::Choose(faraid::Kind heir) {
 
 void FamilyTreeView::paintEvent(QPaintEvent*) {
   QPainter painter(this);
-  painter.setFont(InSize(size_).Font);
+  painter.setFont(InSize(size_).Ruler.Font());
   painter.setRenderHint(QPainter::Antialiasing);
   DrawLines(painter);
   DrawYields(painter);

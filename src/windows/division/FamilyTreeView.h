@@ -1,7 +1,6 @@
 #pragma once
 
 #include <QCoreApplication>
-#include <QFont>
 #include <QWidget>
 #include <array>
 #include <functional>
@@ -45,7 +44,7 @@ class FamilyTreeView : public QWidget {
   /// The tree with its text in one of the sizes, laid out when it is first needed.
   struct Sized {
     bool IsLaidOut = false;
-    QFont Font;
+    TextRuler Ruler;
     WrittenTree Tree;
   };
   static constexpr std::size_t Sizes = 3;

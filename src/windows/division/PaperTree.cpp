@@ -15,7 +15,7 @@ namespace {
 constexpr int pointsPerInch = 72;
 /// In points, whatever the resolution of the device. The smaller size is that of a tree that is too large, or
 /// whose larger size would not be below that of the text around it.
-constexpr int textSizes[] = {8, 7};
+constexpr int paperTextSizes[] = {8, 7};
 /// Of a page.
 constexpr double highest = 0.6;
 constexpr double paperArrow = 4;
@@ -27,13 +27,14 @@ constexpr WrittenTree::Spacing paperSpacing = {
 PaperTree::PaperTree(const DivisionView& view, const QString& title, const QFont& font, const QSizeF& page,
                      QObject* parent)
     : QObject(parent), tree_(view), title_(title), font_(font), page_(page) {
-  for (const int size : textSizes) {
+  for (const int size : paperTextSizes) {
     font_.setPixelSize(size);
     titleHeight_ = 1.3 * QFontMetricsF(font_).lineSpacing();
-    tree_.LayOut(font_, paperSpacing, static_cast<int>(page.width()) - 2);
+    tree_.LayOut(TextRuler(font_), paperSpacing, static_cast<int>(page.width()) - 2);
     const bool fits = Size().width() <= page.width() && Size().height() <= highest * page.height();
     if (fits && size < font.pointSizeF()) break;
   }
+  tree_.DrawYields();
 }
 
 /// Of the picture in points, its title included.

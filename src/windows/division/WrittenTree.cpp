@@ -1,9 +1,10 @@
 #include "windows/division/WrittenTree.h"
 
-#include <QFontMetricsF>
 #include <algorithm>
 #include <cmath>
+#include <utility>
 
+#include "division/YieldLines.h"
 #include "windows/division/DivisionWords.h"
 #include "windows/platform/Utf8.h"
 
@@ -27,34 +28,20 @@ QStringList Halves(const QString& text) {
   return {text.left(best), text.mid(best + 1)};
 }
 
-class Ruler {
- public:
-  explicit Ruler(const QFont& font) : metrics_(font) {}
-
-  int Width(const QString& text) const {
-    return static_cast<int>(std::ceil(metrics_.horizontalAdvance(text)));
-  }
-  int Height(qsizetype lines) const {
-    return static_cast<int>(std::ceil(metrics_.lineSpacing() * static_cast<double>(lines)));
-  }
-  /// As many words in each line as have room; what has no room in the last one is left out.
-  QStringList Lines(const QString& text, int width, int most) const {
-    QStringList lines;
-    for (const QString& word : text.split(QLatin1Char(' '), Qt::SkipEmptyParts)) {
-      const QString longer = lines.isEmpty() ? word : lines.back() + QLatin1Char(' ') + word;
-      if (!lines.isEmpty() && (Width(longer) <= width || lines.size() == most)) {
-        lines.back() = longer;
-      } else {
-        lines.append(word);
-      }
+/// As many words in each line as have room; what has no room in the last one is left out.
+QStringList LinesOf(const QString& text, const TextRuler& ruler, int width, int most) {
+  QStringList lines;
+  for (const QString& word : text.split(QLatin1Char(' '), Qt::SkipEmptyParts)) {
+    const QString longer = lines.isEmpty() ? word : lines.back() + QLatin1Char(' ') + word;
+    if (!lines.isEmpty() && (ruler.Width(longer) <= width || lines.size() == most)) {
+      lines.back() = longer;
+    } else {
+      lines.append(word);
     }
-    for (QString& line : lines) line = metrics_.elidedText(line, Qt::ElideRight, width);
-    return lines;
   }
-
- private:
-  QFontMetricsF metrics_;
-};
+  for (QString& line : lines) line = ruler.Metrics().elidedText(line, Qt::ElideRight, width);
+  return lines;
+}
 
 }  // namespace
 
@@ -76,19 +63,24 @@ WrittenTree::WrittenTree(const DivisionView& view) : view_(view) {
   }
 }
 
-void WrittenTree::LayOut(const QFont& font, const Spacing& spacing, int widest) {
+void WrittenTree::LayOut(const TextRuler& ruler, const Spacing& spacing, int widest) {
   constexpr Broken choices[] = {Broken::None, Broken::NotReasons, Broken::All};
   TreeMetrics sizes[std::size(choices)];
   Lines lines[std::size(choices)];
-  for (std::size_t i = 0; i < std::size(choices); ++i) lines[i] = Write(font, spacing, choices[i], sizes[i]);
+  for (std::size_t i = 0; i < std::size(choices); ++i) lines[i] = Write(ruler, spacing, choices[i], sizes[i]);
   tree_ = LayOutFamily(view_, sizes, widest);
   lines_ = lines[tree_.Sizes];
+  metrics_ = sizes[tree_.Sizes];
+  hasYields_ = false;
 }
 
-WrittenTree::Lines WrittenTree::Write(const QFont& font, const Spacing& spacing, Broken broken,
+void WrittenTree::DrawYields() {
+  if (!std::exchange(hasYields_, true)) DrawYieldLines(tree_, metrics_);
+}
+
+WrittenTree::Lines WrittenTree::Write(const TextRuler& ruler, const Spacing& spacing, Broken broken,
                                       TreeMetrics& metrics) const {
   Lines written;
-  const Ruler ruler(font);
   const auto mayBreak = [broken](const TreeText& text, const QString& whole) {
     return broken == Broken::All || (broken == Broken::NotReasons && (text.Takes || whole == text.Name));
   };
@@ -112,7 +104,7 @@ WrittenTree::Lines WrittenTree::Write(const QFont& font, const Spacing& spacing,
     written.Heirs.insert(text.key(), lines);
   }
   const int widestDeceased = static_cast<int>(deceasedInNodes * width);
-  written.Deceased = ruler.Lines(deceased_, widestDeceased, mostLinesOfDeceased);
+  written.Deceased = LinesOf(deceased_, ruler, widestDeceased, mostLinesOfDeceased);
   int deceased = spacing.LeastWidth / 2;
   for (const QString& line : std::as_const(written.Deceased))
     deceased = std::max(deceased, ruler.Width(line));

@@ -1,12 +1,12 @@
 #pragma once
 
-#include <QFont>
 #include <QHash>
 #include <QPolygonF>
 #include <QString>
 #include <QStringList>
 
 #include "division/FamilyTree.h"
+#include "windows/division/TextRuler.h"
 
 namespace qismora {
 
@@ -37,7 +37,9 @@ class WrittenTree {
 
   /// Texts are broken in two where the tree would else be wider than it should be, or much higher. It may
   /// still be wider.
-  void LayOut(const QFont& font, const Spacing& spacing, int widest);
+  void LayOut(const TextRuler& ruler, const Spacing& spacing, int widest);
+  /// Draws the lines of those who yield into the tree that is laid out, once. They take the most time.
+  void DrawYields();
 
   const FamilyTree& Tree() const { return tree_; }
   const QString& Deceased() const { return deceased_; }
@@ -53,10 +55,12 @@ class WrittenTree {
   };
   /// Which texts may be broken in two: none, all but the reasons of those who receive nothing, or all.
   enum class Broken { None, NotReasons, All };
-  Lines Write(const QFont& font, const Spacing& spacing, Broken broken, TreeMetrics& metrics) const;
+  Lines Write(const TextRuler& ruler, const Spacing& spacing, Broken broken, TreeMetrics& metrics) const;
 
   DivisionView view_;
   FamilyTree tree_;
+  TreeMetrics metrics_;
+  bool hasYields_ = false;
   QString deceased_;
   QHash<int, TreeText> texts_;
   Lines lines_;
