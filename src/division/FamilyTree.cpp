@@ -78,7 +78,7 @@ class Layout {
     std::ranges::sort(tree.Nodes.begin() + 1, tree.Nodes.end(), [](const TreeNode& a, const TreeNode& b) {
       return std::pair(a.Y, a.X) < std::pair(b.Y, b.X);
     });
-    AddYields(tree);
+    AddExclusions(tree);
     return tree;
   }
 
@@ -374,9 +374,9 @@ class Layout {
   }
 
   bool Excludes() const {
-    return std::ranges::any_of(view_->Others, [](const DivisionLine& line) { return Yields(line); });
+    return std::ranges::any_of(view_->Others, [](const DivisionLine& line) { return Exclusions(line); });
   }
-  static bool Yields(const DivisionLine& line) {
+  static bool Exclusions(const DivisionLine& line) {
     return line.Law.As == faraid::Standing::Excluded && line.Law.Excluder != Kind::Remainder;
   }
 
@@ -388,13 +388,13 @@ class Layout {
     return {left - Margin(), right + Margin()};
   }
 
-  void AddYields(FamilyTree& tree) const {
+  void AddExclusions(FamilyTree& tree) const {
     const auto find = [&](Kind heir) {
       return static_cast<std::size_t>(std::ranges::find(tree.Nodes, heir, &TreeNode::Heir) -
                                       tree.Nodes.begin());
     };
     for (const DivisionLine& line : view_->Others) {
-      if (Yields(line)) tree.Yields.push_back({find(line.Heir()), find(line.Law.Excluder), {}, {}});
+      if (Exclusions(line)) tree.Exclusions.push_back({find(line.Heir()), find(line.Law.Excluder), {}, {}});
     }
   }
 

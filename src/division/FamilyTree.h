@@ -50,7 +50,7 @@ struct TreeNode {
 using TreeLine = std::vector<TreePoint>;
 
 /// An heir who is excluded, and the node of the heir to whom he or she yields.
-struct TreeYield {
+struct TreeExclusion {
   std::size_t From = 0;
   std::size_t To = 0;
   /// From the edge of the one node to the edge of the other.
@@ -68,7 +68,7 @@ struct FamilyTree {
   /// The deceased is the first; then in the order in which a reader goes through them, from the top left.
   std::vector<TreeNode> Nodes;
   std::vector<TreeLine> Lines;
-  std::vector<TreeYield> Yields;
+  std::vector<TreeExclusion> Exclusions;
   int Width = 0;
   int Height = 0;
   /// The sizes that were chosen, by their place among those given.

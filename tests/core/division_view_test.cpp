@@ -7,8 +7,8 @@
 
 #include "casefile/HeirFields.h"
 #include "division/DivisionView.h"
+#include "division/ExclusionLines.h"
 #include "division/FamilyTree.h"
-#include "division/YieldLines.h"
 
 namespace qismora {
 namespace {
@@ -138,18 +138,18 @@ bool Touches(const TreeNode& node, const TreePoint& a, const TreePoint& b) {
 }
 
 // The line leads from the one to the other, straight or square, and past all others.
-void ExpectLeads(const FamilyTree& tree, const TreeYield& yield) {
-  ASSERT_GE(yield.Line.size(), 2U);
-  ASSERT_TRUE(IsOnEdge(yield.Line.front(), tree.Nodes[yield.From]));
-  ASSERT_TRUE(IsOnEdge(yield.Line.back(), tree.Nodes[yield.To]));
-  ASSERT_EQ(yield.Alone.front().X, yield.Line.front().X);
-  ASSERT_EQ(yield.Alone.front().Y, yield.Line.front().Y);
-  for (std::size_t i = 1; i < yield.Line.size(); ++i) {
-    const TreePoint& a = yield.Line[i - 1];
-    const TreePoint& b = yield.Line[i];
+void ExpectLeads(const FamilyTree& tree, const TreeExclusion& exclusion) {
+  ASSERT_GE(exclusion.Line.size(), 2U);
+  ASSERT_TRUE(IsOnEdge(exclusion.Line.front(), tree.Nodes[exclusion.From]));
+  ASSERT_TRUE(IsOnEdge(exclusion.Line.back(), tree.Nodes[exclusion.To]));
+  ASSERT_EQ(exclusion.Alone.front().X, exclusion.Line.front().X);
+  ASSERT_EQ(exclusion.Alone.front().Y, exclusion.Line.front().Y);
+  for (std::size_t i = 1; i < exclusion.Line.size(); ++i) {
+    const TreePoint& a = exclusion.Line[i - 1];
+    const TreePoint& b = exclusion.Line[i];
     ASSERT_TRUE(a.X == b.X || a.Y == b.Y);
     for (std::size_t n = 0; n < tree.Nodes.size(); ++n) {
-      if (n == yield.From || n == yield.To || tree.Nodes[n].What == TreeNode::Role::Link) continue;
+      if (n == exclusion.From || n == exclusion.To || tree.Nodes[n].What == TreeNode::Role::Link) continue;
       ASSERT_FALSE(Touches(tree.Nodes[n], a, b)) << "through node " << n;
     }
   }
@@ -307,7 +307,7 @@ TEST(FamilyTree, EachSiblingHangsFromTheOwnParentsAlone) {
   }
 }
 
-// Every kind that is alive has one node of its own, and those who are excluded a line to whom they yield.
+// Every kind that is alive has one node of its own, and those who are excluded a line to whom they exclusion.
 TEST(FamilyTree, NodesNeverOverlapWhateverTheFamily) {
   std::mt19937 random(7);
   for (int run = 0; run < 1500; ++run) {
@@ -326,14 +326,15 @@ TEST(FamilyTree, NodesNeverOverlapWhateverTheFamily) {
     const DivisionView view = ViewDivision(texts, static_cast<School>(run % 4));
     const TreeMetrics& metrics = walkedSizes[run % 3];
     FamilyTree tree = LayOutFamily(view, {&metrics, 1}, static_cast<int>(random() % 2000));
-    DrawYieldLines(tree, metrics);
+    DrawExclusionLines(tree, metrics);
     ASSERT_NO_FATAL_FAILURE(ExpectApart(tree, metrics)) << run;
     ASSERT_NO_FATAL_FAILURE(ExpectNothingBehind(tree)) << run;
     ASSERT_NO_FATAL_FAILURE(ExpectOwnParents(tree)) << run;
     const auto heirs = std::ranges::count(tree.Nodes, TreeNode::Role::Heir, &TreeNode::What);
     ASSERT_EQ(static_cast<std::size_t>(heirs), alive);
     ASSERT_EQ(tree.Nodes[0].What, TreeNode::Role::Deceased);
-    for (const TreeYield& yield : tree.Yields) ASSERT_NO_FATAL_FAILURE(ExpectLeads(tree, yield)) << run;
+    for (const TreeExclusion& exclusion : tree.Exclusions)
+      ASSERT_NO_FATAL_FAILURE(ExpectLeads(tree, exclusion)) << run;
   }
 }
 

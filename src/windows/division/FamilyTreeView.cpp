@@ -87,7 +87,7 @@ void FamilyTreeView::ChooseSize() {
   size_ = 0;
   while (size_ + 1 < Sizes && !FitsIn(size_, place)) ++size_;
   InSize(size_);
-  sized_[size_].Tree.DrawYields();
+  sized_[size_].Tree.DrawExclusions();
   updateGeometry();
   update();
 }
@@ -159,7 +159,7 @@ void FamilyTreeView::paintEvent(QPaintEvent*) {
   painter.setFont(InSize(size_).Ruler.Font());
   painter.setRenderHint(QPainter::Antialiasing);
   DrawLines(painter);
-  DrawYields(painter);
+  DrawExclusions(painter);
   for (const TreeNode& node : Tree().Tree().Nodes) DrawNode(painter, node);
 }
 
@@ -178,7 +178,7 @@ void FamilyTreeView::DrawLines(QPainter& painter) const {
 }
 
 // Dashed, since the lines of the family are not. That of the chosen heir is whole and in full strength.
-void FamilyTreeView::DrawYields(QPainter& painter) const {
+void FamilyTreeView::DrawExclusions(QPainter& painter) const {
   const QColor text = palette().color(QPalette::WindowText);
   const QColor window = palette().color(QPalette::Window);
   const QColor pale = Readable(Between(text, window, IsBlackAndWhite(palette()) ? 0 : faint), window, 3);
@@ -189,14 +189,14 @@ void FamilyTreeView::DrawYields(QPainter& painter) const {
     painter.setBrush(Qt::NoBrush);
     painter.drawPolyline(points);
   };
-  for (const TreeYield& yield : Tree().Tree().Yields) {
-    draw(yield.Alone, QPen(pale, 1, Qt::DashLine));
-    DrawArrow(painter, yield.Line, pale);
+  for (const TreeExclusion& exclusion : Tree().Tree().Exclusions) {
+    draw(exclusion.Alone, QPen(pale, 1, Qt::DashLine));
+    DrawArrow(painter, exclusion.Line, pale);
   }
-  for (const TreeYield& yield : Tree().Tree().Yields) {
-    if (Tree().Tree().Nodes[yield.From].Heir != chosen_) continue;
-    draw(yield.Line, QPen(text, 2, Qt::DashLine));
-    DrawArrow(painter, yield.Line, text);
+  for (const TreeExclusion& exclusion : Tree().Tree().Exclusions) {
+    if (Tree().Tree().Nodes[exclusion.From].Heir != chosen_) continue;
+    draw(exclusion.Line, QPen(text, 2, Qt::DashLine));
+    DrawArrow(painter, exclusion.Line, text);
   }
 }
 

@@ -10,8 +10,8 @@
 namespace qismora {
 
 /// The family as a tree: each heir with name, heads, share and amount; those who are excluded are paler, with
-/// a dashed line to whom they yield. A tree that does not fit its place takes a smaller text, down to what
-/// can be read well, and is larger than its place then. A click or the arrow keys choose an heir.
+/// a dashed line to whom they exclusion. A tree that does not fit its place takes a smaller text, down to
+/// what can be read well, and is larger than its place then. A click or the arrow keys choose an heir.
 class FamilyTreeView : public QWidget {
   Q_DECLARE_TR_FUNCTIONS(FamilyTreeView)
 
@@ -59,7 +59,7 @@ class FamilyTreeView : public QWidget {
   QPoint Origin() const;
   QRect RectOf(const TreeNode& node) const;
   void DrawLines(QPainter& painter) const;
-  void DrawYields(QPainter& painter) const;
+  void DrawExclusions(QPainter& painter) const;
   void DrawNode(QPainter& painter, const TreeNode& node) const;
   void DrawText(QPainter& painter, const TreeNode& node, const QRectF& place) const;
   void DrawArrow(QPainter& painter, const TreeLine& line, const QColor& colour) const;

@@ -34,7 +34,7 @@ PaperTree::PaperTree(const DivisionView& view, const QString& title, const QFont
     const bool fits = Size().width() <= page.width() && Size().height() <= highest * page.height();
     if (fits && size < font.pointSizeF()) break;
   }
-  tree_.DrawYields();
+  tree_.DrawExclusions();
 }
 
 /// Of the picture in points, its title included.
@@ -85,16 +85,17 @@ void PaperTree::DrawLine(QPainter& painter, const TreeLine& line) const {
   painter.drawPolyline(points);
 }
 
-void PaperTree::DrawYields(QPainter& painter) const {
+void PaperTree::DrawExclusions(QPainter& painter) const {
   constexpr QColor grey(80, 80, 80);
-  for (const TreeYield& yield : tree_.Tree().Yields) {
+  for (const TreeExclusion& exclusion : tree_.Tree().Exclusions) {
     painter.setPen(QPen(grey, 0.5, Qt::DashLine));
     painter.setBrush(Qt::NoBrush);
-    DrawLine(painter, yield.Alone);
+    DrawLine(painter, exclusion.Alone);
     painter.setPen(Qt::NoPen);
     painter.setBrush(grey);
-    const std::size_t last = yield.Line.size() - 1;
-    painter.drawPolygon(ArrowAt(PlaceOf(yield.Line[last]), PlaceOf(yield.Line[last - 1]), paperArrow));
+    const std::size_t last = exclusion.Line.size() - 1;
+    painter.drawPolygon(
+        ArrowAt(PlaceOf(exclusion.Line[last]), PlaceOf(exclusion.Line[last - 1]), paperArrow));
   }
 }
 
@@ -109,7 +110,7 @@ void PaperTree::drawObject(QPainter* painter, const QRectF& place, QTextDocument
   painter->drawText(QRectF(0, 0, Size().width(), titleHeight_), Qt::AlignHCenter | Qt::AlignTop, title_);
   painter->translate(1, titleHeight_ + 1);
   for (const TreeLine& line : tree_.Tree().Lines) DrawLine(*painter, line);
-  DrawYields(*painter);
+  DrawExclusions(*painter);
   for (const TreeNode& node : tree_.Tree().Nodes) DrawNode(*painter, node);
   painter->restore();
 }

@@ -35,7 +35,7 @@ class PaperTree : public QObject, public QTextObjectInterface {
   /// A tree that is larger than a page is drawn smaller.
   double Scale() const;
   void DrawLine(QPainter& painter, const TreeLine& line) const;
-  void DrawYields(QPainter& painter) const;
+  void DrawExclusions(QPainter& painter) const;
   void DrawNode(QPainter& painter, const TreeNode& node) const;
   QRectF PlaceOf(const TreeNode& node) const;
   QPointF PlaceOf(const TreePoint& point) const;

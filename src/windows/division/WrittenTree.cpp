@@ -4,7 +4,7 @@
 #include <cmath>
 #include <utility>
 
-#include "division/YieldLines.h"
+#include "division/ExclusionLines.h"
 #include "windows/division/DivisionWords.h"
 #include "windows/platform/Utf8.h"
 
@@ -71,11 +71,11 @@ void WrittenTree::LayOut(const TextRuler& ruler, const Spacing& spacing, int wid
   tree_ = LayOutFamily(view_, sizes, widest);
   lines_ = lines[tree_.Sizes];
   metrics_ = sizes[tree_.Sizes];
-  hasYields_ = false;
+  hasExclusions_ = false;
 }
 
-void WrittenTree::DrawYields() {
-  if (!std::exchange(hasYields_, true)) DrawYieldLines(tree_, metrics_);
+void WrittenTree::DrawExclusions() {
+  if (!std::exchange(hasExclusions_, true)) DrawExclusionLines(tree_, metrics_);
 }
 
 WrittenTree::Lines WrittenTree::Write(const TextRuler& ruler, const Spacing& spacing, Broken broken,

@@ -39,7 +39,7 @@ class WrittenTree {
   /// still be wider.
   void LayOut(const TextRuler& ruler, const Spacing& spacing, int widest);
   /// Draws the lines of those who yield into the tree that is laid out, once. They take the most time.
-  void DrawYields();
+  void DrawExclusions();
 
   const FamilyTree& Tree() const { return tree_; }
   const QString& Deceased() const { return deceased_; }
@@ -60,7 +60,7 @@ class WrittenTree {
   DivisionView view_;
   FamilyTree tree_;
   TreeMetrics metrics_;
-  bool hasYields_ = false;
+  bool hasExclusions_ = false;
   QString deceased_;
   QHash<int, TreeText> texts_;
   Lines lines_;

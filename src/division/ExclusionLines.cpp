@@ -1,4 +1,4 @@
-#include "division/YieldLines.h"
+#include "division/ExclusionLines.h"
 
 #include <algorithm>
 #include <cstdint>
@@ -26,7 +26,7 @@ struct Stretch {
   int To = 0;
 };
 
-/// The crossings of lanes, with the shortest ways from each to the heirs to whom others yield.
+/// The crossings of lanes, with the shortest ways from each to the heirs to whom others exclusion.
 class Grid {
  public:
   Grid(const FamilyTree& tree, int gap, int rowGap, const std::vector<int>& lanes)
@@ -70,7 +70,7 @@ class Grid {
 
   /// The way from a node to the one to which it was led last. Its beginning alone, if it is the first to go
   /// there.
-  void Walk(std::size_t from, TreeYield& yield, int side) {
+  void Walk(std::size_t from, TreeExclusion& exclusion, int side) {
     const int shift = side * shift_ / 2;
     std::size_t state = nowhere;
     for (std::size_t cell = 0; cell < Count(); ++cell) {
@@ -83,23 +83,23 @@ class Grid {
     }
     if (state == nowhere) {
       // There is always a way around; but better a line across others than none.
-      yield.Line = yield.Alone = {tree_.Nodes[from].Centre(), tree_.Nodes[yield.To].Centre()};
+      exclusion.Line = exclusion.Alone = {tree_.Nodes[from].Centre(), tree_.Nodes[exclusion.To].Centre()};
       return;
     }
     bool alone = true;
     for (; state != nowhere; state = next_[state]) {
       const TreePoint point = {xs_[state / 2 % xs_.size()] + shift, ys_[state / 2 / xs_.size()] + shift};
-      Append(yield.Line, point);
-      if (alone) Append(yield.Alone, point);
+      Append(exclusion.Line, point);
+      if (alone) Append(exclusion.Alone, point);
       if (joined_[state]) alone = false;
       joined_[state] = true;
     }
     const bool whole = alone;
-    Clip(yield.Line[0], yield.Line[1], tree_.Nodes[from]);
-    yield.Alone[0] = yield.Line[0];
-    const std::size_t last = yield.Line.size() - 1;
-    Clip(yield.Line[last], yield.Line[last - 1], tree_.Nodes[yield.To]);
-    if (whole) yield.Alone = yield.Line;
+    Clip(exclusion.Line[0], exclusion.Line[1], tree_.Nodes[from]);
+    exclusion.Alone[0] = exclusion.Line[0];
+    const std::size_t last = exclusion.Line.size() - 1;
+    Clip(exclusion.Line[last], exclusion.Line[last - 1], tree_.Nodes[exclusion.To]);
+    if (whole) exclusion.Alone = exclusion.Line;
   }
 
  private:
@@ -237,18 +237,18 @@ class Grid {
 
 }  // namespace
 
-void DrawYieldLines(FamilyTree& tree, const TreeMetrics& metrics) {
-  if (tree.Yields.empty()) return;
+void DrawExclusionLines(FamilyTree& tree, const TreeMetrics& metrics) {
+  if (tree.Exclusions.empty()) return;
   Grid grid(tree, metrics.Gap, metrics.RowGap, tree.Lanes);
   std::vector<std::size_t> targets;
-  for (const TreeYield& yield : tree.Yields) {
-    if (std::ranges::find(targets, yield.To) == targets.end()) targets.push_back(yield.To);
+  for (const TreeExclusion& exclusion : tree.Exclusions) {
+    if (std::ranges::find(targets, exclusion.To) == targets.end()) targets.push_back(exclusion.To);
   }
   constexpr int sides[] = {0, 2, -2, 1, -1};
   for (std::size_t i = 0; i < targets.size(); ++i) {
     grid.LeadTo(targets[i]);
-    for (TreeYield& yield : tree.Yields) {
-      if (yield.To == targets[i]) grid.Walk(yield.From, yield, sides[i % std::size(sides)]);
+    for (TreeExclusion& exclusion : tree.Exclusions) {
+      if (exclusion.To == targets[i]) grid.Walk(exclusion.From, exclusion, sides[i % std::size(sides)]);
     }
   }
 }

@@ -10,6 +10,6 @@ namespace qismora {
 /// the same heir join on their way. They cross the lines of the family as little as can be, and never run
 /// along them. Beside nodes they keep half a gap away, between rows they run in the lanes of the tree, which
 /// has the sizes given.
-void DrawYieldLines(FamilyTree& tree, const TreeMetrics& metrics);
+void DrawExclusionLines(FamilyTree& tree, const TreeMetrics& metrics);
 
 }  // namespace qismora
