@@ -24,8 +24,13 @@ constexpr int stacked = 3;
 constexpr qreal arrowLength = 6;
 /// Of the text, in the size of the font; the smallest can still be read well.
 constexpr double textSizes[] = {1, 0.92, 0.84};
-constexpr WrittenTree::Spacing treeSpacing = {
-    .AcrossText = 11, .DownText = linePadding, .LeastWidth = 96, .Gap = 16, .RowGap = 34, .Link = 8};
+constexpr int betweenRows[] = {34, 26, 18};
+constexpr WrittenTree::Spacing treeSpacing = {.AcrossText = 11,
+                                              .DownText = linePadding,
+                                              .LeastWidth = 96,
+                                              .Gap = 16,
+                                              .RowGap = betweenRows[0],
+                                              .Link = 8};
 
 QFont Scaled(QFont font, double size) {
   if (font.pointSizeF() > 0) {
@@ -76,7 +81,9 @@ const FamilyTreeView::Sized& FamilyTreeView::InSize(std::size_t size) const {
     const QFont font = Scaled(this->font(), textSizes[size]);
     if (sized.Ruler.Font() != font) sized.Ruler = TextRuler(font);
     sized.Tree = written_;
-    sized.Tree.LayOut(sized.Ruler, treeSpacing, laidOutFor_);
+    WrittenTree::Spacing spacing = treeSpacing;
+    spacing.RowGap = betweenRows[size];
+    sized.Tree.LayOut(sized.Ruler, spacing, laidOutFor_);
   }
   return sized;
 }
