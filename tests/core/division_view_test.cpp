@@ -287,7 +287,7 @@ TEST(FamilyTree, EachSiblingHangsFromTheOwnParentsAlone) {
       {Kind::Father, Kind::Mother, Kind::Grandfather, Kind::GreatGrandfather, Kind::GrandfathersMother,
        Kind::FathersMothersMother, Kind::MothersMothersMother, Kind::FullUncle, Kind::ConsanguineUncle},
   };
-  int run = 0;
+  std::size_t run = 0;
   for (unsigned choice = 0; choice < 64; ++choice) {
     for (const std::vector<Kind>& beside : others) {
       CaseTexts texts;

@@ -114,7 +114,7 @@ QString DivisionDocument::Signatures() const {
 }
 
 QString DivisionDocument::Html(Break where) const {
-  const auto opening = [where](const char* tag, bool onNewPage) {
+  const auto opening = [](const char* tag, bool onNewPage) {
     return QStringLiteral("<%1%2>").arg(
         QLatin1String(tag), onNewPage ? QStringLiteral(" style=\"page-break-before: always\"") : QString());
   };
