@@ -11,7 +11,7 @@ namespace qismora {
 
 namespace {
 
-using Kind = enum Entry::Kind;
+using EntryKind = enum Entry::Kind;
 
 std::size_t Index(int index) { return static_cast<std::size_t>(index); }
 
@@ -90,15 +90,16 @@ void TypeIntoScreen(const CaseTexts& texts, CaseScreen& screen) {
 std::optional<Entry> FindEntry(std::string_view caption) {
   const std::string wanted = Comparable(caption);
   const auto is = [&](std::string_view words) { return wanted == Comparable(words); };
-  if (is("Name")) return Entry{Kind::Name};
-  if (is("Deceased")) return Entry{Kind::Deceased};
-  if (is("Heirs consent")) return Entry{Kind::HeirsConsent};
-  if (is(CaptionOf(faraid::Kind::Husband))) return Entry{Kind::Husband};
+  if (is("Name")) return Entry{EntryKind::Name};
+  if (is("Deceased")) return Entry{EntryKind::Deceased};
+  if (is("Heirs consent")) return Entry{EntryKind::HeirsConsent};
+  if (is(CaptionOf(faraid::Kind::Husband))) return Entry{EntryKind::Husband};
   for (const Caption& row : Captions()) {
-    if (row.Index != 0 && row.Index != NetEstateField && is(row.Words)) return Entry{Kind::Field, row.Index};
+    if (row.Index != 0 && row.Index != NetEstateField && is(row.Words))
+      return Entry{EntryKind::Field, row.Index};
   }
   for (int i = 0; i < static_cast<int>(ClassIIRows.size()); ++i) {
-    if (is(ClassIIRows[Index(i)].Caption)) return Entry{Kind::ClassII, i};
+    if (is(ClassIIRows[Index(i)].Caption)) return Entry{EntryKind::ClassII, i};
   }
   return std::nullopt;
 }
@@ -118,29 +119,29 @@ std::optional<int> GenderOf(std::string_view value) {
 
 std::optional<CaseFault> CaseEntries::Set(Entry entry, std::string_view value) {
   switch (entry.Kind) {
-    case Kind::Field:
+    case EntryKind::Field:
       (entry.Index == SpouseField ? wives_ : texts_.Field(entry.Index)) = value;
       break;
-    case Kind::Husband:
+    case EntryKind::Husband:
       husband_ = value;
       break;
-    case Kind::ClassII: {
+    case EntryKind::ClassII: {
       const bool ticked = value == "1" || Comparable(value) == "ticked";
       if (!ticked && value != "0" && !value.empty()) return CaseFault::NotTicked;
       texts_.ClassII[Index(entry.Index)] = ticked;
       break;
     }
-    case Kind::Name:
+    case EntryKind::Name:
       texts_.Field(NameField) = value;
       break;
-    case Kind::Deceased:
+    case EntryKind::Deceased:
       if (const std::optional<int> gender = GenderOf(value)) {
         gender_ = gender;
       } else {
         texts_.Field(NameField) = value;
       }
       break;
-    case Kind::HeirsConsent: {
+    case EntryKind::HeirsConsent: {
       const std::string word = Comparable(value);
       if (word != "yes" && word != "no") return CaseFault::NotYesOrNo;
       texts_.HeirsConsent = word == "yes";

@@ -17,7 +17,7 @@ namespace {
 
 constexpr int rowMargin = 4;
 constexpr int textMargin = 2;
-constexpr double tint = 0.35;
+constexpr double amberTint = 0.35;
 
 }  // namespace
 
@@ -115,7 +115,7 @@ void CaseField::paintEvent(QPaintEvent* event) {
 void CaseField::initStyleOption(QStyleOptionFrame* option) const {
   QLineEdit::initStyleOption(option);
   if (!mark_.isEmpty()) {
-    option->palette.setColor(QPalette::Base, Between(palette().color(QPalette::Base), Amber, tint));
+    option->palette.setColor(QPalette::Base, Between(palette().color(QPalette::Base), Amber, amberTint));
   }
   if (isReadOnly()) option->palette.setBrush(QPalette::Base, palette().window());
 }

@@ -11,12 +11,12 @@ namespace qismora {
 
 namespace {
 
-enum class Place { Bar, Hidden, Menu, UnderMenu };
+enum class BarPlace { Bar, Hidden, Menu, UnderMenu };
 
 struct BarEntry {
   const char* Name;
   const char* Caption;
-  Place Where;
+  BarPlace Where;
   void (CaseStudy::*Run)();
   Qt::Key Key;
 };
@@ -24,17 +24,17 @@ struct BarEntry {
 constexpr Qt::Key noKey = Qt::Key_unknown;
 
 constexpr BarEntry barEntries[] = {
-    {"Back", "&Back", Place::Bar, &CaseStudy::Back_Click, noKey},
-    {"AulRaddxx", "±Aul&Radd", Place::Hidden, nullptr, noKey},
-    {"TestValues", "&TestValues", Place::Hidden, &CaseStudy::TestValues_Click, noKey},
-    {"CaseAnalysis", "Case &Analysis", Place::Menu, nullptr, noKey},
-    {"FullReport", "&All Individual", Place::UnderMenu, &CaseStudy::FullReport_Click, noKey},
-    {"Exec", "Execute &Selected", Place::UnderMenu, &CaseStudy::Exec_Click, noKey},
-    {"Resid", "&Residuaries", Place::UnderMenu, &CaseStudy::Resid_Click, Qt::Key_F5},
-    {"AulRad", "Au&l && Radd", Place::UnderMenu, &CaseStudy::AulRad_Click, noKey},
-    {"CreateSaveFullReport", "&Full Report", Place::Bar, &CaseStudy::CreateSaveFullReport_Click, noKey},
-    {"SaveResults", "&Save Results", Place::Bar, &CaseStudy::SaveResults_Click, noKey},
-    {"About", "A&bout", Place::Bar, &CaseStudy::About_Click, noKey},
+    {"Back", "&Back", BarPlace::Bar, &CaseStudy::Back_Click, noKey},
+    {"AulRaddxx", "±Aul&Radd", BarPlace::Hidden, nullptr, noKey},
+    {"TestValues", "&TestValues", BarPlace::Hidden, &CaseStudy::TestValues_Click, noKey},
+    {"CaseAnalysis", "Case &Analysis", BarPlace::Menu, nullptr, noKey},
+    {"FullReport", "&All Individual", BarPlace::UnderMenu, &CaseStudy::FullReport_Click, noKey},
+    {"Exec", "Execute &Selected", BarPlace::UnderMenu, &CaseStudy::Exec_Click, noKey},
+    {"Resid", "&Residuaries", BarPlace::UnderMenu, &CaseStudy::Resid_Click, Qt::Key_F5},
+    {"AulRad", "Au&l && Radd", BarPlace::UnderMenu, &CaseStudy::AulRad_Click, noKey},
+    {"CreateSaveFullReport", "&Full Report", BarPlace::Bar, &CaseStudy::CreateSaveFullReport_Click, noKey},
+    {"SaveResults", "&Save Results", BarPlace::Bar, &CaseStudy::SaveResults_Click, noKey},
+    {"About", "A&bout", BarPlace::Bar, &CaseStudy::About_Click, noKey},
 };
 
 }  // namespace
@@ -43,10 +43,10 @@ void FillCaseMenu(QMenuBar* bar, CaseStudy& form, Binder& binder) {
   QMenu* menu = nullptr;
   for (const BarEntry& entry : barEntries) {
     const QString caption = QString::fromUtf8(entry.Caption);
-    if (entry.Where == Place::Menu) menu = new QMenu(caption, bar);
-    QAction* action = entry.Where == Place::Menu ? menu->menuAction() : new QAction(caption, bar);
+    if (entry.Where == BarPlace::Menu) menu = new QMenu(caption, bar);
+    QAction* action = entry.Where == BarPlace::Menu ? menu->menuAction() : new QAction(caption, bar);
     action->setObjectName(QString::fromLatin1(entry.Name));
-    action->setVisible(entry.Where != Place::Hidden);
+    action->setVisible(entry.Where != BarPlace::Hidden);
     if (entry.Key != noKey) action->setShortcut(entry.Key);
     if (auto run = entry.Run) {
       WhenTriggered(action, bar, [&form, run] {
@@ -55,7 +55,7 @@ void FillCaseMenu(QMenuBar* bar, CaseStudy& form, Binder& binder) {
       });
     }
     if (action->objectName() == QLatin1String("AulRad")) binder.Enabled(form.AulRad, action);
-    (entry.Where == Place::UnderMenu ? static_cast<QWidget*>(menu) : bar)->addAction(action);
+    (entry.Where == BarPlace::UnderMenu ? static_cast<QWidget*>(menu) : bar)->addAction(action);
   }
 }
 

@@ -14,7 +14,7 @@ namespace qismora {
 
 namespace {
 
-constexpr int columns = 3;
+constexpr int classIIColumns = 3;
 constexpr int rows = 4;
 // The frame of the focus reaches out of a caption; the indicator shows the focus of a covered one.
 constexpr int focusMargin = 4;
@@ -51,7 +51,7 @@ class ClassIIPanel::ColumnCaptions : public PictureButton {
   // None beside the captions.
   QCheckBox* CheckAt(const QPoint& place) const {
     if (!PictureRect().contains(place)) return nullptr;
-    const int index = place.y() * rows / height() * columns + column_;
+    const int index = place.y() * rows / height() * classIIColumns + column_;
     return checks_[static_cast<std::size_t>(index)];
   }
 
@@ -73,22 +73,22 @@ ClassIIPanel::ClassIIPanel(CaseStudy& form, Binder& binder, QWidget* parent)
   grid_->setHorizontalSpacing(12);
   grid_->setVerticalSpacing(0);
   AddChecks();
-  for (int column = 0; column < columns; ++column) {
+  for (int column = 0; column < classIIColumns; ++column) {
     grid_->setColumnStretch(column, 1);
     AddCover(column, Indexed("Frame4", column), form_.Frame4(column).Visible, column,
              QStringLiteral("captions/urdu-classII-%1").arg(column));
-    AddCover(column, Indexed("Frame6", column), form_.Frame6(column).Visible, column + columns,
+    AddCover(column, Indexed("Frame6", column), form_.Frame6(column).Visible, column + classIIColumns,
              QStringLiteral("captions/arabic-classII-%1").arg(column));
   }
 }
 
 void ClassIIPanel::AddChecks() {
-  for (int i = 0; i < columns * rows; ++i) {
+  for (int i = 0; i < classIIColumns * rows; ++i) {
     auto* check = new QCheckBox(this);
     check->setObjectName(Indexed("Check1", i));
     check->setAccessibleName(ToQt(form_.Check1(i).Caption.Get()).simplified());
     binder_.Check(form_.Check1(i), check);
-    grid_->addWidget(check, i / columns, i % columns);
+    grid_->addWidget(check, i / classIIColumns, i % classIIColumns);
     checks_[static_cast<std::size_t>(i)] = check;
   }
 }

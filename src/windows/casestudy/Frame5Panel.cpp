@@ -25,7 +25,7 @@ CaptionButton* Name(CaseStudy& form, Binder& binder, QWidget* parent) {
   return name;
 }
 
-CaptionButton* Link(CaseStudy& form, QWidget* parent) {
+CaptionButton* AboutLink(CaseStudy& form, QWidget* parent) {
   const QString words = QStringLiteral("About this program");
   auto* link = new CaptionButton(QStringLiteral("AboutLink"), Gesture::Click, words, parent);
   QFont underlined = link->font();
@@ -68,7 +68,7 @@ Frame5Panel::Frame5Panel(CaseStudy& form, Binder& binder, QWidget* parent) : QGr
   rows->addWidget(Name(form, binder, this), 0, Qt::AlignHCenter);
   rows->addWidget(howTo);
   rows->addStretch(3);
-  rows->addWidget(Link(form, this), 0, Qt::AlignHCenter);
+  rows->addWidget(AboutLink(form, this), 0, Qt::AlignHCenter);
   binder.Group(form.Frame5, this);
 }
 

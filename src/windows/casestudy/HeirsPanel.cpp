@@ -15,51 +15,51 @@ namespace qismora {
 
 namespace {
 
-enum class Kind { Title, Spouse, Heir, Estate, Blank };
+enum class RowKind { Title, Spouse, Heir, Estate, Blank };
 
 /// What stands in a row, and what screen readers and tool tips call it.
 struct Row {
-  Kind What;
+  RowKind What;
   int Field;
   const char* Words;
 };
 
 constexpr Row leftRows[] = {
-    {Kind::Title, 0, "Spouse and descendants"},
-    {Kind::Spouse, SpouseField, ""},
-    {Kind::Heir, SonsField, "Sons"},
-    {Kind::Heir, DaughtersField, "Daughters"},
-    {Kind::Heir, GrandSonsField, "Grandsons (son's sons)"},
-    {Kind::Heir, GrandDaughtersField, "Granddaughters (son's daughters)"},
-    {Kind::Heir, GtGrandSonsField, "Great-grandsons (son's son's sons)"},
-    {Kind::Heir, GtGrandDaughtersField, "Great-granddaughters (son's son's daughters)"},
-    {Kind::Title, 0, "Brothers and sisters"},
-    {Kind::Heir, FullBrothersField, "Full brothers"},
-    {Kind::Heir, FullSistersField, "Full sisters"},
-    {Kind::Heir, ConsSistersField, "Consanguine sisters (same father)"},
-    {Kind::Heir, ConsBrothersField, "Consanguine brothers (same father)"},
-    {Kind::Heir, UterineSistersField, "Uterine sisters (same mother)"},
-    {Kind::Heir, UterineBrothersField, "Uterine brothers (same mother)"},
-    {Kind::Blank, BlankCaption, ""},
+    {RowKind::Title, 0, "Spouse and descendants"},
+    {RowKind::Spouse, SpouseField, ""},
+    {RowKind::Heir, SonsField, "Sons"},
+    {RowKind::Heir, DaughtersField, "Daughters"},
+    {RowKind::Heir, GrandSonsField, "Grandsons (son's sons)"},
+    {RowKind::Heir, GrandDaughtersField, "Granddaughters (son's daughters)"},
+    {RowKind::Heir, GtGrandSonsField, "Great-grandsons (son's son's sons)"},
+    {RowKind::Heir, GtGrandDaughtersField, "Great-granddaughters (son's son's daughters)"},
+    {RowKind::Title, 0, "Brothers and sisters"},
+    {RowKind::Heir, FullBrothersField, "Full brothers"},
+    {RowKind::Heir, FullSistersField, "Full sisters"},
+    {RowKind::Heir, ConsSistersField, "Consanguine sisters (same father)"},
+    {RowKind::Heir, ConsBrothersField, "Consanguine brothers (same father)"},
+    {RowKind::Heir, UterineSistersField, "Uterine sisters (same mother)"},
+    {RowKind::Heir, UterineBrothersField, "Uterine brothers (same mother)"},
+    {RowKind::Blank, BlankCaption, ""},
 };
 
 constexpr Row rightRows[] = {
-    {Kind::Title, 0, "Ascendants"},
-    {Kind::Heir, FatherField, "Father"},
-    {Kind::Heir, GrandFatherField, "Grandfather (father's father)"},
-    {Kind::Heir, GtGrandFatherField, "Great-grandfather (father's father's father)"},
-    {Kind::Heir, MotherField, "Mother"},
-    {Kind::Heir, MothersMotherField, "Mother's mother"},
-    {Kind::Heir, MothersMothersMotherField, "Great-grandmother (mother's mother's mother)"},
-    {Kind::Heir, FathersMotherField, "Father's mother"},
-    {Kind::Heir, GrandFathersMotherField, "Grandfather's mother (father's father's mother)"},
-    {Kind::Heir, FathersGrandMotherField, "Father's grandmother (father's mother's mother)"},
-    {Kind::Title, 0, "Estate"},
-    {Kind::Estate, GrossEstateField, "Gross estate"},
-    {Kind::Estate, FuneralField, "Funeral expenses"},
-    {Kind::Estate, DebtsField, "Debts"},
-    {Kind::Estate, WillsField, "Wills"},
-    {Kind::Estate, NetEstateField, "Net estate"},
+    {RowKind::Title, 0, "Ascendants"},
+    {RowKind::Heir, FatherField, "Father"},
+    {RowKind::Heir, GrandFatherField, "Grandfather (father's father)"},
+    {RowKind::Heir, GtGrandFatherField, "Great-grandfather (father's father's father)"},
+    {RowKind::Heir, MotherField, "Mother"},
+    {RowKind::Heir, MothersMotherField, "Mother's mother"},
+    {RowKind::Heir, MothersMothersMotherField, "Great-grandmother (mother's mother's mother)"},
+    {RowKind::Heir, FathersMotherField, "Father's mother"},
+    {RowKind::Heir, GrandFathersMotherField, "Grandfather's mother (father's father's mother)"},
+    {RowKind::Heir, FathersGrandMotherField, "Father's grandmother (father's mother's mother)"},
+    {RowKind::Title, 0, "Estate"},
+    {RowKind::Estate, GrossEstateField, "Gross estate"},
+    {RowKind::Estate, FuneralField, "Funeral expenses"},
+    {RowKind::Estate, DebtsField, "Debts"},
+    {RowKind::Estate, WillsField, "Wills"},
+    {RowKind::Estate, NetEstateField, "Net estate"},
 };
 
 // Columns of the grid: caption, picture and field of the left heirs, a gap, and the same on the right.
@@ -112,19 +112,19 @@ HeirsPanel::HeirsPanel(CaseStudy& form, Binder& binder, QWidget* parent)
     for (const Row& row : rows) {
       const QString words = QString::fromUtf8(row.Words);
       switch (row.What) {
-        case Kind::Title:
+        case RowKind::Title:
           grid_->addWidget(Title(row.Words, this), line, column, 1, 3, Qt::AlignBottom);
           break;
-        case Kind::Spouse:
+        case RowKind::Spouse:
           AddSpouse(line);
           break;
-        case Kind::Heir:
+        case RowKind::Heir:
           AddHeir(line, column, row.Field, words);
           break;
-        case Kind::Estate:
+        case RowKind::Estate:
           AddEstate(line, row.Field, words);
           break;
-        case Kind::Blank:
+        case RowKind::Blank:
           AddBlankCaption(line);
           break;
       }

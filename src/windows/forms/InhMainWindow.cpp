@@ -37,13 +37,13 @@ constexpr QMargins focusMargins{2, 2, 2, 2};
 constexpr QMargins panelMargins{6, 6, 6, 6};
 constexpr std::chrono::milliseconds settled{500};
 
-struct Entry {
+struct MenuItem {
   const char* Name;
   const char* Caption;
   void (InhMain::*Run)();
 };
 
-constexpr Entry entries[] = {
+constexpr MenuItem menuItems[] = {
     {"Disclaimer", "&Disclaimer", &InhMain::Disclaimer_Click},
     {"About", "&About", &InhMain::About_Click},
     {"Exitz", "E&xit", &InhMain::Exitz_Click},
@@ -84,23 +84,23 @@ InhMainWindow::InhMainWindow(CaseRecord& record, ShellRecord& shell, ShellPorts&
   };
   BuildMenuBar();
   auto* rows = new QVBoxLayout(Frame111());
-  rows->setSpacing(gap);
+  rows->setSpacing(formGap);
   rows->addWidget(Head());
   rows->addWidget(Middle(player), 1);
   rows->addWidget(Foot());
 
-  QLabel* panel = AddPanel("StatusBar1.Panel3", QStringLiteral("Entry under the mouse"));
+  QLabel* panel = AddPanel("StatusBar1.Panel3", QStringLiteral("MenuItem under the mouse"));
   Binder::Follow(form_.StatusBar1.Caption, [this, panel, name = panel->accessibleName()] {
     panel->setText(WithoutMnemonics(form_.StatusBar1.Caption));
     panel->setAccessibleName(name + QStringLiteral(": ") + panel->text());
   });
   Binder::Follow(form_.ShowsWaitCursor,
                  [this] { form_.ShowsWaitCursor ? setCursor(Qt::WaitCursor) : unsetCursor(); });
-  SetSizes(largeForm, gap);
+  SetSizes(largeForm, formGap);
 }
 
 void InhMainWindow::BuildMenuBar() {
-  for (const Entry& entry : entries) {
+  for (const MenuItem& entry : menuItems) {
     QAction* action = menuBar()->addAction(QString::fromUtf8(entry.Caption));
     action->setObjectName(QString::fromLatin1(entry.Name));
     WhenTriggered(action, this, [this, run = entry.Run] { (form_.*run)(); });
@@ -113,7 +113,7 @@ QWidget* InhMainWindow::Head() {
   auto* head = new QWidget(Frame111());
   auto* row = new QHBoxLayout(head);
   row->setContentsMargins(0, 0, 0, 0);
-  row->setSpacing(gap);
+  row->setSpacing(formGap);
   auto* place = new QWidget(head);
   place->setFixedSize(bannerSize);
   for (int i = 0; i < 2; ++i) {
@@ -162,7 +162,7 @@ QWidget* InhMainWindow::Side(QtVideoPlayer& player) {
   auto* side = new QWidget(Frame111());
   auto* rows = new QVBoxLayout(side);
   rows->setContentsMargins(0, 0, 0, 0);
-  rows->setSpacing(gap);
+  rows->setSpacing(formGap);
   rows->addWidget(Pictures());
   auto* video = new VideoPanel(side);
   rows->addWidget(video, 1);
@@ -178,7 +178,7 @@ QWidget* InhMainWindow::Side(QtVideoPlayer& player) {
   resources->setContentsMargins(panelMargins);
   connect(resources, &QAbstractButton::clicked, this, [this] { form_.Frame2_DblClick(); });
   auto* last = new QHBoxLayout;
-  last->setSpacing(gap);
+  last->setSpacing(formGap);
   last->addWidget(resources, 1);
   last->addWidget(new QLabel(QStringLiteral("Session"), side));
   last->addWidget(SessionNumber());
@@ -248,7 +248,7 @@ QWidget* InhMainWindow::Middle(QtVideoPlayer& player) {
   auto* covered = new QWidget(place);
   auto* columns = new QHBoxLayout(covered);
   columns->setContentsMargins(0, 0, 0, 0);
-  columns->setSpacing(gap);
+  columns->setSpacing(formGap);
   columns->addWidget(Menu(), 1);
   columns->addWidget(Side(player));
   auto* text = new DisclaimerText(form_, place);

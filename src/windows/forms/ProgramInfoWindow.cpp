@@ -48,8 +48,8 @@ ProgramInfoWindow::ProgramInfoWindow(const ProgramFacts& facts, MemoryMeter& mem
   auto* table = new QWidget(this);
   auto* rows = new QFormLayout(table);
   rows->setContentsMargins(0, 0, 0, 0);
-  rows->setVerticalSpacing(gap / 2);
-  rows->setHorizontalSpacing(gap);
+  rows->setVerticalSpacing(formGap / 2);
+  rows->setHorizontalSpacing(formGap);
   for (const InfoRow& row : form_.Rows) AddRow(rows, ToQt(row.Heading), ToQt(row.Text));
   AddRow(rows, QStringLiteral("Memory of the machine"), ToQt(form_.TotalMemory.Get()));
   AddRow(rows, QStringLiteral("Free memory"), ToQt(form_.FreeMemory.Get()));
@@ -59,11 +59,11 @@ ProgramInfoWindow::ProgramInfoWindow(const ProgramFacts& facts, MemoryMeter& mem
   buttons->button(QDialogButtonBox::Close)->setAccessibleName(QStringLiteral("Close"));
   connect(buttons, &QDialogButtonBox::rejected, this, &QWidget::close);
   auto* middle = new QHBoxLayout;
-  middle->setSpacing(2 * gap);
+  middle->setSpacing(2 * formGap);
   middle->addWidget(icon, 0, Qt::AlignTop);
   middle->addWidget(table, 1);
   auto* all = new QVBoxLayout(this);
-  all->setSpacing(gap);
+  all->setSpacing(formGap);
   all->addLayout(middle);
   all->addWidget(buttons);
   all->setSizeConstraint(QLayout::SetFixedSize);

@@ -63,7 +63,7 @@ QurLawsWindow::QurLawsWindow(const ShellRecord& shell, MessageBoxes& boxes)
     WhenMouseMoves(widget, [this] { form_.Form_MouseMove(); });
   }
   binder_.Recolour();
-  SetSizes(largeForm, gap);
+  SetSizes(largeForm, formGap);
 }
 
 QWidget* QurLawsWindow::MakeHeading() {

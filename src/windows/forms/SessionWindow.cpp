@@ -40,7 +40,7 @@ SessionWindow::SessionWindow(ShellPorts& ports) : FormHolder(ports) {
   auto* background = new QWidget(this);
   setCentralWidget(background);
   auto* rows = new QVBoxLayout(background);
-  rows->setSpacing(gap);
+  rows->setSpacing(formGap);
   rows->addWidget(Head());
   grid_ = MakeGrid();
   rows->addWidget(grid_, 1);

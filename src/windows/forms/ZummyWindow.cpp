@@ -33,7 +33,7 @@ ZummyWindow::ZummyWindow(CaseRecord& record, ShellRecord& shell, ShellPorts& por
   connect(back, &QAction::triggered, this, [this] { form_.Back_Click(); });
   auto* background = new QWidget(this);
   auto* columns = new QHBoxLayout(background);
-  columns->setSpacing(gap);
+  columns->setSpacing(formGap);
   columns->addWidget(Buttons());
   columns->addWidget(Holders(), 1);
   setCentralWidget(background);
@@ -66,7 +66,7 @@ QWidget* ZummyWindow::Holders() {
     holder->setAccessibleName(ToQt(document.Title));
     holder->setTextFormat(Qt::PlainText);
     holder->setFrameStyle(int(QFrame::StyledPanel) | int(QFrame::Plain));
-    holder->setMargin(gap / 2);
+    holder->setMargin(formGap / 2);
     rows->addWidget(holder);
   }
   return place;
