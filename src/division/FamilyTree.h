@@ -49,21 +49,21 @@ struct TreeNode {
 /// A line between relatives: a chain of points.
 using TreeLine = std::vector<TreePoint>;
 
-/// An heir who is excluded, and the node of the heir to whom he or she yields.
+/// An excluded heir, and the heir who excludes him or her, by their places among the nodes.
 struct TreeExclusion {
   std::size_t From = 0;
   std::size_t To = 0;
   /// From the edge of the one node to the edge of the other.
   TreeLine Line;
-  /// The beginning of it, up to where it joins the line of another one who yields to the same heir.
+  /// The beginning of it, up to where it joins another line to the same heir.
   TreeLine Alone;
 };
 
 /// The family as a picture from 0, 0 to its width and height: ascendants above the deceased, those of the
 /// father on the left, descendants below. Full and consanguine brothers and sisters and class II stand on the
-/// left, uterine ones and the spouse on the right. Each hangs from a line of the own parents alone: full
-/// brothers and sisters from that of the deceased, consanguine ones from the father, uterine ones from the
-/// mother.
+/// left, uterine ones and the spouse on the right. Each hangs from his or her own parents alone: full
+/// brothers and sisters from the line of the deceased, consanguine ones from the father, uterine ones from
+/// the mother.
 struct FamilyTree {
   /// The deceased is the first; then in the order in which a reader goes through them, from the top left.
   std::vector<TreeNode> Nodes;
@@ -73,14 +73,14 @@ struct FamilyTree {
   int Height = 0;
   /// The sizes that were chosen, by their place among those given.
   std::size_t Sizes = 0;
-  /// The heights between the rows, where the lines of those who yield can run.
+  /// The heights between the rows, at which the lines of excluded heirs can run.
   std::vector<int> Lanes;
 };
 
-/// Lays out all who are alive. No two nodes overlap, whatever the family. Brothers and sisters and class II
-/// stand in as many rows, and the nodes have those of the sizes given, with which the tree is lowest without
-/// being wider than it should be. Where nothing is narrow enough, it is neither much wider nor much higher
-/// than it must be. The lines of those who yield are drawn apart.
+/// Lays out all who are alive. No two nodes overlap, whatever the family. Of the given sizes, and of the ways
+/// to place brothers, sisters and class II, it chooses those with which the tree is lowest without being
+/// wider than the widest. If nothing is narrow enough, the tree is neither much wider nor much higher than it
+/// must be. DrawExclusionLines adds the lines of the excluded heirs.
 FamilyTree LayOutFamily(const DivisionView& view, std::span<const TreeMetrics> sizes, int widest);
 
 }  // namespace qismora

@@ -30,6 +30,11 @@ inline constexpr Ascendant Ascendants[] = {
     {faraid::Kind::MothersMothersMother, 3, {Nobody, Nobody}},
 };
 
+inline constexpr int FatherPlace = 0;
+inline constexpr int MotherPlace = 1;
+static_assert(Ascendants[FatherPlace].Heir == faraid::Kind::Father &&
+              Ascendants[MotherPlace].Heir == faraid::Kind::Mother);
+
 /// The men and the women of one kinship.
 struct Descent {
   faraid::Kind Male;

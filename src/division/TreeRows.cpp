@@ -4,14 +4,29 @@
 
 namespace qismora {
 
-void TreeRows::Add(TreeNode node, int middle, int row) {
+void TreeRows::AddDeceased() {
+  Add({TreeNode::Role::Deceased, faraid::Kind::Remainder, -m_.DeceasedWidth / 2, 0, m_.DeceasedWidth,
+       m_.DeceasedHeight},
+      DeceasedRow, 0);
+}
+
+void TreeRows::AddHeir(faraid::Kind heir, int centre, int row, int middle) {
+  Add(HeirNode(heir, centre), row, middle);
+}
+
+void TreeRows::AddLink(faraid::Kind heir, int centre, int row, int middle) {
+  Add({TreeNode::Role::Link, heir, centre - m_.Link / 2, 0, m_.Link, m_.Link}, row, middle);
+}
+
+void TreeRows::Add(TreeNode node, int row, int middle) {
   node.Y = middle - node.Height / 2;
   placed_.push_back({node, row});
   int& half = halfHeights_[static_cast<std::size_t>(row)];
   half = std::max(half, std::max(-node.Y, node.Y + node.Height));
 }
 
-void TreeRows::AddBesideRows(TreeNode node, int middle, int row) {
+void TreeRows::AddHeirBesideRows(faraid::Kind heir, int centre, int row, int middle) {
+  TreeNode node = HeirNode(heir, centre);
   node.Y = middle - node.Height / 2;
   placed_.push_back({node, row});
   lowest_ = std::max(lowest_, node.Y + node.Height);
@@ -20,7 +35,7 @@ void TreeRows::AddBesideRows(TreeNode node, int middle, int row) {
 void TreeRows::MoveRight(std::pair<std::size_t, std::size_t> since, int by) {
   for (std::size_t i = since.first; i < placed_.size(); ++i) placed_[i].Node.X += by;
   for (std::size_t i = since.second; i < lines_.size(); ++i) {
-    for (TreeEnd& end : lines_[i]) end.X += by;
+    for (RowPoint& point : lines_[i]) point.X += by;
   }
 }
 
@@ -32,9 +47,9 @@ std::pair<int, int> TreeRows::Sides() const {
     right = std::max(right, placed.Node.X + placed.Node.Width);
   }
   for (const auto& line : lines_) {
-    for (const TreeEnd& end : line) {
-      left = std::min(left, end.X);
-      right = std::max(right, end.X);
+    for (const RowPoint& point : line) {
+      left = std::min(left, point.X);
+      right = std::max(right, point.X);
     }
   }
   return {left, right};
@@ -81,22 +96,22 @@ void TreeRows::Place(FamilyTree& tree, std::pair<int, int> sides, int margin, bo
     placed.Node.Y += middles[static_cast<std::size_t>(placed.Row)];
     tree.Nodes.push_back(placed.Node);
   }
-  for (const auto& ends : lines_) {
+  for (const auto& points : lines_) {
     TreeLine line;
-    for (const TreeEnd& end : ends) line.push_back({end.X - left, HeightOf(end, middles)});
+    for (const RowPoint& point : points) line.push_back({point.X - left, HeightOf(point, middles)});
     tree.Lines.push_back(std::move(line));
   }
 }
 
-int TreeRows::HeightOf(const TreeEnd& end, const std::array<int, TreeRowCount>& middles) const {
-  const auto row = static_cast<std::size_t>(end.Row);
+int TreeRows::HeightOf(const RowPoint& point, const std::array<int, TreeRowCount>& middles) const {
+  const auto row = static_cast<std::size_t>(point.Row);
   const int top = middles[row] - halfHeights_[row];
-  switch (end.Where) {
-    case TreeEnd::Edge::Middle:
-      return middles[row] + end.Offset;
-    case TreeEnd::Edge::Above:
+  switch (point.Where) {
+    case RowPoint::Level::Middle:
+      return middles[row] + point.Offset;
+    case RowPoint::Level::Above:
       return top - m_.RowGap / 4;
-    case TreeEnd::Edge::FarAbove:
+    case RowPoint::Level::FarAbove:
       return top - 3 * m_.RowGap / 4;
   }
   return 0;

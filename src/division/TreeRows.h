@@ -12,12 +12,12 @@ inline constexpr int Generations = 3;
 inline constexpr int TreeRowCount = 2 * Generations + 1;
 inline constexpr int DeceasedRow = Generations;
 
-/// A point of a line, before rows have a height: the middle of a row with an offset, or a height in the gap
-/// above the row, a quarter of the gap from the row or a quarter from the next one.
-struct TreeEnd {
+/// A point of a line, before rows have a height: at an offset below the middle of a row, or in the gap above
+/// it, a quarter of the gap from the row (Above) or from the row above (FarAbove).
+struct RowPoint {
   int X = 0;
   int Row = 0;
-  enum class Edge { Middle, Above, FarAbove } Where = Edge::Middle;
+  enum class Level { Middle, Above, FarAbove } Where = Level::Middle;
   int Offset = 0;
 };
 
@@ -25,13 +25,20 @@ struct TreeEnd {
 /// the height that they need.
 class TreeRows {
  public:
-  explicit TreeRows(const TreeMetrics& metrics) : m_(metrics) {}
+  /// Takes the heirs who take something; the others may have nodes of another height.
+  TreeRows(const TreeMetrics& metrics, faraid::KindSet takers) : m_(metrics), takers_(takers) {}
 
-  /// A node whose middle is so far below the middle of the row.
-  void Add(TreeNode node, int middle, int row);
-  /// The same beside the rows below, which do not become higher for it.
-  void AddBesideRows(TreeNode node, int middle, int row);
-  void AddLine(std::vector<TreeEnd> ends) { lines_.push_back(std::move(ends)); }
+  // A node is given by its centre: the column, the row, and how far it is below the middle of the row.
+
+  /// Adds the deceased, whose column is 0.
+  void AddDeceased();
+  void AddHeir(faraid::Kind heir, int centre, int row, int middle = 0);
+  /// The same beside the rows below, which do not become higher.
+  void AddHeirBesideRows(faraid::Kind heir, int centre, int row, int middle);
+  void AddLink(faraid::Kind heir, int centre, int row, int middle = 0);
+  void AddLine(std::vector<RowPoint> points) { lines_.push_back(std::move(points)); }
+
+  int HeightOfHeir(faraid::Kind heir) const { return takers_.Has(heir) ? m_.NodeHeight : m_.OtherHeight; }
 
   /// How many nodes and lines there are.
   std::pair<std::size_t, std::size_t> Count() const { return {placed_.size(), lines_.size()}; }
@@ -44,8 +51,8 @@ class TreeRows {
   int SideBelow(int side) const;
   int Height() const;
 
-  /// Puts nodes and lines into the tree. What hangs above the deceased needs space though there are no
-  /// parents.
+  /// Puts nodes and lines into the tree, between these sides and with this margin below. Lines that hang
+  /// above the deceased need space even without parents.
   void Place(FamilyTree& tree, std::pair<int, int> sides, int margin, bool hangs);
 
  private:
@@ -56,12 +63,17 @@ class TreeRows {
     int Row = 0;
   };
 
+  TreeNode HeirNode(faraid::Kind heir, int centre) const {
+    return {TreeNode::Role::Heir, heir, centre - m_.NodeWidth / 2, 0, m_.NodeWidth, HeightOfHeir(heir)};
+  }
+  void Add(TreeNode node, int row, int middle);
   bool IsUsed(int row) const { return halfHeights_[static_cast<std::size_t>(row)] > 0; }
-  int HeightOf(const TreeEnd& end, const std::array<int, TreeRowCount>& middles) const;
+  int HeightOf(const RowPoint& point, const std::array<int, TreeRowCount>& middles) const;
 
   TreeMetrics m_;
+  faraid::KindSet takers_;
   std::vector<Placed> placed_;
-  std::vector<std::vector<TreeEnd>> lines_;
+  std::vector<std::vector<RowPoint>> lines_;
   std::array<int, TreeRowCount> halfHeights_{};
   /// What stands beside the rows below ends so far below the middle of the deceased.
   int lowest_ = 0;
