@@ -16,17 +16,18 @@ constexpr int costOfCrossing = 150;
 /// Each pixel along a line of the family.
 constexpr int costAlong = 20;
 
-/// Lanes so near to each other are one.
+/// Lanes no farther apart than this are one.
 constexpr int nearness = 2;
 
-/// A part of a line of the family that runs straight.
+/// A straight part of a line of the family.
 struct Stretch {
   int At = 0;
   int From = 0;
   int To = 0;
 };
 
-/// The crossings of lanes, with the shortest ways from each to the heirs to whom others exclusion.
+/// The lanes in which lines can run, as a graph. A state is a crossing of two lanes and the axis along which
+/// the way goes on from it. Dijkstra's algorithm finds the cheapest ways from all states to one node.
 class Grid {
  public:
   Grid(const FamilyTree& tree, int gap, int rowGap, const std::vector<int>& lanes)
@@ -49,8 +50,8 @@ class Grid {
     FindCosts();
   }
 
-  /// Finds the ways from every crossing to a node.
-  void LeadTo(std::size_t target) {
+  /// Finds the cheapest way from every state to a node.
+  void FindWaysTo(std::size_t target) {
     cost_.assign(2 * Count(), far);
     next_.assign(2 * Count(), nowhere);
     joined_.assign(2 * Count(), false);
@@ -64,14 +65,15 @@ class Grid {
     while (!open_.empty()) {
       const auto [cost, state] = open_.top();
       open_.pop();
-      if (cost == cost_[state]) Spread(state, target);
+      if (cost == cost_[state]) Expand(state, target);
     }
   }
 
-  /// The way from a node to the one to which it was led last. Its beginning alone, if it is the first to go
-  /// there.
-  void Walk(std::size_t from, TreeExclusion& exclusion, int side) {
-    const int shift = side * shift_ / 2;
+  /// Draws the line of an exclusion, whose target FindWaysTo was called with. It is so many half shifts
+  /// beside the lanes, so that lines to different heirs do not cover each other.
+  void Draw(TreeExclusion& exclusion, int halfShifts) {
+    const std::size_t from = exclusion.From;
+    const int shift = halfShifts * shift_ / 2;
     std::size_t state = nowhere;
     for (std::size_t cell = 0; cell < Count(); ++cell) {
       if (nodes_[cell] != static_cast<int>(from) || !isInner_[cell]) continue;
@@ -82,7 +84,7 @@ class Grid {
       }
     }
     if (state == nowhere) {
-      // There is always a way around; but better a line across others than none.
+      // There is always a way around. A line across others would be better than none.
       exclusion.Line = exclusion.Alone = {tree_.Nodes[from].Centre(), tree_.Nodes[exclusion.To].Centre()};
       return;
     }
@@ -140,7 +142,7 @@ class Grid {
   /// How far a lane is within a node, from its nearer edge; negative outside.
   static int Depth(int lane, int from, int size) { return std::min(lane - from, from + size - lane); }
 
-  // What it costs to go from each crossing to the next one, to the right and downwards.
+  // The cost from each crossing to the next one, to the right and downwards.
   void FindCosts() {
     std::vector<Stretch> stretches[2];
     for (const TreeLine& line : tree_.Lines) {
@@ -172,22 +174,23 @@ class Grid {
     }
   }
 
-  // To the four neighbours; in a node straight on, and not through one to which no way leads.
-  void Spread(std::size_t state, std::size_t target) {
+  // Goes on to the four neighbours. Within a node the way is straight, and it enters no node but its own two.
+  void Expand(std::size_t state, std::size_t target) {
     const std::size_t cell = state / 2;
     const std::size_t x = cell % xs_.size();
     const std::size_t y = cell / xs_.size();
     const auto go = [&](std::size_t to, std::size_t axis, int step) {
       const int node = nodes_[cell];
       if (node != nobody && state % 2 != axis) return;
-      if (node == nobody || node == static_cast<int>(target) || node == nodes_[to]) Go(state, to, axis, step);
+      if (node == nobody || node == static_cast<int>(target) || node == nodes_[to])
+        Relax(state, to, axis, step);
     };
     if (x > 0) go(cell - 1, across, steps_[across][cell - 1]);
     if (x + 1 < xs_.size()) go(cell + 1, across, steps_[across][cell]);
     if (y > 0) go(cell - xs_.size(), down, steps_[down][cell - xs_.size()]);
     if (y + 1 < ys_.size()) go(cell + xs_.size(), down, steps_[down][cell]);
   }
-  void Go(std::size_t from, std::size_t cell, std::size_t axis, int step) {
+  void Relax(std::size_t from, std::size_t cell, std::size_t axis, int step) {
     const std::size_t state = 2 * cell + axis;
     const int cost = cost_[from] + step + (from % 2 == axis ? 0 : costOfTurn);
     if (cost >= cost_[state]) return;
@@ -196,7 +199,7 @@ class Grid {
     open_.push({cost, state});
   }
 
-  // A point that continues the last two in a straight line takes the place of the last.
+  // A point that continues a straight line replaces its last point.
   static void Append(TreeLine& line, const TreePoint& point) {
     if (line.size() >= 2) {
       const TreePoint& a = line[line.size() - 2];
@@ -206,7 +209,7 @@ class Grid {
     line.push_back(point);
   }
 
-  // The end of a line, from within a node to the edge at which the line leaves it.
+  // Moves the end of a line from within a node to the edge at which the line leaves it.
   static void Clip(TreePoint& end, const TreePoint& next, const TreeNode& node) {
     if (end.Y == next.Y) end.X = next.X < end.X ? node.X : node.X + node.Width;
     if (end.X == next.X) end.Y = next.Y < end.Y ? node.Y : node.Y + node.Height;
@@ -219,19 +222,21 @@ class Grid {
   };
 
   const FamilyTree& tree_;
-  /// How far lines to different heirs lie beside each other in one lane.
+  /// How far apart lines to different heirs run in one lane.
   int shift_;
   std::vector<int> xs_;
   std::vector<int> ys_;
-  /// The node around each crossing.
+  /// The node in which each crossing is, or nobody.
   std::vector<int> nodes_;
-  /// Whether it is so far within that a line in the lane ends at the node's edge.
+  /// Whether it is so far within the node that a shifted line, too, ends at the node's edge.
   std::vector<bool> isInner_;
   std::vector<int> steps_[2];
-  // Of each crossing, for a way that goes on across or down.
+  // For each state: the cost to the target, the next state on the way, and whether a line was drawn through
+  // it.
   std::vector<int> cost_;
   std::vector<std::size_t> next_;
   std::vector<bool> joined_;
+  /// The states to expand, the cheapest first.
   std::priority_queue<Open> open_;
 };
 
@@ -244,11 +249,11 @@ void DrawExclusionLines(FamilyTree& tree, const TreeMetrics& metrics) {
   for (const TreeExclusion& exclusion : tree.Exclusions) {
     if (std::ranges::find(targets, exclusion.To) == targets.end()) targets.push_back(exclusion.To);
   }
-  constexpr int sides[] = {0, 2, -2, 1, -1};
+  constexpr int halfShifts[] = {0, 2, -2, 1, -1};
   for (std::size_t i = 0; i < targets.size(); ++i) {
-    grid.LeadTo(targets[i]);
+    grid.FindWaysTo(targets[i]);
     for (TreeExclusion& exclusion : tree.Exclusions) {
-      if (exclusion.To == targets[i]) grid.Walk(exclusion.From, exclusion, sides[i % std::size(sides)]);
+      if (exclusion.To == targets[i]) grid.Draw(exclusion, halfShifts[i % std::size(halfShifts)]);
     }
   }
 }

@@ -6,10 +6,10 @@
 
 namespace qismora {
 
-/// Draws a line from each heir who yields to the heir who excludes him or her, between the nodes. Lines to
-/// the same heir join on their way. They cross the lines of the family as little as can be, and never run
-/// along them. Beside nodes they keep half a gap away, between rows they run in the lanes of the tree, which
-/// has the sizes given.
+/// Draws a line from each excluded heir to the heir who excludes him or her, between the nodes. Lines to the
+/// same heir join on their way. They cross the lines of the family as little as possible, and avoid running
+/// along them. Beside nodes they keep half a gap away; between rows they run in the lanes of the tree. Takes
+/// the sizes with which the tree was laid out.
 void DrawExclusionLines(FamilyTree& tree, const TreeMetrics& metrics);
 
 }  // namespace qismora
