@@ -307,7 +307,7 @@ TEST(FamilyTree, EachSiblingHangsFromTheOwnParentsAlone) {
   }
 }
 
-// Every kind that is alive has one node of its own, and those who are excluded a line to whom they exclusion.
+// Every kind that is alive has one node of its own, and an excluded one a line to the one who excludes it.
 TEST(FamilyTree, NodesNeverOverlapWhateverTheFamily) {
   std::mt19937 random(7);
   for (int run = 0; run < 1500; ++run) {

@@ -171,8 +171,8 @@ class DivisionPaperTest : public QObject {
     QCOMPARE(signers(CaseOf({{1, "1"}, {25, "100"}})), QStringLiteral("Wife"));
   }
 
-  // All heirs at once have their names in at least seven points, on A4 and Letter: those who yield to a son,
-  // and those who yield to a grandfather, which takes more words.
+  // All heirs at once have their names in at least seven points, on A4 and Letter: those whom a son
+  // excludes, and those whom a grandfather excludes, which takes more words.
   void keepsTheTreeReadable() {
     CaseTexts withoutSons = Everybody();
     for (const std::size_t field : {2U, 4U, 6U, 13U}) withoutSons.Fields[field] = std::string("0");

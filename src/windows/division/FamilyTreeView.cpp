@@ -22,7 +22,7 @@ constexpr qreal roundness = 4;
 constexpr double faint = 0.45;
 constexpr int stacked = 3;
 constexpr qreal arrowLength = 6;
-/// Of the text, in the size of the font; the smallest can still be read well.
+/// Sizes of the text, 1 being that of the font. The smallest can still be read well.
 constexpr double textSizes[] = {1, 0.92, 0.84};
 constexpr int betweenRows[] = {34, 26, 18};
 constexpr WrittenTree::Spacing treeSpacing = {.AcrossText = 11,

@@ -9,9 +9,9 @@
 
 namespace qismora {
 
-/// The family as a tree: each heir with name, heads, share and amount; those who are excluded are paler, with
-/// a dashed line to whom they exclusion. A tree that does not fit its place takes a smaller text, down to
-/// what can be read well, and is larger than its place then. A click or the arrow keys choose an heir.
+/// The family as a tree: each heir with name, heads, share and amount; excluded heirs are paler, with a
+/// dashed line to the heir who excludes them. A tree that does not fit its place takes a smaller text, down
+/// to what can be read well; then it is larger than its place. A click or the arrow keys choose an heir.
 class FamilyTreeView : public QWidget {
   Q_DECLARE_TR_FUNCTIONS(FamilyTreeView)
 
@@ -19,7 +19,7 @@ class FamilyTreeView : public QWidget {
   explicit FamilyTreeView(QWidget* parent);
 
   void Show(const DivisionView& view);
-  /// Emphasises an heir and the line to whom he or she yields; the remainder emphasises nobody.
+  /// Emphasises an heir, and the line to the one who excludes him or her; the remainder emphasises nobody.
   void Choose(faraid::Kind heir);
   /// Raised when the user has chosen an heir.
   std::function<void(faraid::Kind)> Chosen;

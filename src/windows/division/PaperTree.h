@@ -8,9 +8,9 @@ class QPainter;
 
 namespace qismora {
 
-/// The family tree as an object of a text document, drawn in black and white: whoever is excluded has a
-/// dashed frame and a dashed line to whom he or she yields. It is drawn as lines and text, so that paper has
-/// it at its full resolution.
+/// The family tree as an object of a text document, drawn in black and white: an excluded heir has a
+/// dashed frame and a dashed line to the one who excludes him or her. It is drawn as lines and text, so that
+/// paper has it at its full resolution.
 class PaperTree : public QObject, public QTextObjectInterface {
   Q_OBJECT
   Q_INTERFACES(QTextObjectInterface)

@@ -16,7 +16,8 @@ constexpr double deceasedInNodes = 1.2;
 constexpr int mostLinesOfDeceased = 3;
 const QString between = QStringLiteral(" · ");
 
-/// In two at the blank next to the middle, share and amount apart; in one where there is no blank.
+/// The text in two: share and amount, or else at the blank nearest to the middle. Without a blank it stays
+/// whole.
 QStringList Halves(const QString& text) {
   if (text.contains(between)) return text.split(between);
   qsizetype best = -1;
@@ -28,7 +29,7 @@ QStringList Halves(const QString& text) {
   return {text.left(best), text.mid(best + 1)};
 }
 
-/// As many words in each line as have room; what has no room in the last one is left out.
+/// As many words in each line as fit; what does not fit into the last line is left out.
 QStringList LinesOf(const QString& text, const TextRuler& ruler, int width, int most) {
   QStringList lines;
   for (const QString& word : text.split(QLatin1Char(' '), Qt::SkipEmptyParts)) {

@@ -35,10 +35,10 @@ class WrittenTree {
 
   explicit WrittenTree(const DivisionView& view = {});
 
-  /// Texts are broken in two where the tree would else be wider than it should be, or much higher. It may
-  /// still be wider.
+  /// Breaks texts in two if the tree would otherwise be wider than this, or much higher. It may still be
+  /// wider.
   void LayOut(const TextRuler& ruler, const Spacing& spacing, int widest);
-  /// Draws the lines of those who yield into the tree that is laid out, once. They take the most time.
+  /// Draws the lines of the excluded heirs into the tree that is laid out, once. They take the most time.
   void DrawExclusions();
 
   const FamilyTree& Tree() const { return tree_; }
