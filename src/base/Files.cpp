@@ -121,19 +121,6 @@ std::size_t InputFile::Read(char* to, std::size_t size) {
   return all;
 }
 
-std::string ReadWholeFile(const std::string& path) {
-  constexpr std::size_t block = 1 << 16;
-  InputFile file(path);
-  std::string content;
-  for (std::size_t some = block; some == block;) {
-    const std::size_t before = content.size();
-    content.resize(before + block);
-    some = file.Read(content.data() + before, block);
-    content.resize(before + some);
-  }
-  return content;
-}
-
 bool FileExists(const std::string& path) {
   std::error_code ignored;
   return fs::is_regular_file(path, ignored);

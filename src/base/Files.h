@@ -52,9 +52,6 @@ class InputFile {
   Descriptor file_;
 };
 
-/// The whole content of an ordinary file.
-std::string ReadWholeFile(const std::string& path);
-
 /// Whether the path is that of an ordinary file, also through a link.
 bool FileExists(const std::string& path);
 

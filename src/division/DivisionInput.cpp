@@ -131,8 +131,4 @@ DivisionInput ReadDivisionInput(const CaseTexts& texts) {
   return input;
 }
 
-DivisionInput ReadDivisionInput(const CaseScreen& screen, bool heirsConsent) {
-  return ReadDivisionInput(ReadScreen(screen, heirsConsent));
-}
-
 }  // namespace qismora

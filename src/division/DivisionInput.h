@@ -50,7 +50,4 @@ struct DivisionInput {
 /// Reads the texts of a case.
 DivisionInput ReadDivisionInput(const CaseTexts& texts);
 
-/// Reads the fields of the Case Study screen and changes nothing.
-DivisionInput ReadDivisionInput(const CaseScreen& screen, bool heirsConsent);
-
 }  // namespace qismora

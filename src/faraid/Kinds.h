@@ -67,8 +67,6 @@ struct KindSet {
   constexpr bool HasAny(KindSet kinds) const { return (kinds.Bits & Bits) != 0; }
   /// The first of a set that is not empty.
   constexpr Kind First() const { return static_cast<Kind>(std::countr_zero(Bits)); }
-  /// Those that stand before the kind.
-  constexpr KindSet Before(Kind kind) const { return KindSet(Bits & (KindSet(kind).Bits - 1)); }
 
   constexpr bool operator==(const KindSet&) const = default;
 
@@ -103,6 +101,7 @@ inline constexpr KindSet Grandmothers =
 inline constexpr KindSet FullSiblings = Kind::FullBrothers | Kind::FullSisters;
 inline constexpr KindSet ConsanguineSiblings = Kind::ConsanguineSisters | Kind::ConsanguineBrothers;
 inline constexpr KindSet UterineSiblings = Kind::UterineSisters | Kind::UterineBrothers;
+/// Full and consanguine siblings, who have the father in common with the deceased.
 inline constexpr KindSet SiblingsByFather = FullSiblings | ConsanguineSiblings;
 inline constexpr KindSet Siblings = SiblingsByFather | UterineSiblings;
 inline constexpr KindSet ClassII{KindSet(Kind::Remainder).Bits - KindSet(Kind::FullBrothersSon).Bits};

@@ -76,7 +76,7 @@ TEST(DivisionInput, ReadsEachFieldIntoItsOwnKind) {
   for (const HeirField& field : HeirFields) {
     if (field.Heir == faraid::Kind::Wives) continue;
     played.Type(field.Index, "1");
-    const faraid::Family family = ReadDivisionInput(*played.Study, false).Family;
+    const faraid::Family family = ReadDivisionInput(ReadScreen(*played.Study, false)).Family;
     EXPECT_EQ(family.Alive(), faraid::KindSet(field.Heir)) << field.Caption;
     played.Type(field.Index, "0");
   }

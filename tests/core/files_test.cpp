@@ -18,6 +18,7 @@ namespace fs = std::filesystem;
 using testing::FakeFolders;
 using testing::FullDisk;
 using testing::NamesIn;
+using testing::ReadWholeFile;
 using testing::TemporaryFolder;
 
 void Write(const std::string& path, const std::string& content, Replace replace = Replace::Agreed) {

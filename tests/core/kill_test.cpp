@@ -17,6 +17,7 @@ namespace {
 
 namespace fs = std::filesystem;
 using testing::Outcome;
+using testing::ReadWholeFile;
 using testing::SavingProgram;
 using testing::TemporaryFolder;
 

@@ -11,6 +11,7 @@ namespace qismora {
 namespace {
 
 namespace fs = std::filesystem;
+using testing::ReadWholeFile;
 using testing::ScreenFixture;
 using testing::TemporaryFolder;
 

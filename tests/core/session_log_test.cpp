@@ -15,6 +15,7 @@ namespace qismora {
 namespace {
 
 using testing::FakePorts;
+using testing::ReadWholeFile;
 using testing::TemporaryFolder;
 
 constexpr DateTime noon = {2024, 3, 5, 12, 0, 0};

@@ -16,6 +16,7 @@ namespace qismora {
 namespace {
 
 namespace fs = std::filesystem;
+using testing::ReadWholeFile;
 using testing::SavingProgram;
 using testing::TemporaryFolder;
 

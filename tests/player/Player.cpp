@@ -257,7 +257,7 @@ void Player::Division(std::string_view rest) {
   const School school = Named(schools, TakeWord(rest));
   const bool consent = rest == "consent";
   if (!consent && !rest.empty()) throw UnknownCommand();
-  for (const std::string& line : DivisionLines(ReadDivisionInput(*study_, consent), school)) {
+  for (const std::string& line : DivisionLines(ReadDivisionInput(ReadScreen(*study_, consent)), school)) {
     out_ << "  | " << Escaped(line) << '\n';
   }
 }

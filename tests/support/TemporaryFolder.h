@@ -7,6 +7,8 @@
 #include <string>
 #include <vector>
 
+#include "base/Files.h"
+
 namespace qismora::testing {
 
 /// The names of all that lies in a directory, sorted.
@@ -16,6 +18,15 @@ inline std::vector<std::string> NamesIn(const std::string& folder) {
     names.push_back(entry.path().filename().string());
   std::ranges::sort(names);
   return names;
+}
+
+/// The content of an ordinary file.
+inline std::string ReadWholeFile(const std::string& path) {
+  InputFile file(path);
+  std::string content;
+  char block[1 << 16];
+  while (const std::size_t bytes = file.Read(block, sizeof block)) content.append(block, bytes);
+  return content;
 }
 
 /// A new empty directory. The destructor removes it.

@@ -18,6 +18,7 @@ namespace qismora {
 namespace {
 
 namespace fs = std::filesystem;
+using testing::ReadWholeFile;
 using testing::TemporaryFolder;
 
 /// A user's directory for settings.
