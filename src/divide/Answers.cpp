@@ -43,18 +43,6 @@ std::int64_t CorrectedBaseOf(const faraid::Division& division) {
   return division.Base > 0 ? division.CorrectedBase : 0;
 }
 
-void AppendNumber(std::string& text, std::int64_t number) {
-  std::array<char, 24> digits;
-  text.append(digits.data(), std::to_chars(digits.data(), digits.data() + digits.size(), number).ptr);
-}
-
-void AppendAmount(std::string& text, faraid::Hundredths amount) {
-  AppendNumber(text, amount / 100);
-  const auto rest = static_cast<int>(amount % 100);
-  const std::array decimals = {'.', static_cast<char>('0' + rest / 10), static_cast<char>('0' + rest % 10)};
-  text.append(decimals.data(), decimals.size());
-}
-
 void AppendAmount(std::string& text, double amount) {
   std::array<char, 400> digits;
   const auto [end, error] =
@@ -64,12 +52,5 @@ void AppendAmount(std::string& text, double amount) {
 }
 
 std::string_view WordsOf(OwnOutcome outcome) { return outcomes[static_cast<std::size_t>(outcome)]; }
-
-void AppendFraction(std::string& text, const faraid::Fraction& fraction) {
-  AppendNumber(text, fraction.Num());
-  if (fraction.Den() == 1) return;
-  text += '/';
-  AppendNumber(text, fraction.Den());
-}
 
 }  // namespace qismora::divide

@@ -75,14 +75,9 @@ template <class... Pieces>
 void Append(std::string& text, const Pieces&... pieces) {
   (text.append(pieces), ...);
 }
-void AppendNumber(std::string& text, std::int64_t number);
-/// Appends an amount with a point and two decimals.
-void AppendAmount(std::string& text, faraid::Hundredths amount);
+using qismora::AppendAmount;
 /// Appends an amount of the commands, rounded to two decimals.
 void AppendAmount(std::string& text, double amount);
 /// "figures", "no figures", "figure refused", "estate refused", "failed".
 std::string_view WordsOf(OwnOutcome outcome);
-/// Appends a fraction as 1/8, a whole number without a denominator.
-void AppendFraction(std::string& text, const faraid::Fraction& fraction);
-
 }  // namespace qismora::divide

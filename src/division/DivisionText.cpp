@@ -1,5 +1,8 @@
 #include "division/DivisionText.h"
 
+#include <array>
+#include <charconv>
+
 #include "base/Text.h"
 #include "casefile/Captions.h"
 
@@ -93,14 +96,34 @@ std::string EachText(const faraid::Row& row, const faraid::Amount& amount) {
   return Join(AmountText(amount.Each), " or ", AmountText(amount.Each + 1));
 }
 
+void AppendNumber(std::string& text, std::int64_t number) {
+  std::array<char, 24> digits;
+  text.append(digits.data(), std::to_chars(digits.data(), digits.data() + digits.size(), number).ptr);
+}
+
+void AppendAmount(std::string& text, faraid::Hundredths amount) {
+  AppendNumber(text, amount / 100);
+  const auto rest = static_cast<int>(amount % 100);
+  text.append({'.', static_cast<char>('0' + rest / 10), static_cast<char>('0' + rest % 10)});
+}
+
+void AppendFraction(std::string& text, const faraid::Fraction& fraction) {
+  AppendNumber(text, fraction.Num());
+  if (fraction.Den() == 1) return;
+  text += '/';
+  AppendNumber(text, fraction.Den());
+}
+
 std::string AmountText(faraid::Hundredths amount) {
-  const auto hundredths = static_cast<int>(amount % 100);
-  return Join(std::to_string(amount / 100), ".", TwoDigits(hundredths));
+  std::string text;
+  AppendAmount(text, amount);
+  return text;
 }
 
 std::string FractionText(const faraid::Fraction& fraction) {
-  const std::string num = std::to_string(fraction.Num());
-  return fraction.Den() == 1 ? num : Join(num, "/", std::to_string(fraction.Den()));
+  std::string text;
+  AppendFraction(text, fraction);
+  return text;
 }
 
 }  // namespace qismora

@@ -20,10 +20,15 @@ void AppendStanding(std::string& text, const faraid::Row& row);
 /// What each head of a row receives: "33.33 or 33.34" if some receive a hundredth more.
 std::string EachText(const faraid::Row& row, const faraid::Amount& amount);
 
+/// Appends a whole number.
+void AppendNumber(std::string& text, std::int64_t number);
+
 /// An amount with two decimals and without grouping: 1234567.80.
+void AppendAmount(std::string& text, faraid::Hundredths amount);
 std::string AmountText(faraid::Hundredths amount);
 
 /// A fraction as 3/8, a whole number without a denominator.
+void AppendFraction(std::string& text, const faraid::Fraction& fraction);
 std::string FractionText(const faraid::Fraction& fraction);
 
 }  // namespace qismora
