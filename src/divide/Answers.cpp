@@ -21,7 +21,7 @@ std::string_view WordOf(School school) { return words[static_cast<std::size_t>(s
 std::string_view NameOf(School school) { return names[static_cast<std::size_t>(school)]; }
 
 const AnswerFormat& FormatOf(const Options& options) {
-  switch (options.Answer) {
+  switch (options.Output) {
     case Format::Csv:
       return CsvFormat;
     case Format::Json:

@@ -102,7 +102,7 @@ constexpr std::array<Choice<char>, 6> separatorWords = {{
     {"\t", '\t'},
 }};
 
-[[noreturn]] void EndWrong(std::string_view what) {
+[[noreturn]] void EndWithError(std::string_view what) {
   std::cerr << "qismora-divide: " << what << "\nTry 'qismora-divide --help'.\n";
   std::exit(NotDone);
 }
@@ -119,7 +119,7 @@ auto Chosen(std::string_view option, std::string_view word, const Choices& choic
     if (choice.Word == plain) return choice.Meaning;
     if (choice.Word.size() > 1) words.append(words.empty() ? "" : ", ").append(choice.Word);
   }
-  EndWrong(
+  EndWithError(
       std::string(option).append(" cannot be \"").append(word).append("\". It is one of ").append(words) +
       ".");
 }
@@ -128,10 +128,10 @@ std::int64_t Number(std::string_view option, std::string_view word) {
   std::int64_t number = 0;
   const auto [end, error] = std::from_chars(word.data(), word.data() + word.size(), number);
   if (error == std::errc{} && end == word.data() + word.size() && number >= 0) return number;
-  EndWrong(std::string(option).append(" takes a whole number, not \"").append(word).append("\"."));
+  EndWithError(std::string(option).append(" takes a whole number, not \"").append(word).append("\"."));
 }
 
-[[noreturn]] void EndWith(std::string_view text) {
+[[noreturn]] void EndWithText(std::string_view text) {
   std::cout << text << std::flush;
   std::exit(std::cout ? AllDivided : NotDone);
 }
@@ -141,7 +141,7 @@ std::int64_t Number(std::string_view option, std::string_view word) {
 Options ReadOptions(int count, char** words) {
   const std::span<char*> all(words, static_cast<std::size_t>(count));
   static char name[] = "qismora-divide";
-  if (count > 0) all[0] = name;  // as getopt names the program
+  if (count > 0) all[0] = name;  // getopt begins its messages with it
   Options options;
   int letter = 0;
   while ((letter = getopt_long(count, words, "s:f:rci:d:qhV", longOptions.data(), nullptr)) != -1) {
@@ -151,7 +151,7 @@ Options ReadOptions(int count, char** words) {
         options.Schools = Chosen("--school", word, schools);
         break;
       case 'f':
-        options.Answer = Chosen("--format", word, formats);
+        options.Output = Chosen("--format", word, formats);
         break;
       case 'r':
         options.Reasons = true;
@@ -184,9 +184,9 @@ Options ReadOptions(int count, char** words) {
         options.Quiet = true;
         break;
       case 'h':
-        EndWith(help);
+        EndWithText(help);
       case 'V':
-        EndWith("qismora-divide " QISMORA_VERSION "\n");
+        EndWithText("qismora-divide " QISMORA_VERSION "\n");
       default:  // getopt has said what is wrong
         std::cerr << "Try 'qismora-divide --help'.\n";
         std::exit(NotDone);

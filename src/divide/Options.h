@@ -14,7 +14,7 @@ enum class InputKind { Detected, Csv, Case };
 /// What the command line asks for.
 struct Options {
   std::vector<faraid::School> Schools = {faraid::School::Hanafi};
-  Format Answer = Format::Table;
+  Format Output = Format::Table;
   bool Reasons = false;
   /// Adds the answer of the commands of Case Study.
   bool Compare = false;
