@@ -4,6 +4,9 @@
 
 namespace qismora {
 
+/// The bytes with which some programs begin a file in UTF-8.
+inline constexpr std::string_view ByteOrderMark = "\xEF\xBB\xBF";
+
 /// The length in bytes of the first character of a text that is not empty; 0 if it is not UTF-8. Overlong
 /// forms, surrogates and numbers above 10FFFF are not UTF-8.
 std::size_t FirstCharacterLength(std::string_view text);

@@ -15,7 +15,6 @@ namespace qismora {
 namespace {
 
 constexpr std::string_view versionCaption = "Qismora case";
-constexpr std::string_view byteOrderMark = "\xEF\xBB\xBF";
 constexpr std::string_view blanks = " \t";
 
 /// The beginning of a long text.
@@ -93,7 +92,7 @@ class Parser {
       Refuse(CaseFault::FileTooLarge);
       return reading_;
     }
-    if (content.starts_with(byteOrderMark)) content.remove_prefix(byteOrderMark.size());
+    if (content.starts_with(ByteOrderMark)) content.remove_prefix(ByteOrderMark.size());
     while (!content.empty() && !reading_.Fault) {
       const std::size_t end = std::min(content.find('\n'), content.size());
       std::string_view line = content.substr(0, end);

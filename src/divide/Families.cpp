@@ -12,7 +12,6 @@ namespace qismora::divide {
 
 namespace {
 
-constexpr std::string_view byteOrderMark = "\xEF\xBB\xBF";
 constexpr std::array separators = {',', ';', '\t'};
 
 constexpr std::string_view blanks = " \t";
@@ -228,7 +227,7 @@ void ReadFamilies(Source& source, const Options& options, std::int64_t& number, 
   while (input.Text().size() < 4 && input.Fill()) {
   }
   RefuseWorkbooks(input.Text());
-  if (input.Text().starts_with(byteOrderMark)) input.Skip(byteOrderMark.size());
+  if (input.Text().starts_with(ByteOrderMark)) input.Skip(ByteOrderMark.size());
   const bool detects = options.Input == InputKind::Detected && options.Columns.empty();
   if (options.Input == InputKind::Case || (detects && NamedSeparator(input) == 0 && IsCaseFile(input))) {
     std::string id = source.Path();
