@@ -194,6 +194,7 @@ constexpr std::string_view exclusion[] = {
 };
 
 constexpr std::string_view aulRadd[] = {
+    "IMPLEMENTING THE DOCTRINE OF 'AUL' AND 'RADD':",
     "",
     "Literal meaning of 'Aul' is increase and 'Radd' is opposite of 'Aul' i.e. decrease. These doctrines are applied in distribution of shares when:",
     "",
@@ -253,24 +254,18 @@ constexpr std::string_view aulRadd[] = {
 };
 
 /// A page starts with a line break and ends with the given number of them.
-std::string PageText(std::string_view firstLine, std::span<const std::string_view> lines, int breaksAtEnd) {
-  std::string text = Join(CRLF, firstLine);
+std::string PageText(std::span<const std::string_view> lines, int breaksAtEnd) {
+  std::string text;
   for (const std::string_view line : lines) text += Join(CRLF, line);
   for (int i = 0; i < breaksAtEnd; ++i) text += CRLF;
   return text;
-}
-
-std::string PageText(std::span<const std::string_view> lines, int breaksAtEnd) {
-  return PageText(lines.front(), lines.subspan(1), breaksAtEnd);
 }
 
 std::string QuranicLaws() { return PageText(quranicLaws, 9); }
 std::string WillsPage() { return PageText(wills, 4); }
 std::string IndianActsPage() { return PageText(indianActs, 4); }
 std::string ExclusionPage() { return PageText(exclusion, 4); }
-std::string AulRaddPage() {
-  return PageText(UpperCase("Implementing the Doctrine of 'Aul' and 'Radd':"), aulRadd, 6);
-}
+std::string AulRaddPage() { return PageText(aulRadd, 6); }
 
 // No entry of the main menu opens the wills: number 2 opens a document. The page is required all the same.
 constexpr LawPageRow rows[] = {
