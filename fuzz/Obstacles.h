@@ -22,7 +22,7 @@ class Obstacles {
   /// Records the entries before a command.
   void Look(const FakeMessageBoxes& boxes);
   /// Ends the program with a message when the command has deleted a file, changed one without the user's
-  /// consent, written through a link that he did not choose, or left an unfinished file.
+  /// consent, written through a link that was not chosen, or left an unfinished file.
   void Check(const FakeMessageBoxes& boxes) const;
 
  private:

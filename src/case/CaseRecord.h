@@ -121,7 +121,7 @@ inline constexpr int SurplusToClassII = 33;
 
 /// What lives as long as the Case Study screen.
 struct ScreenState {
-  /// A hard failure has stopped the loading of the case. The code that reads it as true resets it.
+  /// A hard failure has stopped the loading of the case. The step that finds it true resets it.
   bool InputFailed = false;
   /// A run of several rules has loaded the case, so their wrappers do not load it again.
   bool CaseLoaded = false;

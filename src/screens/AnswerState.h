@@ -28,8 +28,8 @@ enum class AnswerStanding : std::uint8_t {
 /// text), the share of one heir, or those of all.
 enum class AnswerOf : std::uint8_t { Nothing, OneShare, AllShares };
 
-/// Follows the commands of the Case Study screen and the changes of its fields, and says what the answer that
-/// is shown is worth. It only watches.
+/// Follows the commands of the Case Study screen and the changes of its fields, and says how far the
+/// shown answer can be relied on. It only watches.
 class AnswerState {
  public:
   /// A command begins, under the name that its answer shall have.

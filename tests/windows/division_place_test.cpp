@@ -58,7 +58,7 @@ class DivisionPlaceTest : public DivisionFixture {
     QVERIFY(!Division()->frameGeometry().intersects(study_->Window().frameGeometry()));
     QTRY_VERIFY(study_->Window().isActiveWindow());
     QCOMPARE(QApplication::focusWidget(), field);
-    // At the user's request it stands where he has put it.
+    // At the user's request it stands where the user has put it.
     Division()->move(60, 70);
     Division()->hide();
     OpenWithKey();
@@ -90,7 +90,7 @@ class DivisionPlaceTest : public DivisionFixture {
     splitter = Find<QSplitter>("DivisionSplitter");
     QTRY_VERIFY(splitter->isVisible());
     QTRY_COMPARE(splitter->sizes(), sizes);
-    // The next start of the program speaks it too.
+    // The next start of the program uses it too.
     QCOMPARE(ChosenLanguage(study_->Store()), std::optional(Language::Urdu));
     QCOMPARE(study_->Find<QAction>("Case")->text(), QStringLiteral("صورت"));
     ChooseLanguage(study_->Store(), Language::English);

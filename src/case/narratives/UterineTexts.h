@@ -2,8 +2,8 @@
 
 #include "case/narratives/NarrativeTable.h"
 
-// The sentences of the uterine sister and brother.
-// Fixed wording; do not correct.
+// The sentences of the uterine sister and brother. The last entry of each table says "one third (1/6)"; a
+// sixth is meant. Fixed wording; do not correct.
 
 namespace qismora {
 
@@ -54,7 +54,6 @@ inline constexpr NarrativeTable<UterineSisterText, 9> UterineSisterTexts = {{
      "(1/6) i.e."},
 }};
 
-// The last entry says "one third (1/6)"; the figure is right. Fixed wording; do not correct.
 enum class UterineBrotherText {
   LeftExcluders,
   Excluded,

@@ -13,7 +13,7 @@ class DivisionSettings {
  public:
   explicit DivisionSettings(Settings& store) : store_(store) {}
 
-  /// Whether the user wants the window beside Case Study: yes, until he closes it.
+  /// Whether the user wants the window beside Case Study: yes, until the user closes it.
   bool IsWanted() const;
   void SetWanted(bool wanted);
   /// Hanafi before any is chosen.

@@ -6,7 +6,7 @@
 
 namespace qismora {
 
-/// The table above the pictures, as a part of a page that scrolls: it is not smaller than told.
+/// The table above the pictures, as a part of a page that scrolls. It has a least height.
 class PageSplitter : public QSplitter {
  public:
   explicit PageSplitter(QWidget* parent) : QSplitter(Qt::Vertical, parent) {}

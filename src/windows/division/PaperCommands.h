@@ -12,8 +12,8 @@ namespace qismora {
 void PreviewPaper(const DivisionDocument& document, QWidget* window);
 /// Lets the user choose a printer, and prints.
 void PrintPaper(const DivisionDocument& document, QWidget* window);
-/// Asks where to, writes a PDF file and reports what came of it: the sentence is also shown where something
-/// went wrong. Nothing if the user has changed his mind.
+/// Asks for a path and writes a PDF file. Returns the outcome as a sentence; a failure is also shown in a
+/// message box. Nothing if the user cancels.
 std::optional<QString> SavePaperAsPdf(const DivisionDocument& document, QWidget* window);
 /// Puts the table on the clipboard.
 void CopyPaper(const DivisionDocument& document);

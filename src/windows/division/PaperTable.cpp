@@ -208,7 +208,7 @@ QString TableOfOthers(const DivisionView& view, Order order) {
   return markup::Tag("h3", HeadingOfOthers()) + markup::Table(rows, true);
 }
 
-// Who stand for the same reason stand in one row.
+// Heirs who receive nothing for the same reason share a row.
 QString OthersByReason(const DivisionView& view, bool onNewPage) {
   struct Group {
     const DivisionLine* First;

@@ -12,7 +12,7 @@ QString TableOfEstate(const DivisionView& view, markup::Order order);
 QString TableOfTakers(const DivisionView& view, markup::Order order);
 /// Those who are alive and receive nothing; empty where there are none.
 QString TableOfOthers(const DivisionView& view, markup::Order order);
-/// The same with those in one row who stand there for the same reason; for paper.
+/// The same for paper: heirs with the same reason share a row.
 QString OthersByReason(const DivisionView& view, bool onNewPage);
 /// The estate, and all heirs and the sum, as tab-separated text.
 QString EstateAsText(const DivisionView& view);

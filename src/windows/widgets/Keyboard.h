@@ -12,9 +12,9 @@ namespace qismora {
 /// Alt with it always chooses the first.
 void OpenToKeyboard(QMainWindow* window);
 
-/// Calls when the action is triggered, as long as the context lives. A command may open a modal message box,
-/// and a screen reader that has triggered the action must not wait for the answer. So while a screen reader
-/// is active, the call comes from the event loop.
+/// Calls the function when the action is triggered, as long as the context lives. A command may open a modal
+/// message box, and a screen reader that has triggered the action must not wait for the answer. So while a
+/// screen reader is active, the call comes from the event loop.
 void WhenTriggered(const QAction* action, QObject* context, std::function<void()> act);
 
 }  // namespace qismora
