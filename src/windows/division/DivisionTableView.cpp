@@ -177,7 +177,7 @@ int DivisionTableView::HeightOfRows(bool takersAlone) const {
   return columns.Sum > across ? height + horizontalScrollBar()->sizeHint().height() : height;
 }
 
-DivisionTableView::Columns DivisionTableView::ColumnsThatNeed(bool tight) const {
+DivisionTableView::Columns DivisionTableView::NeededColumns(bool tight) const {
   const DivisionTable& table = model_->Table();
   Columns columns = {table.Headings, {}, 0};
   for (int column = 0; column < table.FirstSentence; ++column) {
@@ -202,8 +202,8 @@ DivisionTableView::Columns DivisionTableView::ColumnsThatNeed(bool tight) const 
 DivisionTableView::Columns DivisionTableView::ColumnsIn(int width) const {
   // The choice is the same with a scroll bar and without, since the bar depends on the height of the rows.
   const int least = this->width() - 2 * frameWidth() - verticalScrollBar()->sizeHint().width();
-  Columns columns = ColumnsThatNeed(false);
-  if (columns.Sum + leastSentence > least) columns = ColumnsThatNeed(true);
+  Columns columns = NeededColumns(false);
+  if (columns.Sum + leastSentence > least) columns = NeededColumns(true);
   columns.Widths.append(std::max(leastSentence, width - columns.Sum));
   columns.Sum += columns.Widths.back();
   return columns;

@@ -52,7 +52,7 @@ class DivisionTableView : public QTableView {
   };
   /// What the columns need: with some space around the figures, or with as little as can be, long headings in
   /// two lines and names wrapped.
-  Columns ColumnsThatNeed(bool tight) const;
+  Columns NeededColumns(bool tight) const;
   Columns ColumnsIn(int width) const;
   void Fit();
   int HeightOf(const DivisionTable::Row& row, const Columns& columns) const;

@@ -8,8 +8,6 @@
 
 namespace qismora {
 
-namespace {}  // namespace
-
 QString DateOnPaper(const QDate& date) { return CurrentLocale().toString(date, QLocale::LongFormat); }
 
 QList<PaperFact> FactsOnPaper(const DivisionView& view, const QDate& date) {
