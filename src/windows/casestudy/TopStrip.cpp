@@ -78,7 +78,7 @@ QWidget* TopStrip::Views() {
   auto* row = new QHBoxLayout(frame);
   row->setContentsMargins(0, 0, 0, 0);
   row->setSpacing(2);
-  for (int i = 0; i < 3; ++i) {
+  for (int i = 0; i < form_.Label4.Size; ++i) {
     Label& control = form_.Label4(i);
     auto* view =
         new CaptionButton(Indexed("Label4", i), Gesture::Click, QString::fromUtf8(viewNames[i]), frame);
@@ -104,7 +104,7 @@ QWidget* TopStrip::Animation() {
   place->setFixedSize(animationSize);
   place->setAccessibleName(QStringLiteral("Animation"));
   connect(place, &QAbstractButton::clicked, this, [this] { form_.Image42_Click(); });
-  for (int i = 0; i < 3; ++i) {
+  for (int i = 0; i < form_.Image42.Size; ++i) {
     auto* picture = new PictureLabel(Indexed("Image42", i), QStringLiteral("image42-%1").arg(i),
                                      QStringLiteral("Animation, picture %1").arg(i), place);
     picture->setGeometry(QRect(QPoint(), animationSize).marginsRemoved(focusMargins));
