@@ -16,11 +16,9 @@ std::string_view Failure::Description() const noexcept {
       {FileNotFound, "File not found"},
       {FileAlreadyOpen, "File already open"},
       {FileAlreadyExists, "File already exists"},
-      {InputPastEnd, "Input past end of file"},
       {PermissionDenied, "Permission denied"},
       {PathFileAccess, "Path/File access error"},
       {PathNotFound, "Path not found"},
-      {InvalidProperty, "Invalid property value"},
   };
   for (const Row& row : rows) {
     if (row.Number == Number) return row.Words;
