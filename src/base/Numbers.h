@@ -51,6 +51,8 @@ class Whole {
   Stored value_ = 0;
 };
 
+// The widths are fixed like the rules: beyond them a command fails, as users meet it in very large families
+// and estates (docs/peculiarities.md).
 using Integer = Whole<std::int16_t>;
 using Long = Whole<std::int32_t>;
 

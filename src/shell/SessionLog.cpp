@@ -99,7 +99,8 @@ void LogSession(const ShellRecord& shell, const CaseRecord& c, ShellPorts& ports
   AppendLine(LogPath(ports), SessionLine(shell.SessionNumber, shell.SessionStart, now, seconds));
 }
 
-/// Shows a message. The program ends even if nobody answers it.
+/// Shows the message about a log that another program keeps open. AppendLine waits for such a program instead
+/// of failing, so only a port can raise this failure. The program ends even if nobody answers the message.
 void ReportOpenLog(ShellPorts& ports) {
   try {
     ports.Boxes.Inform(

@@ -23,6 +23,7 @@ struct BarEntry {
 
 constexpr Qt::Key noKey = Qt::Key_unknown;
 
+// The hidden entries are fixed controls that the menu does not offer.
 constexpr BarEntry barEntries[] = {
     {"Back", "&Back", BarPlace::Bar, &CaseStudy::Back_Click, noKey},
     {"AulRaddxx", "±Aul&Radd", BarPlace::Hidden, nullptr, noKey},
