@@ -29,7 +29,7 @@ enum class DivisionOutcome {
   Remainder,
   /// Residuaries take what the fixed shares leave, or the whole.
   Residue,
-  /// The fixed shares come to the whole estate.
+  /// The fixed shares equal the whole estate.
   FitsExactly,
 };
 
@@ -54,7 +54,7 @@ struct DivisionSum {
   bool operator==(const DivisionSum&) const = default;
 };
 
-/// Heirs who are supposed to have died before the deceased: so many of those who are alive.
+/// Heirs who are supposed to have died before the deceased: how many, and of how many who are alive.
 struct SupposedDeath {
   faraid::Kind Heir = faraid::Kind::Remainder;
   int Heads = 0;

@@ -60,7 +60,7 @@ bool IsAnotherCase(CaseTexts texts, const CaseTexts& before) {
   return texts != before;
 }
 
-/// What a load and the commands behind it come to.
+/// The outcome of a command that has loaded the case.
 Outcome OutcomeOf(AnswerOf what, int adjustment, bool netBelowZero, bool distributed) {
   if (what == AnswerOf::Nothing) return Outcome::OnlyLoaded;
   if (netBelowZero) return Outcome::NetBelowZero;

@@ -81,7 +81,7 @@ ReadingsPanel::ReadingsPanel(CaseStudy& form, QWidget* parent)
 }
 
 // Only the first sentence has the space to be read whole; Return or a click shows all of them. A sentence
-// changes with each key; it is announced when another field has come to it.
+// changes with each key, so it is announced only when one more field is misread.
 void ReadingsPanel::Translate() {
   QStringList sentences;
   for (const Message& sentence : form_.Misreadings(grouping_)) sentences.append(CaseWords::Of(sentence));

@@ -7,7 +7,7 @@
 
 namespace qismora {
 
-/// A line that is always in sight: how far the answer can be relied on, and under which file the case is
+/// A line that is always visible: how far the answer can be relied on, and under which file the case is
 /// kept.
 class AnswerStrip : public QFrame {
  public:

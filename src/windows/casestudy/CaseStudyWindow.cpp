@@ -121,7 +121,7 @@ void CaseStudyWindow::BuildFrame() {
   }
 }
 
-// The menu entry has the key; the line at the end of the menu bar is always in sight.
+// The menu entry has the key; the line at the end of the menu bar is always visible.
 void CaseStudyWindow::BuildDivision(Settings& store) {
   division_ = new DivisionOpener(form_, store, this);
   openDivision_ = new QAction(menuBar());

@@ -22,7 +22,7 @@ class CaseStudyWindow : public FormHolder<CaseStudy>, public FormWindow {
  public:
   CaseStudyWindow(CaseRecord& record, CasePorts& ports, int savedLanguage);
 
-  /// The Division window, which shows what the fields come to.
+  /// Opens the Division window, which divides what the fields hold.
   DivisionOpener& Division() { return *division_; }
   CaseDocument& Document() { return document_; }
 

@@ -5,15 +5,15 @@
 
 namespace qismora {
 
-/// The panel of the status bar that says where full reports are saved and, after a command that saves, what
-/// came of it, until the next case is typed. A path that is too long for it is shortened in the middle; its
-/// tool tip shows the whole. A screen reader announces what comes of a save.
+/// The panel of the status bar that says where full reports are saved. After a command that saves, it shows
+/// the outcome until the next case is typed, and a screen reader announces it. A path that is too long is
+/// shortened in the middle; the tool tip shows all of it.
 class SavePanel : public AnnouncedLabel {
  public:
   SavePanel(const QString& folder, QWidget* parent);
 
   void ShowOutcome(const SaveOutcome& outcome);
-  /// Where reports are saved; the outcome of an earlier save goes.
+  /// Shows where reports are saved, instead of the outcome of an earlier save.
   void ShowFolder();
 
  protected:

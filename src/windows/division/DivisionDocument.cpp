@@ -38,7 +38,7 @@ using markup::Tag;
 /// Per cent: fonts of Naskh have room between the lines for marks that no sentence of the paper has.
 constexpr double lineHeightOfNaskh = 80;
 
-/// Whether it has at most so many pages, and no table is wider than they are; a rounded width may be.
+/// Whether it has at most this many pages, and no table is wider than they are, but for rounding.
 bool IsWithin(const QTextDocument& document, int pages) {
   return document.pageCount() <= pages && document.size().width() < 1.01 * document.pageSize().width();
 }

@@ -19,7 +19,7 @@ class DivisionSettings {
   /// Hanafi before any is chosen.
   faraid::School School() const;
   void SetSchool(faraid::School school);
-  /// Numbers under a key; none unless there are so many.
+  /// The numbers under a key; none unless there are exactly this many.
   QList<int> Numbers(const char* key, qsizetype count) const;
   void SetNumbers(const char* key, const QList<int>& numbers);
 

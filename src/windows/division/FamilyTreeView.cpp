@@ -112,13 +112,12 @@ int FamilyTreeView::FullHeight() const { return HeightIn(0); }
 
 int FamilyTreeView::LeastHeight() const { return HeightIn(Sizes - 1); }
 
-// While the keys lead through the tree, its name ends with the heir that they have come to, so that a screen
-// reader says who it is.
+// While the keys move through the tree, its name ends with the chosen heir, so that a screen reader reads it.
 void FamilyTreeView::SayChosen() {
-  const bool led = window()->focusWidget() == this;
+  const bool hasKeys = window()->focusWidget() == this;
   QString name = tr("Family tree");
   for (const TreeNode& node : Tree().Tree().Nodes) {
-    if (led && node.What == TreeNode::Role::Heir && node.Heir == chosen_)
+    if (hasKeys && node.What == TreeNode::Role::Heir && node.Heir == chosen_)
       name += QStringLiteral(": ") + SentenceOf(Tree().Of(node));
   }
   setAccessibleName(name);

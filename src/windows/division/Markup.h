@@ -23,8 +23,8 @@ QString Tag(const char* tag, const QString& words);
 /// Empty where there are no words. A style is a class of the style sheet.
 QString Paragraph(const QString& words, const char* style = nullptr);
 
-/// A cell, of so many per cent of the table's width where that is not 0. Figures are not broken over two
-/// lines; a line break in the words is one in the cell.
+/// A cell. The percentage is that of the table's width, 0 without one. Figures are not broken over two lines;
+/// a line break in the words is one in the cell.
 QString Cell(const QString& words, Side side = Side::Start, const char* tag = "td", int percent = 0,
              const QString& attributes = {});
 QString Row(QStringList cells, Order order = Order::FromTheLeft);

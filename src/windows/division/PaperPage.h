@@ -14,7 +14,7 @@ inline constexpr double PointsOfFooter = 8;
 
 /// The font of the current language for paper.
 QFont PaperFont(double points);
-/// Below the text of a page, for a device of so many dots per inch.
+/// The height below the text of a page, in dots, on a device with this many dots per inch.
 double FooterHeight(int dots);
 
 /// Paints a page, counted from 0, with a line below the text.

@@ -134,7 +134,7 @@ QString PlainSum(Column column, const DivisionView& view) {
   return number.isEmpty() ? SumText(column, view) : WithDecimalSeparator(number);
 }
 
-/// What a spreadsheet that reads HTML goes by instead of the words, whatever their digits.
+/// The attributes from which a spreadsheet that reads HTML takes the number, whatever digits the words have.
 QString ForSpreadsheets(const QString& number) {
   return number.isEmpty() ? QString() : QStringLiteral(" x:num=\"%1\" sdval=\"%1\"").arg(number);
 }

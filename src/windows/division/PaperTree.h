@@ -19,7 +19,7 @@ class PaperTree : public QObject, public QTextObjectInterface {
   /// The number of the object's type in the document.
   static constexpr int Type = QTextFormat::UserObject + 1;
 
-  /// Laid out for a page of so many points.
+  /// Laid out for a page of this size in points.
   PaperTree(const DivisionView& view, const QString& title, const QFont& font, const QSizeF& page,
             QObject* parent);
 

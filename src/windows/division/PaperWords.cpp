@@ -42,8 +42,7 @@ QString NoteOnHundredths(const DivisionView& view) {
                 : QString();
 }
 
-// A reader who has this page alone is told whose other figures may come to him, and that they do not count
-// here.
+// For a reader who has only this page: which report has other figures, and that they do not count here.
 QString NoteOnOtherReport(const DivisionView& view) {
   if (!view.Own || view.Differs.None()) return {};
   const QString other =

@@ -19,7 +19,7 @@ QColor ColourOf(faraid::Kind heir, const QPalette& palette);
 /// colours.
 void FillPattern(QPainter& painter, const QRectF& rect, faraid::Kind heir, const QPalette& palette);
 
-/// The same as a small picture, for the key in the table; it begins so much below the top.
+/// The same as a small picture for the table, below a margin at the top.
 QPixmap PatternSwatch(faraid::Kind heir, const QPalette& palette, int size, int top, qreal scale);
 
 }  // namespace qismora

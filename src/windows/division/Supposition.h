@@ -33,7 +33,7 @@ class Supposition {
                        const std::function<void(int heads)>& supposeDead);
 
  private:
-  /// An heir of whom so many had died before.
+  /// The heirs, and how many of each are supposed to have died before.
   std::vector<std::pair<faraid::Kind, int>> deaths_;
 };
 
