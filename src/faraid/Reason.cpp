@@ -52,6 +52,88 @@ constexpr std::array<Name, KindCount> names = {{
     {"a ", "consanguine uncle's son's son's son"},
 }};
 
+struct PatternRow {
+  ReasonCode Code;
+  std::string_view Pattern;
+};
+
+constexpr PatternRow patterns[] = {
+    {ReasonCode::Open, ""},
+    {ReasonCode::BecauseOfDescendants, "{share} because there are {descendants}"},
+    {ReasonCode::WithoutDescendants, "{share} because there are no descendants"},
+    {ReasonCode::OneWithoutSon, "{share}, one without a son"},
+    {ReasonCode::SeveralWithoutSon, "{share}, two or more without a son"},
+    {ReasonCode::OneInPlaceOf, "{share}, one in {a heir}'s place"},
+    {ReasonCode::SeveralInPlaceOf, "{share}, two or more in {a heir}'s place"},
+    {ReasonCode::CompletesTwoThirds, "{share} completes two thirds beside one {heir}"},
+    {ReasonCode::InFathersPlace, "{share} in the father's place"},
+    {ReasonCode::TwoOrMoreSiblings, "{share} because there are two or more siblings"},
+    {ReasonCode::NeitherDescendantsNorSiblings, "{share}, neither descendants nor two siblings"},
+    {ReasonCode::Umariyyatan, "{share}, al-Umariyyatan: a third of what {a heir} leaves"},
+    {ReasonCode::OneGrandmother, "{share} as grandmother"},
+    {ReasonCode::GrandmothersTogether, "{share} together with the other grandmothers"},
+    {ReasonCode::OneWithoutBrother, "{share}, one without a brother"},
+    {ReasonCode::SeveralWithoutBrother, "{share}, two or more without a brother"},
+    {ReasonCode::OneUterine, "{share}, one uterine sibling alone"},
+    {ReasonCode::UterineTogether, "{share} together, men and women alike"},
+    {ReasonCode::Mushtaraka, "{share}, al-Mushtaraka: full and uterine siblings alike"},
+    {ReasonCode::NearestMale, "takes {left}, nearest male"},
+    {ReasonCode::TwoPartsBeside, "takes {left}, two parts to {a heir}'s one"},
+    {ReasonCode::OnePartBeside, "takes {left}, one part to {a heir}'s two"},
+    {ReasonCode::SisterBesideDescendants, "takes {left} beside {a heir}"},
+    {ReasonCode::Akdariyya, "al-Akdariyya: his 1/6 and her 1/2 joined, two parts to one"},
+    {ReasonCode::Malikiyya, "al-Malikiyya: takes {left}, siblings would have nothing"},
+    {ReasonCode::LeastOfGrandfather, "{share}, his least beside siblings"},
+    {ReasonCode::SharesAsBrother, "shares as a brother with the siblings"},
+    {ReasonCode::MoreThanBrother, "{share} of the whole, more than a brother's part"},
+    {ReasonCode::ThirdOfRemainder, "1/3 of the remainder, more than a brother's part"},
+    {ReasonCode::WhatGrandfatherLeaves, "takes what the grandfather leaves"},
+    {ReasonCode::FullSistersBeforeConsanguine,
+     "takes what the grandfather leaves, up to {share} of the whole"},
+    {ReasonCode::Muadda, "mu'adda: takes what the full sisters leave"},
+    {ReasonCode::ExcludedBy, "excluded by {a heir}"},
+    {ReasonCode::TwoThirdsAreTaken, "two thirds are taken"},
+    {ReasonCode::NotAnHeir, "not an heir in this school"},
+    {ReasonCode::NothingIsLeft, "nothing is left"},
+    {ReasonCode::KindredThenSpouse,
+     "to distant kindred; if there is none, later Hanafi jurists return it to the spouse"},
+    {ReasonCode::KindredThenTreasury, "to distant kindred; if there is none, to the treasury"},
+};
+
+struct SourceRow {
+  Source Code;
+  std::string_view Words;
+};
+
+constexpr SourceRow sources[] = {
+    {Source::None, ""},
+    {Source::Quran4_11, "Quran 4:11"},
+    {Source::Quran4_12, "Quran 4:12"},
+    {Source::Quran4_176, "Quran 4:176"},
+    {Source::Quran8_75, "Quran 8:75"},
+    {Source::ReportOfIbnAbbas, "report of Ibn Abbas"},
+    {Source::ReportOfIbnMasud, "report of Ibn Masud"},
+    {Source::ReportsOfMughiraAndUbada, "reports of al-Mughira and Ubada"},
+    {Source::ReportOfAli, "report of Ali"},
+    {Source::RulingOfAbuBakr, "ruling of Abu Bakr"},
+    {Source::RulingOfUmar, "ruling of Umar"},
+    {Source::RulingOfZayd, "ruling of Zayd"},
+    {Source::RulingOfMalik, "ruling of Malik"},
+    {Source::Companions, "Companions"},
+    {Source::Consensus, "consensus"},
+};
+
+/// Whether the rows are in the order of their codes, of which this is the last.
+template <class Row, class Code, std::size_t Size>
+constexpr bool AreInOrder(const Row (&rows)[Size], Code last) {
+  for (std::size_t i = 0; i < Size; ++i) {
+    if (static_cast<std::size_t>(rows[i].Code) != i) return false;
+  }
+  return rows[Size - 1].Code == last;
+}
+static_assert(AreInOrder(patterns, ReasonCode::KindredThenTreasury));
+static_assert(AreInOrder(sources, Source::Consensus));
+
 Name NameOf(Kind kind) {
   const auto i = static_cast<std::size_t>(kind);
   return i < names.size() ? names[i] : Name{};
@@ -86,123 +168,9 @@ void AppendField(std::string& text, std::string_view field, const Reason& reason
 
 }  // namespace
 
-std::string_view Pattern(ReasonCode code) {
-  switch (code) {
-    case ReasonCode::Open:
-      return "";
-    case ReasonCode::BecauseOfDescendants:
-      return "{share} because there are {descendants}";
-    case ReasonCode::WithoutDescendants:
-      return "{share} because there are no descendants";
-    case ReasonCode::OneWithoutSon:
-      return "{share}, one without a son";
-    case ReasonCode::SeveralWithoutSon:
-      return "{share}, two or more without a son";
-    case ReasonCode::OneInPlaceOf:
-      return "{share}, one in {a heir}'s place";
-    case ReasonCode::SeveralInPlaceOf:
-      return "{share}, two or more in {a heir}'s place";
-    case ReasonCode::CompletesTwoThirds:
-      return "{share} completes two thirds beside one {heir}";
-    case ReasonCode::InFathersPlace:
-      return "{share} in the father's place";
-    case ReasonCode::TwoOrMoreSiblings:
-      return "{share} because there are two or more siblings";
-    case ReasonCode::NeitherDescendantsNorSiblings:
-      return "{share}, neither descendants nor two siblings";
-    case ReasonCode::Umariyyatan:
-      return "{share}, al-Umariyyatan: a third of what {a heir} leaves";
-    case ReasonCode::OneGrandmother:
-      return "{share} as grandmother";
-    case ReasonCode::GrandmothersTogether:
-      return "{share} together with the other grandmothers";
-    case ReasonCode::OneWithoutBrother:
-      return "{share}, one without a brother";
-    case ReasonCode::SeveralWithoutBrother:
-      return "{share}, two or more without a brother";
-    case ReasonCode::OneUterine:
-      return "{share}, one uterine sibling alone";
-    case ReasonCode::UterineTogether:
-      return "{share} together, men and women alike";
-    case ReasonCode::Mushtaraka:
-      return "{share}, al-Mushtaraka: full and uterine siblings alike";
-    case ReasonCode::NearestMale:
-      return "takes {left}, nearest male";
-    case ReasonCode::TwoPartsBeside:
-      return "takes {left}, two parts to {a heir}'s one";
-    case ReasonCode::OnePartBeside:
-      return "takes {left}, one part to {a heir}'s two";
-    case ReasonCode::SisterBesideDescendants:
-      return "takes {left} beside {a heir}";
-    case ReasonCode::Akdariyya:
-      return "al-Akdariyya: his 1/6 and her 1/2 joined, two parts to one";
-    case ReasonCode::Malikiyya:
-      return "al-Malikiyya: takes {left}, siblings would have nothing";
-    case ReasonCode::LeastOfGrandfather:
-      return "{share}, his least beside siblings";
-    case ReasonCode::SharesAsBrother:
-      return "shares as a brother with the siblings";
-    case ReasonCode::MoreThanBrother:
-      return "{share} of the whole, more than a brother's part";
-    case ReasonCode::ThirdOfRemainder:
-      return "1/3 of the remainder, more than a brother's part";
-    case ReasonCode::WhatGrandfatherLeaves:
-      return "takes what the grandfather leaves";
-    case ReasonCode::FullSistersBeforeConsanguine:
-      return "takes what the grandfather leaves, up to {share} of the whole";
-    case ReasonCode::Muadda:
-      return "mu'adda: takes what the full sisters leave";
-    case ReasonCode::ExcludedBy:
-      return "excluded by {a heir}";
-    case ReasonCode::TwoThirdsAreTaken:
-      return "two thirds are taken";
-    case ReasonCode::NotAnHeir:
-      return "not an heir in this school";
-    case ReasonCode::NothingIsLeft:
-      return "nothing is left";
-    case ReasonCode::KindredThenSpouse:
-      return "to distant kindred; if there is none, later Hanafi jurists return it to the spouse";
-    case ReasonCode::KindredThenTreasury:
-      return "to distant kindred; if there is none, to the treasury";
-  }
-  return "";
-}
+std::string_view Pattern(ReasonCode code) { return patterns[static_cast<std::size_t>(code)].Pattern; }
 
-std::string_view Words(Source source) {
-  switch (source) {
-    case Source::None:
-      return "";
-    case Source::Quran4_11:
-      return "Quran 4:11";
-    case Source::Quran4_12:
-      return "Quran 4:12";
-    case Source::Quran4_176:
-      return "Quran 4:176";
-    case Source::Quran8_75:
-      return "Quran 8:75";
-    case Source::ReportOfIbnAbbas:
-      return "report of Ibn Abbas";
-    case Source::ReportOfIbnMasud:
-      return "report of Ibn Masud";
-    case Source::ReportsOfMughiraAndUbada:
-      return "reports of al-Mughira and Ubada";
-    case Source::ReportOfAli:
-      return "report of Ali";
-    case Source::RulingOfAbuBakr:
-      return "ruling of Abu Bakr";
-    case Source::RulingOfUmar:
-      return "ruling of Umar";
-    case Source::RulingOfZayd:
-      return "ruling of Zayd";
-    case Source::RulingOfMalik:
-      return "ruling of Malik";
-    case Source::Companions:
-      return "Companions";
-    case Source::Consensus:
-      return "consensus";
-  }
-  return "";
-}
+std::string_view Words(Source source) { return sources[static_cast<std::size_t>(source)].Words; }
 
 std::string English(const Reason& reason) {
   std::string text;
