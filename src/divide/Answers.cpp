@@ -21,17 +21,8 @@ std::string_view WordOf(School school) { return words[static_cast<std::size_t>(s
 std::string_view NameOf(School school) { return names[static_cast<std::size_t>(school)]; }
 
 const AnswerFormat& FormatOf(const Options& options) {
-  switch (options.Output) {
-    case Format::Csv:
-      return CsvFormat;
-    case Format::Json:
-      return JsonFormat;
-    case Format::JsonLines:
-      return JsonLinesFormat;
-    case Format::Table:
-      break;
-  }
-  return TableFormat;
+  static constexpr const AnswerFormat* formats[] = {&TableFormat, &CsvFormat, &JsonFormat, &JsonLinesFormat};
+  return *formats[static_cast<std::size_t>(options.Output)];
 }
 
 EachAmount EachOf(const faraid::Row& row, const faraid::Amount& amount) {

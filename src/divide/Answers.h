@@ -42,6 +42,7 @@ struct Answer {
 
 /// How answers are written: the text before all of them, each answer, and the text after all of them.
 struct AnswerFormat {
+  /// Null, like End, if there is no such text.
   void (*Begin)(const Options& options, std::string& text);
   /// The parameter first is true for the first answer of the program.
   void (*Write)(const Answer& answer, const Options& options, bool first, std::string& text);

@@ -172,10 +172,8 @@ void WriteCsv(const Answer& answer, const Options& options, bool, std::string& t
   }
 }
 
-void EndCsv(std::string&) {}
-
 }  // namespace
 
-const AnswerFormat CsvFormat = {BeginCsv, WriteCsv, EndCsv};
+const AnswerFormat CsvFormat = {BeginCsv, WriteCsv, nullptr};
 
 }  // namespace qismora::divide

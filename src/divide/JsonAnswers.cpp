@@ -169,12 +169,10 @@ void AppendFamily(std::string& json, const Answer& answer, bool reasons) {
   json.pop_back();
 }
 
-void BeginLines(const Options&, std::string&) {}
 void WriteLine(const Answer& answer, const Options& options, bool, std::string& text) {
   AppendFamily(text, answer, options.Reasons);
   text += '\n';
 }
-void EndLines(std::string&) {}
 
 void BeginArray(const Options&, std::string& text) { text += '['; }
 void WriteItem(const Answer& answer, const Options& options, bool first, std::string& text) {
@@ -186,6 +184,6 @@ void EndArray(std::string& text) { Append(text, "\n]\n"); }
 }  // namespace
 
 const AnswerFormat JsonFormat = {BeginArray, WriteItem, EndArray};
-const AnswerFormat JsonLinesFormat = {BeginLines, WriteLine, EndLines};
+const AnswerFormat JsonLinesFormat = {nullptr, WriteLine, nullptr};
 
 }  // namespace qismora::divide

@@ -6,27 +6,22 @@
 
 namespace qismora::divide {
 
-std::string_view English(RecordFault fault) {
-  switch (fault) {
-    case RecordFault::None:
-      break;
-    case RecordFault::TextBehindQuotation:
-      return "There is text behind a closing quotation mark.";
-    case RecordFault::OpenQuotation:
-      return "A quotation mark does not close.";
-    case RecordFault::TooLong:
-      return "The row is too long.";
-    case RecordFault::NotUtf8:
-      return "The row is not UTF-8. Save the table as CSV UTF-8.";
-  }
-  return {};
-}
-
 namespace {
+
+// In the order of RecordFault.
+constexpr std::string_view faultSentences[] = {
+    "",
+    "There is text behind a closing quotation mark.",
+    "A quotation mark does not close.",
+    "The row is too long.",
+    "The row is not UTF-8. Save the table as CSV UTF-8.",
+};
 
 bool IsBlank(std::string_view field) { return field.find_first_not_of(' ') == std::string_view::npos; }
 
 }  // namespace
+
+std::string_view English(RecordFault fault) { return faultSentences[static_cast<std::size_t>(fault)]; }
 
 bool RecordReader::Next() {
   do {

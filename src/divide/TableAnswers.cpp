@@ -307,8 +307,6 @@ void AppendSideBySide(const Answer& answer, bool reasons, std::string& text) {
   for (const Kind kind : kinds) AppendReasons(answer, kind, text);
 }
 
-void BeginTable(const Options&, std::string&) {}
-
 void WriteTable(const Answer& answer, const Options& options, bool first, std::string& text) {
   if (!first) text += '\n';
   AppendHead(answer, text);
@@ -317,10 +315,8 @@ void WriteTable(const Answer& answer, const Options& options, bool first, std::s
   if (answer.Schools.size() > 1) AppendSideBySide(answer, options.Reasons, text);
 }
 
-void EndTable(std::string&) {}
-
 }  // namespace
 
-const AnswerFormat TableFormat = {BeginTable, WriteTable, EndTable};
+const AnswerFormat TableFormat = {nullptr, WriteTable, nullptr};
 
 }  // namespace qismora::divide

@@ -19,9 +19,9 @@ class Run {
   /// Reads all sources and writes all answers. Faults go to standard error.
   ExitStatus DivideAll() {
     try {
-      format_.Begin(options_, out_.Buffer);
+      if (format_.Begin != nullptr) format_.Begin(options_, out_.Buffer);
       for (const std::string& path : options_.Paths) ReadSource(path);
-      format_.End(out_.Buffer);
+      if (format_.End != nullptr) format_.End(out_.Buffer);
       out_.Flush();
     } catch (const CannotWrite& failure) {
       messages_.Print(failure.what());

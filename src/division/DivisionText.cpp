@@ -10,7 +10,16 @@ namespace qismora {
 
 namespace {
 
-using faraid::Standing;
+// In the order of faraid::Standing. The excluder follows.
+constexpr std::string_view standings[] = {
+    "sharer",
+    "residuary",
+    "sharer and residuary",
+    "excluded by ",
+    "two thirds are taken",
+    "not an heir in this school",
+    "nothing is left",
+};
 
 std::string StandingText(const faraid::Row& row) {
   std::string text;
@@ -72,22 +81,8 @@ std::vector<std::string> DivisionLines(const DivisionInput& input, faraid::Schoo
 
 void AppendStanding(std::string& text, const faraid::Row& row) {
   if (row.Heir == faraid::Kind::Remainder) return Append(text, "remainder");
-  switch (row.As) {
-    case Standing::Sharer:
-      return Append(text, "sharer");
-    case Standing::Residuary:
-      return Append(text, "residuary");
-    case Standing::SharerAndResiduary:
-      return Append(text, "sharer and residuary");
-    case Standing::Excluded:
-      return Append(text, "excluded by ", CaptionOf(row.Excluder));
-    case Standing::TwoThirdsTaken:
-      return Append(text, "two thirds are taken");
-    case Standing::NotAnHeir:
-      return Append(text, "not an heir in this school");
-    case Standing::NothingLeft:
-      return Append(text, "nothing is left");
-  }
+  text += standings[static_cast<std::size_t>(row.As)];
+  if (row.As == faraid::Standing::Excluded) text += CaptionOf(row.Excluder);
 }
 
 std::string EachText(const faraid::Row& row, const faraid::Amount& amount) {
