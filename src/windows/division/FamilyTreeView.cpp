@@ -162,6 +162,7 @@ void FamilyTreeView::Choose(faraid::Kind heir) {
 
 void FamilyTreeView::paintEvent(QPaintEvent*) {
   QPainter painter(this);
+  painter.setLayoutDirection(layoutDirection());  // or it has that of the program
   painter.setFont(InSize(size_).Ruler.Font());
   painter.setRenderHint(QPainter::Antialiasing);
   DrawLines(painter);
