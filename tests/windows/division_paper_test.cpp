@@ -273,6 +273,9 @@ class DivisionPaperTest : public QObject {
     QVERIFY(html("3").contains(agree));
     QVERIFY(html("7").contains(QStringLiteral("28.57;<br>one of them<br>28.58")));
     QVERIFY(!html("4").contains(agree));
+    // The mother and the grandfather have a sixth each, and one of them a hundredth more.
+    const auto sixths = CaseOf({{1, "1"}, {3, "2"}, {14, "1"}, {16, "1"}, {25, "24000"}});
+    QVERIFY(DocumentOf(sixths).Html().contains(agree));
   }
 
   // The remainder has no heads, so that nobody receives a part of it each.

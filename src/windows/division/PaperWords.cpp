@@ -31,10 +31,23 @@ QStringList NothingLeft(const DivisionView& view) {
   return sentences;
 }
 
-// Where the heads of a line cannot all have the same, the law does not say who takes the hundredth.
+// Where heads with equal shares cannot all have the same, the law does not say who takes the hundredth. They
+// may be of one line or of two, as a mother and a grandfather with a sixth each.
 QString NoteOnHundredths(const DivisionView& view) {
-  const bool differ = std::ranges::any_of(view.Takers, [](const DivisionLine& line) {
-    return line.Amount.HeadsWithOneMore > 0 && line.Amount.HeadsWithOneMore < line.Law.Heads;
+  const auto sharesAlike = [](const DivisionLine& one, const DivisionLine& other) {
+    return one.Law.Heads > 0 && other.Law.Heads > 0 &&
+           one.Law.Share / one.Law.Heads == other.Law.Share / other.Law.Heads;
+  };
+  const auto least = [](const DivisionLine& line) {
+    return line.Amount.Each + (line.Amount.HeadsWithOneMore == line.Law.Heads ? 1 : 0);
+  };
+  const auto most = [](const DivisionLine& line) {
+    return line.Amount.Each + (line.Amount.HeadsWithOneMore > 0 ? 1 : 0);
+  };
+  const bool differ = std::ranges::any_of(view.Takers, [&](const DivisionLine& one) {
+    return std::ranges::any_of(view.Takers, [&](const DivisionLine& other) {
+      return sharesAlike(one, other) && most(one) > least(other);
+    });
   });
   return differ ? Paper::tr(
                       "Amounts that cannot be divided evenly differ by one hundredth. The heirs agree who "
