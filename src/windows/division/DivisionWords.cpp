@@ -90,6 +90,11 @@ constexpr struct {
     {"Will(s)", QT_TRANSLATE_NOOP("Words", "Bequests")},
 };
 
+/// The estate is empty, or the one with which Case Study opens.
+bool NothingIsTyped(const DivisionView& view) {
+  return view.Estate.Gross == 0 || std::ranges::count(view.Examples, GrossEstateField) > 0;
+}
+
 QString WhatHappened(const DivisionView& view) {
   switch (view.Outcome) {
     case DivisionOutcome::AwlApplied:
@@ -221,7 +226,7 @@ QString Headline(const DivisionView& view) {
       return Words::tr("Nothing is left to divide: funeral expenses and debts exceed the estate by %1.")
           .arg(Amount(view.Settlement.Shortfall));
     case DivisionOutcome::NoHeirs:
-      if (view.Others.empty() && view.Estate.Gross == 0)
+      if (view.Others.empty() && NothingIsTyped(view))
         return Words::tr("Type who survives and what is left.");
       return Words::tr("%1 is left, and no heir is alive who takes it.").arg(net);
     default:
