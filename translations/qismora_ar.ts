@@ -625,6 +625,10 @@ Do you want to replace it?</source>
         <source>Type what is true</source>
         <translation>أدخل القيم الصحيحة</translation>
     </message>
+    <message>
+        <source>Copied. The table can be pasted into a letter or a spreadsheet.</source>
+        <translation>نُسخ الجدول، ويمكن لصقه في رسالة أو في جدول بيانات.</translation>
+    </message>
 </context>
 <context>
     <name>FamilyTreeView</name>

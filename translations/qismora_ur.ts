@@ -625,6 +625,10 @@ Do you want to replace it?</source>
         <source>Type what is true</source>
         <translation>اصل معلومات درج کریں</translation>
     </message>
+    <message>
+        <source>Copied. The table can be pasted into a letter or a spreadsheet.</source>
+        <translation>نقل ہو گئی۔ جدول خط یا اسپریڈ شیٹ میں چسپاں کیا جا سکتا ہے۔</translation>
+    </message>
 </context>
 <context>
     <name>FamilyTreeView</name>

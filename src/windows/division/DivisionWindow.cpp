@@ -5,7 +5,6 @@
 #include <QBoxLayout>
 #include <QComboBox>
 #include <QDate>
-#include <QLabel>
 #include <QMenu>
 #include <QPointer>
 #include <QScrollArea>
@@ -31,6 +30,7 @@
 #include "windows/help/HelpWindow.h"
 #include "windows/language/Languages.h"
 #include "windows/platform/Utf8.h"
+#include "windows/widgets/AnnouncedLabel.h"
 #include "windows/widgets/Keyboard.h"
 
 namespace qismora {
@@ -60,8 +60,7 @@ DivisionWindow::DivisionWindow(CaseStudy& form, Settings& store)
   BuildTools();
   ConnectParts();
   statusBar()->setObjectName(QStringLiteral("DivisionStatus"));
-  state_ = new QLabel(statusBar());
-  state_->setObjectName(QStringLiteral("DivisionState"));
+  state_ = new AnnouncedLabel(QStringLiteral("DivisionState"), statusBar());
   state_->setContentsMargins(betweenParts, 0, betweenParts, 0);
   statusBar()->addWidget(state_, 1);
   announcing_.setSingleShot(true);
@@ -116,11 +115,14 @@ void DivisionWindow::BuildTools() {
     Update();
   });
   const auto paper = [this] { return DivisionDocument(shown_, QDate::currentDate()); };
-  connect(tools_->Copy(), &QAction::triggered, this, [paper] { CopyPaper(paper()); });
+  connect(tools_->Copy(), &QAction::triggered, this, [this, paper] {
+    CopyPaper(paper());
+    state_->Show(tr("Copied. The table can be pasted into a letter or a spreadsheet."), true);
+  });
   connect(tools_->Print(), &QAction::triggered, this, [this, paper] { PrintPaper(paper(), this); });
   connect(tools_->Preview(), &QAction::triggered, this, [this, paper] { PreviewPaper(paper(), this); });
   connect(tools_->SaveAsPdf(), &QAction::triggered, this, [this, paper] {
-    if (const auto outcome = SavePaperAsPdf(paper(), this)) statusBar()->showMessage(*outcome);
+    if (const auto outcome = SavePaperAsPdf(paper(), this)) state_->Show(*outcome, true);
   });
 }
 
@@ -172,7 +174,6 @@ void DivisionWindow::Watch() {
 
 // A command may change many fields: they are read once, when it has ended.
 void DivisionWindow::Changed() {
-  statusBar()->clearMessage();  // a file that was saved holds the case before
   if (!isVisible() || std::exchange(pending_, true)) return;
   QMetaObject::invokeMethod(
       this,
@@ -219,7 +220,7 @@ void DivisionWindow::ShowState() {
   setWindowTitle(name.isEmpty() ? tr("Division") : tr("Division - %1").arg(name));
   const QString state = supposition_.IsEmpty() ? tr("the fields of Case Study as they stand now")
                                                : tr("a supposition, not the case of the fields");
-  state_->setText(words::SchoolLaw(school_) + QStringLiteral(" · ") + state);
+  state_->SetWords(words::SchoolLaw(school_) + QStringLiteral(" · ") + state);
 }
 
 // Where table and pictures do not fit, the pictures take a smaller text, then the heirs without a share and

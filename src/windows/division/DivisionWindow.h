@@ -10,12 +10,12 @@
 #include "windows/division/DivisionSettings.h"
 #include "windows/division/Supposition.h"
 
-class QLabel;
 class QMenu;
 class QScrollArea;
 
 namespace qismora {
 
+class AnnouncedLabel;
 class CaseStudy;
 class DivisionPictures;
 class DivisionSentences;
@@ -94,7 +94,8 @@ class DivisionWindow : public QMainWindow {
   PageSplitter* splitter_ = nullptr;
   DivisionTableView* table_ = nullptr;
   DivisionPictures* pictures_ = nullptr;
-  QLabel* state_ = nullptr;
+  /// The school and whose case it is; after a copy or a file, what came of it until something changes.
+  AnnouncedLabel* state_ = nullptr;
 };
 
 }  // namespace qismora
