@@ -6,12 +6,14 @@
 #include <QComboBox>
 #include <QLabel>
 #include <QLineEdit>
+#include <QScrollBar>
 #include <QTableView>
 #include <QTest>
 #include <QToolButton>
 
 #include "DivisionFixture.h"
 #include "casefile/CaseFile.h"
+#include "windows/division/DivisionTableView.h"
 #include "windows/division/DivisionWindow.h"
 #include "windows/division/FamilyTreeView.h"
 #include "windows/help/HelpWindow.h"
@@ -28,6 +30,7 @@ class DivisionWindowTest : public DivisionFixture {
   void cleanup() { study_.reset(); }
 
   void followsEveryKeystroke() {
+    QCOMPARE(Find<QLabel>("Headline")->text(), QStringLiteral("Type who survives and what is left."));
     study_->Type("Text1(2)", QStringLiteral("1"));
     QTRY_COMPARE(Cell("Son", 4), QStringLiteral("10,000.00"));
     study_->Type("Text1(16)", QStringLiteral("1"));
@@ -172,6 +175,19 @@ class DivisionWindowTest : public DivisionFixture {
     study_->Open();
     OpenWithKey();
     QCOMPARE(Find<QComboBox>("School")->currentText(), QStringLiteral("Maliki"));
+  }
+
+  // A scroll bar takes width from the sentences, which wrap and would need it then.
+  void nothingScrollsOnceThereIsRoomForAll() {
+    TypeFamily();
+    auto* table = Find<DivisionTableView>("DivisionTable");
+    for (int width = 500; width < 700; width += 5) {
+      Division()->resize(width, 300);
+      QTRY_VERIFY(table->verticalScrollBar()->maximum() > 0 || table->height() >= table->FullHeight());
+      Division()->resize(width, 1000);
+      QTRY_VERIFY(table->height() >= table->FullHeight());
+      QTRY_COMPARE(table->verticalScrollBar()->maximum(), 0);
+    }
   }
 
   void comparesWithTheDivisionThatIsKept() {

@@ -213,7 +213,9 @@ DivisionTableView::Columns DivisionTableView::ColumnsIn(int width) const {
 void DivisionTableView::Fit() {
   const DivisionTable& table = model_->Table();
   if (table.Headings.isEmpty()) return;
-  const Columns columns = ColumnsIn(viewport()->width());
+  // A scroll bar that is no longer needed would keep the sentences so narrow that they need it.
+  const bool scrolls = FullHeight() > height();
+  const Columns columns = ColumnsIn(scrolls ? viewport()->width() : width() - 2 * frameWidth());
   model_->SetHeadings(columns.Headings);
   if (horizontalHeader()->minimumHeight() != HeightOfHeadings(columns)) {
     horizontalHeader()->setFixedHeight(HeightOfHeadings(columns));
