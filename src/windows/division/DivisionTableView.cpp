@@ -39,7 +39,7 @@ class RowDelegate : public QStyledItemDelegate {
     option->state &= ~QStyle::State_HasFocus;
     option->rect.adjust(0, cellMargin, 0, 0);
     const bool rightToLeft = option->direction == Qt::RightToLeft;
-    if (index.column() == 0)
+    if (index.column() == 0 || index.column() == model_.Table().FirstSentence)
       option->rect.adjust(rightToLeft ? 0 : cellMargin, 0, rightToLeft ? -cellMargin : 0, 0);
   }
   void paint(QPainter* painter, const QStyleOptionViewItem& option, const QModelIndex& index) const override {
@@ -215,7 +215,9 @@ void DivisionTableView::Fit() {
   if (table.Headings.isEmpty()) return;
   // A scroll bar that is no longer needed would keep the sentences so narrow that they need it.
   const bool scrolls = FullHeight() > height();
-  const Columns columns = ColumnsIn(scrolls ? viewport()->width() : width() - 2 * frameWidth());
+  Columns columns = ColumnsIn(scrolls ? viewport()->width() : width() - 2 * frameWidth());
+  // It would touch the heading of the last figures.
+  columns.Headings.back().prepend(QChar(QChar::Nbsp));
   model_->SetHeadings(columns.Headings);
   if (horizontalHeader()->minimumHeight() != HeightOfHeadings(columns)) {
     horizontalHeader()->setFixedHeight(HeightOfHeadings(columns));
@@ -235,6 +237,11 @@ int DivisionTableView::HeightOfHeadings(const Columns& columns) const {
   return height + 2 * style()->pixelMetric(QStyle::PM_HeaderMargin, nullptr, horizontalHeader());
 }
 
+// What Qt leaves free at both sides of the text of a cell.
+int DivisionTableView::TextMargins() const {
+  return 2 * (style()->pixelMetric(QStyle::PM_FocusFrameHMargin, nullptr, this) + 1);
+}
+
 int DivisionTableView::HeightOf(const DivisionTable::Row& row, const Columns& columns) const {
   const TextRuler& ruler = RulerOf(row);
   const int last = model_->Table().FirstSentence;
@@ -249,7 +256,8 @@ int DivisionTableView::HeightOf(const DivisionTable::Row& row, const Columns& co
     return static_cast<int>(
         std::ceil(ruler.Metrics().boundingRect(place, int(Qt::TextWordWrap), cell).height()));
   };
-  height = std::max({height, wrapped(0, besideName + 2 * cellMargin), wrapped(last, 2 * cellMargin)});
+  height =
+      std::max({height, wrapped(0, besideName + 2 * cellMargin), wrapped(last, cellMargin + TextMargins())});
   return height + 2 * cellMargin;
 }
 

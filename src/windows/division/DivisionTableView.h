@@ -56,6 +56,7 @@ class DivisionTableView : public QTableView {
   Columns ColumnsIn(int width) const;
   void Fit();
   int HeightOf(const DivisionTable::Row& row, const Columns& columns) const;
+  int TextMargins() const;
   int HeightOfHeadings(const Columns& columns) const;
   int HeightOfRows(bool takersAlone) const;
 
