@@ -22,7 +22,9 @@ using faraid::Kind;
 constexpr int cellMargin = 5;
 /// The swatch beside a name.
 constexpr int besideName = 25;
+/// A sentence has at least this width, or in a narrow window the second, before the table scrolls sideways.
 constexpr int leastSentence = 165;
+constexpr int leastInNarrowWindow = 120;
 constexpr int leastTableHeight = 110;
 
 /// Lines between the rows, a stronger one above the sum, and a stripe where something differs.
@@ -204,7 +206,8 @@ DivisionTableView::Columns DivisionTableView::ColumnsIn(int width) const {
   const int least = this->width() - 2 * frameWidth() - verticalScrollBar()->sizeHint().width();
   Columns columns = NeededColumns(false);
   if (columns.Sum + leastSentence > least) columns = NeededColumns(true);
-  columns.Widths.append(std::max(leastSentence, width - columns.Sum));
+  const int room = width - columns.Sum;
+  columns.Widths.append(least - columns.Sum >= leastInNarrowWindow ? room : std::max(leastSentence, room));
   columns.Sum += columns.Widths.back();
   return columns;
 }
