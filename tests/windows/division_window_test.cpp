@@ -221,10 +221,12 @@ class DivisionWindowTest : public DivisionFixture {
     Find<QAction>("CopyDivision")->trigger();
     QVERIFY(QApplication::clipboard()->text().startsWith(
         QStringLiteral("Supposition: as if the son had died before the deceased.")));
+    QVERIFY(Find<QLabel>("DivisionState")->text().startsWith(QStringLiteral("Copied.")));
     QCOMPARE(study_->TextOf("Text1(2)"), QStringLiteral("1"));
     QTest::keyClick(table, Qt::Key_Escape);
     QTRY_COMPARE(Cell("Son", 4), QStringLiteral("10,000.00"));
     QVERIFY(!Find<QLabel>("Supposition")->isVisible());
+    QVERIFY(Find<QLabel>("DivisionState")->text().startsWith(QStringLiteral("Hanafi law")));
   }
 
   void speaksRowsAsSentencesAndTheTreeAsText() {
