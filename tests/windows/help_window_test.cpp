@@ -3,6 +3,7 @@
 #include <QSet>
 #include <QTest>
 #include <QTextBlock>
+#include <QToolTip>
 
 #include "division/Differences.h"
 #include "windows/help/HelpWindow.h"
@@ -118,6 +119,11 @@ class HelpWindowTest : public QObject {
     QTRY_COMPARE(window.layoutDirection(), Qt::RightToLeft);
     QCOMPARE(PageOf(window)->layoutDirection(), Qt::LeftToRight);
     QVERIFY(window.windowTitle().contains(QStringLiteral("مساعدة")));
+    // The usual font lacks signs of Urdu; the pages are English.
+    const QString naskh = QStringLiteral("Noto Naskh Arabic");
+    QVERIFY(window.findChild<QLineEdit*>(QStringLiteral("HelpFind"))->font().families().contains(naskh));
+    QVERIFY(!PageOf(window)->font().families().contains(naskh));
+    QVERIFY(QToolTip::font().families().contains(naskh));
     SetLanguage(Language::English);
     QTRY_COMPARE(window.windowTitle(), QStringLiteral("Help - Qismora"));
   }

@@ -282,6 +282,7 @@ void DivisionTableView::contextMenuEvent(QContextMenuEvent* event) {
   if (index.isValid()) ChooseRow(index.row());
   auto* menu = new QMenu(this);
   menu->setAttribute(Qt::WA_DeleteOnClose);
+  menu->setFont(font());
   FillMenu(menu);
   if (menu->isEmpty()) return menu->deleteLater();
   menu->popup(viewport()->mapToGlobal(place));

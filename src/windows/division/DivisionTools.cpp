@@ -92,6 +92,7 @@ void DivisionTools::Translate() {
   preview_->setText(tr("Pre&view..."));
   pdf_->setText(tr("Save as P&DF..."));
   language_->setText(tr("&Language"));
+  language_->menu()->setFont(font());
   language_->menu()->actions().constFirst()->setText(tr("As the desktop"));
 }
 

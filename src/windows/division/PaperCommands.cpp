@@ -24,6 +24,7 @@ void Warn(QWidget* window, const QString& words) {
   QMessageBox box(QMessageBox::Warning, Paper::tr("Division"), words, QMessageBox::Ok, window);
   box.setTextFormat(Qt::PlainText);
   box.setLayoutDirection(CurrentDirection());
+  box.setFont(FontOfLanguage(box.font()));
   box.exec();
 }
 
@@ -59,6 +60,7 @@ std::optional<QString> SavePaperAsPdf(const DivisionDocument& document, QWidget*
   const DialogsInLanguage ours;
   QFileDialog dialog(window, Paper::tr("Save as PDF"), folder, Paper::tr("PDF files (*.pdf)"));
   dialog.setObjectName(QStringLiteral("SavePdf"));
+  dialog.setFont(FontOfLanguage(dialog.font()));
   dialog.setAcceptMode(QFileDialog::AcceptSave);
   dialog.setDefaultSuffix(QStringLiteral("pdf"));
   dialog.selectFile(document.FileName());

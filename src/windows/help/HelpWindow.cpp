@@ -253,9 +253,12 @@ void HelpWindow::BuildToolBar() {
 
 void HelpWindow::Translate() {
   setLayoutDirection(CurrentDirection());
+  setFont(FontBesideEnglish(QApplication::font()));
   // The pages are English in every language.
-  page_->setLayoutDirection(Qt::LeftToRight);
-  list_->setLayoutDirection(Qt::LeftToRight);
+  for (QWidget* english : {static_cast<QWidget*>(page_), static_cast<QWidget*>(list_)}) {
+    english->setLayoutDirection(Qt::LeftToRight);
+    english->setFont(QApplication::font(english));
+  }
   setWindowTitle(Help::tr("Help - Qismora"));
   setAccessibleName(Help::tr("Help"));
   page_->setAccessibleName(Help::tr("Page"));

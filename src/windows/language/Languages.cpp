@@ -2,6 +2,7 @@
 
 #include <QCoreApplication>
 #include <QLibraryInfo>
+#include <QToolTip>
 #include <QTranslator>
 #include <memory>
 
@@ -118,7 +119,9 @@ void StartLanguage(Settings& store) {
 
 void SetLanguage(Language language) {
   if (language == current) return;
+  static const QFont tips = QToolTip::font();
   current = language;
+  QToolTip::setFont(FontBesideEnglish(tips));
   if (language == Language::English) {
     delete translator;
     translator = nullptr;

@@ -15,6 +15,13 @@ constexpr QSize previewSize{900, 820};
 /// Qt's own text of the action, which it also translates.
 constexpr const char* fitWidth = "Fit width";
 
+/// A dialog takes neither from its parent.
+void TakeDirectionAndFont(QDialog& dialog, const QWidget* window) {
+  if (window == nullptr) return;
+  dialog.setLayoutDirection(window->layoutDirection());
+  dialog.setFont(window->font());
+}
+
 }  // namespace
 
 extern "C" Q_DECL_EXPORT void ShowQismoraPrintDialog(QWidget* window, const PrintJob& job, bool preview) {
@@ -26,7 +33,7 @@ extern "C" Q_DECL_EXPORT void ShowQismoraPrintDialog(QWidget* window, const Prin
   printer.setPageMargins(QMarginsF(margin, margin, margin, margin), QPageLayout::Millimeter);
   if (preview) {
     QPrintPreviewDialog dialog(&printer, window);
-    if (window != nullptr) dialog.setLayoutDirection(window->layoutDirection());
+    TakeDirectionAndFont(dialog, window);
     QObject::connect(&dialog, &QPrintPreviewDialog::paintRequested, &dialog,
                      [&job](QPrinter* pages) { job.Paint(*pages); });
     // At the width of the page text can be read, unlike that of a page that fits as a whole.
@@ -38,7 +45,7 @@ extern "C" Q_DECL_EXPORT void ShowQismoraPrintDialog(QWidget* window, const Prin
     return;
   }
   QPrintDialog dialog(&printer, window);
-  if (window != nullptr) dialog.setLayoutDirection(window->layoutDirection());
+  TakeDirectionAndFont(dialog, window);
   if (dialog.exec() == QDialog::Accepted) job.Paint(printer);
 }
 

@@ -47,8 +47,11 @@ void AnnouncedLabel::OfferAll() {
 void AnnouncedLabel::ShowAll() {
   const QString direction =
       layoutDirection() == Qt::RightToLeft ? QStringLiteral("rtl") : QStringLiteral("ltr");
+  const QString families = font().families().join(QStringLiteral("', '"));
   QWhatsThis::showText(mapToGlobal(rect().topLeft()),
-                       QStringLiteral("<p dir=\"%1\">%2</p>").arg(direction, all_.toHtmlEscaped()), this);
+                       QStringLiteral("<p dir=\"%1\" style=\"font-family: '%2'\">%3</p>")
+                           .arg(direction, families, all_.toHtmlEscaped()),
+                       this);
 }
 
 // Naskh has more space between its lines than any of its signs needs.
