@@ -233,7 +233,7 @@ void FamilyTreeView::DrawNode(QPainter& painter, const TreeNode& node) const {
   const bool emphasised = chosen_ == node.Heir;
   const QColor base = palette().color(words.Takes ? QPalette::Base : QPalette::Window);
   const QColor own = ColourOf(node.Heir, palette());
-  const QColor pale = Readable(Between(text, base, faint), base, LeastContrast);
+  const QColor pale = Readable(Between(text, base, faint), base, WantedContrast(palette()));
   if (words.Takes) {
     painter.setPen(QPen(own, emphasised ? 3 : 1.5));
     painter.setBrush(base);
