@@ -46,6 +46,8 @@ class CaseStudy : public CaseScreen, public CentredFrame {
   /// The same as a sentence, and as its English words.
   Message AnswerSentence() const { return answer_.Sentence(); }
   Property<std::string> AnswerWords;
+  /// As the last load computed it.
+  double NetEstate() const { return record_.NetEstate.Value(); }
 
   /// Changes at the end of each event that may have changed the case.
   Property<int> EventsEnded{0};

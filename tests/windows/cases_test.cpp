@@ -107,6 +107,29 @@ class CasesTest : public QObject {
     QVERIFY(Find<QLabel>(study_, "AnswerState")->font().bold());
   }
 
+  // The commands ask about the wills themselves; the division goes by its own check box.
+  void anAnswerWithAnotherConsentIsMarked() {
+    Type("Text1(2)", "1");
+    Type("Text1(25)", "24000");
+    Type("Text1(26)", "0");
+    Type("Text1(27)", "0");
+    Type("Text1(28)", "12000");
+    const QString final = QStringLiteral("Answer of Residuaries: final.");
+    boxes_.Press(QMessageBox::Yes);
+    Key(Qt::Key_F5, Qt::NoModifier);
+    QCOMPARE(State(), final + QStringLiteral(" The division differs: F8."));
+    study_->Form().HeirsConsent = true;
+    QCOMPARE(State(), final);
+    study_->Form().HeirsConsent = false;
+    boxes_.Press(QMessageBox::No);
+    Key(Qt::Key_F5, Qt::NoModifier);
+    QCOMPARE(State(), final);
+    boxes_.Take();
+    Type("Text1(3)", "x");  // which the commands pass over
+    Key(Qt::Key_F5, Qt::NoModifier);
+    QCOMPARE(State(), final + QStringLiteral(" The division differs: F8."));
+  }
+
   // Whatever stops a load, the figures on the screen are not those of the case; the state says so with the
   // reason of the message box, until a load has succeeded.
   void aRefusalIsSaid() {

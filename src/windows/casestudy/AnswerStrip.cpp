@@ -49,7 +49,10 @@ AnswerStrip::AnswerStrip(CaseStudy& form, CaseDocument& document, QWidget* paren
     file_->SetWords(file_->fontMetrics().elidedText(title, Qt::ElideMiddle, widestTitle), title);
     if (!document.Path().empty()) file_->setToolTip(ToQt(document.Path()));
   });
-  form.AnswerWords.WhenChanged([this] { ShowAnswer(); });
+  const auto show = [this] { ShowAnswer(); };
+  form.AnswerWords.WhenChanged(show);
+  form.EventsEnded.WhenChanged(show);
+  form.HeirsConsent.WhenChanged(show);
   Translate();
 }
 
@@ -63,14 +66,21 @@ void AnswerStrip::Translate() {
 // What needs the user's attention stands in bold, so that it is told apart without colour. A final answer may
 // still differ from classical law.
 void AnswerStrip::ShowAnswer() {
-  const bool differs = form_.Standing() == AnswerStanding::Final &&
-                       !ViewDivision(form_, form_.HeirsConsent, faraid::School::Hanafi).Differs.None();
+  const bool differs = form_.Standing() == AnswerStanding::Final && DivisionDiffers();
   QString words = CaseWords::Of(form_.AnswerSentence());
   if (differs) words += QLatin1Char(' ') + CaseWords::tr("The division differs: F8.");
   QFont font = FontBesideEnglish(this->font());
   font.setBold(differs || IsWarning(form_.Standing()));
   answer_->setFont(font);
   answer_->Show(words, true);
+}
+
+// The commands take a figure also from a field that the division cannot read. Whether the heirs consent to
+// the bequests, they ask themselves; in the division it is ticked.
+bool AnswerStrip::DivisionDiffers() const {
+  const DivisionView view = ViewDivision(form_, form_.HeirsConsent, faraid::School::Hanafi);
+  if (!view.Own) return true;
+  return !view.Differs.None() || form_.NetEstate() != view.Own->NetEstate;
 }
 
 ReadingsPanel::ReadingsPanel(CaseStudy& form, QWidget* parent)

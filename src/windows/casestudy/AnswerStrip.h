@@ -21,6 +21,7 @@ class AnswerStrip : public QFrame {
 
  private:
   void ShowAnswer();
+  bool DivisionDiffers() const;
 
   CaseStudy& form_;
   AnnouncedLabel* answer_;
