@@ -173,6 +173,7 @@ void CaseStudy::StartCase(const CaseTexts& texts) {
     answer_.Cleared();
     reviewing_ = true;
     ReviewAnswer();
+    CasesStarted = CasesStarted + 1;
   });
 }
 

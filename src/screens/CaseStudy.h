@@ -38,6 +38,8 @@ class CaseStudy : public CaseScreen, public CentredFrame {
   /// Starts a case as if the screen and the record were new: nothing of the earlier case stays, and nothing
   /// is run. Only the number of executions and the chosen view stay.
   void StartCase(const CaseTexts& texts);
+  /// Changes with each case that is started so.
+  Property<int> CasesStarted{0};
   /// Whether the heirs consent to bequests above the third. It belongs to the case, but no field shows it.
   Property<bool> HeirsConsent;
 

@@ -229,6 +229,33 @@ class DivisionWindowTest : public DivisionFixture {
     QVERIFY(Find<QLabel>("DivisionState")->text().startsWith(QStringLiteral("Hanafi law")));
   }
 
+  // Nobody is supposed dead in a case that has just been started, nor where nobody of them is alive.
+  void aSuppositionEndsWithItsCase() {
+    auto* words = Find<QLabel>("Supposition");
+    const auto suppose = [&] {
+      study_->Type("Text1(2)", QStringLiteral("1"));
+      study_->Type("Text1(16)", QStringLiteral("1"));
+      QTRY_VERIFY(Row("Son") >= 0);
+      Find<QTableView>("DivisionTable")->selectRow(Row("Son"));
+      QTest::keyClick(Find("DivisionTable"), Qt::Key_Delete);
+      QTRY_VERIFY(words->isVisible());
+    };
+    suppose();
+    CaseTexts other;
+    other.Field(2) = "1";
+    study_->Form().StartCase(other);
+    QTRY_VERIFY(!words->isVisible());
+    QCOMPARE(Cell("Son", 2), QStringLiteral("1"));
+    suppose();
+    study_->Type("Text1(2)", QStringLiteral("x"));
+    QTRY_VERIFY(!words->isVisible());
+    study_->Type("Text1(2)", QStringLiteral("2"));
+    QTRY_VERIFY(words->isVisible());
+    study_->Type("Text1(2)", QStringLiteral("0"));
+    QTRY_VERIFY(!words->isVisible());
+    QVERIFY(Find<QLabel>("DivisionState")->text().endsWith(QStringLiteral("as they stand now")));
+  }
+
   void speaksRowsAsSentencesAndTheTreeAsText() {
     study_->Type("Text1(2)", QStringLiteral("1"));
     study_->Type("Text1(22)", QStringLiteral("1"));

@@ -170,6 +170,9 @@ void DivisionWindow::Watch() {
   for (int i = 0; i < form_.Check1.Size; ++i) form_.Check1(i).Value.WhenChanged(changed);
   form_.Combo1.ListIndex.WhenChanged(changed);
   form_.HeirsConsent.WhenChanged(changed);
+  form_.CasesStarted.WhenChanged([window = QPointer<DivisionWindow>(this)] {
+    if (window != nullptr) window->LeaveSupposition();
+  });
 }
 
 // A command may change many fields: they are read once, when it has ended.
@@ -189,7 +192,8 @@ void DivisionWindow::Update() {
   texts_ = ReadScreen(form_, form_.HeirsConsent);
   shown_ = ViewDivision(form_, form_.HeirsConsent, school_);
   before_ = kept_;
-  if (!supposition_.IsEmpty()) {
+  if (shown_.IsDivided() && supposition_.DeathsIn(shown_).empty()) supposition_.Clear();
+  if (shown_.IsDivided() && !supposition_.IsEmpty()) {
     texts_ = supposition_.Applied(std::move(texts_), shown_);
     before_ = std::exchange(shown_, ViewDivision(texts_, school_));
     shown_.Supposed = supposition_.DeathsIn(*before_);
@@ -208,7 +212,7 @@ void DivisionWindow::ShowTable() {
   if (tools_->FourSchools()->isChecked()) {
     table_->Show(DivisionTable::OfFourSchools(ViewFourSchools(texts_)));
   } else {
-    const QString heading = supposition_.IsEmpty() ? tr("Kept") : tr("As it is");
+    const QString heading = shown_.Supposed.empty() ? tr("Kept") : tr("As it is");
     table_->Show(DivisionTable::OfSchool(shown_, before_, heading));
   }
   pictures_->Show(shown_);
@@ -218,8 +222,8 @@ void DivisionWindow::ShowTable() {
 void DivisionWindow::ShowState() {
   const QString name = ToQt(shown_.Name).trimmed();
   setWindowTitle(name.isEmpty() ? tr("Division") : tr("Division - %1").arg(name));
-  const QString state = supposition_.IsEmpty() ? tr("the fields of Case Study as they stand now")
-                                               : tr("a supposition, not the case of the fields");
+  const QString state = shown_.Supposed.empty() ? tr("the fields of Case Study as they stand now")
+                                                : tr("a supposition, not the case of the fields");
   state_->SetWords(words::SchoolLaw(school_) + QStringLiteral(" · ") + state);
 }
 

@@ -34,7 +34,7 @@ CaseTexts Supposition::Applied(CaseTexts texts, const DivisionView& asItIs) cons
 }
 
 QString Supposition::Words(const DivisionView& supposed) const {
-  if (IsEmpty()) return {};
+  if (supposed.Supposed.empty()) return {};
   return QStringLiteral("<b>%1</b> %2 %3")
       .arg(words::Supposition(supposed).toHtmlEscaped(),
            tr("The fields of Case Study are as they were.").toHtmlEscaped(),
