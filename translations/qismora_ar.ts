@@ -404,6 +404,118 @@ Do you want to replace it?</source>
         <translation>%1 موجود من قبل.
 أتريد استبداله؟</translation>
     </message>
+    <message>
+        <source>Printer</source>
+        <translation>الطابعة</translation>
+    </message>
+    <message>
+        <source>&amp;Name:</source>
+        <translation>الا&amp;سم:</translation>
+    </message>
+    <message>
+        <source>P&amp;roperties</source>
+        <translation>&amp;خصائص</translation>
+    </message>
+    <message>
+        <source>Location:</source>
+        <translation>الموقع:</translation>
+    </message>
+    <message>
+        <source>Type:</source>
+        <translation>النوع:</translation>
+    </message>
+    <message>
+        <source>Output &amp;file:</source>
+        <translation>&amp;مسار الملف:</translation>
+    </message>
+    <message>
+        <source>&amp;Options &gt;&gt;</source>
+        <translation>&amp;خيارات &gt;&gt;</translation>
+    </message>
+    <message>
+        <source>&amp;Options &lt;&lt;</source>
+        <translation>&amp;خيارات &lt;&lt;</translation>
+    </message>
+    <message>
+        <source>Print to File (PDF)</source>
+        <translation>الطباعة إلى ملف (PDF)</translation>
+    </message>
+    <message>
+        <source>Local file</source>
+        <translation>ملف محلي</translation>
+    </message>
+    <message>
+        <source>Write PDF file</source>
+        <translation>كتابة ملف PDF</translation>
+    </message>
+    <message>
+        <source>Fit width</source>
+        <translation>ملاءمة العرض</translation>
+    </message>
+    <message>
+        <source>Fit page</source>
+        <translation>ملاءمة الصفحة</translation>
+    </message>
+    <message>
+        <source>Zoom in</source>
+        <translation>تكبير</translation>
+    </message>
+    <message>
+        <source>Zoom out</source>
+        <translation>تصغير</translation>
+    </message>
+    <message>
+        <source>Portrait</source>
+        <translation>عمودي</translation>
+    </message>
+    <message>
+        <source>Landscape</source>
+        <translation>أفقي</translation>
+    </message>
+    <message>
+        <source>First page</source>
+        <translation>الصفحة الأولى</translation>
+    </message>
+    <message>
+        <source>Previous page</source>
+        <translation>الصفحة السابقة</translation>
+    </message>
+    <message>
+        <source>Next page</source>
+        <translation>الصفحة التالية</translation>
+    </message>
+    <message>
+        <source>Last page</source>
+        <translation>الصفحة الأخيرة</translation>
+    </message>
+    <message>
+        <source>Show single page</source>
+        <translation>عرض صفحة واحدة</translation>
+    </message>
+    <message>
+        <source>Show facing pages</source>
+        <translation>عرض صفحتين متقابلتين</translation>
+    </message>
+    <message>
+        <source>Show overview of all pages</source>
+        <translation>عرض كل الصفحات معًا</translation>
+    </message>
+    <message>
+        <source>Page setup</source>
+        <translation>إعداد الصفحة</translation>
+    </message>
+    <message>
+        <source>&amp;Copy</source>
+        <translation>&amp;نسخ</translation>
+    </message>
+    <message>
+        <source>Copy &amp;Link Location</source>
+        <translation>نسخ &amp;عنوان الرابط</translation>
+    </message>
+    <message>
+        <source>Select All</source>
+        <translation>تحديد الكل</translation>
+    </message>
 </context>
 <context>
     <name>Differences</name>

@@ -404,6 +404,118 @@ Do you want to replace it?</source>
         <translation>%1 پہلے سے موجود ہے۔
 کیا اسے بدل دیا جائے؟</translation>
     </message>
+    <message>
+        <source>Printer</source>
+        <translation>پرنٹر</translation>
+    </message>
+    <message>
+        <source>&amp;Name:</source>
+        <translation>&amp;نام:</translation>
+    </message>
+    <message>
+        <source>P&amp;roperties</source>
+        <translation>&amp;خصوصیات</translation>
+    </message>
+    <message>
+        <source>Location:</source>
+        <translation>مقام:</translation>
+    </message>
+    <message>
+        <source>Type:</source>
+        <translation>قسم:</translation>
+    </message>
+    <message>
+        <source>Output &amp;file:</source>
+        <translation>فائل کا &amp;پتا:</translation>
+    </message>
+    <message>
+        <source>&amp;Options &gt;&gt;</source>
+        <translation>&amp;اختیارات &gt;&gt;</translation>
+    </message>
+    <message>
+        <source>&amp;Options &lt;&lt;</source>
+        <translation>&amp;اختیارات &lt;&lt;</translation>
+    </message>
+    <message>
+        <source>Print to File (PDF)</source>
+        <translation>فائل میں طباعت (PDF)</translation>
+    </message>
+    <message>
+        <source>Local file</source>
+        <translation>مقامی فائل</translation>
+    </message>
+    <message>
+        <source>Write PDF file</source>
+        <translation>PDF فائل لکھیں</translation>
+    </message>
+    <message>
+        <source>Fit width</source>
+        <translation>چوڑائی کے برابر</translation>
+    </message>
+    <message>
+        <source>Fit page</source>
+        <translation>پورا صفحہ</translation>
+    </message>
+    <message>
+        <source>Zoom in</source>
+        <translation>بڑا کریں</translation>
+    </message>
+    <message>
+        <source>Zoom out</source>
+        <translation>چھوٹا کریں</translation>
+    </message>
+    <message>
+        <source>Portrait</source>
+        <translation>عمودی</translation>
+    </message>
+    <message>
+        <source>Landscape</source>
+        <translation>افقی</translation>
+    </message>
+    <message>
+        <source>First page</source>
+        <translation>پہلا صفحہ</translation>
+    </message>
+    <message>
+        <source>Previous page</source>
+        <translation>پچھلا صفحہ</translation>
+    </message>
+    <message>
+        <source>Next page</source>
+        <translation>اگلا صفحہ</translation>
+    </message>
+    <message>
+        <source>Last page</source>
+        <translation>آخری صفحہ</translation>
+    </message>
+    <message>
+        <source>Show single page</source>
+        <translation>ایک صفحہ دکھائیں</translation>
+    </message>
+    <message>
+        <source>Show facing pages</source>
+        <translation>آمنے سامنے کے صفحے دکھائیں</translation>
+    </message>
+    <message>
+        <source>Show overview of all pages</source>
+        <translation>تمام صفحے ایک ساتھ دکھائیں</translation>
+    </message>
+    <message>
+        <source>Page setup</source>
+        <translation>صفحے کی ترتیب</translation>
+    </message>
+    <message>
+        <source>&amp;Copy</source>
+        <translation>&amp;نقل کریں</translation>
+    </message>
+    <message>
+        <source>Copy &amp;Link Location</source>
+        <translation>&amp;لنک کا پتا نقل کریں</translation>
+    </message>
+    <message>
+        <source>Select All</source>
+        <translation>سب منتخب کریں</translation>
+    </message>
 </context>
 <context>
     <name>Differences</name>

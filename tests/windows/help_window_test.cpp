@@ -1,5 +1,8 @@
+#include <QAction>
+#include <QContextMenuEvent>
 #include <QLabel>
 #include <QLineEdit>
+#include <QMenu>
 #include <QSet>
 #include <QTest>
 #include <QTextBlock>
@@ -124,6 +127,11 @@ class HelpWindowTest : public QObject {
     QVERIFY(window.findChild<QLineEdit*>(QStringLiteral("HelpFind"))->font().families().contains(naskh));
     QVERIFY(!PageOf(window)->font().families().contains(naskh));
     QVERIFY(QToolTip::font().families().contains(naskh));
+    QContextMenuEvent asked(QContextMenuEvent::Mouse, {5, 5}, {5, 5});
+    QApplication::sendEvent(PageOf(window)->viewport(), &asked);
+    auto* menu = PageOf(window)->findChild<QMenu*>();
+    QVERIFY(menu != nullptr && menu->actions().constLast()->text().startsWith(QStringLiteral("تحديد الكل")));
+    menu->close();
     SetLanguage(Language::English);
     QTRY_COMPARE(window.windowTitle(), QStringLiteral("Help - Qismora"));
   }

@@ -2,6 +2,7 @@
 
 #include <QAction>
 #include <QApplication>
+#include <QContextMenuEvent>
 #include <QCoreApplication>
 #include <QDesktopServices>
 #include <QDir>
@@ -188,6 +189,15 @@ QVariant HelpPage::loadResource(int type, const QUrl& name) {
   const int widest = std::max(200, viewport()->width() - 7 * margin);
   if (picture.width() > widest) picture = picture.scaledToWidth(widest, Qt::SmoothTransformation);
   return picture;
+}
+
+void HelpPage::contextMenuEvent(QContextMenuEvent* event) {
+  const DialogsInLanguage ours;
+  QMenu* menu = createStandardContextMenu(event->pos());
+  menu->setAttribute(Qt::WA_DeleteOnClose);
+  menu->setLayoutDirection(CurrentDirection());
+  menu->setFont(FontBesideEnglish(menu->font()));
+  menu->popup(event->globalPos());
 }
 
 HelpWindow::HelpWindow(const QString& pages) : folder_(pages), page_(new HelpPage(this)) {

@@ -37,6 +37,10 @@ class HelpPage : public QTextBrowser {
 
   QVariant loadResource(int type, const QUrl& name) override;
 
+ protected:
+  /// Copy and Select All in the current language.
+  void contextMenuEvent(QContextMenuEvent* event) override;
+
  private:
   void NameHeadings();
 

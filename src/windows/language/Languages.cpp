@@ -39,7 +39,7 @@ QTranslator* translator = nullptr;
 
 constexpr char dialogs[] = "Dialogs";
 
-/// The words of Qt's dialogs that everybody meets here. Qt's catalogue, where there is one, adds the rest.
+/// The words of Qt's dialogs and menus that everybody meets here. Qt's catalogue, where there is one, adds the rest.
 [[maybe_unused]] constexpr const char* dialogWords[] = {
     QT_TRANSLATE_NOOP("Dialogs", "OK"),
     QT_TRANSLATE_NOOP("Dialogs", "Save"),
@@ -63,6 +63,34 @@ constexpr char dialogs[] = "Dialogs";
     QT_TRANSLATE_NOOP("Dialogs", "&Print"),
     QT_TRANSLATE_NOOP("Dialogs", "Print"),
     QT_TRANSLATE_NOOP("Dialogs", "Print Preview"),
+    QT_TRANSLATE_NOOP("Dialogs", "Printer"),
+    QT_TRANSLATE_NOOP("Dialogs", "&Name:"),
+    QT_TRANSLATE_NOOP("Dialogs", "P&roperties"),
+    QT_TRANSLATE_NOOP("Dialogs", "Location:"),
+    QT_TRANSLATE_NOOP("Dialogs", "Type:"),
+    QT_TRANSLATE_NOOP("Dialogs", "Output &file:"),
+    QT_TRANSLATE_NOOP("Dialogs", "&Options >>"),
+    QT_TRANSLATE_NOOP("Dialogs", "&Options <<"),
+    QT_TRANSLATE_NOOP("Dialogs", "Print to File (PDF)"),
+    QT_TRANSLATE_NOOP("Dialogs", "Local file"),
+    QT_TRANSLATE_NOOP("Dialogs", "Write PDF file"),
+    QT_TRANSLATE_NOOP("Dialogs", "Fit width"),
+    QT_TRANSLATE_NOOP("Dialogs", "Fit page"),
+    QT_TRANSLATE_NOOP("Dialogs", "Zoom in"),
+    QT_TRANSLATE_NOOP("Dialogs", "Zoom out"),
+    QT_TRANSLATE_NOOP("Dialogs", "Portrait"),
+    QT_TRANSLATE_NOOP("Dialogs", "Landscape"),
+    QT_TRANSLATE_NOOP("Dialogs", "First page"),
+    QT_TRANSLATE_NOOP("Dialogs", "Previous page"),
+    QT_TRANSLATE_NOOP("Dialogs", "Next page"),
+    QT_TRANSLATE_NOOP("Dialogs", "Last page"),
+    QT_TRANSLATE_NOOP("Dialogs", "Show single page"),
+    QT_TRANSLATE_NOOP("Dialogs", "Show facing pages"),
+    QT_TRANSLATE_NOOP("Dialogs", "Show overview of all pages"),
+    QT_TRANSLATE_NOOP("Dialogs", "Page setup"),
+    QT_TRANSLATE_NOOP("Dialogs", "&Copy"),
+    QT_TRANSLATE_NOOP("Dialogs", "Copy &Link Location"),
+    QT_TRANSLATE_NOOP("Dialogs", "Select All"),
     QT_TRANSLATE_NOOP("Dialogs", "%1 already exists.\nDo you want to replace it?"),
 };
 
@@ -183,6 +211,8 @@ DialogsInLanguage::DialogsInLanguage() : translates_(current != Language::Englis
     const QString file = QStringLiteral("qtbase_") + QLatin1String(RowOf(current).Code);
     static_cast<void>(dialogTranslator->load(file, QLibraryInfo::path(QLibraryInfo::TranslationsPath)));
     QCoreApplication::installTranslator(dialogTranslator);
+    // Or the dialog would get this event when it stands, and Qt would name its first button again.
+    QCoreApplication::sendPostedEvents(nullptr, QEvent::LanguageChange);
   }
   ++dialogTranslator->Open;
 }
