@@ -208,8 +208,11 @@ class DivisionPlaceTest : public DivisionFixture {
     QTRY_VERIFY(Row("Mother") >= 0);
     OpenWithKey();
     QTRY_COMPARE(QApplication::focusWidget(), Find("DivisionTable"));
+    study_->Window().showMinimized();
+    Activate();
     QTest::keyClick(Find("DivisionTable"), Qt::Key_F8);
     QTRY_COMPARE(QApplication::focusWidget(), field);
+    QVERIFY(!study_->Window().isMinimized());
     OpenWithKey();
     QTRY_COMPARE(QApplication::focusWidget(), Find("DivisionTable"));
     Find("School")->setFocus();

@@ -22,6 +22,7 @@ void DivisionOpener::Make() {
   if (window_ != nullptr) return;
   window_ = std::make_unique<DivisionWindow>(form_, store_);
   window_->ShowCase = [this] {
+    study_->setWindowState(study_->windowState() & ~Qt::WindowMinimized);
     study_->raise();
     study_->activateWindow();
   };
