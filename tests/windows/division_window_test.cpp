@@ -38,6 +38,12 @@ class DivisionWindowTest : public DivisionFixture {
     QCOMPARE(Cell("Sum", 4), QStringLiteral("10,000.00"));
     study_->Type("Text1(22)", QStringLiteral("2"));
     QTRY_VERIFY(Row("Full brothers") > Row("Sum"));
+    study_->Form().Check1(4).Value = 1;
+    QTRY_VERIFY(Row("Full uncle") > Row("Sum"));
+    study_->Type("Text1(1)", QStringLiteral("1"));
+    QTRY_COMPARE(Cell("Wife", 2), QStringLiteral("1/8"));
+    study_->Find<QComboBox>("Combo1")->setCurrentIndex(Female);
+    QTRY_COMPARE(Cell("Husband", 2), QStringLiteral("1/4"));
     // Nothing of it presses a command, nor counts as an execution.
     QCOMPARE(study_->TextOf("Label13"), QStringLiteral("0"));
   }
