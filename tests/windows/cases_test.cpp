@@ -276,7 +276,7 @@ class CasesTest : public QObject {
     program_->Put(file, "Sons = 4\n");
     QMimeData data;
     data.setUrls({QUrl::fromLocalFile(file)});
-    data.setText(file);  // as file managers add it
+    data.setText(file);                                 // as file managers add it
     auto* field = Find<QLineEdit>(study_, "Text1(3)");  // which takes dropped texts
     for (QWidget* place : {static_cast<QWidget*>(study_), static_cast<QWidget*>(field)}) {
       study_->Document().New();

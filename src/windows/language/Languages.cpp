@@ -39,7 +39,8 @@ QTranslator* translator = nullptr;
 
 constexpr char dialogs[] = "Dialogs";
 
-/// The words of Qt's dialogs and menus that everybody meets here. Qt's catalogue, where there is one, adds the rest.
+/// The words of Qt's dialogs and menus that everybody meets here. Qt's catalogue, where there is one, adds
+/// the rest.
 [[maybe_unused]] constexpr const char* dialogWords[] = {
     QT_TRANSLATE_NOOP("Dialogs", "OK"),
     QT_TRANSLATE_NOOP("Dialogs", "Save"),
@@ -211,7 +212,7 @@ DialogsInLanguage::DialogsInLanguage() : translates_(current != Language::Englis
     const QString file = QStringLiteral("qtbase_") + QLatin1String(RowOf(current).Code);
     static_cast<void>(dialogTranslator->load(file, QLibraryInfo::path(QLibraryInfo::TranslationsPath)));
     QCoreApplication::installTranslator(dialogTranslator);
-    // Or the dialog would get this event when it stands, and Qt would name its first button again.
+    // Else the dialog would get this event once it is shown, and Qt would rename its first button.
     QCoreApplication::sendPostedEvents(nullptr, QEvent::LanguageChange);
   }
   ++dialogTranslator->Open;
