@@ -741,6 +741,10 @@ Do you want to replace it?</source>
         <source>Copied. The table can be pasted into a letter or a spreadsheet.</source>
         <translation>نُسخ الجدول، ويمكن لصقه في رسالة أو في جدول بيانات.</translation>
     </message>
+    <message>
+        <source>More commands</source>
+        <translation>أوامر أخرى</translation>
+    </message>
 </context>
 <context>
     <name>FamilyTreeView</name>

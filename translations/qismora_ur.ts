@@ -741,6 +741,10 @@ Do you want to replace it?</source>
         <source>Copied. The table can be pasted into a letter or a spreadsheet.</source>
         <translation>نقل ہو گئی۔ جدول خط یا اسپریڈ شیٹ میں چسپاں کیا جا سکتا ہے۔</translation>
     </message>
+    <message>
+        <source>More commands</source>
+        <translation>مزید کمانڈیں</translation>
+    </message>
 </context>
 <context>
     <name>FamilyTreeView</name>

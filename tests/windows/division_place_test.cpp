@@ -221,6 +221,26 @@ class DivisionPlaceTest : public DivisionFixture {
     QTRY_COMPARE(QApplication::focusWidget(), Find("School"));
   }
 
+  // Where the window is too narrow for all tools, the keyboard leads to the others too.
+  void theKeyboardReachesAllToolsOfANarrowWindow() {
+    TypeFamily();
+    Activate();
+    Division()->resize(Division()->minimumSizeHint().width(), 700);
+    auto* language = Find("Language");
+    QTRY_VERIFY(!language->isVisible());
+    Find("DivisionTable")->setFocus();
+    for (int i = 0; i < 20 && language != QApplication::focusWidget(); ++i) {
+      QWidget* stop = QApplication::focusWidget();
+      if (stop->objectName() == QLatin1String("qt_toolbar_ext_button")) {
+        QVERIFY(!stop->accessibleName().isEmpty());
+        if (!language->isVisible()) QTest::keyClick(stop, Qt::Key_Space);
+        QTRY_VERIFY(language->isVisible());
+      }
+      QTest::keyClick(stop, Qt::Key_Tab, Qt::ShiftModifier);
+    }
+    QCOMPARE(QApplication::focusWidget(), language);
+  }
+
   // Nothing is cut on a small screen: what has no space scrolls.
   void fitsASmallScreen() {
     for (const char* field : {"Text1(2)", "Text1(3)", "Text1(13)", "Text1(16)", "Text1(22)", "Text1(23)"}) {

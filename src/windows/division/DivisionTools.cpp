@@ -32,10 +32,9 @@ DivisionTools::DivisionTools(faraid::School school, Settings& store, QWidget* pa
   preview_ = Add("PreviewDivision", Qt::CTRL | Qt::SHIFT | Qt::Key_P);
   pdf_ = Add("SaveDivisionAsPdf", Qt::CTRL | Qt::Key_E);
   AddLanguages(store);
-  for (QToolButton* button : findChildren<QToolButton*>()) {
-    if (button->objectName() != QLatin1String("qt_toolbar_ext_button"))
-      button->setFocusPolicy(Qt::StrongFocus);
-  }
+  for (QToolButton* button : findChildren<QToolButton*>()) button->setFocusPolicy(Qt::StrongFocus);
+  more_ = findChild<QToolButton*>(QStringLiteral("qt_toolbar_ext_button"));
+  if (more_ != nullptr) setTabOrder(language_, more_);
 }
 
 QAction* DivisionTools::Add(const char* name, const QKeySequence& key) {
@@ -93,6 +92,7 @@ void DivisionTools::Translate() {
   pdf_->setText(tr("Save as P&DF..."));
   language_->setText(tr("&Language"));
   language_->menu()->setFont(font());
+  if (more_ != nullptr) more_->setAccessibleName(tr("More commands"));
   language_->menu()->actions().constFirst()->setText(tr("As the desktop"));
 }
 

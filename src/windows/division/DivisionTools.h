@@ -47,6 +47,8 @@ class DivisionTools : public QToolBar {
   QAction* preview_ = nullptr;
   QAction* pdf_ = nullptr;
   QToolButton* language_ = nullptr;
+  /// Of Qt, where the window is too narrow for all of them.
+  QToolButton* more_ = nullptr;
 };
 
 }  // namespace qismora
