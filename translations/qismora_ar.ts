@@ -77,7 +77,7 @@
     </message>
     <message>
         <source>There is no equals sign in &quot;{text}&quot;.</source>
-        <translation>لا توجد علامة يساوي في &quot;{text}&quot;.</translation>
+        <translation>لا توجد علامة مساواة في &quot;{text}&quot;.</translation>
     </message>
     <message>
         <source>&quot;{text}&quot; is not a caption of the Case Study screen.</source>
@@ -241,7 +241,7 @@
     </message>
     <message>
         <source>{file}, changed</source>
-        <translation>{file}، متغيّرة</translation>
+        <translation>{file}، معدَّلة</translation>
     </message>
     <message>
         <source>{file} could not be saved.</source>
@@ -324,7 +324,7 @@
     </message>
     <message>
         <source>Discard</source>
-        <translation>تجاهل</translation>
+        <translation>عدم الحفظ</translation>
     </message>
     <message>
         <source>Cancel</source>
@@ -600,11 +600,11 @@ Do you want to replace it?</source>
     </message>
     <message>
         <source>not alive in this case</source>
-        <translation>ليس حيًّا في هذه المسألة</translation>
+        <translation>من غير الأحياء في هذه المسألة</translation>
     </message>
     <message>
         <source>has no line</source>
-        <translation>لا سطر له</translation>
+        <translation>بلا سطر</translation>
     </message>
     <message>
         <source>Where they differ, and why</source>
@@ -715,15 +715,15 @@ Do you want to replace it?</source>
     </message>
     <message>
         <source>What if one of them had died before: %1</source>
-        <translation>لو مات واحد منهم قبله: %1</translation>
+        <translation>افتراض وفاة أحد هؤلاء قبل المورِّث: %1</translation>
     </message>
     <message>
         <source>What if all of them had died before: %1</source>
-        <translation>لو ماتوا جميعًا قبله: %1</translation>
+        <translation>افتراض وفاة هؤلاء جميعًا قبل المورِّث: %1</translation>
     </message>
     <message>
         <source>What if this heir had died before: %1</source>
-        <translation>لو مات هذا الوارث قبله: %1</translation>
+        <translation>افتراض وفاة هذا الوارث قبل المورِّث: %1</translation>
     </message>
     <message>
         <source>Go to the field of Case Study</source>
@@ -1248,7 +1248,7 @@ Do you want to replace it?</source>
     </message>
     <message>
         <source>Printing is not installed with this program. A PDF file can be saved and printed elsewhere.</source>
-        <translation>الطباعة غير مثبّتة مع هذا البرنامج. يمكن حفظ ملف PDF وطباعته في مكان آخر.</translation>
+        <translation>دعم الطباعة غير مثبّت مع هذا البرنامج. يمكن حفظ ملف PDF وطباعته في مكان آخر.</translation>
     </message>
     <message>
         <source>Save as PDF</source>
@@ -1291,7 +1291,7 @@ Do you want to replace it?</source>
     <message>
         <source>This page divides by classical %1.</source>
         <comment>law of a school</comment>
-        <translation>هذه الصفحة تقسم على ما في كتب الفقه وفق %1.</translation>
+        <translation>القسمة في هذه الصفحة على ما في كتب الفقه وفق %1.</translation>
     </message>
     <message>
         <source>Amounts that cannot be divided evenly differ by one hundredth. The heirs agree who takes it.</source>
@@ -1845,7 +1845,7 @@ Do you want to replace it?</source>
     <message>
         <source>%1; one of them %2</source>
         <comment>amounts</comment>
-        <translation>%1؛ ونصيب واحد %2</translation>
+        <translation>%1؛ وأحد الأنصبة %2</translation>
     </message>
     <message>
         <source>%1; %2 of them %3</source>
@@ -1868,7 +1868,7 @@ Do you want to replace it?</source>
     </message>
     <message>
         <source>Type who survives and what is left.</source>
-        <translation>أدخل الورثة الأحياء وما تركه المتوفى.</translation>
+        <translation>أدخل الورثة الأحياء ومقدار التركة.</translation>
     </message>
     <message>
         <source>%1: the field is empty</source>

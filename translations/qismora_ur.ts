@@ -185,7 +185,7 @@
     </message>
     <message>
         <source>Aul/ Radd was applied to other shares. Choose Residuaries first.</source>
-        <translation>Aul/ Radd دوسرے حصوں پر لگایا گیا۔ پہلے Residuaries چنیں۔</translation>
+        <translation>Aul/ Radd دوسرے حصوں پر لاگو کیا گیا۔ پہلے Residuaries چنیں۔</translation>
     </message>
     <message>
         <source>No answer yet.</source>
@@ -209,7 +209,7 @@
     </message>
     <message>
         <source>Answer of {command}: the net estate is below 0, nothing is left to divide.</source>
-        <translation>{command} کا جواب: خالص ترکہ 0 سے کم ہے، تقسیم کو کچھ نہیں بچا۔</translation>
+        <translation>{command} کا جواب: خالص ترکہ 0 سے کم ہے، تقسیم کے لیے کچھ نہیں بچا۔</translation>
     </message>
     <message>
         <source>Refused; fields have changed since. Choose Residuaries (F5).</source>
@@ -257,7 +257,7 @@
     </message>
     <message>
         <source>Save it before it is closed?</source>
-        <translation>بند ہونے سے پہلے اسے محفوظ کریں؟</translation>
+        <translation>کیا بند کرنے سے پہلے اسے محفوظ کیا جائے؟</translation>
     </message>
     <message>
         <source>The command was not finished.</source>
@@ -324,7 +324,7 @@
     </message>
     <message>
         <source>Discard</source>
-        <translation>چھوڑ دیں</translation>
+        <translation>محفوظ نہ کریں</translation>
     </message>
     <message>
         <source>Cancel</source>
@@ -715,15 +715,15 @@ Do you want to replace it?</source>
     </message>
     <message>
         <source>What if one of them had died before: %1</source>
-        <translation>اگر ان میں سے ایک پہلے وفات پا چکا ہوتا: %1</translation>
+        <translation>اگر ان میں سے کسی ایک کی وفات پہلے ہو چکی ہوتی: %1</translation>
     </message>
     <message>
         <source>What if all of them had died before: %1</source>
-        <translation>اگر یہ سب پہلے وفات پا چکے ہوتے: %1</translation>
+        <translation>اگر ان سب کی وفات پہلے ہو چکی ہوتی: %1</translation>
     </message>
     <message>
         <source>What if this heir had died before: %1</source>
-        <translation>اگر یہ وارث پہلے وفات پا چکا ہوتا: %1</translation>
+        <translation>اگر اس وارث کی وفات پہلے ہو چکی ہوتی: %1</translation>
     </message>
     <message>
         <source>Go to the field of Case Study</source>
@@ -1248,7 +1248,7 @@ Do you want to replace it?</source>
     </message>
     <message>
         <source>Printing is not installed with this program. A PDF file can be saved and printed elsewhere.</source>
-        <translation>اس پروگرام کے ساتھ چھپائی نصب نہیں۔ PDF فائل محفوظ کر کے کہیں اور چھاپی جا سکتی ہے۔</translation>
+        <translation>اس پروگرام کے ساتھ طباعت کی سہولت نصب نہیں۔ PDF فائل محفوظ کر کے کہیں اور چھاپی جا سکتی ہے۔</translation>
     </message>
     <message>
         <source>Save as PDF</source>
@@ -1291,7 +1291,7 @@ Do you want to replace it?</source>
     <message>
         <source>This page divides by classical %1.</source>
         <comment>law of a school</comment>
-        <translation>یہ صفحہ کلاسیکی %1 کے مطابق تقسیم کرتا ہے۔</translation>
+        <translation>اس صفحے پر تقسیم %1 کی معروف کتابوں کے مطابق کی گئی ہے۔</translation>
     </message>
     <message>
         <source>Amounts that cannot be divided evenly differ by one hundredth. The heirs agree who takes it.</source>
@@ -1313,11 +1313,11 @@ Do you want to replace it?</source>
     </message>
     <message>
         <source>names and signatures on a list, attached to this paper</source>
-        <translation>نام اور دستخط ایک الگ فہرست میں جو اس کاغذ کے ساتھ منسلک ہے</translation>
+        <translation>نام اور دستخط اس کاغذ سے منسلک فہرست میں</translation>
     </message>
     <message>
         <source>Prepared by</source>
-        <translation>تیار کنندہ</translation>
+        <translation>مرتب کنندہ</translation>
     </message>
     <message>
         <source>Witness %1</source>
@@ -1707,7 +1707,7 @@ Do you want to replace it?</source>
     </message>
     <message>
         <source>%1 is divided among %2 heirs. %3</source>
-        <translation>%1 کی تقسیم %2 وارثوں میں۔ %3</translation>
+        <translation>%1 کی تقسیم %2 وارثوں میں ہوتی ہے۔ %3</translation>
     </message>
     <message>
         <source>%1: &quot;%2&quot; is not a whole number</source>
@@ -1864,11 +1864,11 @@ Do you want to replace it?</source>
     </message>
     <message>
         <source>Name of the deceased</source>
-        <translation>متوفی کا نام</translation>
+        <translation>میت کا نام</translation>
     </message>
     <message>
         <source>Type who survives and what is left.</source>
-        <translation>درج کریں کہ کون زندہ ہے اور کیا ترکہ چھوڑا گیا۔</translation>
+        <translation>درج کریں کہ کون کون زندہ ہے اور ترکہ کتنا ہے۔</translation>
     </message>
     <message>
         <source>%1: the field is empty</source>
