@@ -1416,7 +1416,7 @@ Do you want to replace it?</source>
     </message>
     <message>
         <source>al-Akdariyya: his 1/6 and her 1/2 joined, two parts to one</source>
-        <translation>الأكدرية: يُجمع سدس الجد ونصف الأخت ويُقسم بينهما للذكر مثل حظ الأنثيين</translation>
+        <translation>الأكدرية: يُجمع سدس الجد ونصف الأخت، ثم يُقسم المجموع بينهما للذكر مثل حظ الأنثيين</translation>
     </message>
     <message>
         <source>al-Malikiyya: takes {left}, siblings would have nothing</source>
@@ -1539,7 +1539,7 @@ Do you want to replace it?</source>
     <message>
         <source>%1 %2</source>
         <comment>heads of an heir: 2 daughters</comment>
-        <translation>%2 %1</translation>
+        <translation>%2 (%1)</translation>
     </message>
     <message>
         <source>the %1</source>
@@ -1884,7 +1884,7 @@ Do you want to replace it?</source>
     </message>
     <message>
         <source>Bequests of %1 lapse: funeral expenses and debts leave nothing for them.</source>
-        <translation>تسقط الوصايا البالغة %1: فلا يبقى لها شيء بعد نفقات التجهيز والديون.</translation>
+        <translation>تسقط الوصايا البالغة %1، إذ لا يبقى لها شيء بعد نفقات التجهيز والديون.</translation>
     </message>
 </context>
 </TS>

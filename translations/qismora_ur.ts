@@ -537,7 +537,7 @@ Do you want to replace it?</source>
     </message>
     <message>
         <source>The commands limit the wills to a third of the gross estate, as a whole number, and not to a third of what funeral expenses and debts leave.</source>
-        <translation>کمانڈیں وصیت کو کل ترکے کے تہائی تک، پورے عدد میں، محدود کرتی ہیں، نہ کہ تجہیز و تکفین اور قرض کے بعد بچنے والے مال کے تہائی تک۔</translation>
+        <translation>کمانڈیں وصیت کو کل ترکے کے ایک تہائی تک، پورے عدد میں، محدود کرتی ہیں، نہ کہ تجہیز و تکفین اور قرض کے بعد بچنے والے مال کے ایک تہائی تک۔</translation>
     </message>
     <message>
         <source>No other heir is alive beside husband or wife. The commands show no figures.</source>
@@ -545,7 +545,7 @@ Do you want to replace it?</source>
     </message>
     <message>
         <source>The fixed shares use up the estate exactly. The commands show no figures.</source>
-        <translation>مقررہ حصے ترکے کو ٹھیک پورا کر دیتے ہیں۔ کمانڈیں کوئی رقم نہیں دکھاتیں۔</translation>
+        <translation>مقررہ حصے ترکے کے عین برابر ہیں۔ کمانڈیں کوئی رقم نہیں دکھاتیں۔</translation>
     </message>
     <message>
         <source>The estate is too large for the commands: they cannot round the spouse&apos;s amount and show no figures.</source>
@@ -671,7 +671,7 @@ Do you want to replace it?</source>
     </message>
     <message>
         <source>The &amp;heirs consent to more than a third</source>
-        <translation>&amp;ورثاء تہائی سے زیادہ پر راضی ہیں</translation>
+        <translation>&amp;ورثاء ایک تہائی سے زیادہ پر راضی ہیں</translation>
     </message>
     <message>
         <source>Who receives what</source>
@@ -1368,7 +1368,7 @@ Do you want to replace it?</source>
     </message>
     <message>
         <source>{share}, al-Umariyyatan: a third of what {a heir} leaves</source>
-        <translation>{share}، عمریتان: {a heir} کے حصے کے بعد باقی کا تہائی</translation>
+        <translation>{share}، عمریتان: {a heir} کے حصے کے بعد باقی کا ایک تہائی</translation>
     </message>
     <message>
         <source>{share} as grandmother</source>
@@ -1396,7 +1396,7 @@ Do you want to replace it?</source>
     </message>
     <message>
         <source>{share}, al-Mushtaraka: full and uterine siblings alike</source>
-        <translation>{share}، مسئلہ مشترکہ: حقیقی اور اخیافی برابر</translation>
+        <translation>{share}، مسئلۂ مشترکہ: حقیقی اور اخیافی برابر</translation>
     </message>
     <message>
         <source>takes {left}, nearest male</source>
@@ -1416,11 +1416,11 @@ Do you want to replace it?</source>
     </message>
     <message>
         <source>al-Akdariyya: his 1/6 and her 1/2 joined, two parts to one</source>
-        <translation>مسئلہ اکدریہ: دادا کا 1/6 اور بہن کا 1/2 ملا کر، دادا کے دو حصے اور بہن کا ایک</translation>
+        <translation>مسئلۂ اکدریہ: دادا کا 1/6 اور بہن کا 1/2 ملا کر، دادا کے دو حصے اور بہن کا ایک</translation>
     </message>
     <message>
         <source>al-Malikiyya: takes {left}, siblings would have nothing</source>
-        <translation>مسئلہ مالکیہ: {left}، کیونکہ دادا نہ ہوتا تب بھی ان بھائی بہنوں کو کچھ نہ ملتا</translation>
+        <translation>مسئلۂ مالکیہ: {left}، کیونکہ دادا نہ ہوتا تب بھی ان بھائی بہنوں کو کچھ نہ ملتا</translation>
     </message>
     <message>
         <source>{share}, his least beside siblings</source>
@@ -1523,7 +1523,7 @@ Do you want to replace it?</source>
     </message>
     <message>
         <source>ruling of Malik</source>
-        <translation>قولِ مالکؒ</translation>
+        <translation>قولِ امام مالکؒ</translation>
     </message>
     <message>
         <source>Companions</source>
@@ -1551,7 +1551,7 @@ Do you want to replace it?</source>
     </message>
     <message>
         <source>the whole</source>
-        <translation>سارا مال</translation>
+        <translation>کل مال</translation>
     </message>
     <message>
         <source>what is left</source>
@@ -1616,7 +1616,7 @@ Do you want to replace it?</source>
     </message>
     <message>
         <source>The fixed shares fit the estate exactly.</source>
-        <translation>مقررہ حصے ترکے پر ٹھیک پورے آئے۔</translation>
+        <translation>مقررہ حصے ترکے کے عین برابر ہیں۔</translation>
     </message>
     <message>
         <source>The residuaries take what the fixed shares leave.</source>
@@ -1763,7 +1763,7 @@ Do you want to replace it?</source>
     </message>
     <message>
         <source>Bequests of %1 are limited to %2, a third of what funeral expenses and debts leave. More needs the consent of the heirs.</source>
-        <translation>%1 کی وصیت %2 تک محدود ہے، یعنی تجہیز و تکفین اور قرض کے بعد بچے مال کا تہائی۔ اس سے زیادہ کے لیے وارثوں کی رضامندی چاہیے۔</translation>
+        <translation>%1 کی وصیت %2 تک محدود ہے، یعنی تجہیز و تکفین اور قرض کے بعد بچنے والے مال کا ایک تہائی۔ اس سے زیادہ کے لیے ورثاء کی اجازت چاہیے۔</translation>
     </message>
     <message>
         <source>Still the example with which Case Study opens: %1.</source>
@@ -1876,7 +1876,7 @@ Do you want to replace it?</source>
     </message>
     <message>
         <source>The heirs consent to bequests of more than a third.</source>
-        <translation>ورثاء تہائی سے زیادہ کی وصیت پر راضی ہیں۔</translation>
+        <translation>ورثاء ایک تہائی سے زیادہ کی وصیت پر راضی ہیں۔</translation>
     </message>
     <message>
         <source>Shortfall</source>
@@ -1884,7 +1884,7 @@ Do you want to replace it?</source>
     </message>
     <message>
         <source>Bequests of %1 lapse: funeral expenses and debts leave nothing for them.</source>
-        <translation>%1 کی وصیت ساقط ہے: تجہیز و تکفین اور قرض کے بعد اس کے لیے کچھ نہیں بچتا۔</translation>
+        <translation>%1 کی وصیت ساقط ہو جاتی ہے: تجہیز و تکفین اور قرض کے بعد اس کے لیے کچھ نہیں بچتا۔</translation>
     </message>
 </context>
 </TS>
