@@ -1840,7 +1840,7 @@ Do you want to replace it?</source>
     </message>
     <message>
         <source>Supposition: as if %1 had died before the deceased.</source>
-        <translation>افتراض: على تقدير وفاة %1 قبل المورِّث.</translation>
+        <translation>افتراض: كما لو مات قبل المورِّث %1.</translation>
     </message>
     <message>
         <source>%1; one of them %2</source>

@@ -1840,7 +1840,7 @@ Do you want to replace it?</source>
     </message>
     <message>
         <source>Supposition: as if %1 had died before the deceased.</source>
-        <translation>فرضی صورت: گویا میت سے پہلے وفات پا چکے ہوں: %1۔</translation>
+        <translation>فرضی صورت: گویا ان کی وفات میت سے پہلے ہو چکی ہو: %1۔</translation>
     </message>
     <message>
         <source>%1; one of them %2</source>

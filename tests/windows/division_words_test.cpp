@@ -179,6 +179,16 @@ class DivisionWordsTest : public QObject {
     QCOMPARE(words::Deceased(Female), QStringLiteral("المتوفاة"));
   }
 
+  // They are a list within the sentence, which takes the plain name and not the inflected one.
+  void thoseSupposedDeadAreNotInflected() {
+    DivisionView view;
+    view.Supposed = {{Kind::Sons, 1, 1}, {Kind::Grandfather, 1, 1}};
+    SetLanguage(Language::Urdu);
+    QVERIFY(words::Supposition(view).contains(QStringLiteral(": بیٹا اور دادا")));
+    SetLanguage(Language::Arabic);
+    QVERIFY(words::Supposition(view).contains(QStringLiteral("الابن والجد أبو الأب")));
+  }
+
   // What is typed keeps its direction within a sentence from the right.
   void faultsQuoteWhatIsTyped() {
     const UnreadableField field = {"Sons", "12 x", FieldFault::NotWhole, 100};

@@ -93,8 +93,9 @@ static_assert(std::size(heirNames) == faraid::KindCount + 1);
 const HeirNames& NamesOf(Kind kind) { return heirNames[static_cast<std::size_t>(kind)]; }
 
 QString Dead(const SupposedDeath& death) {
-  if (death.Of == 1) return Words::tr("the %1").arg(OneHeir(death.Heir));
+  // A list within the sentence, in which no language inflects the names.
   const QString name = CurrentLocale().toLower(Heir(death.Heir, death.Of));
+  if (death.Of == 1) return Words::tr("the %1").arg(name);
   if (death.Heads == death.Of)
     return Words::tr("the %1 %2", "all heads of an heir: the 3 daughters").arg(Number(death.Of), name);
   return Words::tr("%1 of %2 %3", "some heads of an heir: 2 of 3 daughters")
