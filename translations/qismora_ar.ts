@@ -301,7 +301,7 @@
     </message>
     <message>
         <source>The division differs: F8.</source>
-        <translation>القسمة تختلف عنه: F8</translation>
+        <translation>القسمة تختلف عنه: F8.</translation>
     </message>
     <message>
         <source>%1, and %2 more</source>
