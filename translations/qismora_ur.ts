@@ -165,7 +165,7 @@
     </message>
     <message>
         <source>the name is a link</source>
-        <translation>یہ نام ایک ربط ہے</translation>
+        <translation>یہ نام ایک لنک ہے</translation>
     </message>
     <message>
         <source>the disk reports an error</source>
